@@ -1,0 +1,26 @@
+# The floors of the house. A floor is a folder of src/ and one static library. Its headers are included as
+# "floor/header.h", and they are found only by those that link the floor: an arrow the wrong way does not compile.
+
+add_library(qinghe_flags INTERFACE)
+target_compile_options(qinghe_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wnull-dereference -Werror)
+target_compile_definitions(qinghe_flags INTERFACE
+    QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QINGHE_SANITIZE)
+    target_compile_options(qinghe_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    target_link_options(qinghe_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# qinghe_floor(<name> [<library>...]) makes the floor of the sources in the calling folder; it may use the libraries
+# named, and what they hand on.
+function(qinghe_floor name)
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    add_library(${name} STATIC ${sources})
+    set(headers ${CMAKE_BINARY_DIR}/floors/${name})
+    file(MAKE_DIRECTORY ${headers})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${headers}/${name} SYMBOLIC)
+    target_include_directories(${name} PUBLIC ${headers})
+    target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE qinghe_flags)
+endfunction()

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+namespace qinghe {
+
+/// A run-time error: stops the handler in which it is thrown and ends the program (see HandlerScope in platform).
+/// `number` is the runtime's own error number, `text` says in Chinese what happened and names the value at fault, in
+/// words that a user can act on. No other exception leaves a handler.
+class RuntimeError : public std::exception {
+public:
+    RuntimeError(int number, QString text);
+
+    int number() const { return m_number; }
+    const QString& text() const { return m_text; }
+    const char* what() const noexcept override { return m_utf8.constData(); }
+
+    // The numbers in use.
+    static constexpr int InvalidCall = 5;
+    static constexpr int Overflow = 6;
+    static constexpr int SubscriptOutOfRange = 9;
+    static constexpr int DivisionByZero = 11;
+    static constexpr int TypeMismatch = 13;
+    static constexpr int FileNotFound = 53;
+    static constexpr int DiskFull = 61;
+    static constexpr int PathFileAccess = 75;
+    static constexpr int PathNotFound = 76;
+    static constexpr int InvalidPicture = 481;
+    static constexpr int NoCurrentRecord = 3021; ///< a value read at EOF, MoveFirst on an empty set
+    static constexpr int StoreFailure = 3343;    ///< what is in the file is no readable store
+    static constexpr int QueryFailure = 3075;    ///< the store refuses a query text
+
+private:
+    int m_number;
+    QString m_text;
+    QByteArray m_utf8;
+};
+
+} // namespace qinghe

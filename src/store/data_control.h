@@ -1,0 +1,58 @@
+#pragma once
+
+#include "store/recordset.h"
+#include "store/store.h"
+
+#include <QObject>
+
+namespace qinghe {
+
+/// A data control: points at the file with a connection text, takes a table name or a query, and gives the recordset of
+/// its last refresh. The only way to the store.
+class Adodc : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString ConnectionString READ connectionString WRITE setConnectionString)
+    Q_PROPERTY(QString RecordSource READ recordSource WRITE setRecordSource)
+    Q_PROPERTY(bool Visible READ isVisible WRITE setVisible)
+
+public:
+    Adodc(Store& store, const QString& name, QObject* parent = nullptr);
+    ~Adodc() override;
+
+    const QString& connectionString() const { return m_connection; }
+    /// "provider = microsoft.jet.oledb.4.0;data source=<path of data.dll>", with or without a blank behind it. All that
+    /// stands behind "data source=" is path, blanks at its end apart.
+    void setConnectionString(const QString& text) { m_connection = text; }
+    const QString& recordSource() const { return m_source; }
+    /// Never queries by itself: the set in hand stays that of the last refresh.
+    void setRecordSource(const QString& source) { m_source = source; }
+
+    /// Runs the source; the recordset is replaced and stands on its first row. Throws RuntimeError.
+    void refresh();
+    /// The recordset of the last refresh. Throws RuntimeError (91) before the first one.
+    Recordset& recordset();
+    bool hasRecordset() const { return m_recordset != nullptr; }
+
+    /// setRecordSource and refresh in one breath.
+    Recordset& open(const QString& source);
+
+    bool isVisible() const { return m_visible; }
+    void setVisible(bool visible) { m_visible = visible; }
+
+    /// Source and set, to be given back later: whoever borrows the control leaves it as found.
+    struct Loan {
+        QString source;
+        std::unique_ptr<Recordset> set;
+    };
+    Loan borrow();
+    void giveBack(Loan loan);
+
+private:
+    Store& m_store;
+    QString m_connection;
+    QString m_source;
+    std::unique_ptr<Recordset> m_recordset;
+    bool m_visible = true;
+};
+
+} // namespace qinghe

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "runtime/value.h"
+#include "store/store.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace qinghe {
+
+class ResultSet;
+
+/// One column of the current row; made by Recordset::field.
+class Field;
+
+/// The rows of one Refresh: identities and values, no open statement. Stands on its first row, or at EOF when there is
+/// none. Rows added join it at the end; a row between AddNew and Update is not counted.
+///
+/// A set of a table, or of a select over one table without grouping, can be written; in a `select distinct` a deletion
+/// takes every stored row behind the value. Others refuse writing (RuntimeError, QueryFailure).
+/// Throws RuntimeError (NoCurrentRecord) where a row is needed and none is current, StoreFailure when the file was
+/// closed or replaced since.
+class Recordset {
+public:
+    Recordset(Store& store, std::shared_ptr<ResultSet> rows);
+    ~Recordset();
+    Recordset(Recordset&&) noexcept;
+    Recordset& operator=(Recordset&&) noexcept;
+
+    int recordCount() const;
+    bool eof() const;
+    void moveFirst();
+    void moveNext();
+    /// 1-based, as the grids count.
+    void setAbsolutePosition(int position);
+
+    void addNew();
+    /// Stores the pending row or the changed fields; without any it does nothing.
+    void update();
+    /// Deletes the current row at once; the set stands on nothing until moveNext.
+    void deleteCurrent();
+
+    /// `criterion` is one comparison, 名称='text'; a quote inside the text is a RuntimeError (QueryFailure). Searches
+    /// forward from the first row, exactly, case included; on a miss the set stands at EOF.
+    void find(const QString& criterion);
+
+    int fieldCount() const;
+    Field field(int ordinal);          ///< 0-based; throws RuntimeError (3265, no such item)
+    Field field(const QString& name);  ///< throws likewise
+
+private:
+    friend class Field;
+    struct Impl;
+    std::unique_ptr<Impl> m;
+};
+
+class Field {
+public:
+    QString name() const;
+    Value value() const;
+    /// Shorthand: value().text(), shared with the set where the column is text.
+    QString text() const;
+    bool isNull() const;
+    /// NULL fields are skipped by fills; "differs from the empty string" is false for them, as is "equals" it.
+    bool differsFromEmpty() const;
+    bool equalsEmpty() const;
+
+    /// Writes into the pending row or the current one; reaches the store with Recordset::update. Throws RuntimeError
+    /// (type mismatch) for what the column cannot hold.
+    void setValue(const Value& value);
+
+    /// The first `count` bytes of a binary column.
+    QByteArray getChunk(int count) const;
+    /// Puts the whole array into a binary column.
+    void appendChunk(const QByteArray& bytes);
+
+private:
+    friend class Recordset;
+    Field(Recordset& set, int ordinal) : m_set(&set), m_ordinal(ordinal) {}
+    Recordset* m_set;
+    int m_ordinal;
+};
+
+} // namespace qinghe
