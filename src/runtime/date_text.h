@@ -25,8 +25,9 @@ QString dateText(const QDate& day);
 QString timeText(const QTime& time);
 
 /// Reads the picker's text and the usual Chinese date forms: 2024-5-3, 2024/5/3, 2024.5.3, 2024年5月3日, a month alone
-/// (2024-5, 2024年5月: the first of it), a time behind one blank (8:05, 8:05:09). Years 100 to 9999. std::nullopt for
-/// anything else, "2024-13-1", "2024-5-" and "" included.
+/// (2024-5, 2024年5月: the first of it), a time behind one blank of a full date (8:05, 8:05:09), blanks around. Zeros
+/// in front do no harm, so ISO text is read too. Years 100 to 9999. std::nullopt for anything else, "2024-13-1",
+/// "2024-5-", "24:00" behind a date and "" included.
 std::optional<DateValue> parseDate(const QString& text);
 
 /// Reads the store's own ISO text. std::nullopt when it is none.

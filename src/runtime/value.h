@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <utility>
 #include <variant>
 
 namespace qinghe {
@@ -21,16 +22,22 @@ public:
     Value(bool flag) : m_data(flag) {}
     Value(DateValue date) : m_data(date) {}
     Value(QByteArray bytes) : m_data(std::move(bytes)) {}
+    /// Any other pointer would become a boolean.
+    template<typename T>
+    Value(const T*) = delete;
+
+    bool operator==(const Value&) const = default;
 
     bool isNull() const { return std::holds_alternative<std::monostate>(m_data); }
 
     /// The text form; "" for NULL. A boolean reads "True" or "False". Binary values have no text form: throws
     /// RuntimeError (type mismatch).
     QString text() const;
-    /// The value as a number; a text goes through the full conversion. Throws RuntimeError (type mismatch) for NULL and
-    /// for what is no number.
+    /// The value as a number; a text goes through the full conversion, true is -1. Throws RuntimeError (type mismatch)
+    /// for NULL and for what is no number.
     double number() const;
-    /// True for true and for any number but 0; false for NULL. Throws RuntimeError (type mismatch) for other texts.
+    /// True for true and for any number but 0, as a text too ("True", "-1"); false for NULL. Throws RuntimeError (type
+    /// mismatch) for other texts and kinds.
     bool truth() const;
     /// The bytes of a binary value, empty for NULL. Throws RuntimeError (type mismatch) for other kinds.
     QByteArray bytes() const;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+/// Files and folders beside the program. Every failure is a RuntimeError with the file's name in its text.
+namespace qinghe::files {
+
+/// Whether `path` is a folder.
+bool isFolder(const QString& path);
+void makeFolder(const QString& path);
+/// Writes the whole file, replacing one of that name. DiskFull, PathFileAccess.
+void writeAll(const QString& path, const QByteArray& bytes);
+/// Deletes the files that a pattern with "*" and "?" names, hidden ones included; finding none is harmless.
+void deleteMatching(const QString& folder, const QString& pattern);
+/// Reads a picture by its content, whatever the name says, with its orientation. FileNotFound, InvalidPicture.
+QImage loadPicture(const QString& path);
+
+} // namespace qinghe::files

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+/// The desktop's services behind narrow seams: made once in main, replaced by doubles in tests, reached by everybody
+/// through one Services object.
+namespace qinghe {
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual QDateTime now() const = 0; ///< local time
+    QDate today() const { return now().date(); }
+};
+
+/// The sum of buttons and icon that a message asks for.
+enum class MessageStyle : int {
+    Ok = 0,
+    OkCancel = 1,
+    YesNoQuestion = 36,
+    OkWarning = 48,
+    OkCancelWarning = 49,
+    OkInformation = 64,
+    OkCancelInformation = 65,
+};
+
+enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+class MessageBoxes {
+public:
+    virtual ~MessageBoxes() = default;
+    /// Shows the box over the active window and waits. Text and title are plain text. Use say() instead: it ends the
+    /// unit of work first.
+    virtual Answer show(const QString& text, MessageStyle style, const QString& title) = 0;
+    /// The window of a run-time error; `text` is told whole.
+    virtual void showError(int number, const QString& text) = 0;
+};
+
+/// The tray: its icon is only ever added.
+struct TrayData {
+    qint32 cbSize = 88;
+    quintptr hWnd = 0;
+    quintptr uID = 0;
+    quint32 uFlags = 7;
+    quint32 uCallbackMessage = 512;
+    quintptr hIcon = 0;
+    QByteArray szTip; ///< 64 bytes, padded with blanks, in the 8-bit code page
+};
+
+class Tray {
+public:
+    virtual ~Tray() = default;
+    virtual bool available() const = 0;
+    /// Adds the icon, or adds it once more without any change for the user. Its events arrive at `onMessage` with the
+    /// message number of the mouse (513: the left button's press).
+    virtual void add(const TrayData& data, std::function<void(int message)> onMessage) = 0;
+};
+
+class Launcher {
+public:
+    virtual ~Launcher() = default;
+    /// Opens a page in the system's browser.
+    virtual void explore(const QUrl& page) = 0;
+};
+
+/// Tells a second running copy from the first, by the folder it runs in.
+class InstanceLock {
+public:
+    virtual ~InstanceLock() = default;
+    /// Takes the lock when it is free; a copy that holds it keeps it to the end of its process.
+    virtual bool tryTake() = 0;
+};
+
+class Process {
+public:
+    virtual ~Process() = default;
+    /// Ends the process at once with this exit code; returns in tests only.
+    virtual void end(int code) = 0;
+};
+
+struct Services {
+    std::unique_ptr<Clock> clock;
+    std::unique_ptr<MessageBoxes> messages;
+    std::unique_ptr<Tray> tray;
+    std::unique_ptr<Launcher> launcher;
+    std::unique_ptr<InstanceLock> instance;
+    std::unique_ptr<Process> process;
+    QString appPath; ///< the program's folder (App.Path), without a separator at its end unless it is a root
+
+    /// What a message says has happened has happened: ends the unit of work, then shows the box. Throws RuntimeError.
+    Answer say(const QString& text, MessageStyle style = MessageStyle::Ok, const QString& title = {}) const;
+};
+
+/// The name of the program, the title of messages that have none.
+QString productName();
+
+/// The services of the real desktop.
+Services desktopServices();
+
+} // namespace qinghe

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QStyle>
+
+/// What the controls ask of the program's style beyond Qt's own elements. The controls only say what they are; how they
+/// look is told in the look floor alone.
+namespace qinghe {
+
+enum class Role {
+    Plain,
+    // labels
+    ProductName,  ///< Form2's Label26
+    PageLabel,    ///< the row of page labels; red (ForeColor 255) paints the tab and the bar
+    ClockText,    ///< date and time in the title band, 9 pt
+    Link,         ///< underlined address
+    Figure,       ///< a sum on the desktop: serif, bold, right-aligned
+    PlanList,     ///< today's plans: running text
+    Total,        ///< the sum below a table
+    SignInButton, ///< Form5's Label1
+    MonthTitle,   ///< the picker's year and month
+    WeekRow,      ///< the picker's head line: seven characters over seven columns
+    DayCell,      ///< one day of the picker
+    Help,         ///< small explaining text
+    // images
+    Glyph,        ///< an icon of the set, see Placed::setGlyph
+    Picture,      ///< a picture that fills its control
+    // buttons
+    Primary,      ///< the one main button of a group
+    PickerArrow,  ///< a step button of the picker
+    CalcKey,      ///< a key of the calculator
+    CalcOperator, ///< an operator key
+    // text boxes
+    CellEditor, ///< lies over a cell of a grid
+    CalcDisplay,
+    SignInField,
+    // frames
+    PageFrame,
+    DesktopFrame, ///< the page that holds the desktop's picture
+    InnerFrame,
+    BareFrame, ///< paints nothing
+    StripFrame,
+};
+
+/// The ground of a form.
+enum class Ground {
+    Main,       ///< the picture, the veil over the title band, the label shelf
+    SignIn,     ///< the picture alone
+    Dialog,     ///< F7FBF3 to E6F2D8 with seedlings along the foot
+    Pine,       ///< the date picker
+    Calculator, ///< EEF5E6
+};
+
+/// The line icons.
+enum class Glyph {
+    None,
+    Borrow, Info, Tools, Minimise, Close, Add, Remove, Accept, Search, List, Back, Forward, Income, Expense,
+    Budget, Borrowed, Lent, Calendar, Music, Mute, Bell, Backup, Restore, Question, Warning, Person, Lock, Down,
+    AppIcon, ///< the program's own icon, in colour
+};
+
+/// Elements that the style paints for our controls. The option is a plain QStyleOption with rect and palette; the widget
+/// is the control and is asked for the rest.
+enum StyleElement : unsigned {
+    PE_FormGround = static_cast<unsigned>(QStyle::PE_CustomBase) + 1, ///< widget: Form
+    PE_LedgerPaper,   ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
+    PE_GridEdge,      ///< the edge round a grid
+    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1, ///< widget: Label
+    CE_Image,         ///< widget: Image
+};
+
+} // namespace qinghe

@@ -1,0 +1,169 @@
+#include "runtime/number_text.h"
+
+#include "runtime/runtime_error.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace qinghe {
+
+namespace {
+
+/// The general form: plain while the decimal exponent is at least -4 and below `digits`, else scientific.
+template<typename Number>
+QString generalText(Number value, int digits) {
+    if (value == 0)
+        return QStringLiteral("0"); // a negative zero has no sign
+    std::array<char, 32> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
+    return QString::fromLatin1(text.data(), end.ptr - text.data()).toUpper();
+}
+
+QString withoutLeadingZero(QString text) {
+    const qsizetype first = text.startsWith(u'-') ? 1 : 0;
+    return QStringView(text).mid(first).startsWith(u"0.") ? text.remove(first, 1) : text;
+}
+
+bool isBlank(QChar c) {
+    return c == u' ' || c == u'\t' || c == u'\n';
+}
+
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+
+bool isExponentMark(QChar c) {
+    const QChar upper = c.toUpper();
+    return upper == u'E' || upper == u'D';
+}
+
+/// Reads the parts of a number from the head of a text, and collects what it takes in the form that the machine's
+/// own conversion understands.
+class NumberReader {
+public:
+    explicit NumberReader(QStringView text) : m_text(text) {}
+
+    bool atEnd() const { return m_at == m_text.size(); }
+
+    bool skip(QStringView anyOf) {
+        const bool found = !atEnd() && anyOf.contains(m_text[m_at]);
+        m_at += found ? 1 : 0;
+        return found;
+    }
+
+    bool sign() {
+        const bool minus = next() == u'-';
+        if (!skip(u"+-"))
+            return false;
+        if (minus)
+            m_number += '-';
+        return true;
+    }
+
+    /// Digits with at most one point; `marks` are passed over between the digits before it. False without a digit.
+    bool mantissa(QStringView marks) {
+        const qsizetype whole = digits(marks);
+        m_number += whole == 0 ? "0" : "";
+        if (!skip(u"."))
+            return whole > 0;
+        m_number += '.';
+        const qsizetype fraction = digits({});
+        m_number += '0';
+        return whole + fraction > 0;
+    }
+
+    /// An exponent that has no digits is none, and stays unread.
+    void exponent() {
+        const qsizetype start = m_at;
+        const qsizetype length = m_number.size();
+        if (atEnd() || !isExponentMark(next()))
+            return;
+        ++m_at;
+        m_number += 'E';
+        sign();
+        if (digits({}) > 0)
+            return;
+        m_at = start;
+        m_number.truncate(length);
+    }
+
+    /// What was read; infinite when it is too large.
+    double value() const { return m_number.toDouble(); }
+
+private:
+    QChar next() const { return atEnd() ? QChar() : m_text[m_at]; }
+
+    qsizetype digits(QStringView marks) {
+        qsizetype count = 0;
+        for (; !atEnd() && (isDigit(next()) || (count > 0 && marks.contains(next()))); ++m_at) {
+            if (!isDigit(next()))
+                continue;
+            m_number += next().toLatin1();
+            ++count;
+        }
+        return count;
+    }
+
+    QStringView m_text;
+    qsizetype m_at = 0;
+    QByteArray m_number;
+};
+
+QString withoutBlanks(const QString& text) {
+    QString rest = text;
+    rest.removeIf(isBlank);
+    return rest;
+}
+
+} // namespace
+
+QString numberText(double value) {
+    return generalText(value, std::numeric_limits<double>::digits10);
+}
+
+QString numberText(float value) {
+    return generalText(value, std::numeric_limits<float>::digits10 + 1);
+}
+
+QString pointNumberText(double value) {
+    return withoutLeadingZero(numberText(value));
+}
+
+QString pointNumberText(float value) {
+    return withoutLeadingZero(numberText(value));
+}
+
+QString spacedNumberText(double value) {
+    const QString text = pointNumberText(value);
+    return text.startsWith(u'-') ? text : u' ' + text;
+}
+
+double leadingNumber(const QString& text) {
+    const QString packed = withoutBlanks(text);
+    NumberReader reader(packed);
+    reader.sign();
+    if (!reader.mantissa({}))
+        return 0;
+    reader.exponent();
+    const double value = reader.value();
+    if (std::isinf(value))
+        throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：“%1”太大，无法作为数字。").arg(text));
+    return value;
+}
+
+std::optional<double> fullNumber(const QString& text) {
+    const QString trimmed = text.trimmed();
+    NumberReader reader(trimmed);
+    const bool signedFirst = reader.sign();
+    if (reader.skip(u"¥￥") && !signedFirst)
+        reader.sign();
+    if (!reader.mantissa(u","))
+        return std::nullopt;
+    reader.exponent();
+    const double value = reader.value();
+    return reader.atEnd() && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+} // namespace qinghe
