@@ -101,7 +101,7 @@ QString formatNumber(double value, const QString& pattern) {
     text += fitted(number.whole, form.leastWhole);
     if (form.hasPoint)
         text += '.' + trimmedTo(number.fraction, form.leastFraction);
-    return QString::fromLatin1(text) + form.literal;
+    return QString::fromLatin1(text) + form.literal.toString();
 }
 
 } // namespace qinghe

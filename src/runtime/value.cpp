@@ -64,7 +64,9 @@ double Value::number() const {
         number = static_cast<double>(*integer);
     else if (const auto* flag = std::get_if<bool>(&m_data))
         number = *flag ? kTrueNumber : 0;
-    return number ? *number : throwMismatch(named(*this) + QStringLiteral("不是数字。"));
+    if (!number)
+        throwMismatch(named(*this) + QStringLiteral("不是数字。"));
+    return *number;
 }
 
 bool Value::truth() const {
@@ -72,7 +74,9 @@ bool Value::truth() const {
         return false;
     if (const auto* text = std::get_if<QString>(&m_data)) {
         const auto flag = truthOfText(*text);
-        return flag ? *flag : throwMismatch(named(*this) + QStringLiteral("既不是真也不是假。"));
+        if (!flag)
+            throwMismatch(named(*this) + QStringLiteral("既不是真也不是假。"));
+        return *flag;
     }
     return number() != 0;
 }
@@ -81,7 +85,9 @@ QByteArray Value::bytes() const {
     if (isNull())
         return {};
     const auto* bytes = std::get_if<QByteArray>(&m_data);
-    return bytes ? *bytes : throwMismatch(named(*this) + QStringLiteral("不是二进制数据。"));
+    if (!bytes)
+        throwMismatch(named(*this) + QStringLiteral("不是二进制数据。"));
+    return *bytes;
 }
 
 } // namespace qinghe

@@ -15,7 +15,7 @@ class Value {
 public:
     Value() = default; ///< NULL
     Value(QString text) : m_data(std::move(text)) {}
-    Value(const char16_t* text) : m_data(QString(text)) {}
+    Value(const char16_t* text) : m_data(QString::fromUtf16(text)) {}
     Value(double number) : m_data(number) {}
     Value(int integer) : m_data(static_cast<qint64>(integer)) {}
     Value(qint64 integer) : m_data(integer) {}
