@@ -75,8 +75,8 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
 };
 
-/// One of a group of options (those in the same container). Set by a user or by code, it raises its click once, and only
-/// when it was not set before.
+/// One of a group of options (those in the same container). Set by a user or by code, it raises its click once, and
+/// only when it was not set before.
 class OptionButton : public QRadioButton, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -134,6 +134,7 @@ public:
 protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void inputMethodEvent(QInputMethodEvent*) override;
 
@@ -157,6 +158,7 @@ public:
 protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
 
 private:

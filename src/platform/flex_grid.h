@@ -5,16 +5,15 @@
 
 #include <QTableView>
 
-#include <memory>
 #include <vector>
 
 namespace qinghe {
 
 class FlexGridModel;
 
-/// A list that cannot be typed into: row 0 holds the captions, column 0 is a narrow marker column; data lie in rows 1 to
-/// Rows - 1 and columns 1 to Cols - 1. One cell is current (Row, Col), and its text is Text. A fresh grid has two rows
-/// and two columns and stands on cell 1,1.
+/// A list that cannot be typed into: row 0 holds the captions, column 0 is a narrow marker column; data lie in rows 1
+/// to Rows - 1 and columns 1 to Cols - 1. One cell is current (Row, Col), and its text is Text. A fresh grid has two
+/// rows and two columns and stands on cell 1,1.
 ///
 /// Writing Row, Col, Rows and texts costs no more than writing them: the view is brought up to date at the next
 /// boundary, or when a place is asked for, with one scroll to the current cell. A row or column out of range is a
@@ -93,10 +92,9 @@ protected:
     void changeEvent(QEvent*) override;
 
 private:
-    void changed();     ///< the model: rows, columns or texts
+    void changed(); ///< the model: rows, columns or texts
     void bringUpToDate();
     void layColumns();
-    int rowAt(const QPoint& inViewport) const;
 
     FlexGridModel* m_model;
     int m_row = 1, m_col = 1;
@@ -104,6 +102,7 @@ private:
     std::vector<int> m_amounts;
     bool m_stale = false, m_staleColumns = false, m_scrollDue = false;
     QPoint m_press{-1, -1};
+    QWidget* m_edge;
 };
 
 } // namespace qinghe

@@ -11,18 +11,18 @@ namespace qinghe {
 
 class Forms;
 
-/// A window. Left and Top are the desktop's, in twips, and follow real moves. A form is made and loaded by its first use
-/// (see Forms) and forgets everything when it is unloaded.
+/// A window. Left and Top are the desktop's, in twips, and follow real moves. A form is made and loaded by its first
+/// use (see Forms) and forgets everything when it is unloaded.
 class Form : public QWidget, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
 
 public:
     enum class Kind {
-        Frameless,  ///< draws its own title bar
-        Dialog,     ///< the desktop's title bar, no resizing
-        Tool,       ///< stays above its owner, takes the keyboard
-        QuietTool,  ///< stays above its owner and leaves the keyboard where it is
+        Frameless, ///< draws its own title bar
+        Dialog,    ///< the desktop's title bar, no resizing
+        Tool,      ///< stays above its owner, takes the keyboard
+        QuietTool, ///< stays above its owner and leaves the keyboard where it is
     };
     Form(const QString& name, Kind kind, Ground ground, QWidget* owner = nullptr);
     ~Form() override;
@@ -53,7 +53,7 @@ public:
     Event<double, double> MouseDown; ///< twips inside the form
     Event<double, double> MouseMove;
     Event<double, double> MouseUp;
-    Event<> Resize; ///< a change of size or of window state
+    Event<> Resize;     ///< a change of size or of window state
     Event<> CloseAsked; ///< the desktop's close button; without a handler the form unloads
 
 protected:

@@ -8,8 +8,8 @@
 /// comes in while a message box is open).
 ///
 /// A handler is a unit of work: when the outermost one returns, what waits for a boundary is done (grids brought up to
-/// date, the store committed), then ticks that came in meanwhile run. A run-time error ends the program at the innermost
-/// guard: what was done is kept, the error is shown, the process ends with code 1.
+/// date, the store committed), then ticks that came in meanwhile run. A run-time error ends the program at the
+/// innermost guard: what was done is kept, the error is shown, the process ends with code 1.
 namespace qinghe::handlers {
 
 /// Thrown by a handler that ends the program itself; takes the same road as a run-time error, without a message.
@@ -19,10 +19,10 @@ struct ProgramEnd {
 
 /// What the guard needs of the program; set once at start.
 struct Hooks {
-    std::function<void()> commit;                       ///< ends the store's unit of work; may throw RuntimeError
-    std::function<void(const RuntimeError&)> report;    ///< shows the error window
-    std::function<void(int code)> end;                  ///< closes the store and ends the process; returns in tests only
-    std::function<void()> returned;                     ///< the outermost handler has returned and its work is kept
+    std::function<void()> commit;                    ///< ends the store's unit of work; may throw RuntimeError
+    std::function<void(const RuntimeError&)> report; ///< shows the error window
+    std::function<void(int code)> end;               ///< closes the store and ends the process; returns in tests only
+    std::function<void()> returned;                  ///< the outermost handler has returned and its work is kept
 };
 void install(Hooks hooks);
 

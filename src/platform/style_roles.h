@@ -22,8 +22,8 @@ enum class Role {
     DayCell,      ///< one day of the picker
     Help,         ///< small explaining text
     // images
-    Glyph,        ///< an icon of the set, see Placed::setGlyph
-    Picture,      ///< a picture that fills its control
+    Glyph,   ///< an icon of the set, see Placed::setGlyph
+    Picture, ///< a picture that fills its control
     // buttons
     Primary,      ///< the one main button of a group
     PickerArrow,  ///< a step button of the picker
@@ -53,19 +53,45 @@ enum class Ground {
 /// The line icons.
 enum class Glyph {
     None,
-    Borrow, Info, Tools, Minimise, Close, Add, Remove, Accept, Search, List, Back, Forward, Income, Expense,
-    Budget, Borrowed, Lent, Calendar, Music, Mute, Bell, Backup, Restore, Question, Warning, Person, Lock, Down,
+    Borrow,
+    Info,
+    Tools,
+    Minimise,
+    Close,
+    Add,
+    Remove,
+    Accept,
+    Search,
+    List,
+    Back,
+    Forward,
+    Income,
+    Expense,
+    Budget,
+    Borrowed,
+    Lent,
+    Calendar,
+    Music,
+    Mute,
+    Bell,
+    Backup,
+    Restore,
+    Question,
+    Warning,
+    Person,
+    Lock,
+    Down,
     AppIcon, ///< the program's own icon, in colour
 };
 
-/// Elements that the style paints for our controls. The option is a plain QStyleOption with rect and palette; the widget
-/// is the control and is asked for the rest.
+/// Elements that the style paints for our controls. The option is a plain QStyleOption with rect and palette; the
+/// widget is the control and is asked for the rest.
 enum StyleElement : unsigned {
     PE_FormGround = static_cast<unsigned>(QStyle::PE_CustomBase) + 1, ///< widget: Form
-    PE_LedgerPaper,   ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
-    PE_GridEdge,      ///< the edge round a grid
+    PE_LedgerPaper, ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
+    PE_GridEdge,    ///< the edge round a grid
     CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1, ///< widget: Label
-    CE_Image,         ///< widget: Image
+    CE_Image,                                                    ///< widget: Image
 };
 
 } // namespace qinghe

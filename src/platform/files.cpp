@@ -1,0 +1,68 @@
+#include "platform/files.h"
+
+#include "runtime/runtime_error.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace qinghe::files {
+
+namespace {
+
+constexpr int LargestPictureMiB = 512; ///< decoded; 48 megapixels need 184
+
+[[noreturn]] void failAccess(const QFile& file, const QString& what) {
+    if (file.error() == QFileDevice::ResourceError)
+        throw RuntimeError(RuntimeError::DiskFull,
+                           QStringLiteral("磁盘空间不足，%1没有写完。请清理磁盘后再试。").arg(file.fileName()));
+    throw RuntimeError(RuntimeError::PathFileAccess,
+                       QStringLiteral("%1：%2。请检查文件夹的权限和磁盘空间。").arg(what, file.fileName()));
+}
+
+} // namespace
+
+bool isFolder(const QString& path) {
+    return QFileInfo(path).isDir();
+}
+
+void makeFolder(const QString& path) {
+    if (!QDir().mkdir(path))
+        throw RuntimeError(RuntimeError::PathFileAccess,
+                           QStringLiteral("不能建立文件夹：%1。请检查上级文件夹的权限。").arg(path));
+}
+
+void writeAll(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        failAccess(file, QStringLiteral("不能写入文件"));
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        failAccess(file, QStringLiteral("文件没有写完"));
+}
+
+void deleteMatching(const QString& folder, const QString& pattern) {
+    QDir dir(folder);
+    for (const QString& name : dir.entryList({pattern}, QDir::Files | QDir::Hidden | QDir::System))
+        if (QFile file(dir.filePath(name)); !file.remove())
+            failAccess(file, QStringLiteral("不能删除文件"));
+}
+
+QImage loadPicture(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到图片文件：%1。").arg(path));
+    QByteArray bytes = file.readAll();
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    reader.setAllocationLimit(LargestPictureMiB);
+    reader.setAutoTransform(true);
+    QImage image = reader.read();
+    if (image.isNull())
+        throw RuntimeError(RuntimeError::InvalidPicture,
+                           QStringLiteral("这个文件不是能显示的图片：%1。请换一个 JPEG、PNG 或 BMP 图片。").arg(path));
+    return image;
+}
+
+} // namespace qinghe::files

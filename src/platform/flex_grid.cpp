@@ -1,0 +1,386 @@
+#include "platform/flex_grid.h"
+
+#include "platform/flex_grid_model.h"
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+namespace qinghe {
+
+namespace {
+
+constexpr double DefaultColWidth = 960;
+
+void checkIndex(int index, int count, const QString& what) {
+    if (index < 0 || index >= count)
+        throw RuntimeError(RuntimeError::SubscriptOutOfRange,
+                           QStringLiteral("表格里没有第 %1 %2（共 %3 %2）。").arg(index).arg(what).arg(count));
+}
+
+void checkRow(int row, int rows) {
+    checkIndex(row, rows, QStringLiteral("行"));
+}
+
+void checkCol(int col, int cols) {
+    checkIndex(col, cols, QStringLiteral("列"));
+}
+
+/// A header that shows and does nothing else.
+void quiet(QHeaderView* header) {
+    header->setSectionsClickable(false);
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(QHeaderView::Fixed);
+    header->setMinimumSectionSize(1);
+}
+
+/// The edge of the list lies over all its parts, since cells reach to the list's own border.
+class Edge : public QWidget {
+public:
+    explicit Edge(MSFlexGrid* grid) : QWidget(grid) { setAttribute(Qt::WA_TransparentForMouseEvents); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        QStyleOption option;
+        option.initFrom(this);
+        style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_GridEdge), &option, &painter, parentWidget());
+    }
+};
+
+} // namespace
+
+MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
+    : QTableView(parent),
+      Placed(this),
+      m_model(new FlexGridModel(this)),
+      m_widths(2, DefaultColWidth),
+      m_edge(new Edge(this)) {
+    setObjectName(name);
+    const int rowPixels = pixelEdge(DefaultRowHeight);
+    setModel(m_model);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
+    setCornerButtonEnabled(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+    quiet(horizontalHeader());
+    quiet(verticalHeader());
+    horizontalHeader()->setFixedHeight(rowPixels);
+    verticalHeader()->setDefaultSectionSize(rowPixels);
+    m_model->announce();
+    layColumns();
+}
+
+MSFlexGrid::~MSFlexGrid() {
+    handlers::forget(this);
+}
+
+int MSFlexGrid::Rows() const {
+    return m_model->rows();
+}
+
+void MSFlexGrid::setRows(int rows) {
+    if (rows < 1)
+        checkRow(rows, 0);
+    m_model->resize(rows, Cols());
+    m_row = std::min(m_row, rows - 1);
+    changed();
+}
+
+int MSFlexGrid::Cols() const {
+    return m_model->cols();
+}
+
+void MSFlexGrid::setCols(int cols) {
+    if (cols < 1)
+        checkCol(cols, 0);
+    if (cols == Cols())
+        return;
+    m_model->resize(Rows(), cols);
+    m_widths.resize(static_cast<std::size_t>(cols), DefaultColWidth);
+    m_col = std::min(m_col, cols - 1);
+    m_staleColumns = true;
+    changed();
+}
+
+void MSFlexGrid::setRow(int row) {
+    checkRow(row, Rows());
+    m_row = row;
+    m_scrollDue = true;
+    changed();
+}
+
+void MSFlexGrid::setCol(int col) {
+    checkCol(col, Cols());
+    m_col = col;
+    m_scrollDue = true;
+    changed();
+}
+
+QString MSFlexGrid::Text() const {
+    return m_model->cell(m_row, m_col);
+}
+
+void MSFlexGrid::setText(const QString& text) {
+    setTextMatrix(m_row, m_col, text);
+}
+
+QString MSFlexGrid::TextMatrix(int row, int col) const {
+    checkRow(row, Rows());
+    checkCol(col, Cols());
+    return m_model->cell(row, col);
+}
+
+void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
+    checkRow(row, Rows());
+    checkCol(col, Cols());
+    m_model->setCell(row, col, text);
+    changed();
+}
+
+double MSFlexGrid::ColWidth(int col) const {
+    checkCol(col, Cols());
+    return m_widths[static_cast<std::size_t>(col)];
+}
+
+void MSFlexGrid::setColWidth(int col, double twips) {
+    checkCol(col, Cols());
+    m_widths[static_cast<std::size_t>(col)] = twips;
+    m_staleColumns = true;
+    changed();
+}
+
+double MSFlexGrid::RowHeight(int row) const {
+    checkRow(row, Rows());
+    return DefaultRowHeight;
+}
+
+void MSFlexGrid::setRowHeight(int row, double twips) {
+    // Every row of every list is of one height; nothing is kept a row, which long lists would pay for.
+    checkRow(row, Rows());
+    if (twips != DefaultRowHeight)
+        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("表格的行高只能是 %1。").arg(DefaultRowHeight));
+}
+
+double MSFlexGrid::ColPos(int col) {
+    checkCol(col, Cols());
+    bringUpToDate();
+    if (col == 0)
+        return 0;
+    double left = m_widths[0] - horizontalScrollBar()->value() * TwipsPerPixel;
+    for (int c = 1; c < col; ++c)
+        left += m_widths[static_cast<std::size_t>(c)];
+    return left;
+}
+
+double MSFlexGrid::RowPos(int row) {
+    checkRow(row, Rows());
+    bringUpToDate();
+    if (row == 0)
+        return 0;
+    return (row - verticalScrollBar()->value()) * DefaultRowHeight;
+}
+
+void MSFlexGrid::RemoveItem(int row) {
+    checkRow(row, Rows());
+    if (row == 0 || Rows() <= 2)
+        throw RuntimeError(30015, QStringLiteral("表格的最后一行不能移除。"));
+    m_model->removeRow(row);
+    m_row = std::min(m_row, Rows() - 1);
+    changed();
+}
+
+void MSFlexGrid::setAmountColumns(std::vector<int> columns) {
+    m_amounts = std::move(columns);
+    viewport()->update();
+}
+
+bool MSFlexGrid::isAmountColumn(int col) const {
+    return std::find(m_amounts.begin(), m_amounts.end(), col) != m_amounts.end();
+}
+
+void MSFlexGrid::takeFocus() {
+    if (isVisible())
+        setFocus(Qt::OtherFocusReason);
+}
+
+QRect MSFlexGrid::cellRect(int row, int col) {
+    const int x = pixelEdge(ColPos(col)), y = pixelEdge(RowPos(row));
+    return {QPoint(x, y), QPoint(pixelEdge(ColPos(col) + ColWidth(col)) - 1, y + pixelEdge(RowHeight(row)) - 1)};
+}
+
+void MSFlexGrid::ensureVisible(int row, int col) {
+    checkRow(row, Rows());
+    checkCol(col, Cols());
+    bringUpToDate();
+    if (row > 0 && col > 0)
+        scrollTo(m_model->index(row - 1, col - 1));
+}
+
+QRect MSFlexGrid::cellRoom() const {
+    return viewport()->geometry();
+}
+
+void MSFlexGrid::changed() {
+    m_stale = true;
+    // Outside a handler (tools that reach the grid by name) the next turn of the loop is the boundary.
+    if (handlers::depth() > 0)
+        handlers::atBoundary(this, [this] { bringUpToDate(); });
+    else
+        QMetaObject::invokeMethod(
+            this, [this] { bringUpToDate(); }, Qt::QueuedConnection);
+}
+
+void MSFlexGrid::bringUpToDate() {
+    if (!m_stale)
+        return;
+    m_stale = false;
+    handlers::forget(this);
+    const bool sizeChanged = m_model->rowCount() != Rows() - 1 || m_model->columnCount() != Cols() - 1;
+    if (sizeChanged) {
+        const int x = horizontalScrollBar()->value(), y = verticalScrollBar()->value();
+        m_model->announce();
+        m_staleColumns = true;
+        layColumns();
+        updateGeometries();
+        horizontalScrollBar()->setValue(x);
+        verticalScrollBar()->setValue(y);
+    } else if (m_staleColumns) {
+        layColumns();
+        updateGeometries();
+    }
+    if (std::exchange(m_scrollDue, false) && m_row > 0 && m_col > 0)
+        scrollTo(m_model->index(m_row - 1, m_col - 1));
+    viewport()->update();
+    horizontalHeader()->viewport()->update();
+    verticalHeader()->viewport()->update();
+    emit scrolled();
+}
+
+void MSFlexGrid::layColumns() {
+    m_staleColumns = false;
+    verticalHeader()->setFixedWidth(pixelEdge(m_widths[0]));
+    double left = m_widths[0];
+    for (int col = 1; col < Cols(); ++col) {
+        const double right = left + m_widths[static_cast<std::size_t>(col)];
+        horizontalHeader()->resizeSection(col - 1, pixelEdge(right) - pixelEdge(left));
+        left = right;
+    }
+}
+
+void MSFlexGrid::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    pressBegan();
+    m_press = event->button() == Qt::LeftButton ? event->position().toPoint() : QPoint(-1, -1);
+}
+
+void MSFlexGrid::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    const QModelIndex pressed = m_press.x() < 0 ? QModelIndex() : indexAt(m_press);
+    m_press = {-1, -1};
+    if (event->button() != Qt::LeftButton || !pressed.isValid() || indexAt(event->position().toPoint()) != pressed)
+        return;
+    handlers::enter([&] {
+        setRow(pressed.row() + 1);
+        setCol(pressed.column() + 1);
+        Click.raise();
+    });
+}
+
+void MSFlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    MouseMove.fromQt();
+}
+
+void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
+    const auto move = [this](int row, int col) {
+        handlers::enter([&] {
+            setRow(std::clamp(row, 1, std::max(1, Rows() - 1)));
+            setCol(std::clamp(col, 1, std::max(1, Cols() - 1)));
+        });
+    };
+    const int page = std::max(1, viewport()->height() / pixelEdge(DefaultRowHeight) - 1);
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return move(m_row - 1, m_col);
+    case Qt::Key_Down:
+        return move(m_row + 1, m_col);
+    case Qt::Key_Left:
+        return move(m_row, m_col - 1);
+    case Qt::Key_Right:
+        return move(m_row, m_col + 1);
+    case Qt::Key_PageUp:
+        return move(m_row - page, m_col);
+    case Qt::Key_PageDown:
+        return move(m_row + page, m_col);
+    case Qt::Key_Home:
+        return move(event->modifiers() & Qt::ControlModifier ? 1 : m_row, 1);
+    case Qt::Key_End:
+        return move(event->modifiers() & Qt::ControlModifier ? Rows() - 1 : m_row, Cols() - 1);
+    default:
+        event->ignore();
+    }
+}
+
+void MSFlexGrid::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter(viewport());
+        QStyleOption option;
+        option.initFrom(this);
+        option.rect = viewport()->rect();
+        style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_LedgerPaper), &option, &painter, this);
+    }
+    QTableView::paintEvent(event);
+}
+
+bool MSFlexGrid::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    // A text that does not fit is told whole.
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = index.isValid() ? index.data().toString() : QString();
+    if (fontMetrics().horizontalAdvance(text) + 12 > visualRect(index).width())
+        QToolTip::showText(help->globalPos(), text.toHtmlEscaped(), viewport(), visualRect(index));
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void MSFlexGrid::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    emit scrolled();
+}
+
+void MSFlexGrid::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    m_edge->setGeometry(rect());
+    m_edge->raise();
+    emit scrolled();
+}
+
+void MSFlexGrid::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        viewport()->update();
+}
+
+} // namespace qinghe

@@ -1,0 +1,157 @@
+#include "platform/form.h"
+
+#include "platform/forms.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleOption>
+
+namespace qinghe {
+
+namespace {
+
+Qt::WindowFlags flagsOf(Form::Kind kind) {
+    constexpr auto titled =
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    switch (kind) {
+    case Form::Kind::Frameless:
+        return Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint;
+    case Form::Kind::Dialog:
+        return Qt::Window | titled | Qt::WindowMinimizeButtonHint;
+    case Form::Kind::Tool:
+        return Qt::Tool | titled;
+    case Form::Kind::QuietTool:
+        return Qt::Tool | titled | Qt::WindowDoesNotAcceptFocus;
+    }
+    return Qt::Window;
+}
+
+QPointF twipsAt(const QMouseEvent* event) {
+    return event->position() * TwipsPerPixel;
+}
+
+} // namespace
+
+Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
+    : QWidget(owner, flagsOf(kind)), Placed(this), m_ground(ground) {
+    setObjectName(name);
+    setMouseTracking(true);
+    setShown(false);
+    setAttribute(Qt::WA_ShowWithoutActivating, kind == Kind::QuietTool);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+Form::~Form() = default;
+
+void Form::setPicture(QImage picture) {
+    m_picture = std::move(picture);
+    update();
+}
+
+int Form::WindowState() const {
+    return isMinimized() ? 1 : 0;
+}
+
+void Form::setWindowState(int state) {
+    const auto others = windowState() & ~Qt::WindowMinimized;
+    QWidget::setWindowState(state == 1 ? others | Qt::WindowMinimized : others);
+}
+
+void Form::showForm() {
+    applyPlace();
+    setShown(true);
+    raise();
+}
+
+void Form::setShape(const QPolygon& points) {
+    setMask(QRegion(points, Qt::OddEvenFill));
+}
+
+void Form::keepOnScreen() {
+    const QScreen* screen = QGuiApplication::screenAt(pos());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    const QSize size = frameGeometry().size();
+    const int x = std::max(room.left(), std::min(pos().x(), room.right() + 1 - size.width()));
+    const int y = std::max(room.top(), std::min(pos().y(), room.bottom() + 1 - size.height()));
+    if (QPoint(x, y) != pos())
+        moveTo(x * TwipsPerPixel, y * TwipsPerPixel);
+}
+
+void Form::applyPlace() {
+    const QRect place = pixelRect(Left(), Top(), Width(), Height());
+    move(place.topLeft());
+    if (place.size() != size())
+        setFixedSize(place.size());
+}
+
+void Form::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_FormGround), &option, &painter, this);
+}
+
+void Form::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressed = true;
+    m_moved = false;
+    const QPointF at = twipsAt(event);
+    MouseDown.fromQt(at.x(), at.y());
+}
+
+void Form::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPointF at = twipsAt(event);
+    MouseUp.fromQt(at.x(), at.y());
+    // The release that ends a move of the window is no click.
+    if (std::exchange(m_pressed, false) && !m_moved && rect().contains(event->position().toPoint()))
+        Click.fromQt();
+}
+
+void Form::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    const QPoint before = pos();
+    const QPointF at = twipsAt(event);
+    MouseMove.fromQt(at.x(), at.y());
+    m_moved = m_moved || pos() != before;
+}
+
+void Form::moveEvent(QMoveEvent*) {
+    // A place of our own making is kept to the twip; any other is the desktop's.
+    const QPoint here = pos();
+    if (here != pixelRect(Left(), Top(), Width(), Height()).topLeft())
+        adoptPlace(here.x() * TwipsPerPixel, here.y() * TwipsPerPixel);
+}
+
+void Form::resizeEvent(QResizeEvent*) {
+    Resize.fromQt();
+}
+
+void Form::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // Minimising gives a change of state and no resize.
+    if (event->type() == QEvent::WindowStateChange)
+        Resize.fromQt();
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (CloseAsked)
+        CloseAsked.fromQt();
+    else
+        handlers::enter([this] {
+            if (m_forms)
+                m_forms->unload(objectName());
+        });
+}
+
+} // namespace qinghe

@@ -1,0 +1,40 @@
+#include "platform/forms.h"
+
+namespace qinghe {
+
+Forms::~Forms() {
+    for (auto& [name, form] : m_forms)
+        delete form;
+}
+
+void Forms::define(const QString& name, Maker maker) {
+    m_makers[name] = std::move(maker);
+}
+
+Form& Forms::get(const QString& name) {
+    if (Form* form = loaded(name))
+        return *form;
+    Form* form = m_makers.at(name)();
+    form->m_forms = this;
+    m_forms[name] = form;
+    form->load();
+    return *form;
+}
+
+Form* Forms::loaded(const QString& name) const {
+    const auto it = m_forms.find(name);
+    return it == m_forms.end() ? nullptr : it->second;
+}
+
+void Forms::unload(const QString& name) {
+    const auto it = m_forms.find(name);
+    if (it == m_forms.end())
+        return;
+    Form* form = it->second;
+    m_forms.erase(it);
+    form->unloaded();
+    form->hide();
+    form->deleteLater();
+}
+
+} // namespace qinghe

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/services.h"
+
+namespace qinghe {
+
+/// A lock on the program's folder itself: nothing is left in it, and a crashed copy leaves no lock behind.
+std::unique_ptr<InstanceLock> folderLock(const QString& folder);
+
+} // namespace qinghe

@@ -1,0 +1,81 @@
+#include "platform/message_boxes.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace qinghe {
+
+namespace {
+
+QMessageBox::StandardButtons buttonsOf(MessageStyle style) {
+    switch (static_cast<int>(style) & 0xF) {
+    case 1:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case 4:
+        return QMessageBox::Yes | QMessageBox::No;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon iconOf(MessageStyle style) {
+    switch (static_cast<int>(style) & 0xF0) {
+    case 32:
+        return QMessageBox::Question;
+    case 48:
+        return QMessageBox::Warning;
+    case 64:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+Answer answerOf(int button) {
+    switch (button) {
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+QWidget* windowInFront() {
+    QWidget* active = QApplication::activeWindow();
+    return active && active->isVisible() ? active : nullptr;
+}
+
+/// A box whose texts are plain text, titled with the program's name when it has no title of its own.
+void fill(QMessageBox& box, const QString& text, const QString& title) {
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setWindowTitle(title.isEmpty() ? productName() : title);
+}
+
+} // namespace
+
+Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const QString& title) {
+    QMessageBox box(windowInFront());
+    fill(box, text, title);
+    box.setIcon(iconOf(style));
+    box.setStandardButtons(buttonsOf(style));
+    if (box.standardButtons() & QMessageBox::No)
+        box.setEscapeButton(QMessageBox::No);
+    return answerOf(box.exec());
+}
+
+void DesktopMessageBoxes::showError(int number, const QString& text) {
+    QMessageBox box(windowInFront());
+    fill(box,
+         QStringLiteral("运行时错误 %1：\n\n%2\n\n程序将关闭，出错以前已经保存的内容都还在。").arg(number).arg(text),
+         productName());
+    box.setIcon(QMessageBox::Warning);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+} // namespace qinghe

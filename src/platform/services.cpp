@@ -1,0 +1,59 @@
+#include "platform/services.h"
+
+#include "platform/handlers.h"
+#include "platform/instance_lock.h"
+#include "platform/message_boxes.h"
+#include "platform/tray.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace qinghe {
+
+namespace {
+
+class DesktopClock : public Clock {
+public:
+    QDateTime now() const override { return QDateTime::currentDateTime(); }
+};
+
+class DesktopLauncher : public Launcher {
+public:
+    void explore(const QUrl& page) override { QDesktopServices::openUrl(page); }
+};
+
+class DesktopProcess : public Process {
+public:
+    void end(int code) override {
+        std::fflush(nullptr);
+        std::_Exit(code);
+    }
+};
+
+} // namespace
+
+QString productName() {
+    return QStringLiteral("青禾家庭记账本");
+}
+
+Answer Services::say(const QString& text, MessageStyle style, const QString& title) const {
+    handlers::boundary();
+    return messages->show(text, style, title);
+}
+
+Services desktopServices() {
+    Services services;
+    services.appPath = QCoreApplication::applicationDirPath();
+    services.clock = std::make_unique<DesktopClock>();
+    services.messages = std::make_unique<DesktopMessageBoxes>();
+    services.tray = std::make_unique<DesktopTray>();
+    services.launcher = std::make_unique<DesktopLauncher>();
+    services.instance = folderLock(services.appPath);
+    services.process = std::make_unique<DesktopProcess>();
+    return services;
+}
+
+} // namespace qinghe
