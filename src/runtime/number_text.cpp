@@ -6,6 +6,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace qinghe {
 
@@ -89,10 +91,27 @@ public:
         m_number.truncate(length);
     }
 
-    /// What was read; infinite when it is too large.
-    double value() const { return m_number.toDouble(); }
+    void blanks() {
+        while (skip(u" "))
+            continue;
+    }
+
+    /// What was read; infinite when it is too large, 0 when it is too small.
+    double value() const {
+        double value = 0;
+        const auto read = std::from_chars(m_number.cbegin(), m_number.cend(), value);
+        return read.ec == std::errc::result_out_of_range ? valueOutOfRange() : value;
+    }
 
 private:
+    /// A stream tells too large from too small, which the quicker conversion does not.
+    double valueOutOfRange() const {
+        std::istringstream stream(m_number.toStdString());
+        stream.imbue(std::locale::classic());
+        double value = 0;
+        return stream >> value ? value : std::numeric_limits<double>::infinity();
+    }
+
     QChar next() const { return atEnd() ? QChar() : m_text[m_at]; }
 
     qsizetype digits(QStringView marks) {
@@ -157,8 +176,10 @@ std::optional<double> fullNumber(const QString& text) {
     const QString trimmed = text.trimmed();
     NumberReader reader(trimmed);
     const bool signedFirst = reader.sign();
+    reader.blanks();
     if (reader.skip(u"¥￥") && !signedFirst)
         reader.sign();
+    reader.blanks();
     if (!reader.mantissa(u","))
         return std::nullopt;
     reader.exponent();

@@ -1,0 +1,105 @@
+#include "qt_printing.h"
+#include "runtime/date_text.h"
+
+#include <gtest/gtest.h>
+
+namespace qinghe {
+namespace {
+
+const QDate kThirdOfMay(2024, 5, 3);
+
+TEST(DateText, WritesDaysAndTimesWithoutPadding) {
+    EXPECT_EQ(dateText(kThirdOfMay), u"2024-5-3");
+    EXPECT_EQ(dateText(QDate(2006, 10, 31)), u"2006-10-31");
+    EXPECT_EQ(dateText(QDate(100, 1, 1)), u"100-1-1");
+    EXPECT_EQ(timeText(QTime(8, 5, 9)), u"8:05:09");
+    EXPECT_EQ(timeText(QTime(0, 0)), u"0:00:00");
+    EXPECT_EQ(timeText(QTime(23, 59, 59)), u"23:59:59");
+}
+
+TEST(DateValue, HasATextAndAnIsoForm) {
+    const DateValue day{kThirdOfMay, {}};
+    EXPECT_EQ(day.text(), u"2024-5-3");
+    EXPECT_EQ(day.iso(), u"2024-05-03");
+    const DateValue moment{kThirdOfMay, QTime(8, 5, 9)};
+    EXPECT_EQ(moment.text(), u"2024-5-3 8:05:09");
+    EXPECT_EQ(moment.iso(), u"2024-05-03 08:05:09");
+    EXPECT_EQ((DateValue{QDate(100, 1, 1), {}}).iso(), u"0100-01-01");
+    EXPECT_NE(day, moment);
+    EXPECT_EQ(moment, (DateValue{kThirdOfMay, QTime(8, 5, 9)}));
+}
+
+TEST(DateValue, TellsMidnightFromNoTime) {
+    const DateValue midnight{kThirdOfMay, QTime(0, 0)};
+    EXPECT_EQ(midnight.text(), u"2024-5-3 0:00:00");
+    EXPECT_EQ(midnight.iso(), u"2024-05-03 00:00:00");
+}
+
+TEST(ParseDate, ReadsTheUsualFormsOfADay) {
+    for (const QString& text : {u"2024-5-3"_qs, u"2024/5/3"_qs, u"2024.5.3"_qs, u"2024年5月3日"_qs, u"2024-05-03"_qs,
+                                u"2024-5-03"_qs, u"2024年05月03日"_qs, u"  2024-5-3 "_qs, u"\t2024/05/03\n"_qs})
+        EXPECT_EQ(parseDate(text), (DateValue{kThirdOfMay, {}})) << text.toStdString();
+}
+
+TEST(ParseDate, ReadsAMonthAloneAsItsFirstDay) {
+    for (const QString& text : {u"2024-5"_qs, u"2024/05"_qs, u"2024年5月"_qs, u" 2024-5 "_qs})
+        EXPECT_EQ(parseDate(text), (DateValue{QDate(2024, 5, 1), {}})) << text.toStdString();
+}
+
+TEST(ParseDate, ReadsATimeBehindOneBlank) {
+    const DateValue exact{kThirdOfMay, QTime(8, 5, 9)};
+    for (const QString& text :
+         {u"2024-5-3 8:05:09"_qs, u"2024-05-03 08:05:09"_qs, u"2024年5月3日 8:5:9"_qs, u" 2024/5/3 08:05:09 "_qs})
+        EXPECT_EQ(parseDate(text), exact) << text.toStdString();
+    EXPECT_EQ(parseDate(u"2024-5-3 8:05"_qs), (DateValue{kThirdOfMay, QTime(8, 5)}));
+    EXPECT_EQ(parseDate(u"2024-5-3 0:00"_qs), (DateValue{kThirdOfMay, QTime(0, 0)}));
+    EXPECT_EQ(parseDate(u"2024-5-3 23:59:59"_qs), (DateValue{kThirdOfMay, QTime(23, 59, 59)}));
+}
+
+TEST(ParseDate, KnowsLeapYearsAndTheEdgesOfTheRange) {
+    for (const QString& text : {u"2024-2-29"_qs, u"2000-2-29"_qs, u"1900-2-28"_qs, u"100-1-1"_qs, u"9999-12-31"_qs})
+        EXPECT_TRUE(parseDate(text)) << text.toStdString();
+    for (const QString& text :
+         {u"2023-2-29"_qs, u"1900-2-29"_qs, u"99-12-31"_qs, u"0099-12-31"_qs, u"10000-1-1"_qs, u"24-5-3"_qs})
+        EXPECT_FALSE(parseDate(text)) << text.toStdString();
+}
+
+TEST(ParseDate, RefusesWhatIsNoDate) {
+    for (const QString& text :
+         {u""_qs,           u" "_qs,          u"2024"_qs,         u"2024-"_qs,       u"2024-5-"_qs,   u"2024-13-1"_qs,
+          u"2024-0-1"_qs,   u"2024-5-0"_qs,   u"2024-5-32"_qs,    u"2024-4-31"_qs,   u"2024-5/3"_qs,  u"2024-5-3-"_qs,
+          u"2024-5-3日"_qs, u"2024年5"_qs,    u"2024年5月3"_qs,   u"2024年5月日"_qs, u"2024年5-3"_qs, u"2024 -5-3"_qs,
+          u"2024-5-003"_qs, u"2024-005-3"_qs, u"２０２４-5-3"_qs, u"-2024-5-3"_qs,   u"5-3"_qs,       u"5-3-2024"_qs,
+          u"20240503"_qs,   u"12"_qs,         u"明天"_qs,         u"2024-5-3x"_qs,   u"x2024-5-3"_qs})
+        EXPECT_FALSE(parseDate(text)) << text.toStdString();
+}
+
+TEST(ParseDate, RefusesWhatIsNoTime) {
+    for (const QString& text :
+         {u"2024-5-3 24:00"_qs, u"2024-5-3 24:00:00"_qs, u"2024-5-3 8:60"_qs, u"2024-5-3 8:05:60"_qs, u"2024-5-3 8"_qs,
+          u"2024-5-3 8:"_qs, u"2024-5-3 8:05:"_qs, u"2024-5-3  8:05"_qs, u"2024-5-3T8:05"_qs, u"2024-5 8:05"_qs,
+          u"2024年5月 8:05"_qs, u"8:05"_qs, u"2024-5-3 8:05 x"_qs, u"2024-5-3 -1:05"_qs})
+        EXPECT_FALSE(parseDate(text)) << text.toStdString();
+}
+
+TEST(ParseIsoDate, ReadsItsOwnSpellingAlone) {
+    EXPECT_EQ(parseIsoDate(u"2024-05-03"_qs), (DateValue{kThirdOfMay, {}}));
+    EXPECT_EQ(parseIsoDate(u"2024-05-03 08:05:09"_qs), (DateValue{kThirdOfMay, QTime(8, 5, 9)}));
+    EXPECT_EQ(parseIsoDate(u"2024-05-03 00:00:00"_qs), (DateValue{kThirdOfMay, QTime(0, 0)}));
+    for (const QString& text :
+         {u""_qs, u"2024-5-3"_qs, u"2024/05/03"_qs, u" 2024-05-03"_qs, u"2024-05"_qs, u"2024-05-03 8:05:09"_qs,
+          u"2024-05-03 08:05"_qs, u"2024-05-03T08:05:09"_qs, u"2024-13-01"_qs})
+        EXPECT_FALSE(parseIsoDate(text)) << text.toStdString();
+}
+
+TEST(ParseDate, ReadsBackBothFormsOfEveryDayOfFourYears) {
+    for (QDate day(2023, 1, 1); day.year() < 2027; day = day.addDays(1)) {
+        const DateValue value{day, QTime(day.day() % 24, day.month(), day.year() % 60)};
+        EXPECT_EQ(parseDate(value.text()), value);
+        EXPECT_EQ(parseIsoDate(value.iso()), value);
+        EXPECT_EQ(parseDate(dateText(day)), (DateValue{day, {}}));
+    }
+}
+
+} // namespace
+} // namespace qinghe
