@@ -20,10 +20,15 @@ enum class Role {
     MonthTitle,   ///< the picker's year and month
     WeekRow,      ///< the picker's head line: seven characters over seven columns
     DayCell,      ///< one day of the picker
-    Help,         ///< small explaining text
+    Help,         ///< small explaining text, running
+    ReminderText, ///< the reminder's words: running text, 12 pt
+    Hairline,     ///< no words: a line through the middle of the label
+    Caution,      ///< an amber ground; its words stand at its head behind a warning sign
+    Well,         ///< no words: a pale ground under other labels
     // images
-    Glyph,   ///< an icon of the set, see Placed::setGlyph
-    Picture, ///< a picture that fills its control
+    Glyph,     ///< an icon of the set, see Placed::setGlyph
+    GlyphDisc, ///< an icon on a pale disc
+    Picture,   ///< a picture that fills its control
     // buttons
     Primary,      ///< the one main button of a group
     PickerArrow,  ///< a step button of the picker
