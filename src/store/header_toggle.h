@@ -5,9 +5,9 @@
 namespace qinghe {
 
 /// The two bytes at offsets 1 and 2 of the data file: 01 00 while the program runs, 00 00 after a clean end, when other
-/// tools can not read the file. Both open the file for reading and writing and never create or cut it; call them only
-/// while no transaction is open (Store::close first when the file is open).
-/// Throw RuntimeError: FileNotFound, PathFileAccess, DiskFull.
+/// tools can not read the file. Both open the file for reading and writing and never create, cut or lengthen it; call
+/// them only while no transaction is open (for spoiling, Store::close first).
+/// Throw RuntimeError: FileNotFound, PathFileAccess; StoreFailure for a file too short to have these bytes.
 void healHeader(const QString& path);
 void spoilHeader(const QString& path);
 

@@ -19,12 +19,13 @@ class Field;
 /// none. Rows added join it at the end; a row between AddNew and Update is not counted.
 ///
 /// A set of a table, or of a select over one table without grouping, can be written; in a `select distinct` a deletion
-/// takes every stored row behind the value. Others refuse writing (RuntimeError, QueryFailure).
-/// Throws RuntimeError (NoCurrentRecord) where a row is needed and none is current, StoreFailure when the file was
-/// closed or replaced since.
+/// takes every stored row behind the value. Others refuse writing (RuntimeError, QueryFailure). Moving on, searching
+/// and AddNew store what is pending first, as update() would. Throws RuntimeError: NoCurrentRecord where a row is
+/// needed and none is current; StoreFailure for writing when the file was closed or replaced since (what was read can
+/// still be read), and what the store throws.
 class Recordset {
 public:
-    Recordset(Store& store, std::shared_ptr<ResultSet> rows);
+    Recordset(Store& store, std::shared_ptr<const ResultSet> rows);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
@@ -37,9 +38,9 @@ public:
     void setAbsolutePosition(int position);
 
     void addNew();
-    /// Stores the pending row or the changed fields; without any it does nothing.
+    /// Stores the pending row or the changed fields; without any it does nothing. An added row becomes the current one.
     void update();
-    /// Deletes the current row at once; the set stands on nothing until moveNext.
+    /// Deletes the current row at once; the set stands on nothing until moveNext. A pending row is given up instead.
     void deleteCurrent();
 
     /// `criterion` is one comparison, 名称='text'; a quote inside the text is a RuntimeError (QueryFailure). Searches
@@ -47,8 +48,8 @@ public:
     void find(const QString& criterion);
 
     int fieldCount() const;
-    Field field(int ordinal);          ///< 0-based; throws RuntimeError (3265, no such item)
-    Field field(const QString& name);  ///< throws likewise
+    Field field(int ordinal);         ///< 0-based; throws RuntimeError (3265, no such item)
+    Field field(const QString& name); ///< throws likewise
 
 private:
     friend class Field;
@@ -56,12 +57,12 @@ private:
     std::unique_ptr<Impl> m;
 };
 
+/// Stays with the set, not with the row: after a move it is that column of the new current row.
 class Field {
 public:
     QString name() const;
     Value value() const;
-    /// Shorthand: value().text(), shared with the set where the column is text.
-    QString text() const;
+    QString text() const; ///< value().text()
     bool isNull() const;
     /// NULL fields are skipped by fills; "differs from the empty string" is false for them, as is "equals" it.
     bool differsFromEmpty() const;
@@ -71,7 +72,7 @@ public:
     /// (type mismatch) for what the column cannot hold.
     void setValue(const Value& value);
 
-    /// The first `count` bytes of a binary column.
+    /// The first `count` bytes of a binary column, or all when there are fewer.
     QByteArray getChunk(int count) const;
     /// Puts the whole array into a binary column.
     void appendChunk(const QByteArray& bytes);
@@ -79,6 +80,9 @@ public:
 private:
     friend class Recordset;
     Field(Recordset& set, int ordinal) : m_set(&set), m_ordinal(ordinal) {}
+    const Column& column() const;
+    const std::optional<Value>& pending() const; ///< what was set and not yet stored
+
     Recordset* m_set;
     int m_ordinal;
 };

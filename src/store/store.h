@@ -1,27 +1,29 @@
 #pragma once
 
-#include "runtime/value.h"
 #include "store/column.h"
 
 #include <QString>
-#include <QStringList>
 
-#include <functional>
 #include <memory>
+#include <span>
 
 namespace qinghe {
 
 class ResultSet;
+struct StoredValue;
 
 /// The one open data file of the process, shared by all data controls. Opened by the first use, without ever creating
 /// the file. Rollback journal, durable commits.
 ///
 /// Unit of work: the first write opens a transaction; commit() ends it. The handler guard calls commit() when the
-/// outermost handler returns, before any message box, and when a run-time error stops a handler.
+/// outermost handler returns, before any message box, and when a run-time error stops a handler. A store that goes out
+/// of scope commits nothing.
 ///
-/// Errors: every failure is a RuntimeError with a Chinese text (file missing or no store: StoreFailure or FileNotFound,
-/// disk full: DiskFull, folder or file not writable: PathFileAccess, a query that the dialect refuses: QueryFailure,
-/// a value that a column refuses: TypeMismatch).
+/// Errors: every failure is a RuntimeError with a Chinese text (file missing or no store: FileNotFound or StoreFailure,
+/// disk full: DiskFull, folder or file not writable: PathFileAccess, file held by another program: 70, disk error: 57,
+/// a query that the dialect refuses, a table or column that is not there: QueryFailure). When the file itself fails, in
+/// the middle of the work as at its end, the open unit of work is undone as a whole; a refused query or value leaves it
+/// as it is. After StoreFailure the file is opened anew by the next use.
 class Store {
 public:
     Store();
@@ -35,26 +37,26 @@ public:
 
     /// Runs a source (a table name or one SELECT of the dialect) and gives all its rows. A repeated source is answered
     /// from the last result as long as nothing has been written since, by us or by another process.
-    std::shared_ptr<ResultSet> fetch(const QString& source);
+    std::shared_ptr<const ResultSet> fetch(const QString& source);
 
     bool inTransaction() const;
     /// Ends the unit of work durably; nothing happens when none is open. Throws RuntimeError (the work is then lost).
     void commit();
     /// Commits and closes, so that the file's bytes may be touched; the next use opens anew and recordsets made before
-    /// are void.
+    /// are void. The file is closed even when the commit throws.
     void close();
-    /// Counts the closings: what was read under another number is void.
+    /// Counts the closings: what was read under another number is void. A file that was replaced under its name counts
+    /// as closed at the next use.
     int generation() const;
 
     // For recordsets only.
-    /// Inserts a row and gives its identity. `values` stand beside the named columns.
-    qint64 insertRow(const QString& table, const std::vector<int>& ordinals, const std::vector<Value>& values);
-    void updateRow(const QString& table, qint64 rowid, const std::vector<int>& ordinals,
-                   const std::vector<Value>& values);
-    /// Deletes a row; deletions are collected and reach the file together, before anything else is read or written.
+    /// Inserts a row and gives its identity. `values` stand beside the named columns; other columns stay NULL.
+    qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
+    void updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
+                   std::span<const StoredValue> values);
+    /// Deletes a row; deletions are collected and reach the file together, before anything else is read or written. A
+    /// row that is already gone is no failure.
     void deleteRow(const QString& table, qint64 rowid);
-    /// Deletes every row whose `column` holds exactly `value` (NULL included).
-    void deleteRowsWith(const QString& table, const QString& column, const Value& value);
     const TableColumns& columns(const QString& table);
 
 private:

@@ -1,0 +1,76 @@
+#include "store/connection.h"
+
+#include "store/header_vfs.h"
+#include "store/sqlite_failure.h"
+
+#include <sqlite3.h>
+
+namespace qinghe {
+
+namespace {
+
+constexpr int kBusyTimeoutMs = 2000;
+
+/// Commits that outlast a power cut; pages of a long save stay in memory until the commit; nothing in a file from
+/// elsewhere is run.
+constexpr const char* kSettings = "PRAGMA journal_mode = DELETE;"
+                                  "PRAGMA synchronous = EXTRA;"
+                                  "PRAGMA temp_store = MEMORY;"
+                                  "PRAGMA cache_size = -16000;"
+                                  "PRAGMA trusted_schema = OFF;";
+
+} // namespace
+
+void Connection::Closer::operator()(sqlite3* database) const {
+    sqlite3_close_v2(database);
+}
+
+sqlite3* Connection::opened(const QString& path) {
+    constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    sqlite3* handle = nullptr;
+    int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, headerVfsName());
+    std::unique_ptr<sqlite3, Closer> database(handle);
+    if (code == SQLITE_OK) {
+        sqlite3_busy_timeout(handle, kBusyTimeoutMs);
+        sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+        code = sqlite3_exec(handle, kSettings, nullptr, nullptr, nullptr);
+    }
+    if (code != SQLITE_OK)
+        throwSqliteFailure(code, path, QString::fromUtf8(sqlite3_errmsg(handle)));
+    return database.release();
+}
+
+Connection::Connection(const QString& path)
+    : m_path(path),
+      m_database(opened(path)),
+      m_begin(prepare("BEGIN IMMEDIATE")),
+      m_commit(prepare("COMMIT")),
+      m_dataVersion(prepare("PRAGMA data_version")) {}
+
+Statement Connection::prepare(const QByteArray& sql) {
+    return Statement(m_database.get(), sql, m_path);
+}
+
+bool Connection::inTransaction() const {
+    return !sqlite3_get_autocommit(m_database.get());
+}
+
+void Connection::rollBack() noexcept {
+    if (inTransaction())
+        sqlite3_exec(m_database.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+qint64 Connection::dataVersion() {
+    m_dataVersion.step();
+    const qint64 version = m_dataVersion.integer(0);
+    m_dataVersion.execute();
+    return version;
+}
+
+bool Connection::fileMoved() const {
+    int moved = 0;
+    sqlite3_file_control(m_database.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
+} // namespace qinghe

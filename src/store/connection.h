@@ -1,0 +1,44 @@
+#pragma once
+
+#include "store/statement.h"
+
+#include <memory>
+
+namespace qinghe {
+
+/// An open data file, through the header shim, set up for durable commits with a rollback journal. Never makes a file.
+/// All failures are RuntimeErrors.
+class Connection {
+public:
+    explicit Connection(const QString& path);
+
+    Statement prepare(const QByteArray& sql);
+    void run(const QByteArray& sql) { prepare(sql).execute(); }
+
+    bool inTransaction() const;
+    /// Takes the right to write, or throws.
+    void begin() { m_begin.execute(); }
+    void commit() { m_commit.execute(); }
+    /// Gives up the open transaction, if there is one. Never throws: what can not be undone now is undone by whoever
+    /// opens the file next.
+    void rollBack() noexcept;
+
+    /// Changes whenever another connection has written.
+    qint64 dataVersion();
+    /// Whether the file is no longer the one that its path names.
+    bool fileMoved() const;
+
+private:
+    struct Closer {
+        void operator()(sqlite3* database) const;
+    };
+    static sqlite3* opened(const QString& path);
+
+    QString m_path;
+    std::unique_ptr<sqlite3, Closer> m_database;
+    Statement m_begin;
+    Statement m_commit;
+    Statement m_dataVersion;
+};
+
+} // namespace qinghe

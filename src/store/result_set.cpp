@@ -1,0 +1,105 @@
+#include "store/result_set.h"
+
+#include <bit>
+
+namespace qinghe {
+
+bool ResultSet::isNull(int row, int column) const {
+    return m_cells[cellIndex(row, column)].storage == Storage::Null;
+}
+
+Value ResultSet::value(int row, int column) const {
+    return decoded(stored(row, column), m_shape.columns[static_cast<size_t>(column)].kind);
+}
+
+QString ResultSet::text(int row, int column) const {
+    return decodedText(stored(row, column), m_shape.columns[static_cast<size_t>(column)].kind);
+}
+
+std::span<const qint64> ResultSet::identities(int row) const {
+    const auto index = static_cast<size_t>(row);
+    if (!m_shape.writable())
+        return {};
+    if (!m_shape.distinct)
+        return {&m_identities[index], 1};
+    const size_t first = m_firstIdentity[index];
+    const size_t end = row + 1 < m_rowCount ? m_firstIdentity[index + 1] : m_identities.size();
+    return {&m_identities[first], end - first};
+}
+
+void ResultSet::finishRow(qint64 identity) {
+    if (m_shape.distinct)
+        m_firstIdentity.push_back(m_identities.size());
+    if (m_shape.writable())
+        m_identities.push_back(identity);
+    ++m_rowCount;
+}
+
+void ResultSet::finishDistinctRow(qint64 identity) {
+    finishRow(identity);
+    if (m_rowCount < 2 || !lastTwoRowsEqual())
+        return;
+    m_cells.resize(m_cells.size() - m_shape.columns.size());
+    m_firstIdentity.pop_back();
+    --m_rowCount;
+}
+
+void ResultSet::setCell(int row, int column, const StoredValue& value) {
+    m_cells[cellIndex(row, column)] = packed(value);
+}
+
+size_t ResultSet::footprint() const {
+    return m_cells.size() * sizeof(Cell) + m_bytes.size() + m_identities.size() * sizeof(qint64);
+}
+
+ResultSet::Cell ResultSet::packed(const StoredValue& value) {
+    switch (value.storage) {
+    case Storage::Integer:
+        return {value.storage, 0, static_cast<quint64>(value.integer)};
+    case Storage::Real:
+        return {value.storage, 0, std::bit_cast<quint64>(value.real)};
+    case Storage::Text:
+    case Storage::Blob: {
+        const size_t begin = m_bytes.size();
+        m_bytes.append(value.bytes.constData(), static_cast<size_t>(value.bytes.size()));
+        return {value.storage, static_cast<quint32>(value.bytes.size()), begin};
+    }
+    case Storage::Null:
+        break;
+    }
+    return {Storage::Null, 0, 0};
+}
+
+StoredValue ResultSet::stored(int row, int column) const {
+    const Cell& cell = m_cells[cellIndex(row, column)];
+    switch (cell.storage) {
+    case Storage::Integer:
+        return {.storage = cell.storage, .integer = static_cast<qint64>(cell.payload)};
+    case Storage::Real:
+        return {.storage = cell.storage, .real = std::bit_cast<double>(cell.payload)};
+    case Storage::Text:
+    case Storage::Blob:
+        return {.storage = cell.storage,
+                .bytes = QByteArray::fromRawData(m_bytes.data() + cell.payload, static_cast<qsizetype>(cell.length))};
+    case Storage::Null:
+        break;
+    }
+    return {};
+}
+
+size_t ResultSet::cellIndex(int row, int column) const {
+    return static_cast<size_t>(row) * m_shape.columns.size() + static_cast<size_t>(column);
+}
+
+bool ResultSet::lastTwoRowsEqual() const {
+    for (int column = 0; column < columnCount(); ++column) {
+        const StoredValue last = stored(m_rowCount - 1, column);
+        const StoredValue before = stored(m_rowCount - 2, column);
+        if (last.storage != before.storage || last.integer != before.integer || last.real != before.real ||
+            last.bytes != before.bytes)
+            return false;
+    }
+    return true;
+}
+
+} // namespace qinghe

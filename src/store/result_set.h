@@ -1,0 +1,70 @@
+#pragma once
+
+#include "store/column.h"
+#include "store/stored_value.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace qinghe {
+
+/// What the rows of a result are.
+struct ResultShape {
+    TableColumns columns;
+    QString table;             ///< that the rows can be written to; empty: read only
+    std::vector<int> ordinals; ///< of the columns in that table
+    bool distinct = false;     ///< a row may stand for several stored rows
+
+    bool writable() const { return !table.isEmpty(); }
+};
+
+/// The rows of one query: values, and the identities of the stored rows behind them. Compact: a cell takes 16 bytes,
+/// and texts and blobs of all rows lie in one piece of memory. It knows nothing of the file that it came from.
+class ResultSet {
+public:
+    explicit ResultSet(ResultShape shape) : m_shape(std::move(shape)) {}
+
+    const ResultShape& shape() const { return m_shape; }
+    int columnCount() const { return static_cast<int>(m_shape.columns.size()); }
+    int rowCount() const { return m_rowCount; }
+
+    // Rows and columns count from 0 and must be in range.
+    bool isNull(int row, int column) const;
+    Value value(int row, int column) const;
+    QString text(int row, int column) const;
+    /// The stored rows behind a row; none in a set that is read only.
+    std::span<const qint64> identities(int row) const;
+
+    /// A row is appended cell by cell, then finished.
+    void appendCell(const StoredValue& value) { m_cells.push_back(packed(value)); }
+    void finishRow(qint64 identity);
+    /// As finishRow, but a row equal to the one before it is only put behind that one.
+    void finishDistinctRow(qint64 identity);
+    void setCell(int row, int column, const StoredValue& value);
+
+    /// About how much memory the set takes, in bytes.
+    size_t footprint() const;
+
+private:
+    struct Cell {
+        Storage storage;
+        quint32 length;  ///< of a text or a blob
+        quint64 payload; ///< the number's bits, or where the bytes begin
+    };
+    static_assert(sizeof(Cell) == 16);
+
+    Cell packed(const StoredValue& value);
+    StoredValue stored(int row, int column) const;
+    size_t cellIndex(int row, int column) const;
+    bool lastTwoRowsEqual() const;
+
+    ResultShape m_shape;
+    int m_rowCount = 0;
+    std::vector<Cell> m_cells;
+    std::string m_bytes;
+    std::vector<qint64> m_identities;
+    std::vector<size_t> m_firstIdentity; ///< by row; used when rows may stand for several
+};
+
+} // namespace qinghe

@@ -1,0 +1,195 @@
+#include "store/session.h"
+
+#include "runtime/runtime_error.h"
+#include "store/selection.h"
+#include "store/sql_text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace qinghe {
+
+namespace {
+
+constexpr size_t kCachedResults = 3;
+constexpr size_t kCachedFootprint = 8 << 20; ///< larger results, pictures mostly, are not kept
+
+QByteArray placeholders(qsizetype count) {
+    return QByteArray("?,").repeated(count).chopped(1);
+}
+
+} // namespace
+
+Session::Session(const QString& path) : m_connection(path), m_dataVersion(m_connection.dataVersion()) {}
+
+std::shared_ptr<const ResultSet> Session::fetch(const QString& source) {
+    flushDeletions();
+    if (!inTransaction())
+        forgetIfChangedElsewhere();
+    const auto known = std::ranges::find(m_cache, source, &CachedResult::source);
+    if (known != m_cache.end())
+        return known->rows;
+    const auto rows = read(source);
+    remember(source, rows);
+    return rows;
+}
+
+std::shared_ptr<const ResultSet> Session::read(const QString& source) {
+    const Query query = parsedQuery(source);
+    const Selection selection = selectionOf(query, columns(query.table));
+    Statement statement = m_connection.prepare(selection.sql);
+    for (int place = 1; const QString& text : selection.bound)
+        statement.bind(place++, encoded(text));
+    const auto rows = std::make_shared<ResultSet>(selection.shape);
+    const int first = selection.shape.writable() ? 1 : 0; // behind the identity
+    const int count = rows->columnCount();
+    while (statement.step()) {
+        for (int column = 0; column < count; ++column)
+            rows->appendCell(statement.column(first + column));
+        selection.shape.distinct ? rows->finishDistinctRow(statement.integer(0))
+                                 : rows->finishRow(statement.integer(0));
+    }
+    return rows;
+}
+
+void Session::remember(const QString& source, const std::shared_ptr<const ResultSet>& rows) {
+    if (rows->footprint() > kCachedFootprint)
+        return;
+    m_cache.push_back({source, rows});
+    if (m_cache.size() > kCachedResults)
+        m_cache.pop_front();
+}
+
+const TableColumns& Session::columns(const QString& table) {
+    const auto known = m_columns.constFind(table);
+    if (known != m_columns.constEnd())
+        return *known;
+    Statement statement =
+        m_connection.prepare("SELECT c.name, c.type FROM sqlite_schema s, pragma_table_info(s.name) c "
+                             "WHERE s.type = 'table' AND s.name = ? ORDER BY c.cid");
+    statement.bind(1, encoded(table));
+    TableColumns columns;
+    while (statement.step())
+        columns.push_back({QString::fromUtf8(statement.column(0).bytes),
+                           kindOfDeclaredType(QString::fromUtf8(statement.column(1).bytes))});
+    if (columns.empty())
+        throw RuntimeError(RuntimeError::QueryFailure, QStringLiteral("账本文件里没有“%1”这张表。").arg(table));
+    return *m_columns.insert(table, columns);
+}
+
+void Session::commit() {
+    flushDeletions();
+    m_connection.commit();
+}
+
+void Session::rollBack() noexcept {
+    m_deletions = {};
+    m_cache.clear();
+    m_connection.rollBack();
+}
+
+/// The identity of a new row is above all that this connection has seen, so that an old recordset can never delete a
+/// row that took the place of one of its own.
+qint64 Session::insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values) {
+    beginWriting();
+    flushDeletions();
+    Inserter& target = inserter(table);
+    const qint64 rowid = target.lastRowid + 1;
+    target.statement.bind(1, rowid);
+    for (size_t i = 0; i < values.size(); ++i)
+        target.statement.bind(ordinals[i] + 2, values[i]);
+    target.statement.execute();
+    target.statement.clearBindings();
+    target.lastRowid = rowid;
+    return rowid;
+}
+
+Session::Inserter& Session::inserter(const QString& table) {
+    const auto known = m_inserters.find(table);
+    if (known != m_inserters.end())
+        return known->second;
+    QByteArrayList names{"rowid"};
+    for (const Column& column : columns(table))
+        names += quotedName(column.name);
+    Statement statement = m_connection.prepare("INSERT INTO " + quotedName(table) + " (" + names.join(',') +
+                                               ") VALUES (" + placeholders(names.size()) + ')');
+    return m_inserters.emplace(table, Inserter{std::move(statement), highestRowid(table)}).first->second;
+}
+
+void Session::updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
+                        std::span<const StoredValue> values) {
+    beginWriting();
+    flushDeletions();
+    QByteArrayList assignments;
+    for (const int ordinal : ordinals)
+        assignments += quotedName(columns(table).at(static_cast<size_t>(ordinal)).name) + "=?";
+    Statement statement =
+        m_connection.prepare("UPDATE " + quotedName(table) + " SET " + assignments.join(',') + " WHERE rowid=?");
+    int place = 1;
+    for (const StoredValue& value : values)
+        statement.bind(place++, value);
+    statement.bind(place, rowid);
+    statement.execute();
+}
+
+void Session::deleteRow(const QString& table, qint64 rowid) {
+    beginWriting();
+    if (m_deletions.table != table)
+        flushDeletions();
+    m_deletions.table = table;
+    m_deletions.rowids.push_back(rowid);
+}
+
+void Session::beginWriting() {
+    m_cache.clear();
+    if (inTransaction())
+        return;
+    m_connection.begin();
+    forgetIfChangedElsewhere();
+}
+
+void Session::forgetIfChangedElsewhere() {
+    const qint64 version = m_connection.dataVersion();
+    if (version == std::exchange(m_dataVersion, version))
+        return;
+    m_cache.clear();
+    m_columns.clear();
+    for (auto& [table, target] : m_inserters)
+        target.lastRowid = std::max(target.lastRowid, highestRowid(table));
+}
+
+qint64 Session::highestRowid(const QString& table) {
+    Statement statement = m_connection.prepare("SELECT max(rowid) FROM " + quotedName(table));
+    statement.step();
+    return statement.integer(0);
+}
+
+void Session::flushDeletions() {
+    if (m_deletions.rowids.empty())
+        return;
+    Deletions deletions = std::exchange(m_deletions, {});
+    std::ranges::sort(deletions.rowids);
+    const QByteArray everything = "DELETE FROM " + quotedName(deletions.table);
+    if (isWholeTable(deletions))
+        return m_connection.run(everything);
+    Statement statement = m_connection.prepare(everything + " WHERE rowid=?");
+    for (const qint64 rowid : deletions.rowids) {
+        statement.bind(1, rowid);
+        statement.execute();
+    }
+}
+
+/// Whether no row of the table would be left.
+bool Session::isWholeTable(const Deletions& deletions) {
+    Statement statement = m_connection.prepare("SELECT rowid FROM " + quotedName(deletions.table) + " ORDER BY rowid");
+    auto doomed = deletions.rowids.begin();
+    while (statement.step()) {
+        const qint64 rowid = statement.integer(0);
+        doomed = std::find_if(doomed, deletions.rowids.end(), [rowid](qint64 id) { return id >= rowid; });
+        if (doomed == deletions.rowids.end() || *doomed != rowid)
+            return false;
+    }
+    return true;
+}
+
+} // namespace qinghe

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "store/connection.h"
+#include "store/result_set.h"
+
+#include <QHash>
+
+#include <deque>
+#include <map>
+#include <span>
+
+namespace qinghe {
+
+/// The store's work on one opened file: fetching with a small cache, writing rows, collecting deletions. Dies with the
+/// connection; whatever it remembers of the file is good only as long. All failures are RuntimeErrors; what to do after
+/// one is decided by Store.
+class Session {
+public:
+    explicit Session(const QString& path);
+
+    std::shared_ptr<const ResultSet> fetch(const QString& source);
+    const TableColumns& columns(const QString& table);
+
+    bool inTransaction() const { return m_connection.inTransaction(); }
+    bool fileMoved() const { return m_connection.fileMoved(); }
+    void commit();
+    void rollBack() noexcept;
+
+    qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
+    void updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
+                   std::span<const StoredValue> values);
+    void deleteRow(const QString& table, qint64 rowid);
+
+private:
+    struct Inserter {
+        Statement statement;
+        qint64 lastRowid;
+    };
+    struct CachedResult {
+        QString source;
+        std::shared_ptr<const ResultSet> rows;
+    };
+    struct Deletions {
+        QString table;
+        std::vector<qint64> rowids;
+    };
+
+    void beginWriting();
+    void forgetIfChangedElsewhere();
+    std::shared_ptr<const ResultSet> read(const QString& source);
+    void remember(const QString& source, const std::shared_ptr<const ResultSet>& rows);
+    qint64 highestRowid(const QString& table);
+    Inserter& inserter(const QString& table);
+    void flushDeletions();
+    bool isWholeTable(const Deletions& deletions);
+
+    Connection m_connection;
+    qint64 m_dataVersion = 0;
+    std::deque<CachedResult> m_cache;
+    QHash<QString, TableColumns> m_columns;
+    std::map<QString, Inserter> m_inserters;
+    Deletions m_deletions;
+};
+
+} // namespace qinghe

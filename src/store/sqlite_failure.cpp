@@ -1,0 +1,58 @@
+#include "store/sqlite_failure.h"
+
+#include "runtime/runtime_error.h"
+#include "store/store_errors.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringView>
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+
+namespace qinghe {
+
+namespace {
+
+struct FailureRow {
+    int code; ///< SQLite's; an extended code stands before its primary one
+    int number;
+    QStringView text; ///< %1 is the file
+};
+
+constexpr std::array kFailures{
+    FailureRow{SQLITE_READONLY_DBMOVED, RuntimeError::StoreFailure,
+               u"账本文件“%1”在使用中被移走或换掉了，请重新启动程序。"},
+    FailureRow{SQLITE_IOERR_SHORT_READ, RuntimeError::StoreFailure, u"账本文件“%1”不完整，已经损坏。"},
+    FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure, u"“%1”不是账本文件，或者已经损坏。"},
+    FailureRow{SQLITE_CORRUPT, RuntimeError::StoreFailure, u"账本文件“%1”已经损坏，请用备份还原。"},
+    FailureRow{SQLITE_FULL, RuntimeError::DiskFull, u"磁盘已满，无法保存到“%1”。请腾出空间后再试。"},
+    FailureRow{SQLITE_CANTOPEN, RuntimeError::PathFileAccess, u"无法打开账本文件“%1”，请检查它和所在文件夹的权限。"},
+    FailureRow{SQLITE_READONLY, RuntimeError::PathFileAccess, u"无法写入账本文件“%1”，请检查它和所在文件夹的权限。"},
+    FailureRow{SQLITE_PERM, RuntimeError::PathFileAccess, u"没有使用账本文件“%1”的权限。"},
+    FailureRow{SQLITE_BUSY, store_errors::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"},
+    FailureRow{SQLITE_LOCKED, store_errors::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"},
+    FailureRow{SQLITE_IOERR, store_errors::DeviceFailure, u"读写账本文件“%1”时磁盘出错。"},
+    FailureRow{SQLITE_NOMEM, store_errors::OutOfMemory, u"内存不足，无法使用账本文件“%1”。"},
+};
+
+constexpr FailureRow kUnknown{0, RuntimeError::StoreFailure, u"使用账本文件“%1”时出错。"};
+
+const FailureRow& rowOf(int code) {
+    const auto matches = [code](const FailureRow& row) { return row.code == code || row.code == (code & 0xff); };
+    const auto found = std::ranges::find_if(kFailures, matches);
+    return found == kFailures.end() ? kUnknown : *found;
+}
+
+} // namespace
+
+void throwSqliteFailure(int code, const QString& path, const QString& detail) {
+    const QString file = QDir::toNativeSeparators(path);
+    if ((code & 0xff) == SQLITE_CANTOPEN && !QFileInfo::exists(path))
+        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到账本文件“%1”。").arg(file));
+    const FailureRow& row = rowOf(code);
+    throw RuntimeError(row.number, row.text.toString().arg(file) + QStringLiteral("（%1：%2）").arg(code).arg(detail));
+}
+
+} // namespace qinghe
