@@ -1,0 +1,68 @@
+#include "app/program.h"
+
+#include "core/main_window.h"
+#include "core/sign_in.h"
+#include "core/web_window.h"
+#include "ledger/income_expense.h"
+#include "tools/calculator.h"
+#include "tools/date_picker.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Form* mainWindowWithPages(Workbench& bench) {
+    auto* window = new MainWindow(bench);
+    new IncomeExpensePage(*window);
+    return window;
+}
+
+} // namespace
+
+Program::Program(Services services) : m_bench(std::move(services)) {
+    handlers::install({
+        .commit = [this] { m_bench.store.commit(); },
+        .report =
+            [this](const RuntimeError& error) { m_bench.services.messages->showError(error.number(), error.text()); },
+        .end = [this](int code) { end(code); },
+        .returned =
+            [this] {
+                if (!m_bench.forms.anyLoaded())
+                    end(0);
+            },
+    });
+    m_bench.store.use(m_bench.beside(u"data.dll"_s));
+    // A copy that can take its folder's lock keeps it from the start; one that cannot tries again at its main window.
+    m_bench.services.instance->tryTake();
+    defineForms();
+}
+
+Program::~Program() {
+    handlers::reset();
+}
+
+void Program::defineForms() {
+    Workbench& bench = m_bench;
+    bench.forms.define(u"Form5"_s, [&bench] { return new SignIn(bench); });
+    bench.forms.define(u"Form2"_s, [&bench] { return mainWindowWithPages(bench); });
+    bench.forms.define(u"Form1"_s, [&bench] { return new DatePicker(bench); });
+    bench.forms.define(u"Form9"_s, [&bench] { return new Calculator(bench); });
+    bench.forms.define(u"Form7"_s, [&bench] { return new WebWindow(bench); });
+}
+
+void Program::start() {
+    handlers::enter([this] { m_bench.forms.get(u"Form5"_s).showForm(); });
+}
+
+void Program::end(int code) {
+    try {
+        m_bench.store.close();
+    } catch (const RuntimeError&) {
+        // The work that could be kept has been; the file is released by the end of the process.
+    }
+    m_bench.services.process->end(code);
+}
+
+} // namespace qinghe

@@ -1,0 +1,287 @@
+#include "core/main_window.h"
+
+#include "core/stored_picture.h"
+#include "core/tray_icon.h"
+#include "core/web_pages.h"
+#include "core/window_shape.h"
+#include "platform/files.h"
+#include "store/header_toggle.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTimer>
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 Red = 255;
+constexpr double FormWidth = 12000, FormHeight = 8100; // twips
+constexpr int Minimised = 1, Normal = 0;
+constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
+constexpr int OtherTrayMessage = 130; ///< compared as well, and meant
+
+} // namespace
+
+MainWindow::MainWindow(Workbench& bench)
+    : Form(u"Form2"_s, Kind::Frameless, Ground::Main),
+      Adodc1(new Adodc(bench.store, u"Adodc1"_s, this)),
+      Adodc2(new Adodc(bench.store, u"Adodc2"_s, this)),
+      Adodc3(new Adodc(bench.store, u"Adodc3"_s, this)),
+      Timer1(new Timer(this, u"Timer1"_s)),
+      Timer2(new Timer(this, u"Timer2"_s)),
+      Timer3(new Timer(this, u"Timer3"_s)),
+      m_bench(bench),
+      m_navigation(*this, bench) {
+    setCaption(productName());
+    const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
+    place(centre.x() * TwipsPerPixel - FormWidth / 2, centre.y() * TwipsPerPixel - FormHeight / 2, FormWidth,
+          FormHeight);
+    makeTitleBand();
+    makeSettingsBoxes();
+    m_desktop = std::make_unique<Desktop>(bench, m_navigation, *Adodc1);
+    bindEvents();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makeTitleBand() {
+    Picture3 = new Image(this, u"Picture3"_s);
+    Label16 = new Label(Picture3, u"Label16"_s);
+    Label17 = new Label(Picture3, u"Label17"_s);
+    Label20 = new Label(Picture3, u"Label20"_s, WebAddressCaption);
+    Label26 = new Label(this, u"Label26"_s, productName());
+    Picture3->place(120, 690, 11655, 330);
+    Label16->place(840, 0, 2000, 330);
+    Label17->place(2880, 0, 1000, 330);
+    Label20->place(9255, 0, 2280, 330);
+    Label26->place(960, 240, 2175, 375);
+    Label16->setRole(Role::ClockText);
+    Label17->setRole(Role::ClockText);
+    Label20->setRole(Role::Link);
+    Label26->setRole(Role::ProductName);
+
+    struct WindowImage {
+        Image*& image;
+        const char16_t* name;
+        double left; ///< twips
+        Glyph glyph;
+        const char16_t* tip;
+    };
+    for (const WindowImage& entry : {WindowImage{Image7, u"Image7", 10095, Glyph::Info, u"软件介绍"},
+                                     WindowImage{Image5, u"Image5", 10530, Glyph::Tools, u"软件工具"},
+                                     WindowImage{Image4, u"Image4", 10965, Glyph::Minimise, u"最小化"},
+                                     WindowImage{Image3, u"Image3", 11400, Glyph::Close, u"退出"}}) {
+        entry.image = new Image(this, QString::fromUtf16(entry.name));
+        entry.image->place(entry.left, 150, 375, 375);
+        entry.image->setRole(Role::Glyph);
+        entry.image->setGlyph(entry.glyph);
+        entry.image->setToolTip(QString::fromUtf16(entry.tip));
+    }
+}
+
+void MainWindow::makeSettingsBoxes() {
+    const auto box = [this](const char16_t* frame, const char16_t* name, const char16_t* caption) {
+        auto* made = new CheckBox(&m_navigation.frame(QString::fromUtf16(frame)), QString::fromUtf16(name),
+                                  QString::fromUtf16(caption));
+        made->setShown(false);
+        return made;
+    };
+    Check1 = box(u"Frame17", u"Check1", u"日程提醒");
+    Check5 = box(u"Frame16", u"Check5", u"");
+    Check7 = box(u"Frame16", u"Check7", u"最小化到系统托盘");
+    Check8 = box(u"Frame16", u"Check8", u"日程提醒");
+}
+
+void MainWindow::bindEvents() {
+    Click = [this] { Form2_Form_Click(); };
+    MouseDown = [this](double x, double y) { Form2_Form_MouseDown(x, y); };
+    MouseMove = [this](double x, double y) { Form2_Form_MouseMove(x, y); };
+    MouseUp = [this](double, double) { dragging = 0; };
+    Resize = [this] { Form2_Form_Resize(); };
+    // The desktop may close the window (a shortcut of the window manager); the program ends like any other then: the
+    // header stays healed and the pictures stay.
+    CloseAsked = [] { throw handlers::ProgramEnd{0}; };
+    Image3->Click = [this] { Form2_Image3_Click(); };
+    Image4->Click = [this] { Form2_Image4_Click(); };
+    Image5->Click = [this] { Form2_Image5_Click(); };
+    Image7->Click = [this] { Form2_Image7_Click(); };
+    Label20->Click = [this] { Form2_Label20_Click(); };
+    for (Label* control : {static_cast<Label*>(Image3), static_cast<Label*>(Image4), static_cast<Label*>(Image5),
+                           static_cast<Label*>(Image7), Label20})
+        control->MouseMove = [control] { control->setHandCursor(); };
+    Timer1->Tick = [this] { Label17->setCaption(timeText(m_bench.services.clock->now().time())); };
+}
+
+void MainWindow::load() {
+    Adodc1->setConnectionString(m_bench.connection());
+    refuseSecondCopy();
+    if (const QString diary = m_bench.beside(u"mydiary"_s); !files::isFolder(diary))
+        files::makeFolder(diary);
+    Check5->setShown(false);
+    m_navigation.currentPage = 24;
+    shapeMainWindow(*this);
+    m_bench.store.close();
+    healHeader(m_bench.beside(u"data.dll"_s));
+    showForm();
+    preparePages();
+    startClock();
+    readReminderSetting();
+    readTraySetting();
+    setPicture(writeOut(ChosenSkin, *Adodc1, m_bench));
+    m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_bench));
+    m_desktop->computeSums();
+    m_desktop->listPlans(false);
+}
+
+void MainWindow::refuseSecondCopy() {
+    if (m_bench.services.instance->tryTake())
+        return;
+    m_bench.services.say(u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s);
+    throw handlers::ProgramEnd{0};
+}
+
+void MainWindow::preparePages() {
+    m_navigation.label(u"Label24"_s).setForeColor(Red);
+    m_navigation.bringForward(24);
+    for (const char16_t* name : {u"Frame7", u"Frame8", u"frame9", u"Frame10", u"Frame15", u"Frame16", u"Frame6",
+                                 u"Frame3", u"Frame2", u"Frame17"})
+        m_navigation.frame(QString::fromUtf16(name)).setShown(false);
+    for (Adodc* control : {Adodc1, Adodc2, Adodc3})
+        control->setVisible(false);
+}
+
+void MainWindow::startClock() {
+    Timer1->setInterval(1000);
+    Timer1->setEnabled(true);
+    const QDateTime now = m_bench.services.clock->now();
+    Label16->setCaption(u"系统时间："_s + dateText(now.date()));
+    Label17->setCaption(timeText(now.time()));
+}
+
+void MainWindow::readReminderSetting() {
+    Recordset& setting = Adodc1->open(u"select 日程提醒 from txb"_s);
+    if (setting.recordCount() != 1 || !setting.field(0).value().truth())
+        return;
+    Check1->setValue(true);
+    Check8->setValue(true);
+    Timer2->setInterval(1000);
+    Timer2->setEnabled(true);
+}
+
+void MainWindow::readTraySetting() {
+    Recordset& setting = Adodc1->open(u"select 最小化到托盘 from systuopanb"_s);
+    if (setting.eof() || !setting.field(0).value().truth())
+        return;
+    Check7->setValue(true);
+    toTray();
+}
+
+void MainWindow::toTray() {
+    if (!m_bench.services.tray->available()) {
+        // Nobody is locked out of a window that has no icon to come back by.
+        if (WindowState() != Minimised)
+            setWindowState(Minimised);
+        return;
+    }
+    m_bench.services.tray->add(trayDataFor(*this),
+                               [this](int message) { Form2_Form_MouseMove(message * TwipsPerPixel, 0); });
+    // Hidden at the next turn: the window system is still at work on the change of state that brought us here.
+    QTimer::singleShot(0, this, [this] { handlers::enter([this] { setShown(false); }); });
+}
+
+void MainWindow::Form2_Form_Resize() {
+    if (!Visible())
+        return;
+    Adodc1->setConnectionString(m_bench.connection());
+    Recordset& setting = Adodc1->open(u"select 最小化到托盘 from systuopanb"_s);
+    if (!setting.eof() && setting.field(0).value().truth() && WindowState() == Minimised)
+        toTray();
+}
+
+void MainWindow::Form2_Form_Click() {
+    // The boxes of pages that are not in view are committed as well: the tests read the grids' own visibility.
+    struct Closing {
+        const char16_t* grid;
+        const char16_t* frame; ///< its own visibility decides; nullptr: the grid's does
+        bool focus;
+        bool onlyEnabled;
+    };
+    constexpr std::array<Closing, 5> order{{
+        {u"ms6", u"Frame8", false, false},
+        {u"ms7", u"frame9", false, false},
+        {u"ms5", u"Frame7", true, false},
+        {u"ms1", nullptr, true, false},
+        {u"ms2", nullptr, true, true},
+    }};
+    for (const Closing& entry : order) {
+        const auto found = m_bench.editors.find(QString::fromUtf16(entry.grid));
+        if (found == m_bench.editors.end())
+            continue;
+        const auto& [box, grid] = found->second;
+        const bool inView =
+            entry.frame ? m_navigation.frame(QString::fromUtf16(entry.frame)).Visible() : grid->Visible();
+        if (!inView || (entry.onlyEnabled && !grid->isEnabled()))
+            continue;
+        grid->setText(box->Text());
+        box->setShown(false);
+        if (entry.focus)
+            grid->takeFocus();
+    }
+}
+
+void MainWindow::Form2_Form_MouseDown(double x, double y) {
+    if (Form* picker = m_bench.forms.loaded(u"Form1"_s))
+        picker->setShown(false);
+    dragging = 1;
+    dragStartX = roundedInt16(x);
+    m_bench.emptyRowFlag = roundedInt16(y); // dragStartY
+}
+
+void MainWindow::Form2_Form_MouseMove(double x, double y) {
+    // Tray events arrive here too, as a place that is the event's number in pixels.
+    const double message = x / TwipsPerPixel;
+    if (message == OtherTrayMessage || message == LeftButtonDown) {
+        if (WindowState() != Normal)
+            setWindowState(Normal);
+        if (!Visible())
+            showForm();
+    }
+    if (dragging == 1)
+        moveTo(Left() + x - dragStartX, Top() + y - m_bench.emptyRowFlag);
+    m_navigation.markCurrent();
+}
+
+void MainWindow::Form2_Image3_Click() {
+    m_bench.unloadTools();
+    for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
+        files::deleteMatching(m_bench.services.appPath, QString::fromUtf16(picture.file));
+    m_bench.store.close();
+    spoilHeader(m_bench.beside(u"data.dll"_s));
+    throw handlers::ProgramEnd{0};
+}
+
+void MainWindow::Form2_Image4_Click() {
+    m_bench.unloadTools();
+    setWindowState(Minimised);
+}
+
+void MainWindow::Form2_Image5_Click() {
+    m_bench.unloadTools();
+    Form& web = m_bench.forms.get(u"Form7"_s);
+    web.place(Left() + Width(), Top(), Width(), Height());
+    web.showForm();
+}
+
+void MainWindow::Form2_Image7_Click() {
+    m_bench.unloadTools();
+    m_bench.services.launcher->explore(webPage(m_bench, u"adetail.htm"_s));
+}
+
+void MainWindow::Form2_Label20_Click() {
+    m_bench.services.launcher->explore(webPage(m_bench, u"index.htm"_s));
+}
+
+} // namespace qinghe

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/workbench.h"
+#include "platform/combo_box.h"
+
+namespace qinghe {
+
+/// The sign-in, `Form5`: the first window of the process. Heals the data file's header, offers the known names and the
+/// remembered pair, and hands over to the main window. Passwords are kept and compared in clear.
+class SignIn : public Form {
+    Q_OBJECT
+
+public:
+    explicit SignIn(Workbench& bench);
+
+    void load() override; ///< Form5_Form_Load
+
+    void Form5_Label1_Click();
+    void Form5_Label3_Click();
+    void Form5_Combo1_Click();
+    void Form5_Image1_Click();
+    void Form5_Image2_Click();
+
+private:
+    void bindEvents();
+    void offerNames();
+    void recallPair();
+    void refuseUnknownName();
+    void refuseWrongPassword();
+    void rememberPair();
+    void unload();
+
+    Workbench& m_bench;
+    Adodc* Adodc1;
+    ComboBox* Combo1; // user name
+    TextBox* Text2;   // password
+    CheckBox* Check1; // remember the pair
+    Label* Label3;    // the words beside it
+    Label* Label1;    // sign in
+    Image* Image1;    // minimise
+    Image* Image2;    // exit
+
+    Int16 rememberFlag;
+    Int16 wrongPasswordCount;
+    Int16 wrongNameCount;
+};
+
+} // namespace qinghe

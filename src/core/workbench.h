@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/flex_grid.h"
+#include "platform/forms.h"
+#include "platform/services.h"
+#include "runtime/integers.h"
+#include "store/data_control.h"
+#include "store/store.h"
+
+#include <array>
+#include <map>
+
+namespace qinghe {
+
+/// A text box that the date picker or the calculator fills, and the grid behind it where there is one.
+struct EditorTarget {
+    TextBox* box = nullptr;
+    MSFlexGrid* grid = nullptr;
+};
+
+/// What pages and windows share, all of it: the desktop's services, the store, the forms by name, and the few facts
+/// that cross from one to another. It decides nothing.
+class Workbench {
+public:
+    explicit Workbench(Services desktop) : services(std::move(desktop)) {}
+
+    Services services;
+    Store store;
+    Forms forms;
+
+    /// Which field asked for the date picker (1 to 8) and which for the calculator (1 to 4); 0 before the first use.
+    Int16 dateTarget;
+    Int16 calcTarget;
+    /// The fields by these numbers, entered by their owners.
+    std::array<EditorTarget, 9> dateFields;
+    std::array<EditorTarget, 5> calcFields;
+
+    /// The floating editors by the names of their grids ("ms2"), entered by the pages. A click on one page's frame
+    /// closes another page's editor, and one page borrows the row number of another's grid.
+    std::map<QString, EditorTarget> editors;
+
+    /// The categories' sticky mark of a filled row. It is one variable with the place where a drag of the main window
+    /// began (dragStartY): a press on the bare form disturbs the mark, and is meant to.
+    Int16 emptyRowFlag;
+
+    /// The connection text of the data file, with the blank at its end that most handlers leave there, or without.
+    QString connection(bool blankBehind = true) const;
+    /// The path of a file beside the program.
+    QString beside(const QString& name) const;
+
+    /// Unloads the date picker, the purge window and the calculator, in this order.
+    void unloadTools();
+    /// Unloads the date picker and the calculator.
+    void unloadPickers();
+    /// Shows a tool window at a place on the screen (twips), without blocking.
+    void openTool(const QString& form, double left, double top);
+};
+
+} // namespace qinghe

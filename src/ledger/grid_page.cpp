@@ -1,0 +1,346 @@
+#include "ledger/grid_page.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Enter = 13, Escape = 27;
+constexpr double MarkerWidth = 300; ///< column 0, twips
+constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
+
+CommandButton* button(Frame& frame, const char16_t* name, const QString& caption, double left, Glyph glyph) {
+    auto* made = new CommandButton(&frame, QString::fromUtf16(name), caption);
+    made->place(left, 345, 1080, 390);
+    made->setGlyph(glyph);
+    made->MouseMove = [made] {
+        made->setHandCursor();
+        made->setBackColor(Grey);
+    };
+    return made;
+}
+
+} // namespace
+
+GridPage::GridPage(MainWindow& form, const Traits& differences)
+    : QObject(&form),
+      traits(differences),
+      window(form),
+      bench(form.bench()),
+      Adodc1(*form.Adodc1),
+      frame(form.navigation().frame(QString::fromUtf16(differences.frame))),
+      grid(new MSFlexGrid(&frame, QString::fromUtf16(differences.grid))),
+      editor(new TextBox(&frame, QString::fromUtf16(differences.editor))),
+      addButton(button(frame, differences.add, u"增加"_s, 8055, Glyph::Add)),
+      removeButton(button(frame, differences.remove, u"删除"_s, 9255, Glyph::Remove)),
+      saveButton(button(frame, differences.save, u"保存"_s, 10455, Glyph::Accept)) {
+    grid->place(120, 840, 11415, 4815);
+    editor->setRole(Role::CellEditor);
+    editor->setShown(false);
+    editor->setFocusRefuge(grid);
+    saveButton->setRole(Role::Primary);
+    bench.editors[grid->objectName()] = {editor, grid};
+    const EditorTarget target{editor, grid};
+    if (traits.date.target)
+        bench.dateFields.at(static_cast<std::size_t>(traits.date.target)) = target;
+    if (traits.amounts.target)
+        bench.calcFields.at(static_cast<std::size_t>(traits.amounts.target)) = target;
+    bindEvents();
+}
+
+void GridPage::bindEvents() {
+    grid->Click = [this] { cellClick(); };
+    connect(grid, &MSFlexGrid::scrolled, this, [this] { followScroll(); });
+    editor->Click = [this] { editorClick(); };
+    editor->KeyPress = [this](int key) { editorKey(key); };
+    if (traits.closedColumn)
+        editor->Change = [this] { editor->setUsable(grid->Col() != traits.closedColumn); };
+    addButton->Click = [this] { addRow(); };
+    removeButton->Click = [this] { deleteRow(); };
+    saveButton->Click = [this] { saveRows(); };
+    frame.MouseMove = [this] {
+        for (CommandButton* hovered : {addButton, removeButton, saveButton})
+            if (hovered->BackColor() == Grey)
+                hovered->setBackColor(White);
+    };
+}
+
+// ---- the editor over its cell
+
+void GridPage::placeEditor() {
+    editor->place(grid->Left() + grid->ColPos(grid->Col()), grid->Top() + grid->RowPos(grid->Row()),
+                  grid->ColWidth(grid->Col()), grid->RowHeight(grid->Row()));
+    maskEditor();
+}
+
+void GridPage::layEditor() {
+    placeEditor();
+    editor->setBoxText(grid->Text());
+}
+
+void GridPage::followScroll() {
+    if (editor->Visible())
+        placeEditor();
+}
+
+void GridPage::maskEditor() {
+    const QRect room = grid->cellRoom().translated(grid->pos());
+    const QRect seen = editor->geometry() & room;
+    if (seen == editor->geometry())
+        editor->clearMask();
+    else
+        editor->setMask(seen.isEmpty() ? QRegion(-1, -1, 1, 1) : QRegion(seen.translated(-editor->pos())));
+}
+
+void GridPage::hideEditor() {
+    editor->setShown(false);
+}
+
+void GridPage::openTool(const char16_t* form) {
+    bench.openTool(QString::fromUtf16(form), frame.Left() + editor->Left() + window.Left(),
+                   frame.Top() + editor->Top() + editor->Height() + window.Top());
+}
+
+void GridPage::openDatePicker() {
+    bench.dateTarget = traits.date.target;
+    openTool(u"Form1");
+}
+
+void GridPage::openCalculator() {
+    editor->setUsable(false);
+    bench.calcTarget = traits.amounts.target;
+    openTool(u"Form9");
+}
+
+void GridPage::cellClick() {
+    if (!takesClicks())
+        return;
+    layEditor();
+    editor->setShown(true);
+    editor->raise();
+    editor->takeFocus();
+    const int column = grid->Col();
+    if (traits.date.column && column == traits.date.column)
+        openDatePicker();
+    else
+        bench.forms.unload(u"Form1"_s);
+    if (traits.amounts.onClick.holds(column)) {
+        openCalculator();
+    } else {
+        editor->setUsable(true);
+        editor->takeFocus();
+        bench.forms.unload(u"Form9"_s);
+    }
+}
+
+void GridPage::editorClick() {
+    const int column = grid->Col();
+    if (traits.date.column && column == traits.date.column)
+        openDatePicker();
+    if (traits.amounts.onClick.holds(column)) {
+        openCalculator();
+        return;
+    }
+    editor->setUsable(column != traits.closedColumn);
+    bench.forms.unload(u"Form9"_s);
+}
+
+void GridPage::editorKey(int key) {
+    if (key == Escape) {
+        hideEditor();
+        grid->takeFocus();
+    } else if (key == Enter) {
+        writeBack();
+    }
+}
+
+void GridPage::writeBack() {
+    grid->setText(editor->Text());
+    const int lastColumn = static_cast<int>(traits.columns.size());
+    bool passedLast = false;
+    if (grid->Col() < lastColumn) {
+        grid->setCol(grid->Col() + 1);
+        moved();
+    } else {
+        if (grid->Row() < grid->Rows() - 1) {
+            grid->setRow(grid->Row() + 1);
+            grid->setCol(1);
+        }
+        passedLast = grid->Col() == grid->Cols() - 1 && grid->Row() == grid->Rows() - 1;
+        if (passedLast)
+            hideEditor();
+    }
+    layEditor();
+    const int column = grid->Col();
+    if (traits.amounts.onEnter.holds(column)) {
+        openCalculator();
+    } else {
+        if (!traits.closedColumn)
+            editor->setUsable(true);
+        bench.forms.unload(u"Form9"_s);
+    }
+    if (traits.date.opensOnEnter && traits.date.column && column == traits.date.column)
+        openDatePicker();
+    else
+        bench.forms.unload(u"Form1"_s);
+    if (passedLast)
+        grid->takeFocus();
+    else
+        editor->takeFocus();
+}
+
+// ---- the button triple
+
+bool GridPage::isBlank(int row) const {
+    for (int column = 1; column < grid->Cols(); ++column)
+        if (!grid->TextMatrix(row, column).isEmpty())
+            return false;
+    return true;
+}
+
+void GridPage::addRow() {
+    bench.unloadPickers();
+    if (traits.addCommitsBox) {
+        if (!editor->Text().isEmpty())
+            grid->setText(editor->Text());
+        editor->setBoxText({});
+    } else {
+        grid->setRow(grid->Rows() - 1);
+    }
+    if (isBlank(traits.addTests == AddTests::LastRow ? grid->Rows() - 1 : grid->Row())) {
+        bench.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+    } else {
+        grid->setRows(grid->Rows() + 1);
+        grid->setRowHeight(grid->Row() + 1, MSFlexGrid::DefaultRowHeight);
+    }
+    grid->setRow(grid->Rows() - 1);
+    placeEditor();
+    if (traits.addedBox == AddedBox::TakesCell)
+        editor->setBoxText(grid->Text());
+    hideEditor();
+}
+
+void GridPage::deleteRow() {
+    bench.unloadPickers();
+    hideEditor();
+    if (bench.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
+        return;
+    Recordset& records = Adodc1.open(table());
+    if (grid->Row() <= records.recordCount()) {
+        records.setAbsolutePosition(grid->Row());
+        records.deleteCurrent();
+        records.update();
+    }
+    const bool blanked = traits.lastRow == LastRow::BlankedWhenFirst ? grid->Row() == 1 : grid->Rows() < 3;
+    if (blanked)
+        blankRow(1);
+    else
+        grid->RemoveItem(grid->Row());
+}
+
+bool GridPage::refusesGap() {
+    if (traits.saveMovesRow)
+        grid->setRow(1);
+    for (int row = 1; row < grid->Rows(); ++row) {
+        if (traits.saveMovesRow)
+            grid->setRow(row);
+        for (int column = 1; column < grid->Cols() - 1; ++column) {
+            if (!grid->TextMatrix(row, column).isEmpty())
+                continue;
+            bench.services.say(u"为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"_s,
+                               MessageStyle::OkInformation, u"输入提示"_s);
+            return true;
+        }
+    }
+    return false;
+}
+
+void GridPage::emptyTable() {
+    Recordset& records = Adodc1.recordset();
+    if (records.recordCount() == 0)
+        return;
+    for (records.moveFirst(); !records.eof(); records.moveNext())
+        records.deleteCurrent();
+}
+
+void GridPage::writeRow(Recordset& records, int row, Int16& counter) {
+    records.addNew();
+    records.field(u"区别"_s).setValue(static_cast<int>(++counter));
+    for (int column = 1; column < grid->Cols(); ++column)
+        if (const QString text = grid->TextMatrix(row, column); !text.isEmpty())
+            records.field(column - 1).setValue(text);
+    records.update();
+}
+
+void GridPage::saveRows() {
+    bench.unloadPickers();
+    if (traits.saveReloads)
+        Adodc1.open(table());
+    if (refusesGap())
+        return;
+    emptyTable();
+    if (traits.refreshWhenEmptied)
+        Adodc1.refresh();
+    Int16 counter;
+    bool filledRowMet = traits.savedRows == SavedRows::Every;
+    for (int row = 1; row < grid->Rows(); ++row) {
+        if (traits.saveMovesRow)
+            grid->setRow(row);
+        filledRowMet = filledRowMet || !isBlank(row);
+        if (filledRowMet)
+            writeRow(Adodc1.recordset(), row, counter);
+    }
+    bench.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
+    hideEditor();
+}
+
+// ---- the list
+
+void GridPage::layColumns() {
+    grid->setCols(static_cast<int>(traits.columns.size()) + 1);
+    grid->setColWidth(0, MarkerWidth);
+    std::vector<int> amounts;
+    for (int column = 1; column < grid->Cols(); ++column) {
+        const Column& entry = traits.columns[static_cast<std::size_t>(column - 1)];
+        grid->setColWidth(column, entry.width);
+        grid->setTextMatrix(0, column, QString::fromUtf16(entry.caption));
+        if (traits.shownAsAmounts.holds(column))
+            amounts.push_back(column);
+    }
+    grid->setAmountColumns(std::move(amounts));
+}
+
+void GridPage::layOut() {
+    grid->place(120, 840, 11415, 4815);
+    layColumns();
+}
+
+void GridPage::startRows() {
+    grid->setRows(2);
+    grid->setRow(1);
+}
+
+void GridPage::blankRow(int row) {
+    for (int column = 1; column < grid->Cols(); ++column)
+        grid->setTextMatrix(row, column, {});
+}
+
+void GridPage::fill(Recordset& records) {
+    while (!records.eof()) {
+        for (int column = 1; column < records.fieldCount(); ++column) {
+            const Field field = records.field(column - 1);
+            if (field.differsFromEmpty())
+                grid->setTextMatrix(grid->Row(), column, field.text());
+            else if (field.equalsEmpty())
+                grid->setTextMatrix(rowForEmptyText(), column, {});
+        }
+        records.moveNext();
+        if (records.eof())
+            break;
+        grid->setRows(grid->Rows() + 1);
+        grid->setRow(grid->Row() + 1);
+    }
+}
+
+} // namespace qinghe

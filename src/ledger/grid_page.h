@@ -1,0 +1,126 @@
+#pragma once
+
+#include "core/main_window.h"
+#include "core/workbench.h"
+
+#include <span>
+
+namespace qinghe {
+
+/// A page that shows a table in a read-only grid under one floating text box: a click on a cell lays the box over it,
+/// Enter writes its text back and moves on, Esc drops it. Nothing reaches the store but a deleted row, until the save
+/// checks the grid, empties the table and writes one row a grid line. The pages of this kind differ in a table of
+/// traits; what a page does beyond it stands in the page's own file.
+///
+/// A record has no identity but its place: grid row r is record r of the table in its own order.
+class GridPage : public QObject {
+    Q_OBJECT
+
+public:
+    struct Column {
+        const char16_t* caption;
+        double width; ///< twips
+    };
+    struct Range {
+        int first = 1, last = 0; ///< grid columns; empty by default
+        bool holds(int column) const { return column >= first && column <= last; }
+    };
+    /// The column whose text comes from the date picker, or is typed; none when 0.
+    struct DateColumn {
+        int column = 0;
+        int target = 0; ///< dateTarget
+        bool opensOnEnter = true;
+    };
+    /// The columns where the box is disabled and the calculator opens.
+    struct AmountColumns {
+        Range onClick;
+        Range onEnter;
+        int target = 0; ///< calcTarget
+    };
+    enum class AddTests { LastRow, CurrentRow };
+    enum class AddedBox { TakesCell, KeepsText };
+    enum class LastRow { BlankedBelowThreeRows, BlankedWhenFirst };
+    enum class SavedRows { FromFirstFilled, Every };
+
+    struct Traits {
+        const char16_t* frame;
+        const char16_t* grid;
+        const char16_t* editor;
+        const char16_t* add;             // 增加
+        const char16_t* remove;          // 删除
+        const char16_t* save;            // 保存
+        std::span<const Column> columns; ///< from column 1 on
+        DateColumn date = {};
+        AmountColumns amounts = {};
+        Range shownAsAmounts = {}; ///< set on the right
+        int closedColumn = 0;      ///< any change of the box here disables it
+        bool addCommitsBox = false;
+        AddTests addTests = AddTests::LastRow;
+        AddedBox addedBox = AddedBox::TakesCell;
+        LastRow lastRow = LastRow::BlankedBelowThreeRows;
+        SavedRows savedRows = SavedRows::FromFirstFilled;
+        bool saveReloads = false; ///< the save points Adodc1 at the table first
+        bool saveMovesRow = true; ///< a refused save leaves Row on the failing row
+        bool refreshWhenEmptied = false;
+    };
+
+    GridPage(MainWindow& window, const Traits& traits);
+
+protected:
+    /// The table that delete and save work on.
+    virtual QString table() const = 0;
+    /// Whether a click on a cell does anything at present.
+    virtual bool takesClicks() const { return true; }
+    /// What follows Enter's move to another cell, before the box is laid there.
+    virtual void moved() {}
+    /// Where an empty text of the fill goes.
+    virtual int rowForEmptyText() const { return grid->Row(); }
+
+    void cellClick();
+    void editorClick();
+    void editorKey(int key);
+    void addRow();
+    void deleteRow();
+    void saveRows();
+
+    /// The grid's place, columns and captions.
+    void layOut();
+    /// Captions and widths alone.
+    void layColumns();
+    /// Two rows, the first one current.
+    void startRows();
+    void blankRow(int row);
+    /// One grid row a record, from the current row on; NULL fields leave their cells as they are, the last field is
+    /// never shown.
+    void fill(Recordset& records);
+    /// The page's frame in its place, in front.
+    void hideEditor();
+
+    const Traits& traits;
+    MainWindow& window;
+    Workbench& bench;
+    Adodc& Adodc1;
+    Frame& frame;
+    MSFlexGrid* const grid;
+    TextBox* const editor;
+    CommandButton* const addButton;
+    CommandButton* const removeButton;
+    CommandButton* const saveButton;
+
+private:
+    void bindEvents();
+    void placeEditor();
+    void layEditor();
+    void followScroll();
+    void maskEditor();
+    void openDatePicker();
+    void openCalculator();
+    void openTool(const char16_t* form);
+    void writeBack();
+    bool isBlank(int row) const;
+    bool refusesGap();
+    void emptyTable();
+    void writeRow(Recordset& records, int row, Int16& counter);
+};
+
+} // namespace qinghe

@@ -1,0 +1,18 @@
+#include "app/program.h"
+#include "look/look.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QTranslator chinese;
+    if (chinese.load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&chinese);
+    qinghe::dress(application);
+    qinghe::Program program(qinghe::desktopServices());
+    program.start();
+    return QApplication::exec();
+}
