@@ -1,0 +1,174 @@
+#include "tools/calculator.h"
+
+#include <QKeyEvent>
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
+
+struct Operator {
+    const char16_t* caption;
+    double left, top, width, height; ///< twips
+};
+
+constexpr std::array<Operator, 6> Operators{{
+    {u"+", 2400, 840, 480, 480},
+    {u"-", 2400, 1440, 480, 480},
+    {u"*", 2400, 2040, 480, 480},
+    {u"/", 2400, 2640, 480, 480},
+    {u"x^y", 3000, 840, 495, 600},
+    {u"sqrt", 3000, 1560, 495, 960},
+}};
+
+} // namespace
+
+Calculator::Calculator(Workbench& bench)
+    : Form(u"Form9"_s, Kind::Tool, Ground::Calculator, bench.forms.loaded(u"Form2"_s)),
+      m_bench(bench),
+      Text1(new TextBox(this, u"Text1"_s)) {
+    setCaption(u"数值输入-计算器"_s);
+    place(0, 0, 3735, 3360);
+    Text1->place(240, 240, 3255, 420);
+    Text1->setRole(Role::CalcDisplay);
+    Text1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    Text1->setReadOnly(true);
+    Text1->setFocusPolicy(Qt::NoFocus);
+    Text1->setBoxText(m_machine.display());
+    makeKeys();
+    MouseMove = [this](double, double) {
+        for (CommandButton* hovered : m_keys)
+            if (hovered->BackColor() == Grey)
+                hovered->setBackColor(White);
+    };
+    CloseAsked = [this] {
+        if (m_machine.touched())
+            handBack();
+        else
+            m_bench.forms.unload(objectName());
+    };
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+CommandButton* Calculator::key(const QString& name, const QString& caption, double left, double top, double width,
+                               double height) {
+    auto* made = new CommandButton(this, name, caption);
+    made->place(left, top, width, height);
+    made->setRole(Role::CalcKey);
+    // The keyboard stays with the window: Enter confirms, whatever key was clicked last.
+    made->setFocusPolicy(Qt::NoFocus);
+    made->MouseMove = [made] {
+        made->setHandCursor();
+        made->setBackColor(Grey);
+    };
+    m_keys.push_back(made);
+    return made;
+}
+
+void Calculator::makeKeys() {
+    for (int i = 0; i <= CalculatorMachine::PointKey; ++i) {
+        const bool bottom = i == 0 || i == CalculatorMachine::PointKey;
+        const int column = i == 0 ? 0 : i == CalculatorMachine::PointKey ? 1 : (i - 1) % 3;
+        const int row = bottom ? 3 : (i - 1) / 3;
+        CommandButton* made =
+            key(u"Command1(%1)"_s.arg(i), i == CalculatorMachine::PointKey ? u"."_s : QString::number(i),
+                240 + 720 * column, 840 + 600 * row, 600, 480);
+        made->Click = [this, i] { Form9_Command1_Click(i); };
+        Command1[static_cast<std::size_t>(i)] = made;
+    }
+    for (int i = 0; i < static_cast<int>(Operators.size()); ++i) {
+        const Operator& entry = Operators[static_cast<std::size_t>(i)];
+        CommandButton* made = key(u"Command2(%1)"_s.arg(i), QString::fromUtf16(entry.caption), entry.left, entry.top,
+                                  entry.width, entry.height);
+        made->setRole(Role::CalcOperator);
+        made->Click = [this, i] { Form9_Command2_Click(i); };
+        Command2[static_cast<std::size_t>(i)] = made;
+    }
+    Command3 = key(u"Command3"_s, u"="_s, 1680, 2640, 600, 480);
+    Command4 = key(u"Command4"_s, u"清零"_s, 3000, 2640, 495, 480);
+    Command3->setRole(Role::Primary);
+    Command3->Click = [this] { Form9_Command3_Click(); };
+    Command4->Click = [this] { Form9_Command4_Click(); };
+}
+
+void Calculator::Form9_Command1_Click(int index) {
+    m_machine.pressKey(index);
+    Text1->setBoxText(m_machine.display());
+}
+
+void Calculator::Form9_Command2_Click(int index) {
+    if (m_machine.pressOperator(index) == CalculatorMachine::Outcome::DivisionRefused)
+        m_bench.services.say(u"被除数不能等于零!"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+    Text1->setBoxText(m_machine.display());
+}
+
+void Calculator::Form9_Command3_Click() {
+    m_machine.pressEquals();
+    Text1->setBoxText(m_machine.display());
+}
+
+void Calculator::Form9_Command4_Click() {
+    m_machine.pressClear();
+    Text1->setBoxText(m_machine.display());
+}
+
+bool Calculator::typed(QChar character) {
+    if (character >= u'0' && character <= u'9')
+        Form9_Command1_Click(character.unicode() - u'0');
+    else if (character == u'.')
+        Form9_Command1_Click(CalculatorMachine::PointKey);
+    else if (const auto place = QStringView(u"+-*/").indexOf(character); place >= 0)
+        Form9_Command2_Click(static_cast<int>(place));
+    else
+        return false;
+    return true;
+}
+
+void Calculator::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    handlers::enter([&] {
+        switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            // The Enter that opened the calculator may still be held.
+            if (!event->isAutoRepeat())
+                confirm();
+            break;
+        case Qt::Key_Escape:
+            m_bench.forms.unload(objectName());
+            break;
+        default:
+            if (!event->text().isEmpty())
+                typed(event->text().front());
+        }
+    });
+}
+
+void Calculator::confirm() {
+    if (!m_machine.touched()) {
+        m_bench.forms.unload(objectName());
+        return;
+    }
+    if (m_machine.operationPending())
+        Form9_Command3_Click();
+    handBack();
+}
+
+void Calculator::handBack() {
+    const EditorTarget& target = m_bench.calcFields.at(static_cast<std::size_t>(static_cast<int>(m_bench.calcTarget)));
+    const QString number = Text1->Text();
+    m_bench.forms.unload(objectName());
+    if (!target.box)
+        return;
+    target.box->setBoxText(number);
+    target.grid->setText(target.box->Text());
+    if (target.box->isEnabled())
+        target.box->takeFocus();
+    else
+        target.grid->takeFocus();
+}
+
+} // namespace qinghe

@@ -1,0 +1,94 @@
+#include "tools/date_picker.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 Pine = 0x2C4A1E, White = 0xFFFFFF; ///< the form's own colours
+constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
+
+} // namespace
+
+DatePicker::DatePicker(Workbench& bench)
+    : Form(u"Form1"_s, Kind::QuietTool, Ground::Pine, bench.forms.loaded(u"Form2"_s)),
+      m_bench(bench),
+      m_month(bench.services.clock->today()),
+      Command1(new CommandButton(this, u"Command1"_s, {})),
+      Command2(new CommandButton(this, u"Command2"_s, {})),
+      Label1(new Label(this, u"Label1"_s)),
+      Label2(new Label(this, u"Label2"_s, u" 日  一  二 三  四 五  六"_s)) {
+    setCaption(m_month.captionText());
+    setForeColor(White);
+    setBackColor(Pine);
+    place(0, 0, 3420, 3120);
+    Command2->place(135, 75, 480, 390);
+    Command1->place(2805, 75, 480, 390);
+    Command2->setGlyph(Glyph::Back);
+    Command1->setGlyph(Glyph::Forward);
+    for (CommandButton* arrow : {Command1, Command2}) {
+        arrow->setRole(Role::PickerArrow);
+        arrow->setFocusPolicy(Qt::NoFocus);
+    }
+    Label1->place(840, 75, 1740, 390);
+    Label1->setRole(Role::MonthTitle);
+    Label2->place(135, 510, 3150, 315);
+    Label2->setRole(Role::WeekRow);
+    Command1->Click = [this] { Form1_Command1_Click(); };
+    Command2->Click = [this] { Form1_Command2_Click(); };
+    for (int i = 0; i < MonthGrid::CellCount; ++i) {
+        auto* day = new Label(this, u"Label3(%1)"_s.arg(i));
+        day->place(135 + 450 * (i % 7), 855 + 360 * (i / 7), 450, 360);
+        day->setRole(Role::DayCell);
+        day->Click = [this, i] { Form1_Label3_Click(i); };
+        day->DblClick = [this, i] { Form1_Label3_DblClick(i); };
+        Label3[static_cast<std::size_t>(i)] = day;
+    }
+    showMonth();
+}
+
+void DatePicker::showMonth() {
+    Label1->setCaption(m_month.labelText());
+    for (int i = 0; i < MonthGrid::CellCount; ++i) {
+        const MonthGrid::Cell& cell = m_month.cell(i);
+        Label& day = *Label3[static_cast<std::size_t>(i)];
+        day.setCaption(cell.caption);
+        day.setForeColor(cell.neighbour ? Yellow : ForeColor());
+        day.setBackColor(cell.marked ? Blue : BackColor());
+    }
+}
+
+void DatePicker::Form1_Command1_Click() {
+    m_month.stepForward();
+    showMonth();
+}
+
+void DatePicker::Form1_Command2_Click() {
+    m_month.stepBack();
+    showMonth();
+}
+
+void DatePicker::Form1_Label3_Click(int index) {
+    m_month.select(index);
+    showMonth();
+}
+
+void DatePicker::Form1_Label3_DblClick(int index) {
+    const EditorTarget& target = m_bench.dateFields.at(static_cast<std::size_t>(static_cast<int>(m_bench.dateTarget)));
+    if (target.box) {
+        target.box->setBoxText(m_month.dateTextOf(index));
+        if (target.grid)
+            target.grid->setText(target.box->Text());
+    }
+    m_bench.forms.unload(objectName());
+}
+
+void DatePicker::unloaded() {
+    // The purge window's date is typed nowhere: it is closed again as soon as the picker is gone.
+    if (Form* purge = m_bench.forms.loaded(u"Form3"_s); purge && purge->Visible())
+        if (auto* date = purge->findChild<TextBox*>(u"Text1"_s))
+            date->setUsable(false);
+}
+
+} // namespace qinghe

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/workbench.h"
+#include "tools/month_grid.h"
+
+#include <array>
+
+namespace qinghe {
+
+/// `Form1`: a month that hangs under a date field. A double click on a day puts its text into the field that asked and
+/// into the grid cell behind it. It leaves the keyboard to the field, so that a date can be picked or typed.
+class DatePicker : public Form {
+    Q_OBJECT
+
+public:
+    explicit DatePicker(Workbench& bench);
+
+    void unloaded() override;
+
+    void Form1_Command1_Click(); ///< one month forward
+    void Form1_Command2_Click(); ///< one month back
+    void Form1_Label3_Click(int index);
+    void Form1_Label3_DblClick(int index);
+
+private:
+    void showMonth();
+
+    Workbench& m_bench;
+    MonthGrid m_month;
+    CommandButton* Command1; // forward
+    CommandButton* Command2; // back
+    Label* Label1;           // year and month
+    Label* Label2;           // days of the week
+    std::array<Label*, MonthGrid::CellCount> Label3;
+};
+
+} // namespace qinghe
