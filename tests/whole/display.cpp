@@ -1,0 +1,25 @@
+#include "display.h"
+
+#include <stdexcept>
+
+namespace whole {
+
+Display::Display() {
+    m_server.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"});
+    while (!m_server.canReadLine())
+        if (!m_server.waitForReadyRead(10000))
+            throw std::runtime_error("Xvfb does not start: " + m_server.readAllStandardError().toStdString());
+    qputenv("DISPLAY", ':' + m_server.readLine().trimmed());
+    m_desktop.start(QStringLiteral("jwm"), {"-f", QINGHE_DESKTOP});
+    if (!m_desktop.waitForStarted())
+        throw std::runtime_error("jwm does not start");
+}
+
+Display::~Display() {
+    for (QProcess* process : {&m_desktop, &m_server}) {
+        process->terminate();
+        process->waitForFinished();
+    }
+}
+
+} // namespace whole

@@ -1,0 +1,12 @@
+#include "display.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    const whole::Display display;
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,227 @@
+#include "program.h"
+
+#include <QElapsedTimer>
+#include <QJsonDocument>
+#include <QProcessEnvironment>
+#include <QThread>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace whole {
+
+namespace {
+
+constexpr int PatienceMs = 10000;
+
+QString q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QJsonArray pair(QPoint point) {
+    return {point.x(), point.y()};
+}
+
+/// What the program finds around it: the test's display, home and clock, and the driver.
+QProcessEnvironment environment(const LedgerFolder& folder, const std::string& now, const QString& socket) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("HOME"), folder.beside("home"));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_DRIVER ":" QINGHE_FAKETIME));
+    environment.insert(QStringLiteral("QINGHE_DRIVER_SOCKET"), socket);
+    environment.insert(QStringLiteral("FAKETIME"), u'@' + q(now));
+    environment.insert(QStringLiteral("FAKETIME_DONT_FAKE_MONOTONIC"), QStringLiteral("1"));
+    environment.insert(QStringLiteral("NO_FAKE_STAT"), QStringLiteral("1"));
+    environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    return environment;
+}
+
+} // namespace
+
+std::ostream& operator<<(std::ostream& out, const Message& message) {
+    out << '[' << message.title << "] " << message.text << " (icon " << message.icon << ')';
+    for (const std::string& button : message.buttons)
+        out << " <" << button << '>';
+    return out;
+}
+
+Program::Program(const LedgerFolder& folder, const std::string& now) {
+    static int count = 0;
+    const QString socket = folder.beside("line" + std::to_string(++count));
+    m_process.setProcessEnvironment(environment(folder, now, socket));
+    m_process.setWorkingDirectory(folder.beside(""));
+    m_process.start(folder.file("qinghe"), {});
+    connect(socket);
+}
+
+void Program::connect(const QString& socket) {
+    for (QElapsedTimer timer = {}; m_line.state() != QLocalSocket::ConnectedState; QThread::msleep(2)) {
+        if (!timer.isValid())
+            timer.start();
+        m_line.connectToServer(socket);
+        if (!running() || timer.hasExpired(PatienceMs))
+            throw std::runtime_error("the program does not start: " + whyGone());
+    }
+}
+
+Program::~Program() {
+    kill();
+}
+
+void Program::click(const std::string& at) {
+    ask({{"do", "click"}, {"at", q(at)}});
+}
+
+void Program::click(const std::string& at, QPoint point) {
+    ask({{"do", "click"}, {"at", q(at)}, {"point", pair(point)}});
+}
+
+void Program::doubleClick(const std::string& at) {
+    ask({{"do", "click"}, {"at", q(at)}, {"times", 2}});
+}
+
+void Program::clickCell(const std::string& grid, int row, int col) {
+    ask({{"do", "call"}, {"at", q(grid)}, {"method", "ensureVisible"}, {"arguments", QJsonArray{row, col}}});
+    const QJsonArray cell =
+        ask({{"do", "call"}, {"at", q(grid)}, {"method", "cellRect"}, {"arguments", QJsonArray{row, col}}}).toArray();
+    click(grid, QRect(cell[0].toInt(), cell[1].toInt(), cell[2].toInt(), cell[3].toInt()).center());
+}
+
+void Program::moveTo(const std::string& at) {
+    ask({{"do", "move"}, {"at", q(at)}});
+}
+
+void Program::drag(const std::string& at, QPoint from, QPoint way) {
+    ask({{"do", "drag"}, {"at", q(at)}, {"point", pair(from)}, {"by", pair(way)}});
+}
+
+void Program::key(const std::string& name) {
+    ask({{"do", "key"}, {"key", q(name)}});
+}
+
+void Program::type(const std::string& text) {
+    ask({{"do", "type"}, {"text", q(text)}});
+}
+
+void Program::pick(const std::string& entry) {
+    ask({{"do", "pick"}, {"text", q(entry)}});
+}
+
+void Program::choose(const std::string& file) {
+    ask({{"do", "choose"}, {"file", q(file)}});
+}
+
+void Program::close(const std::string& window) {
+    ask({{"do", "close"}, {"at", q(window)}});
+}
+
+void Program::answer(const std::string& button) {
+    message();
+    ask({{"do", "answer"}, {"button", q(button)}});
+}
+
+bool Program::shows(const std::string& at) {
+    return ask({{"do", "visible"}, {"at", q(at)}}).toBool();
+}
+
+std::string Program::text(const std::string& at) {
+    return get(at, "text").toString().toStdString();
+}
+
+std::string Program::caption(const std::string& frame) {
+    return get(frame, "title").toString().toStdString();
+}
+
+QJsonValue Program::get(const std::string& at, const std::string& property) {
+    return ask({{"do", "get"}, {"at", q(at)}, {"property", q(property)}});
+}
+
+std::string Program::cell(const std::string& grid, int row, int col) {
+    return ask({{"do", "call"}, {"at", q(grid)}, {"method", "TextMatrix"}, {"arguments", QJsonArray{row, col}}})
+        .toString()
+        .toStdString();
+}
+
+bool Program::showsMessage() {
+    return ask({{"do", "message"}}).isObject();
+}
+
+Message Program::message() {
+    waitUntil([this] { return showsMessage(); }, "a message");
+    const QJsonObject shown = ask({{"do", "message"}}).toObject();
+    Message message{shown["text"].toString().toStdString(),
+                    shown["title"].toString().toStdString(),
+                    static_cast<Message::Icon>(shown["icon"].toInt()),
+                    {}};
+    for (const QJsonValue& button : shown["buttons"].toArray())
+        message.buttons.push_back(button.toString().toStdString());
+    return message;
+}
+
+std::vector<std::string> Program::windows() {
+    std::vector<std::string> names;
+    for (const QJsonValue& name : ask({{"do", "windows"}}).toArray())
+        names.push_back(name.toString().toStdString());
+    return names;
+}
+
+void Program::picture(const std::string& file, const std::string& window) {
+    ask({{"do", "picture"}, {"at", q(window)}, {"file", q(file)}});
+}
+
+void Program::waitUntil(const std::function<bool()>& holds, const std::string& what) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!holds()) {
+        if (timer.hasExpired(PatienceMs))
+            throw std::runtime_error("waited in vain for " + what);
+        QThread::msleep(5);
+    }
+}
+
+void Program::waitFor(const std::string& window) {
+    waitUntil(
+        [&] {
+            const std::vector<std::string> shown = windows();
+            return std::find(shown.begin(), shown.end(), window) != shown.end();
+        },
+        window);
+}
+
+bool Program::running() {
+    m_process.waitForFinished(0);
+    return m_process.state() != QProcess::NotRunning;
+}
+
+int Program::exitCode() {
+    if (running() && !m_process.waitForFinished(PatienceMs))
+        throw std::runtime_error("the program does not end");
+    m_errors += m_process.readAllStandardError().toStdString();
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+void Program::kill() {
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+std::string Program::whyGone() {
+    m_errors += m_process.readAllStandardError().toStdString();
+    return running() ? "it runs but does not answer"
+                     : "it has ended with " + std::to_string(exitCode()) + ' ' + m_errors;
+}
+
+QJsonValue Program::ask(QJsonObject command) {
+    const QByteArray line = QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n';
+    m_line.write(line);
+    while (!m_line.canReadLine())
+        if (!m_line.waitForReadyRead(PatienceMs))
+            throw std::runtime_error(line.toStdString() + whyGone());
+    const QJsonObject answer = QJsonDocument::fromJson(m_line.readLine()).object();
+    if (answer.contains("refused"))
+        throw std::runtime_error(line.toStdString() + answer["refused"].toString().toStdString());
+    return answer["value"];
+}
+
+} // namespace whole

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "ledger_folder.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QLocalSocket>
+#include <QPoint>
+#include <QProcess>
+#include <QRect>
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace whole {
+
+/// A message box as its user sees it.
+struct Message {
+    enum Icon { None = 0, Information = 1, Warning = 2, Critical = 3, Question = 4 };
+    std::string text, title;
+    Icon icon = None;
+    std::vector<std::string> buttons;
+
+    bool operator==(const Message&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const Message& message);
+
+/// The program, running in a ledger folder of the test, with a user's hands and eyes. Things are named as
+/// "Form2/Command6"; points are pixels inside the thing. What cannot be done (a button that is not there or is covered,
+/// a program that has ended) throws std::runtime_error, which fails the test.
+///
+/// Each call is answered when the program is idle or waits for its user, so what a click sets off has happened by the
+/// next call.
+class Program {
+public:
+    /// Starts it at this moment of its own clock, which then moves on.
+    explicit Program(const LedgerFolder& folder, const std::string& now = "2024-11-18 20:36:08");
+    /// Kills it when it still runs.
+    ~Program();
+
+    // Hands
+    void click(const std::string& at);
+    void click(const std::string& at, QPoint point);
+    void doubleClick(const std::string& at);
+    void clickCell(const std::string& grid, int row, int col);
+    void moveTo(const std::string& at);
+    void drag(const std::string& at, QPoint from, QPoint way);
+    void key(const std::string& name);
+    void type(const std::string& text);
+    void pick(const std::string& entry);    ///< in an open menu or list
+    void choose(const std::string& file);   ///< in the file chooser
+    void close(const std::string& window);  ///< by the desktop's close button
+    void answer(const std::string& button); ///< presses a button of the message box, waiting for the box first
+
+    // Eyes
+    bool shows(const std::string& at);
+    std::string text(const std::string& at);
+    std::string caption(const std::string& frame);
+    QJsonValue get(const std::string& at, const std::string& property);
+    std::string cell(const std::string& grid, int row, int col);
+    Message message(); ///< waits for one
+    bool showsMessage();
+    std::vector<std::string> windows();
+    void picture(const std::string& file, const std::string& window = {});
+
+    /// Waits until it holds, at most ten seconds.
+    void waitUntil(const std::function<bool()>& holds, const std::string& what);
+    void waitFor(const std::string& window);
+
+    // Life
+    bool running();
+    /// Waits for its end; -1 when it was killed or crashed.
+    int exitCode();
+    void kill();
+    std::string errors() const { return m_errors; }
+
+    /// For what has no word of its own above.
+    QJsonValue ask(QJsonObject command);
+
+private:
+    void connect(const QString& socket);
+    std::string whyGone();
+
+    QProcess m_process;
+    QLocalSocket m_line;
+    std::string m_errors;
+};
+
+} // namespace whole
