@@ -2,6 +2,8 @@
 
 #include <QStringView>
 
+#include <array>
+
 namespace qinghe {
 
 namespace {
@@ -63,8 +65,6 @@ std::optional<ReadDay> readDay(Scanner& scanner) {
         return std::nullopt;
     const bool words = *separator == u'年';
     const bool monthClosed = scanner.take(words ? u'月' : *separator);
-    if (words && !monthClosed)
-        return std::nullopt;
     const int day = monthClosed ? scanner.number(1, 2) : -1;
     const bool monthAlone = day < 0;
     const bool complete = monthAlone ? words == monthClosed : !words || scanner.take(u'日');
@@ -82,27 +82,67 @@ QTime readTime(Scanner& scanner) {
     return QTime(hour, minute, second);
 }
 
-QString padded(int number, int width) {
-    return QString::number(number).rightJustified(width, u'0');
-}
+/// Joins numbers and marks; a table of dates is read and written in one go, so no string is made on the way.
+class Joiner {
+public:
+    Joiner& number(int value, int width = 1) {
+        std::array<char16_t, 12> digits;
+        size_t count = 0;
+        for (; value > 0 || static_cast<int>(count) < width; value /= 10)
+            digits[count++] = static_cast<char16_t>(u'0' + value % 10);
+        while (count > 0)
+            m_text[m_length++] = digits[--count];
+        return *this;
+    }
+
+    Joiner& mark(char16_t mark) {
+        m_text[m_length++] = mark;
+        return *this;
+    }
+
+    Joiner& date(const QDate& day, int yearWidth, int width) {
+        int year = 0;
+        int month = 0;
+        int dayOfMonth = 0;
+        day.getDate(&year, &month, &dayOfMonth);
+        return number(year, yearWidth).mark(u'-').number(month, width).mark(u'-').number(dayOfMonth, width);
+    }
+
+    Joiner& time(const QTime& time, int hourWidth) {
+        return number(time.hour(), hourWidth).mark(u':').number(time.minute(), 2).mark(u':').number(time.second(), 2);
+    }
+
+    QString text() const { return QString::fromUtf16(m_text.data(), static_cast<qsizetype>(m_length)); }
+
+private:
+    std::array<char16_t, 32> m_text;
+    size_t m_length = 0;
+};
 
 } // namespace
 
 QString dateText(const QDate& day) {
-    return QString::number(day.year()) + u'-' + QString::number(day.month()) + u'-' + QString::number(day.day());
+    return Joiner().date(day, 1, 1).text();
 }
 
 QString timeText(const QTime& time) {
-    return QString::number(time.hour()) + u':' + padded(time.minute(), 2) + u':' + padded(time.second(), 2);
+    return Joiner().time(time, 1).text();
 }
 
 QString DateValue::text() const {
-    return time.isValid() ? dateText(day) + u' ' + timeText(time) : dateText(day);
+    Joiner joiner;
+    joiner.date(day, 1, 1);
+    if (time.isValid())
+        joiner.mark(u' ').time(time, 1);
+    return joiner.text();
 }
 
 QString DateValue::iso() const {
-    const QString date = padded(day.year(), 4) + u'-' + padded(day.month(), 2) + u'-' + padded(day.day(), 2);
-    return time.isValid() ? date + u' ' + padded(time.hour(), 2) + timeText(time).right(6) : date;
+    Joiner joiner;
+    joiner.date(day, 4, 2);
+    if (time.isValid())
+        joiner.mark(u' ').time(time, 2);
+    return joiner.text();
 }
 
 std::optional<DateValue> parseDate(const QString& text) {

@@ -42,11 +42,6 @@ double quotient(double first, double second) {
     return first / second;
 }
 
-double power(double base, double exponent) {
-    const bool noResult = base == 0 && exponent < 0;
-    return noResult ? std::nan("") : std::pow(base, exponent);
-}
-
 double calculated(CalculatorMachine::Operator operation, double first, double second) {
     switch (operation) {
     case CalculatorMachine::Plus:
@@ -58,7 +53,7 @@ double calculated(CalculatorMachine::Operator operation, double first, double se
     case CalculatorMachine::Divide:
         return checked(quotient(first, second));
     case CalculatorMachine::Power:
-        return checked(power(first, second));
+        return checked(std::pow(first, second));
     default:
         return 0; // a second operand typed behind "sqr" leaves nothing to compute
     }

@@ -65,6 +65,7 @@ TEST(FormatNumber, PutsAZeroWhereThePatternDemandsOne) {
     expectFormatted(table, u"0.00元"_qs);
     EXPECT_EQ(formatNumber(7, u"000"_qs), u"007");
     EXPECT_EQ(formatNumber(7, u"#00"_qs), u"07");
+    EXPECT_EQ(formatNumber(7, u"0#"_qs), u"07");
     EXPECT_EQ(formatNumber(2.5, u"0"_qs), u"3");
 }
 

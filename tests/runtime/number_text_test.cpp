@@ -152,6 +152,13 @@ TEST(LeadingNumber, OverflowsBeyondTheRangeOfADouble) {
     }
 }
 
+TEST(LeadingNumber, IsZeroForANumberTooSmallForADouble) {
+    const QString tiny = u"0."_qs + QString(400, u'0') + u"1"_qs;
+    for (const QString& text : {tiny, u'-' + tiny, tiny + u"E"_qs, tiny + u"E+2"_qs, u"1E-400"_qs})
+        EXPECT_EQ(leadingNumber(text), 0) << text.toStdString();
+    EXPECT_EQ(leadingNumber(tiny + u"E+402"_qs), 10);
+}
+
 TEST(LeadingNumber, ReadsBackWhatEveryTextFormWrites) {
     for (const double value : {0.0, 0.5, -0.5, 1250.5, -30.0, 1e15, 2.5e-10, 123456789.25}) {
         EXPECT_EQ(leadingNumber(numberText(value)), value);
