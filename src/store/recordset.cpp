@@ -197,7 +197,7 @@ Field Recordset::field(int ordinal) {
     return Field(*this, ordinal);
 }
 
-Field Recordset::field(const QString& name) {
+Field Recordset::field(QStringView name) {
     const TableColumns& columns = m->rows->shape().columns;
     const auto found = std::ranges::find(columns, name, &Column::name);
     if (found == columns.end())
@@ -220,21 +220,19 @@ Value Field::value() const {
 }
 
 QString Field::text() const {
-    const auto& set = *m_set->m;
-    return !set.adding && !pending() && set.onRow() ? set.rows->text(set.current, m_ordinal) : value().text();
+    return stored() ? stored()->text(m_set->m->current, m_ordinal) : value().text();
 }
 
 bool Field::isNull() const {
-    const auto& set = *m_set->m;
-    return !set.adding && !pending() && set.onRow() ? set.rows->isNull(set.current, m_ordinal) : value().isNull();
+    return stored() ? stored()->isNull(m_set->m->current, m_ordinal) : value().isNull();
 }
 
 bool Field::differsFromEmpty() const {
-    return !isNull() && !text().isEmpty();
+    return stored() ? stored()->holdsText(m_set->m->current, m_ordinal) : value().holdsText();
 }
 
 bool Field::equalsEmpty() const {
-    return !isNull() && text().isEmpty();
+    return !isNull() && !differsFromEmpty();
 }
 
 void Field::setValue(const Value& value) {
@@ -257,6 +255,11 @@ void Field::appendChunk(const QByteArray& bytes) {
 
 const Column& Field::column() const {
     return m_set->m->rows->shape().columns[static_cast<size_t>(m_ordinal)];
+}
+
+const ResultSet* Field::stored() const {
+    const auto& set = *m_set->m;
+    return !set.adding && !pending() && set.onRow() ? set.rows.get() : nullptr;
 }
 
 const std::optional<Value>& Field::pending() const {

@@ -48,8 +48,8 @@ public:
     void find(const QString& criterion);
 
     int fieldCount() const;
-    Field field(int ordinal);         ///< 0-based; throws RuntimeError (3265, no such item)
-    Field field(const QString& name); ///< throws likewise
+    Field field(int ordinal);      ///< 0-based; throws RuntimeError (3265, no such item)
+    Field field(QStringView name); ///< throws likewise
 
 private:
     friend class Field;
@@ -81,6 +81,7 @@ private:
     friend class Recordset;
     Field(Recordset& set, int ordinal) : m_set(&set), m_ordinal(ordinal) {}
     const Column& column() const;
+    const ResultSet* stored() const; ///< the rows, when what they hold in the current one is the field's value
     const std::optional<Value>& pending() const; ///< what was set and not yet stored
 
     Recordset* m_set;

@@ -16,6 +16,11 @@ QString ResultSet::text(int row, int column) const {
     return decodedText(stored(row, column), m_shape.columns[static_cast<size_t>(column)].kind);
 }
 
+bool ResultSet::holdsText(int row, int column) const {
+    const Cell& cell = m_cells[cellIndex(row, column)];
+    return cell.storage != Storage::Null && (cell.storage != Storage::Text || cell.length > 0);
+}
+
 std::span<const qint64> ResultSet::identities(int row) const {
     const auto index = static_cast<size_t>(row);
     if (!m_shape.writable())

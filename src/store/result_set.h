@@ -33,6 +33,8 @@ public:
     bool isNull(int row, int column) const;
     Value value(int row, int column) const;
     QString text(int row, int column) const;
+    /// Whether the cell is neither NULL nor an empty text.
+    bool holdsText(int row, int column) const;
     /// The stored rows behind a row; none in a set that is read only.
     std::span<const qint64> identities(int row) const;
 
