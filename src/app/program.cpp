@@ -40,6 +40,8 @@ Program::Program(Services services) : m_bench(std::move(services)) {
 }
 
 Program::~Program() {
+    handlers::bar();
+    m_bench.forms.clear();
     handlers::reset();
 }
 

@@ -1,10 +1,23 @@
 #include "platform/forms.h"
 
+#include <QPointer>
+
+#include <vector>
+
 namespace qinghe {
 
 Forms::~Forms() {
+    clear();
+}
+
+void Forms::clear() {
+    // A window that hangs off another one is deleted with it.
+    std::vector<QPointer<Form>> left;
     for (auto& [name, form] : m_forms)
-        delete form;
+        left.emplace_back(form);
+    m_forms.clear();
+    for (const QPointer<Form>& form : left)
+        delete form.data();
 }
 
 void Forms::define(const QString& name, Maker maker) {

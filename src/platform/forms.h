@@ -27,6 +27,8 @@ public:
     Form* loaded(const QString& name) const;
     /// Harmless when the form is not loaded. The window goes at once, the object when the handlers have returned.
     void unload(const QString& name);
+    /// Takes all forms away at once, without their unload handlers.
+    void clear();
     bool anyLoaded() const { return !m_forms.empty(); }
 
 private:

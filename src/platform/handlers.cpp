@@ -117,6 +117,10 @@ bool ending() {
     return state().ending;
 }
 
+void bar() {
+    state().ending = true;
+}
+
 void reset() {
     state() = State{};
 }

@@ -33,6 +33,8 @@ void enter(const std::function<void()>& handler);
 int depth();
 /// Whether the program is ending: no further handler runs.
 bool ending();
+/// Lets no further handler run: the program is being taken apart.
+void bar();
 /// Lets handlers run again; for tests, which start many programs in one process.
 void reset();
 

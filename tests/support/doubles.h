@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/services.h"
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+/// What stands in for the desktop in tests: the clock, message boxes, the tray, the browser, the lock of the folder and
+/// the end of the process. Everything else is real.
+namespace qinghe::testing {
+
+class FixedClock : public Clock {
+public:
+    QDateTime now() const override { return time; }
+    QDateTime time{QDate(2024, 6, 18), QTime(20, 36, 8)};
+};
+
+struct ShownMessage {
+    QString text;
+    int style = 0;
+    QString title;
+    bool operator==(const ShownMessage&) const = default;
+};
+
+/// Notes every box and answers it at once: with the answers lined up, else with OK (Yes where it asks Yes or No).
+class AnsweringMessages : public MessageBoxes {
+public:
+    Answer show(const QString& text, MessageStyle style, const QString& title) override;
+    void showError(int number, const QString& text) override { errors.push_back({number, text}); }
+
+    std::vector<ShownMessage> shown;
+    std::vector<std::pair<int, QString>> errors;
+    std::vector<Answer> answers;                         ///< for the next boxes
+    std::function<void(const ShownMessage&)> whileShown; ///< runs while a box is open
+};
+
+class NotingTray : public Tray {
+public:
+    bool available() const override { return present; }
+    void add(const TrayData& data, std::function<void(int)> onMessage) override {
+        added.push_back(data);
+        send = std::move(onMessage);
+    }
+
+    bool present = true;
+    std::vector<TrayData> added;
+    std::function<void(int message)> send;
+};
+
+class NotingLauncher : public Launcher {
+public:
+    void explore(const QUrl& page) override { opened.push_back(page); }
+    std::vector<QUrl> opened;
+};
+
+class GivenLock : public InstanceLock {
+public:
+    bool tryTake() override { return free; }
+    bool free = true;
+};
+
+class NotedEnd : public Process {
+public:
+    void end(int code) override {
+        if (codes.empty())
+            codes.push_back(code);
+    }
+    std::vector<int> codes; ///< empty while the program runs
+};
+
+} // namespace qinghe::testing

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "app/program.h"
+#include "core/main_window.h"
+#include "support/doubles.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace qinghe::testing {
+
+/// A whole program in a temporary folder of its own, with a real data file, real windows and real events; only the
+/// desktop's services are doubles. The data file is as delivered: one user 管理员 with the password 123456, settings
+/// false, small pictures; the ledgers are empty.
+class ProgramRig {
+public:
+    ProgramRig();
+    ~ProgramRig();
+
+    /// Makes the program and shows the sign-in. Called by signIn; call it yourself to test what comes before.
+    void start();
+    /// Starts and signs in as 管理员: the main window stands.
+    void signIn();
+    /// Lets go of the running program, as the end of its process would, and keeps the folder.
+    void stop();
+
+    /// A control by the names of its form and itself: control<Label>("Form2", "Label2(0)"). Fails the test when there is
+    /// none.
+    template<class T>
+    T& control(const QString& form, const QString& name) {
+        Form* found = program->bench().forms.loaded(form);
+        T* child = found ? found->findChild<T*>(name) : nullptr;
+        if (!child)
+            qFatal("no control %s on %s", qPrintable(name), qPrintable(form));
+        return *child;
+    }
+    template<class T>
+    T& onMain(const QString& name) {
+        return control<T>(QStringLiteral("Form2"), name);
+    }
+    Form* loaded(const QString& form) { return program->bench().forms.loaded(form); }
+    MainWindow& mainWindow() { return static_cast<MainWindow&>(*loaded(QStringLiteral("Form2"))); }
+    Frame& frame(const QString& name) { return onMain<Frame>(name); }
+
+    // Events, as a user makes them.
+    static void click(QWidget& widget);
+    static void doubleClick(QWidget& widget);
+    static void press(QWidget& widget, Qt::Key key);
+    static void type(QWidget& widget, const QString& text);
+    /// Moves the pointer over the widget.
+    static void hover(QWidget& widget);
+    /// Clicks a cell of a grid, scrolled into view first.
+    static void clickCell(MSFlexGrid& grid, int row, int col);
+    /// Lets waiting events and queued calls run.
+    static void settle();
+
+    /// A row of a grid, cells from column 1 on, joined with "|".
+    static QString rowText(const MSFlexGrid& grid, int row);
+
+    QString file(const QString& name) const { return QDir(folder()).filePath(name); }
+    QString folder() const { return m_dir->path(); }
+    QString dataFile() const { return file(QStringLiteral("data.dll")); }
+
+    /// Runs SQL on the data file through a connection of its own (rows as texts joined with "|"; NULL reads "NULL"), for
+    /// preparing and for looking. Works while the program runs, between handlers, and on a spoilt header too.
+    QStringList sql(const QString& text);
+    /// Bytes 1 and 2 of the data file.
+    QByteArray headerBytes() const;
+
+    bool ended() const { return !process->codes.empty(); }
+    int exitCode() const { return process->codes.empty() ? -1 : process->codes.front(); }
+    ShownMessage lastMessage() const { return messages->shown.empty() ? ShownMessage{} : messages->shown.back(); }
+
+    // The doubles; owned by the program while it runs, renewed at each start.
+    FixedClock* clock = nullptr;
+    AnsweringMessages* messages = nullptr;
+    NotingTray* tray = nullptr;
+    NotingLauncher* launcher = nullptr;
+    GivenLock* lock = nullptr;
+    NotedEnd* process = nullptr;
+
+    std::unique_ptr<Program> program;
+
+private:
+    Services makeServices();
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    Services m_spare;
+};
+
+/// Writes a data file as delivered, header spoilt, at `path`.
+void writeDeliveredData(const QString& path);
+
+} // namespace qinghe::testing
