@@ -1,0 +1,136 @@
+#include "look/fields.h"
+
+#include "look/colours.h"
+#include "look/drawing.h"
+#include "look/fonts.h"
+#include "look/glyphs.h"
+#include "platform/flex_grid.h"
+
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QStyleOption>
+#include <QTextBlock>
+#include <QTextLayout>
+
+namespace qinghe {
+namespace {
+
+/// What a one-line text box adds at each side of its text.
+constexpr int BoxMargin = 2;
+constexpr int FieldMargin = 6;
+constexpr double NarrowTwips = 900;
+
+bool isEditor(const QWidget* widget) {
+    const Placed* placed = Placed::of(widget);
+    return placed && placed->role() == Role::CellEditor;
+}
+
+/// The grid beneath an editor: the sibling that its middle lies on.
+const MSFlexGrid* gridUnder(const QWidget& editor) {
+    const QWidget* parent = editor.parentWidget();
+    if (!parent)
+        return nullptr;
+    for (const MSFlexGrid* grid : parent->findChildren<MSFlexGrid*>(Qt::FindDirectChildrenOnly))
+        if (grid->geometry().contains(editor.geometry().center()))
+            return grid;
+    return nullptr;
+}
+
+void paintEditor(const QStyleOption& option, QPainter& painter) {
+    if (option.state & QStyle::State_Enabled)
+        paintPanel(painter, option.rect, 0, colour::White, colour::LeafDeep, 2);
+    else
+        paintPanel(painter, option.rect, 0, colour::EditorOff, colour::LeafDeep, 1.5);
+}
+
+void paintBox(const QStyleOption& option, QPainter& painter) {
+    if (!(option.state & QStyle::State_Enabled))
+        paintPanel(painter, option.rect, 3, colour::OffBg, colour::OffLine);
+    else if (option.state & QStyle::State_HasFocus)
+        paintPanel(painter, option.rect, 3, colour::White, colour::LeafDeep, 1.8);
+    else
+        paintPanel(painter, option.rect, 3, colour::White, colour::Ctl);
+}
+
+} // namespace
+
+CellMargins cellMargins(const MSFlexGrid& grid, int col) {
+    if (grid.ColWidth(col) < NarrowTwips)
+        return {2, 4, type::Small};
+    return {4, grid.isAmountColumn(col) ? 10 : 4, type::Body};
+}
+
+void fitEditor(QLineEdit& editor) {
+    const MSFlexGrid* grid = gridUnder(editor);
+    if (!grid)
+        return;
+    const QFont font = sans(cellMargins(*grid, grid->Col()).points);
+    if (editor.font() != font)
+        editor.setFont(font);
+    const Qt::Alignment side = grid->isAmountColumn(grid->Col()) ? Qt::AlignRight : Qt::AlignLeft;
+    if (!(editor.alignment() & side))
+        editor.setAlignment(side | Qt::AlignVCenter);
+}
+
+void paintField(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    if (widget && qobject_cast<const QComboBox*>(widget->parentWidget()))
+        return; // the list paints the box
+    isEditor(widget) ? paintEditor(option, painter) : paintBox(option, painter);
+}
+
+QRect fieldText(const QRect& field, const QWidget* widget) {
+    if (widget && qobject_cast<const QComboBox*>(widget->parentWidget()))
+        return field;
+    if (!isEditor(widget))
+        return field.adjusted(FieldMargin - BoxMargin, 1, BoxMargin - FieldMargin, -1);
+    const MSFlexGrid* grid = gridUnder(*widget);
+    const CellMargins margins = grid ? cellMargins(*grid, grid->Col()) : CellMargins{4, 4, type::Body};
+    return field.adjusted(margins.left - BoxMargin, 0, BoxMargin - margins.right, 0);
+}
+
+void paintWritingPaper(const QPlainTextEdit& text) {
+    QWidget* paper = text.viewport();
+    QPainter painter(paper);
+    const double margin = text.document()->documentMargin();
+    const auto rule = [&](double foot) {
+        paintRule(painter, margin, paper->width() - margin, foot - 1, colour::PaperLine);
+    };
+    // The lines that are written, each where its text stands, and empty ones below them.
+    const QTextCursor first = text.cursorForPosition(QPoint(0, 0));
+    double foot = 0, shift = 0;
+    bool measured = false;
+    for (QTextBlock block = first.block(); block.isValid() && foot < paper->height(); block = block.next()) {
+        const QTextLayout* layout = block.layout();
+        if (!measured) {
+            shift = text.cursorRect(first).top() - layout->lineForTextPosition(first.positionInBlock()).y();
+            measured = true;
+        }
+        for (int i = 0; i < layout->lineCount(); ++i) {
+            foot = shift + layout->lineAt(i).y() + layout->lineAt(i).height();
+            rule(foot);
+        }
+        shift = foot;
+    }
+    const double spacing = QFontMetricsF(text.font()).lineSpacing();
+    for (foot += spacing; foot < paper->height() - margin / 2; foot += spacing)
+        rule(foot);
+}
+
+void paintCombo(const QStyleOption& option, QPainter& painter) {
+    paintBox(option, painter);
+    const QRectF arrow(option.rect.right() - 17, option.rect.center().y() - 5, 12, 12);
+    paintGlyph(painter, Glyph::Down, arrow, option.state & QStyle::State_Enabled ? colour::LeafDeep : colour::Off);
+}
+
+void paintComboWords(const QStyleOptionComboBox& option, QPainter& painter) {
+    if (option.editable)
+        return;
+    const QRect room = option.rect.adjusted(FieldMargin, 0, -20, 0);
+    paintLine(painter, room, Qt::AlignLeft, option.currentText, painter.font(),
+              option.state & QStyle::State_Enabled ? colour::Ink : colour::Off);
+}
+
+} // namespace qinghe

@@ -1,0 +1,101 @@
+#include "look/fonts.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace qinghe {
+namespace {
+
+/// The first family that is here. Qt is asked for no other: a missing one costs it a search through all fonts.
+QString firstOf(const QStringList& families) {
+    const QStringList here = QFontDatabase::families();
+    const auto found =
+        std::find_if(families.begin(), families.end(), [&](const QString& name) { return here.contains(name); });
+    return found == families.end() ? QString() : *found;
+}
+
+const QString& sansFamily() {
+    static const QString family = firstOf({QStringLiteral("Microsoft YaHei UI"), QStringLiteral("PingFang SC"),
+                                           QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("Noto Sans CJK SC"),
+                                           QStringLiteral("WenQuanYi Zen Hei")});
+    return family;
+}
+
+const QString& serifFamily() {
+    static const QString family = firstOf({QStringLiteral("SimSun"), QStringLiteral("宋体"),
+                                           QStringLiteral("Songti SC"), QStringLiteral("Noto Serif CJK SC"),
+                                           QStringLiteral("Source Han Serif SC"), QStringLiteral("AR PL UMing CN")});
+    return family;
+}
+
+/// UMing alone has no bold face and is not thickened by Qt.
+bool serifLacksBold() {
+    return serifFamily() == QLatin1String("AR PL UMing CN");
+}
+
+QFont fontOf(const QString& family, double points, bool bold) {
+    static const double dotsPerInch = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    QFont font;
+    if (!family.isEmpty())
+        font.setFamilies({family});
+    font.setPointSizeF(points * 96 / dotsPerInch);
+    font.setBold(bold);
+    return font;
+}
+
+struct Face {
+    Role role;
+    double points;
+    bool bold;
+};
+
+constexpr Face faces[] = {
+    {Role::ProductName, type::Product, true}, {Role::PageLabel, type::Page, false},
+    {Role::ClockText, type::Small, false},    {Role::Link, type::Small, false},
+    {Role::Total, type::Long, true},          {Role::SignInButton, type::Heading, true},
+    {Role::MonthTitle, type::Long, true},     {Role::Help, type::Small, false},
+    {Role::Caution, type::Small, false},      {Role::ReminderText, type::Heading, false},
+    {Role::CalcKey, type::Heading, false},    {Role::CalcDisplay, type::Page, false},
+    {Role::WeekRow, type::Small, false},
+};
+
+} // namespace
+
+QFont sans(double points, bool bold) {
+    return fontOf(sansFamily(), points, bold);
+}
+
+QFont figureFont() {
+    return fontOf(serifFamily(), type::Message, !serifLacksBold());
+}
+
+QFont fontFor(Role role) {
+    if (role == Role::Figure)
+        return figureFont();
+    const auto face = std::find_if(std::begin(faces), std::end(faces), [=](const Face& f) { return f.role == role; });
+    return face == std::end(faces) ? sans(type::Body) : sans(face->points, face->bold);
+}
+
+void drawFigure(QPainter& painter, const QPointF& baseline, const QString& text) {
+    painter.drawText(baseline, text);
+    if (!serifLacksBold())
+        return;
+    QPainterPath outline;
+    outline.addText(baseline, painter.font(), text);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(outline, QPen(painter.pen().color(), 0.35));
+    painter.restore();
+}
+
+double linePitch(const QFont& font) {
+    return 1.5 * QFontInfo(font).pixelSize();
+}
+
+} // namespace qinghe

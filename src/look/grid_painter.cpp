@@ -1,0 +1,158 @@
+#include "look/grid_painter.h"
+
+#include "look/colours.h"
+#include "look/drawing.h"
+#include "look/fields.h"
+#include "look/fonts.h"
+#include "platform/flex_grid.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScrollBar>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace qinghe {
+namespace {
+
+constexpr QColor UprightLine = colour::fromRgb(0xE6EEDF), CaptionMark = colour::fromRgb(0xC5DBB3);
+constexpr double Corner = 4;
+
+/// Fills a part of the grid; where the part lies in a corner of the grid, the corner is cut round.
+void fillPart(QPainter& painter, const QRect& part, const QWidget& widget, const MSFlexGrid& grid,
+              const QColor& colour) {
+    const QRect whole = grid.rect().translated(-widget.mapTo(&grid, QPoint()));
+    const bool touches = (part.left() <= whole.left() || part.right() >= whole.right()) &&
+                         (part.top() <= whole.top() || part.bottom() >= whole.bottom());
+    if (!touches)
+        return painter.fillRect(part, colour);
+    QPainterPath round;
+    round.addRoundedRect(whole, Corner, Corner);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(part, Qt::IntersectClip);
+    painter.fillPath(round, colour);
+    painter.restore();
+}
+
+QColor paperWhite() {
+    return colour::faded(colour::White, 92);
+}
+
+bool isCurrentRow(const MSFlexGrid& grid, int row) {
+    return grid.marksCurrent() && row == grid.Row();
+}
+
+/// The ground of a data row: the current one is marked, every second one is tinted.
+QColor bandOf(const MSFlexGrid& grid, int row) {
+    if (isCurrentRow(grid, row))
+        return colour::CurrentRow;
+    return row % 2 == 0 ? colour::LeafMist : QColor();
+}
+
+int rowPixels() {
+    return pixelEdge(MSFlexGrid::DefaultRowHeight);
+}
+
+/// Rules for rows that are not there yet.
+void paintRules(QPainter& painter, const QRect& room) {
+    for (int y = room.top() + rowPixels(); y <= room.bottom(); y += rowPixels())
+        paintRule(painter, room.left(), room.right() + 1, y - 1, colour::PaperRule);
+}
+
+void paintCaption(const QStyleOptionHeader& option, QPainter& painter, const MSFlexGrid& grid) {
+    const int col = option.section + 1;
+    paintUpright(painter, option.rect.right(), option.rect.top() + 4, option.rect.bottom() - 3, CaptionMark);
+    paintLine(painter, cellTextRoom(option.rect, grid, col), grid.isAmountColumn(col) ? Qt::AlignRight : Qt::AlignLeft,
+              option.text, sans(std::min(cellMargins(grid, col).points, type::Caption), true),
+              grid.isEnabled() ? colour::LeafDark : colour::Ink2);
+}
+
+void paintMarker(const QStyleOptionHeader& option, QPainter& painter, const MSFlexGrid& grid) {
+    const QRect cell = option.rect;
+    paintRule(painter, cell.left(), cell.right() + 1, cell.bottom(), colour::Line);
+    paintUpright(painter, cell.right(), cell.top(), cell.bottom(), UprightLine);
+    if (!isCurrentRow(grid, option.section + 1))
+        return;
+    const QPointF tip(cell.center().x() + 2.5, cell.top() + cell.height() / 2.0);
+    const QPointF triangle[] = {tip, tip + QPointF(-5.5, -4.5), tip + QPointF(-5.5, 4.5)};
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour::LeafDeep);
+    painter.drawPolygon(triangle, 3);
+    painter.restore();
+}
+
+bool isSideways(const QWidget& header) {
+    const auto* view = qobject_cast<const QHeaderView*>(&header);
+    return !view || view->orientation() == Qt::Horizontal;
+}
+
+} // namespace
+
+const MSFlexGrid* gridOf(const QWidget* part) {
+    for (; part; part = part->parentWidget())
+        if (const auto* grid = qobject_cast<const MSFlexGrid*>(part))
+            return grid;
+    return nullptr;
+}
+
+QRect cellTextRoom(const QRect& cell, const MSFlexGrid& grid, int col) {
+    const CellMargins margins = cellMargins(grid, col);
+    return cell.adjusted(margins.left, 0, -margins.right, 0);
+}
+
+void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFlexGrid& grid) {
+    const QRect room = option.rect;
+    const QWidget& viewport = *grid.viewport();
+    fillPart(painter, room, viewport, grid, paperWhite());
+    int foot = room.top();
+    for (int row = std::max(0, grid.rowAt(0)); row < grid.Rows() - 1 && foot <= room.bottom(); ++row) {
+        const QRect band(room.left(), grid.rowViewportPosition(row), room.width(), grid.rowHeight(row));
+        if (const QColor colour = bandOf(grid, row + 1); colour.isValid())
+            painter.fillRect(band, colour);
+        paintRule(painter, band.left(), band.right() + 1, band.bottom(), colour::Line);
+        foot = band.bottom() + 1;
+    }
+    paintRules(painter, {room.left(), foot, room.width(), room.bottom() - foot + 1});
+}
+
+void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFlexGrid& grid) {
+    const int row = option.index.row() + 1, col = option.index.column() + 1;
+    const QRect cell = option.rect;
+    paintUpright(painter, cell.right(), cell.top(), cell.bottom(), UprightLine);
+    if (isCurrentRow(grid, row) && col == grid.Col())
+        paintPanel(painter, cell, 0, colour::LeafSel, colour::LeafDeep, 1.6);
+    paintLine(painter, cellTextRoom(cell, grid, col), grid.isAmountColumn(col) ? Qt::AlignRight : Qt::AlignLeft,
+              option.text, sans(cellMargins(grid, col).points), grid.isEnabled() ? colour::Ink : colour::Ink2);
+}
+
+void paintGridEdge(const QStyleOption& option, QPainter& painter) {
+    paintPanel(painter, option.rect, Corner, Qt::NoBrush, colour::GridEdge);
+}
+
+void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid) {
+    const bool captions = isSideways(widget);
+    fillPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : colour::MarkerColumn);
+    if (!captions)
+        return paintMarker(option, painter, grid);
+    if (qobject_cast<const QHeaderView*>(&widget))
+        paintCaption(option, painter, grid);
+    else
+        paintUpright(painter, option.rect.right(), option.rect.top() + 4, option.rect.bottom() - 3, CaptionMark);
+    paintRule(painter, option.rect.left(), option.rect.right() + 1, option.rect.bottom(), colour::CaptionBase);
+}
+
+void paintHeaderRest(const QStyleOption& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid) {
+    const bool captions = isSideways(widget);
+    fillPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : paperWhite());
+    if (captions)
+        paintRule(painter, option.rect.left(), option.rect.right() + 1, option.rect.bottom(), colour::CaptionBase);
+    else
+        paintRules(painter, option.rect);
+}
+
+} // namespace qinghe

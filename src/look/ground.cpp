@@ -1,0 +1,139 @@
+#include "look/ground.h"
+
+#include "look/art.h"
+#include "look/colours.h"
+#include "look/drawing.h"
+#include "look/pictures.h"
+#include "platform/form.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace qinghe {
+namespace {
+
+constexpr double ShelfTop = 71, ShelfFoot = 106;
+
+QColor white(double percent) {
+    return colour::faded(colour::White, percent);
+}
+
+/// Keeps words in the title band legible on any picture.
+void paintVeil(QPainter& painter, const QRectF& window, bool dark) {
+    const QRectF band(0, 0, window.width(), ShelfTop + 1);
+    if (dark)
+        return painter.fillRect(band, white(84));
+    QLinearGradient down(0, 0, 0, band.height());
+    down.setColorAt(0, white(43));
+    down.setColorAt(1, white(27));
+    painter.fillRect(band, down);
+    QLinearGradient fromLeft(0, 0, 290, 0);
+    fromLeft.setColorAt(0, white(59));
+    fromLeft.setColorAt(1, white(0));
+    painter.fillRect(QRectF(0, 0, 290, band.height()), fromLeft);
+    QLinearGradient fromRight(window.width(), 0, 600, 0);
+    fromRight.setColorAt(0, white(47));
+    fromRight.setColorAt(1, white(0));
+    painter.fillRect(QRectF(600, 0, window.width() - 600, band.height()), fromRight);
+}
+
+/// The shelf on which the page labels stand.
+void paintShelf(QPainter& painter, const QRectF& window) {
+    painter.fillRect(onPixels(painter, QRectF(0, ShelfTop, window.width(), ShelfFoot - ShelfTop)), white(84));
+    paintRule(painter, 0, window.width(), ShelfTop - 1, white(84));
+    paintRule(painter, 0, window.width(), ShelfFoot, colour::faded(colour::fromRgb(0x28501E), 16));
+}
+
+/// A hair round the window, which follows its cut corners; the main window's lower corners are square.
+void paintEdge(QPainter& painter, const QRectF& window, double radius, bool squareFoot) {
+    const QColor edge = colour::faded(colour::fromRgb(0x28501E), 35);
+    const double pen = hair(painter);
+    QPainterPath ring; // between the two outlines
+    ring.addRect(window);
+    ring.addRoundedRect(window.adjusted(pen, pen, -pen, squareFoot ? 2 * radius : -pen), radius, radius);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(window, Qt::IntersectClip);
+    painter.fillPath(ring, edge);
+    painter.restore();
+    if (squareFoot)
+        paintRule(painter, pen, window.width() - pen, window.height() - 1, edge);
+}
+
+void paintPicture(QPainter& painter, const Form& form) {
+    if (form.picture().isNull()) {
+        QLinearGradient field(0, 0, 0, form.height());
+        field.setColorAt(0, colour::DialogFrom);
+        field.setColorAt(1, colour::DialogTo);
+        painter.fillRect(form.rect(), field);
+    } else {
+        painter.drawPixmap(0, 0, scaledPicture(form.picture(), form.size(), painter.device()->devicePixelRatioF()));
+    }
+}
+
+void paintMain(QPainter& painter, const Form& form) {
+    const QRectF window = form.rect();
+    paintPicture(painter, form);
+    paintVeil(painter, window, onDarkPicture(form));
+    paintShelf(painter, window);
+    paintEdge(painter, window, 5, true);
+}
+
+/// The room below the lowest control.
+double freeMargin(const Form& form) {
+    int lowest = 0;
+    for (const QObject* child : form.children())
+        if (const auto* control = qobject_cast<const QWidget*>(child); control && !control->isHidden())
+            lowest = std::max(lowest, control->geometry().bottom() + 1);
+    return form.height() - lowest;
+}
+
+void paintDialog(QPainter& painter, const Form& form) {
+    QLinearGradient field(0, 0, 0, form.height());
+    field.setColorAt(0, colour::DialogFrom);
+    field.setColorAt(1, colour::DialogTo);
+    painter.fillRect(form.rect(), field);
+    const double high = std::min(15.0, freeMargin(form) - 2);
+    if (high >= 6)
+        paintSeedlings(painter, {.left = 8,
+                                 .right = form.width() - 4.0,
+                                 .foot = static_cast<double>(form.height()),
+                                 .low = std::min(10.0, high * 2 / 3),
+                                 .high = high,
+                                 .opacity = 0.55});
+}
+
+} // namespace
+
+void paintGround(QPainter& painter, const Form& form) {
+    switch (form.ground()) {
+    case Ground::Main:
+        return paintMain(painter, form);
+    case Ground::SignIn:
+        paintPicture(painter, form);
+        return paintEdge(painter, form.rect(), 6, false);
+    case Ground::Dialog:
+        return paintDialog(painter, form);
+    case Ground::Pine:
+        return painter.fillRect(form.rect(), colour::Pine);
+    case Ground::Calculator:
+        return painter.fillRect(form.rect(), colour::CalculatorGround);
+    }
+}
+
+bool onDarkPicture(const QWidget& control) {
+    const auto* form = qobject_cast<const Form*>(control.window());
+    if (!form || form->picture().isNull())
+        return false;
+    static qint64 key = 0;
+    static bool dark = false;
+    if (key != form->picture().cacheKey()) {
+        key = form->picture().cacheKey();
+        dark = isDark(form->picture());
+    }
+    return dark;
+}
+
+} // namespace qinghe

@@ -1,0 +1,294 @@
+#include "look/style.h"
+
+#include "look/bars.h"
+#include "look/buttons.h"
+#include "look/colours.h"
+#include "look/drawing.h"
+#include "look/fields.h"
+#include "look/fonts.h"
+#include "look/frames.h"
+#include "look/grid_painter.h"
+#include "look/ground.h"
+#include "look/images.h"
+#include "look/lists.h"
+#include "look/message_icons.h"
+#include "look/palette.h"
+#include "look/words.h"
+#include "platform/controls.h"
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace qinghe {
+namespace {
+
+constexpr int MessageIcon = 40;
+constexpr QSize MessageButton(84, 28);
+constexpr int ListLine = 24;
+constexpr int ComboArrow = 20;
+constexpr int WritingMargin = 10;
+
+bool isComboList(const QWidget* widget) {
+    return widget && widget->inherits("QComboBoxListView");
+}
+
+/// The frame round a list, a text browser, a writing paper or a pop-up.
+void paintViewFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    if (qobject_cast<const QPlainTextEdit*>(widget)) {
+        const bool focus = option.state & QStyle::State_HasFocus;
+        paintPanel(painter, option.rect, 4, colour::Paper, focus ? colour::LeafDeep : colour::Ctl, focus ? 1.8 : 1);
+    } else if (widget && widget->inherits("QComboBoxPrivateContainer")) {
+        paintPopup(option, painter);
+    } else {
+        paintPanel(painter, option.rect, 3, Qt::NoBrush, colour::Ctl);
+    }
+}
+
+void preparePaper(QPlainTextEdit& text, QObject* watcher) {
+    text.setFont(sans(type::Long));
+    text.document()->setDocumentMargin(WritingMargin);
+    text.viewport()->setAutoFillBackground(false);
+    text.viewport()->installEventFilter(watcher);
+}
+
+void prepareGrid(MSFlexGrid& grid) {
+    for (QWidget* part : {grid.viewport(), grid.horizontalHeader()->viewport(), grid.verticalHeader()->viewport()})
+        part->setAutoFillBackground(false);
+}
+
+void prepareBox(QLineEdit& box, Role role, QObject* watcher) {
+    box.setFont(fontFor(role));
+    if (role == Role::CalcDisplay)
+        box.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (role != Role::CellEditor)
+        return;
+    // An amount is entered by the calculator alone; its box is disabled and still reads well.
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Disabled, QPalette::Text, colour::Ink);
+    box.setPalette(palette);
+    box.installEventFilter(watcher);
+    fitEditor(box);
+}
+
+void prepareMessage(QMessageBox& box) {
+    auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!words)
+        return;
+    words->setFont(sans(type::Message));
+    words->setMinimumHeight(MessageIcon);
+    words->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+}
+
+} // namespace
+
+Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+    switch (static_cast<unsigned>(element)) {
+    case PE_FormGround:
+        return paintGround(*painter, *static_cast<const Form*>(widget));
+    case PE_LedgerPaper:
+        return paintLedgerPaper(*option, *painter, *static_cast<const MSFlexGrid*>(widget));
+    case PE_GridEdge:
+        return paintGridEdge(*option, *painter);
+    case PE_PanelLineEdit:
+        return paintField(*option, *painter, widget);
+    case PE_Frame:
+        return paintViewFrame(*option, *painter, widget);
+    case PE_PanelMenu:
+    case PE_PanelTipLabel:
+        return paintPopup(*option, *painter);
+    case PE_FrameMenu:
+    case PE_FrameFocusRect:
+        return;
+    case PE_PanelItemViewRow:
+    case PE_FrameStatusBarItem:
+        if (qobject_cast<const MSFlexGrid*>(widget))
+            return; // the paper has the bands
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const MSFlexGrid* grid = nullptr;
+    switch (static_cast<unsigned>(element)) {
+    case CE_Words:
+        return paintWords(*option, *painter, *static_cast<const Label*>(widget));
+    case CE_Image:
+        return paintImage(*option, *painter, *static_cast<const Image*>(widget));
+    case CE_PushButton:
+        return paintButton(*button, *painter, widget);
+    case CE_RadioButton:
+        return paintOption(*button, *painter);
+    case CE_CheckBox:
+        return paintTick(*button, *painter);
+    case CE_ComboBoxLabel:
+        return paintComboWords(*qstyleoption_cast<const QStyleOptionComboBox*>(option), *painter);
+    case CE_ProgressBar:
+        return paintProgress(*qstyleoption_cast<const QStyleOptionProgressBar*>(option), *painter);
+    case CE_MenuItem:
+        return paintMenuLine(*qstyleoption_cast<const QStyleOptionMenuItem*>(option), *painter);
+    case CE_MenuEmptyArea:
+        return;
+    case CE_Header:
+        if ((grid = gridOf(widget)))
+            return paintHeader(*qstyleoption_cast<const QStyleOptionHeader*>(option), *painter, *widget, *grid);
+        break;
+    case CE_HeaderEmptyArea:
+        if ((grid = gridOf(widget)))
+            return paintHeaderRest(*option, *painter, *widget, *grid);
+        break;
+    case CE_ItemViewItem:
+        if ((grid = qobject_cast<const MSFlexGrid*>(widget)))
+            return paintCell(*qstyleoption_cast<const QStyleOptionViewItem*>(option), *painter, *grid);
+        if (isComboList(widget))
+            return paintListLine(*qstyleoption_cast<const QStyleOptionViewItem*>(option), *painter);
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                               const QWidget* widget) const {
+    switch (control) {
+    case CC_GroupBox:
+        return paintFrame(*option, *painter, widget);
+    case CC_ComboBox:
+        return paintCombo(*option, *painter);
+    case CC_ScrollBar:
+        return paintScrollBar(*qstyleoption_cast<const QStyleOptionSlider*>(option), *painter, widget);
+    default:
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    if (element == SE_LineEditContents)
+        return fieldText(option->rect, widget);
+    if (element == SE_ItemViewItemText)
+        if (const auto* grid = qobject_cast<const MSFlexGrid*>(widget))
+            if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option))
+                return cellTextRoom(item->rect, *grid, item->index.column() + 1);
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                            const QWidget* widget) const {
+    if (control == CC_ComboBox) {
+        const QRect box = option->rect;
+        if (part == SC_ComboBoxEditField)
+            return box.adjusted(4, 1, -ComboArrow, -1);
+        if (part == SC_ComboBoxArrow)
+            return box.adjusted(box.width() - ComboArrow, 0, 0, 0);
+        return box;
+    }
+    if (control == CC_ScrollBar)
+        if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return scrollPart(*slider, part, widget);
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const {
+    if (type == CT_MenuItem)
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+            return menuLineSize(*item);
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_PushButton && widget && qobject_cast<const QDialogButtonBox*>(widget->parentWidget()))
+        return size.expandedTo(MessageButton);
+    if (type == CT_ItemViewItem && isComboList(widget))
+        return {size.width() + 8, ListLine};
+    return size;
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    switch (metric) {
+    case PM_ScrollBarExtent:
+        return ScrollBarWidth;
+    case PM_MessageBoxIconSize:
+        return MessageIcon;
+    case PM_DefaultFrameWidth:
+        return qobject_cast<const QPlainTextEdit*>(widget) ? 2 : 1;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_MenuPanelWidth:
+        return 1;
+    case PM_MenuVMargin:
+        return 3;
+    case PM_MenuHMargin:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const {
+    switch (hint) {
+    case SH_ComboBox_Popup: // the list opens below its box
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_EtchDisabledText:
+    case SH_UnderlineShortcut:
+    case SH_Widget_Animation_Duration:
+        return 0;
+    case SH_DialogButtonLayout:
+        return QDialogButtonBox::WinLayout;
+    case SH_LineEdit_PasswordCharacter:
+        return '*';
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+}
+
+QIcon Style::standardIcon(StandardPixmap standard, const QStyleOption* option, const QWidget* widget) const {
+    const QIcon icon = messageIcon(standard);
+    return icon.isNull() ? QProxyStyle::standardIcon(standard, option, widget) : icon;
+}
+
+QPalette Style::standardPalette() const {
+    return programPalette();
+}
+
+void Style::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (auto* grid = qobject_cast<MSFlexGrid*>(widget))
+        prepareGrid(*grid);
+    else if (auto* text = qobject_cast<QPlainTextEdit*>(widget))
+        preparePaper(*text, this);
+    else if (auto* message = qobject_cast<QMessageBox*>(widget))
+        prepareMessage(*message);
+    else if (auto* box = qobject_cast<QLineEdit*>(widget))
+        if (const Placed* placed = Placed::of(widget))
+            prepareBox(*box, placed->role(), this);
+}
+
+bool Style::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint) {
+        if (auto* text = qobject_cast<QPlainTextEdit*>(watched->parent()))
+            paintWritingPaper(*text);
+    } else if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
+        if (auto* box = qobject_cast<QLineEdit*>(watched))
+            fitEditor(*box);
+    }
+    return QProxyStyle::eventFilter(watched, event);
+}
+
+} // namespace qinghe
