@@ -1,4 +1,6 @@
-#include "lettering.h"
+#include "delivery/lettering.h"
+
+#include "look/fonts.h"
 
 #include <QFont>
 #include <QPainter>
@@ -11,10 +13,7 @@ namespace {
 /// The outline at `lettering.pixels`, its base line at 0. Drawn large and shrunk: no hint bends it.
 QPainterPath outlineOf(const Lettering& lettering, QStringView words) {
     constexpr int large = 200;
-    QFont font;
-    font.setFamilies(lettering.family == Lettering::Sans
-                         ? QStringList{"Microsoft YaHei UI", "PingFang SC", "WenQuanYi Micro Hei", "Noto Sans CJK SC"}
-                         : QStringList{"SimSun", "Noto Serif CJK SC", "AR PL UMing CN"});
+    QFont font = lettering.family == Lettering::Sans ? sans(type::Body) : figureFont();
     font.setPixelSize(large);
     QPainterPath path;
     path.addText(0, 0, font, words.toString());
@@ -22,7 +21,7 @@ QPainterPath outlineOf(const Lettering& lettering, QStringView words) {
     return QTransform::fromScale(lettering.pixels / large, lettering.pixels / large).map(path);
 }
 
-/// The clear small faces have no bold of their own: all are thickened alike.
+/// The clear small sans has no bold of its own: its outline is thickened.
 void paintOutline(QPainter& painter, const Lettering& lettering, const QPainterPath& outline) {
     const QPen thick(lettering.colour, lettering.pixels * 0.05, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     painter.setPen(lettering.bold ? thick : QPen(Qt::NoPen));

@@ -11,7 +11,7 @@ namespace qinghe {
 /// How words stand in a picture. They are drawn as outlines, so they have the same size at any density.
 struct Lettering {
     enum Family { Sans, Serif };
-    Family family;
+    Family family; ///< the serif is bold by itself
     double pixels; ///< of an em
     bool bold;
     QColor colour;

@@ -1,4 +1,4 @@
-#include "pictures.h"
+#include "delivery/pictures.h"
 
 #include <QBuffer>
 #include <QImage>

@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 #include <QSize>
-#include <QString>
+#include <QStringView>
 
 #include <span>
 
@@ -12,7 +12,7 @@ namespace qinghe {
 
 /// A picture that ships in the data file: its name there, and how it is drawn in a scene of `scene` pixels at 100 %.
 struct Picture {
-    const char16_t* name;
+    QStringView name;
     QSize scene;
     void (*paint)(QPainter& painter);
 };

@@ -1,9 +1,9 @@
-#include "lettering.h"
+#include "delivery/lettering.h"
+#include "delivery/pictures.h"
+#include "delivery/strokes.h"
 #include "look/app_icon.h"
 #include "look/colours.h"
 #include "look/glyphs.h"
-#include "pictures.h"
-#include "strokes.h"
 
 #include <QPainter>
 

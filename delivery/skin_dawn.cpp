@@ -1,5 +1,5 @@
-#include "pictures.h"
-#include "strokes.h"
+#include "delivery/pictures.h"
+#include "delivery/strokes.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
-#include "lettering.h"
-#include "pictures.h"
-#include "strokes.h"
+#include "delivery/lettering.h"
+#include "delivery/pictures.h"
+#include "delivery/strokes.h"
 
 #include <QPainter>
 #include <QTransform>
@@ -103,7 +103,7 @@ void paintSeal(QPainter& painter) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(rgb(0xC2473A));
     painter.drawRoundedRect(QRectF(228, 17, 17.4, 30), 2.4, 2.4);
-    const Lettering carved{Lettering::Serif, 12.5, true, rgb(0xFFF8EC)};
+    const Lettering carved{Lettering::Serif, 12.5, false, rgb(0xFFF8EC)};
     paintCentred(painter, carved, {236.7, 25.4}, u"青");
     paintCentred(painter, carved, {236.7, 38.8}, u"禾");
 }

@@ -1,4 +1,4 @@
-#include "strokes.h"
+#include "delivery/strokes.h"
 
 #include <QLinearGradient>
 #include <QPainter>

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace qinghe {
+
+/// The pages that the program opens: the tools, the introduction, the home page. They link to each other alone and need
+/// nothing from the net.
+QStringList webPageNames();
+
+/// Puts the pages and their picture into the folder `web` below `folder`; a file that is up to date is left alone, so
+/// that its time stays. Throws RuntimeError (PathFileAccess).
+void deliverWebPages(const QString& folder);
+
+} // namespace qinghe
