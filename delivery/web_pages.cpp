@@ -57,7 +57,7 @@ void deliverWebPages(const QString& folder) {
     loadPages();
     const QDir web(QDir(folder).filePath(u"web"_qs));
     web.mkpath(u"."_qs);
-    for (const QString& name : webPageNames()) {
+    for (const QString& name : webPageNames() + QStringList(u"pages.css"_qs)) {
         renew(web.filePath(name), contentOf(u":/web/"_qs + name));
     }
     renew(web.filePath(u"qinghe.png"_qs), iconPng());

@@ -7,7 +7,9 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +72,13 @@ TEST_F(WebPages, ShowTheirTitleAsRichText) {
         EXPECT_TRUE(document.toPlainText().contains(title)) << name;
         EXPECT_TRUE(document.metaInformation(QTextDocument::DocumentTitle).contains(title)) << name;
     }
+}
+
+TEST_F(WebPages, TakeTheirStyleFromTheFileBesideThem) {
+    QTextDocument document;
+    document.setBaseUrl(QUrl::fromLocalFile(path("softs.htm")));
+    document.setHtml(page("softs.htm"));
+    EXPECT_EQ(document.find("日历").charFormat().foreground().color(), QColor(0x2F, 0x5E, 0x24));
 }
 
 TEST_F(WebPages, BringThePictureThatTheyShow) {
