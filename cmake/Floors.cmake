@@ -13,11 +13,25 @@ if(QINGHE_SANITIZE)
     target_link_options(qinghe_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# AUTOMOC looks again only at the files that it knew: lets it start afresh when the list of a target's files has changed.
+function(qinghe_notice_new_files target files)
+    set(known ${CMAKE_CURRENT_BINARY_DIR}/${target}_files.txt)
+    set(before "")
+    if(EXISTS ${known})
+        file(READ ${known} before)
+    endif()
+    if(NOT before STREQUAL "${files}")
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+        file(WRITE ${known} "${files}")
+    endif()
+endfunction()
+
 # qinghe_floor(<name> [<library>...]) makes the floor of the sources in the calling folder; it may use the libraries
 # named, and what they hand on.
 function(qinghe_floor name)
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
     add_library(${name} STATIC ${sources})
+    qinghe_notice_new_files(${name} "${sources}")
     set(headers ${CMAKE_BINARY_DIR}/floors/${name})
     file(MAKE_DIRECTORY ${headers})
     file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${headers}/${name} SYMBOLIC)
