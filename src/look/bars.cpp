@@ -16,6 +16,7 @@ namespace qinghe {
 namespace {
 
 constexpr int ShortestThumb = 24;
+constexpr QColor Track = colour::fromRgb(0xF3F8EE);
 
 bool isUpright(const QStyleOptionSlider& option) {
     return option.orientation == Qt::Vertical;
@@ -24,6 +25,16 @@ bool isUpright(const QStyleOptionSlider& option) {
 int captionHeight(const QStyleOptionSlider& option, const QWidget* widget) {
     const MSFlexGrid* grid = gridOf(widget);
     return grid && isUpright(option) ? grid->horizontalHeader()->height() : 0;
+}
+
+/// The bar lies over the grid's edge and paints its part of it.
+void paintBesideGrid(QPainter& painter, const QRect& bar, int captions, const QWidget& widget, const MSFlexGrid& grid) {
+    const QRect head(bar.topLeft(), QSize(bar.width(), captions));
+    fillGridPart(painter, head, widget, grid, colour::LeafPale);
+    fillGridPart(painter, bar.adjusted(0, captions, 0, 0), widget, grid, Track);
+    if (captions > 0)
+        paintRule(painter, bar.left(), bar.right() + 1, head.bottom(), colour::CaptionBase);
+    paintGridEdge(painter, grid.rect().translated(-widget.mapTo(&grid, QPoint())));
 }
 
 double progressOf(const QStyleOptionProgressBar& option) {
@@ -68,12 +79,10 @@ QRect scrollPart(const QStyleOptionSlider& option, QStyle::SubControl part, cons
 }
 
 void paintScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) {
-    painter.fillRect(option.rect, colour::fromRgb(0xF3F8EE));
-    if (const int captions = captionHeight(option, widget)) {
-        painter.fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), captions)), colour::LeafPale);
-        paintRule(painter, option.rect.left(), option.rect.right() + 1, option.rect.top() + captions - 1,
-                  colour::CaptionBase);
-    }
+    if (const MSFlexGrid* grid = gridOf(widget))
+        paintBesideGrid(painter, option.rect, captionHeight(option, widget), *widget, *grid);
+    else
+        painter.fillRect(option.rect, Track);
     if (option.maximum <= option.minimum)
         return;
     const bool held = option.state & QStyle::State_Sunken && option.activeSubControls & QStyle::SC_ScrollBarSlider;

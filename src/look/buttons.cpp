@@ -8,6 +8,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -56,6 +57,14 @@ void paintButtonBody(const QStyleOptionButton& option, QPainter& painter, const 
         paintPanel(painter, QRectF(option.rect).adjusted(3, 3, -3, -3), 2.5, Qt::NoBrush, colour::Leaf, 1.5);
 }
 
+/// Our captions are plain text. Qt's own buttons mark a short cut in theirs: "是(&Y)" is shown as "是".
+QString shownCaption(const QStyleOptionButton& option, const QWidget* widget) {
+    if (Placed::of(widget))
+        return option.text;
+    static const QRegularExpression shortCut(QStringLiteral("\\(&.\\)|&"));
+    return QString(option.text).remove(shortCut);
+}
+
 QColor captionColour(const QStyleOptionButton& option, const QWidget* widget) {
     if (!enabled(option))
         return colour::Off;
@@ -71,13 +80,14 @@ void paintButtonCaption(const QStyleOptionButton& option, QPainter& painter, con
     // The arrows of the picker have captions for those who cannot see them; on view they are arrows alone.
     if (roleOf(widget) == Role::PickerArrow || option.text.isEmpty())
         return paintGlyph(painter, glyph, QRectF(option.rect).marginsRemoved({8, 6, 8, 6}), iconColour);
-    const int words = QFontMetrics(font).horizontalAdvance(option.text);
+    const QString caption = shownCaption(option, widget);
+    const int words = QFontMetrics(font).horizontalAdvance(caption);
     const int icon = glyph == Glyph::None ? 0 : IconSide + IconGap;
     const int left = option.rect.left() + std::max(2, (option.rect.width() - words - icon) / 2);
     paintGlyph(painter, glyph, QRectF(left, option.rect.center().y() - IconSide / 2 + 1, IconSide, IconSide),
                iconColour);
     const QRect room(left + icon, option.rect.top(), option.rect.right() - left - icon + 1, option.rect.height());
-    paintLine(painter, room, Qt::AlignLeft, option.text, font, captionColour(option, widget));
+    paintLine(painter, room, Qt::AlignLeft, caption, font, captionColour(option, widget));
 }
 
 QRectF markRect(const QStyleOptionButton& option) {

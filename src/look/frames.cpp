@@ -60,7 +60,7 @@ void paintTag(QPainter& painter, const QRect& tag, const QString& title, Role ro
     painter.setBrush(page ? colour::LeafDeep : colour::LeafTag);
     painter.drawRoundedRect(QRectF(tag).adjusted(0, -8, 0, 0), 4, 4);
     painter.restore();
-    paintLine(painter, tag.adjusted(TagPadding, 0, 0, 0), Qt::AlignLeft, title, tagFont(role),
+    paintLine(painter, tag.adjusted(TagPadding, 1, 0, 1), Qt::AlignLeft, title, tagFont(role),
               page ? colour::White : colour::LeafDark);
 }
 

@@ -20,23 +20,6 @@ namespace {
 constexpr QColor UprightLine = colour::fromRgb(0xE6EEDF), CaptionMark = colour::fromRgb(0xC5DBB3);
 constexpr double Corner = 4;
 
-/// Fills a part of the grid; where the part lies in a corner of the grid, the corner is cut round.
-void fillPart(QPainter& painter, const QRect& part, const QWidget& widget, const MSFlexGrid& grid,
-              const QColor& colour) {
-    const QRect whole = grid.rect().translated(-widget.mapTo(&grid, QPoint()));
-    const bool touches = (part.left() <= whole.left() || part.right() >= whole.right()) &&
-                         (part.top() <= whole.top() || part.bottom() >= whole.bottom());
-    if (!touches)
-        return painter.fillRect(part, colour);
-    QPainterPath round;
-    round.addRoundedRect(whole, Corner, Corner);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setClipRect(part, Qt::IntersectClip);
-    painter.fillPath(round, colour);
-    painter.restore();
-}
-
 QColor paperWhite() {
     return colour::faded(colour::White, 92);
 }
@@ -100,6 +83,22 @@ const MSFlexGrid* gridOf(const QWidget* part) {
     return nullptr;
 }
 
+void fillGridPart(QPainter& painter, const QRect& part, const QWidget& widget, const MSFlexGrid& grid,
+                  const QColor& colour) {
+    const QRect whole = grid.rect().translated(-widget.mapTo(&grid, QPoint()));
+    const bool touches = (part.left() <= whole.left() || part.right() >= whole.right()) &&
+                         (part.top() <= whole.top() || part.bottom() >= whole.bottom());
+    if (!touches)
+        return painter.fillRect(part, colour);
+    QPainterPath round;
+    round.addRoundedRect(whole, Corner, Corner);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(part, Qt::IntersectClip);
+    painter.fillPath(round, colour);
+    painter.restore();
+}
+
 QRect cellTextRoom(const QRect& cell, const MSFlexGrid& grid, int col) {
     const CellMargins margins = cellMargins(grid, col);
     return cell.adjusted(margins.left, 0, -margins.right, 0);
@@ -108,7 +107,7 @@ QRect cellTextRoom(const QRect& cell, const MSFlexGrid& grid, int col) {
 void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFlexGrid& grid) {
     const QRect room = option.rect;
     const QWidget& viewport = *grid.viewport();
-    fillPart(painter, room, viewport, grid, paperWhite());
+    fillGridPart(painter, room, viewport, grid, paperWhite());
     int foot = room.top();
     for (int row = std::max(0, grid.rowAt(0)); row < grid.Rows() - 1 && foot <= room.bottom(); ++row) {
         const QRect band(room.left(), grid.rowViewportPosition(row), room.width(), grid.rowHeight(row));
@@ -130,13 +129,13 @@ void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFl
               option.text, sans(cellMargins(grid, col).points), grid.isEnabled() ? colour::Ink : colour::Ink2);
 }
 
-void paintGridEdge(const QStyleOption& option, QPainter& painter) {
-    paintPanel(painter, option.rect, Corner, Qt::NoBrush, colour::GridEdge);
+void paintGridEdge(QPainter& painter, const QRect& grid) {
+    paintPanel(painter, grid, Corner, Qt::NoBrush, colour::GridEdge);
 }
 
 void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid) {
     const bool captions = isSideways(widget);
-    fillPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : colour::MarkerColumn);
+    fillGridPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : colour::MarkerColumn);
     if (!captions)
         return paintMarker(option, painter, grid);
     if (qobject_cast<const QHeaderView*>(&widget))
@@ -148,7 +147,7 @@ void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWid
 
 void paintHeaderRest(const QStyleOption& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid) {
     const bool captions = isSideways(widget);
-    fillPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : paperWhite());
+    fillGridPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : paperWhite());
     if (captions)
         paintRule(painter, option.rect.left(), option.rect.right() + 1, option.rect.bottom(), colour::CaptionBase);
     else

@@ -2,6 +2,7 @@
 
 #include <QRect>
 
+class QColor;
 class QPainter;
 class QStyleOption;
 class QStyleOptionHeader;
@@ -16,7 +17,11 @@ class MSFlexGrid;
 /// the last row; a cell adds its column's line, its mark and its text.
 void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFlexGrid& grid);
 void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFlexGrid& grid);
-void paintGridEdge(const QStyleOption& option, QPainter& painter);
+void paintGridEdge(QPainter& painter, const QRect& grid);
+
+/// Fills a part of the grid that `widget` paints; where the part lies in a corner of the grid, the corner is cut round.
+void fillGridPart(QPainter& painter, const QRect& part, const QWidget& widget, const MSFlexGrid& grid,
+                  const QColor& colour);
 
 /// A caption, a cell of the marker column, or the corner between them. `widget` is the header or the corner.
 void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid);

@@ -13,7 +13,7 @@ namespace {
 /// The layout of a text, its lines placed; gives their number.
 int layOut(QTextLayout& layout, double width, double pitch, double above) {
     QTextOption option;
-    option.setWrapMode(QTextOption::WrapAnywhere);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
     layout.beginLayout();
     int count = 0;

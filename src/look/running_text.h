@@ -8,8 +8,8 @@ class QPainter;
 
 namespace qinghe {
 
-/// Text that runs over several lines, one and a half times the font's pixel size apart, broken anywhere as Chinese is.
-/// CR LF, CR and LF begin a new line. A text longer than the room
+/// Text that runs over several lines, one and a half times the font's pixel size apart, broken as Chinese is: between
+/// any two characters, but no line begins with a comma. CR LF, CR and LF begin a new line. A text longer than the room
 /// ends in "…".
 void paintRunning(QPainter& painter, const QRectF& room, const QString& text, const QFont& font, const QColor& colour,
                   Qt::Alignment vertical = Qt::AlignTop);

@@ -26,6 +26,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -64,6 +65,9 @@ void preparePaper(QPlainTextEdit& text, QObject* watcher) {
 void prepareGrid(MSFlexGrid& grid) {
     for (QWidget* part : {grid.viewport(), grid.horizontalHeader()->viewport(), grid.verticalHeader()->viewport()})
         part->setAutoFillBackground(false);
+    // Their corners let the page through.
+    for (QWidget* bar : {grid.verticalScrollBar(), grid.horizontalScrollBar()})
+        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
 void prepareBox(QLineEdit& box, Role role, QObject* watcher) {
@@ -101,7 +105,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_LedgerPaper:
         return paintLedgerPaper(*option, *painter, *static_cast<const MSFlexGrid*>(widget));
     case PE_GridEdge:
-        return paintGridEdge(*option, *painter);
+        return paintGridEdge(*painter, option->rect);
     case PE_PanelLineEdit:
         return paintField(*option, *painter, widget);
     case PE_Frame:

@@ -31,7 +31,7 @@ void paintTab(QPainter& painter, double centre, double top) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour::Red);
-    painter.drawRoundedRect(QRectF(centre - 12, top + 26.1, 24, 2.4), 1.2, 1.2);
+    painter.drawRoundedRect(QRectF(centre - 12, top + 26, 24, 2.4), 1.2, 1.2);
     painter.restore();
 }
 
