@@ -61,9 +61,10 @@ void paintRim(QPainter& painter, const QPainterPath& rim, double width) {
 }
 
 void paintRimSeedlings(QPainter& painter, const QPainterPath& rim, double height, double from) {
+    const Profile heights(rim);
     double x = from;
     for (int i = 0; x < SkinScene.width() - 4; ++i) {
-        paintSeedling(painter, {x, heightAt(rim, x)}, height * (i % 2 == 0 ? 0.85 : 1.0),
+        paintSeedling(painter, {x, heights(x)}, height * (i % 2 == 0 ? 0.85 : 1.0),
                       {rgb(0x9CC383), rgb(0x7FAE68), rgb(0x86B56C)});
         x += i % 2 == 0 ? 59 : 129;
     }

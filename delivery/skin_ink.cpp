@@ -63,11 +63,11 @@ QPainterPath peakLine(const Points& points) {
 }
 
 QPainterPath outline(const Range& range, double foot) {
-    const QPainterPath large = peakLine(range.peaks);
+    const Profile large(peakLine(range.peaks));
     const Crags crags(range.seed);
     QPainterPath area(QPointF(0, foot));
     for (double x = 0; x <= SkinScene.width() + 2; x += 1.5) {
-        area.lineTo(x, heightAt(large, x) - range.roughness * crags(x / range.crag));
+        area.lineTo(x, large(x) - range.roughness * crags(x / range.crag));
     }
     area.lineTo(SkinScene.width() + 2, foot);
     area.closeSubpath();

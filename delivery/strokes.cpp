@@ -3,6 +3,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QRadialGradient>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -82,13 +83,22 @@ QPainterPath bendingLine(std::initializer_list<double> heights) {
     return line;
 }
 
-double heightAt(const QPainterPath& line, double x) {
-    double low = 0, high = 1;
-    while (high - low > 1e-4) {
-        const double middle = (low + high) / 2;
-        (line.pointAtPercent(middle).x() < x ? low : high) = middle;
+Profile::Profile(const QPainterPath& line) {
+    constexpr double fine = 16; // flattened while large, so that no corner shows
+    m_corners = QTransform::fromScale(1 / fine, 1 / fine)
+                    .map(line.toSubpathPolygons(QTransform::fromScale(fine, fine)).front());
+}
+
+double Profile::operator()(double x) const {
+    const auto behind = std::ranges::lower_bound(m_corners, x, {}, &QPointF::x);
+    if (behind == m_corners.begin()) {
+        return m_corners.front().y();
     }
-    return line.pointAtPercent(low).y();
+    if (behind == m_corners.end()) {
+        return m_corners.back().y();
+    }
+    const QPointF before = *std::prev(behind);
+    return before.y() + (behind->y() - before.y()) * (x - before.x()) / (behind->x() - before.x());
 }
 
 BladeColours youngRice(double alpha) {

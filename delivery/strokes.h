@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <QRandomGenerator>
 #include <QRectF>
 
@@ -40,8 +41,16 @@ QPainterPath hillLine(const Points& points);
 QPainterPath hills(const Points& points, double foot);
 /// A soft line whose heights stand at equal steps over the width of the scene; level at both ends.
 QPainterPath bendingLine(std::initializer_list<double> heights);
-/// The height of a line at `x`, which must lie between its ends.
-double heightAt(const QPainterPath& line, double x);
+
+/// The heights of a line that runs from left to right. Left and right of its ends they are those of the ends.
+class Profile {
+public:
+    explicit Profile(const QPainterPath& line);
+    double operator()(double x) const;
+
+private:
+    QPolygonF m_corners;
+};
 
 struct BladeColours {
     QColor left, middle, right;

@@ -9,8 +9,8 @@ namespace qinghe {
 /// nothing from the net.
 QStringList webPageNames();
 
-/// Puts the pages, their style and their picture into the folder `web` below `folder`; a file that is up to date is left alone, so
-/// that its time stays. Throws RuntimeError (PathFileAccess).
+/// Puts the pages, their style and their picture into the folder `web` below `folder`; a file that is up to date is
+/// left alone, so that its time stays. Throws RuntimeError (PathFileAccess).
 void deliverWebPages(const QString& folder);
 
 } // namespace qinghe

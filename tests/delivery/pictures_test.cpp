@@ -107,17 +107,24 @@ TEST(SignInPicture, HasAPlainCardForTheFields) {
 }
 
 TEST(HillLine, IsLevelAtEveryPoint) {
-    const QPainterPath line = hillLine({{0, 10}, {50, 40}, {100, 20}});
-    EXPECT_NEAR(heightAt(line, 50), 40, 0.05);
-    EXPECT_NEAR(heightAt(line, 49), heightAt(line, 50), 0.1);
-    EXPECT_NEAR(heightAt(line, 51), heightAt(line, 50), 0.1);
+    const Profile height(hillLine({{0, 10}, {50, 40}, {100, 20}}));
+    EXPECT_NEAR(height(50), 40, 0.05);
+    EXPECT_NEAR(height(49), 40, 0.1);
+    EXPECT_NEAR(height(51), 40, 0.1);
+    EXPECT_NEAR(height(25), 25, 0.1);
 }
 
 TEST(BendingLine, GoesThroughItsHeightsAtEqualSteps) {
-    const QPainterPath line = bendingLine({100, 140, 90});
-    EXPECT_NEAR(heightAt(line, 0), 100, 0.1);
-    EXPECT_NEAR(heightAt(line, 400), 140, 0.1);
-    EXPECT_NEAR(heightAt(line, 800), 90, 0.1);
+    const Profile height(bendingLine({100, 140, 90}));
+    EXPECT_NEAR(height(0), 100, 0.1);
+    EXPECT_NEAR(height(400), 140, 0.1);
+    EXPECT_NEAR(height(800), 90, 0.1);
+}
+
+TEST(Profile, GoesOnLevelBeyondItsEnds) {
+    const Profile height(bendingLine({100, 140, 90}));
+    EXPECT_EQ(height(-5), 100);
+    EXPECT_EQ(height(805), 90);
 }
 
 } // namespace
