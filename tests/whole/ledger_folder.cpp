@@ -1,6 +1,7 @@
 #include "ledger_folder.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QStringList>
 #include <sqlite3.h>
 
@@ -51,10 +52,23 @@ std::vector<std::string> run(sqlite3* database, const std::string& statements) {
     return rows;
 }
 
+/// The built folder with first data in it, whoever may have used the one in the build meanwhile. Made once a run.
+QString asDelivered() {
+    static const QTemporaryDir folder;
+    const QString app = folder.filePath(QStringLiteral("app"));
+    if (!QFile::exists(app)) {
+        std::filesystem::copy(QINGHE_APP_FOLDER, app.toStdString(), std::filesystem::copy_options::recursive);
+        QFile::remove(app + QStringLiteral("/data.dll"));
+        if (QProcess::execute(QStringLiteral(QINGHE_DELIVERY), {app}) != 0)
+            throw std::runtime_error("the delivery fails");
+    }
+    return app;
+}
+
 } // namespace
 
 LedgerFolder::LedgerFolder() {
-    std::filesystem::copy(QINGHE_APP_FOLDER, path().toStdString(), std::filesystem::copy_options::recursive);
+    std::filesystem::copy(asDelivered().toStdString(), path().toStdString(), std::filesystem::copy_options::recursive);
 }
 
 QString LedgerFolder::file(const std::string& name) const {

@@ -1,6 +1,7 @@
 #include "program.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QJsonDocument>
 #include <QProcessEnvironment>
 #include <QThread>
@@ -52,6 +53,8 @@ Program::Program(const LedgerFolder& folder, const std::string& now) {
     m_process.setProcessEnvironment(environment(folder, now, socket));
     m_process.setWorkingDirectory(folder.beside(""));
     m_process.start(folder.file("qinghe"), {});
+    m_process.waitForStarted();
+    m_id = m_process.processId();
     connect(socket);
 }
 
@@ -63,10 +66,13 @@ void Program::connect(const QString& socket) {
         if (!running() || timer.hasExpired(PatienceMs))
             throw std::runtime_error("the program does not start: " + whyGone());
     }
+    windows(); // answered when what happens at the start has happened
 }
 
 Program::~Program() {
     kill();
+    for (const char* kind : {"faketime_shm_", "sem.faketime_sem_"}) // a clock that ends with its program leaves these
+        QFile::remove(QStringLiteral("/dev/shm/%1%2").arg(QLatin1String(kind)).arg(m_id));
 }
 
 void Program::click(const std::string& at) {
@@ -97,11 +103,20 @@ void Program::drag(const std::string& at, QPoint from, QPoint way) {
 }
 
 void Program::key(const std::string& name) {
+    waitUntil([this] { return !windowWithKeyboard().empty(); }, "the keyboard");
     ask({{"do", "key"}, {"key", q(name)}});
 }
 
 void Program::type(const std::string& text) {
+    waitUntil([this] { return !windowWithKeyboard().empty(); }, "the keyboard");
     ask({{"do", "type"}, {"text", q(text)}});
+}
+
+void Program::clearAndType(const std::string& box, const std::string& text) {
+    click(box);
+    key("Ctrl+A");
+    key("Backspace");
+    type(text);
 }
 
 void Program::pick(const std::string& entry) {
@@ -187,6 +202,14 @@ void Program::waitFor(const std::string& window) {
             return std::find(shown.begin(), shown.end(), window) != shown.end();
         },
         window);
+}
+
+void Program::waitForKeyboard(const std::string& window) {
+    waitUntil([&] { return windowWithKeyboard() == window; }, "the keyboard in " + window);
+}
+
+std::string Program::windowWithKeyboard() {
+    return ask({{"do", "keyboard"}}).toString().toStdString();
 }
 
 bool Program::running() {

@@ -49,6 +49,7 @@ public:
     void drag(const std::string& at, QPoint from, QPoint way);
     void key(const std::string& name);
     void type(const std::string& text);
+    void clearAndType(const std::string& box, const std::string& text);
     void pick(const std::string& entry);    ///< in an open menu or list
     void choose(const std::string& file);   ///< in the file chooser
     void close(const std::string& window);  ///< by the desktop's close button
@@ -68,12 +69,14 @@ public:
     /// Waits until it holds, at most ten seconds.
     void waitUntil(const std::function<bool()>& holds, const std::string& what);
     void waitFor(const std::string& window);
+    /// A window that has just come takes the keyboard as soon as the desktop gives it.
+    void waitForKeyboard(const std::string& window);
 
     // Life
     bool running();
     /// Waits for its end; -1 when it was killed or crashed.
     int exitCode();
-    void kill();
+    void kill(); ///< as a power cut does
     std::string errors() const { return m_errors; }
 
     /// For what has no word of its own above.
@@ -81,10 +84,12 @@ public:
 
 private:
     void connect(const QString& socket);
+    std::string windowWithKeyboard();
     std::string whyGone();
 
     QProcess m_process;
     QLocalSocket m_line;
+    qint64 m_id = 0;
     std::string m_errors;
 };
 

@@ -94,13 +94,22 @@ Outcome visible(const QJsonObject& command) {
     return {widget && widget->isVisible(), {}};
 }
 
+QString nameOf(const QObject& object) {
+    return object.objectName().isEmpty() ? QString::fromLatin1(object.metaObject()->className()) : object.objectName();
+}
+
 Outcome windows(const QJsonObject&) {
     QJsonArray names;
     for (const QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible())
-            names.append(window->objectName().isEmpty() ? QLatin1String(window->metaObject()->className())
-                                                        : window->objectName());
+            names.append(nameOf(*window));
     return {names, {}};
+}
+
+/// The window that has the keyboard, "" when none of the program's has it.
+Outcome keyboard(const QJsonObject&) {
+    const QWidget* window = QApplication::activeWindow();
+    return {window ? nameOf(*window) : QString(), {}};
 }
 
 Outcome message(const QJsonObject&) {
@@ -170,7 +179,7 @@ Outcome pick(const QJsonObject& command) {
         for (const QModelIndex& index :
              list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly)) {
             list->scrollTo(index);
-            return {{}, click(*list->viewport(), list->visualRect(index).center(), 1)};
+            return {{}, click(*list->viewport(), (list->visualRect(index) & list->viewport()->rect()).center(), 1)};
         }
     throw Refusal{QStringLiteral("no open menu or list offers ") + text};
 }
@@ -197,12 +206,13 @@ const std::map<QString, Command>& commands() {
     static const std::map<QString, Command> table{
         {QStringLiteral("get"), get},         {QStringLiteral("set"), set},
         {QStringLiteral("call"), call},       {QStringLiteral("visible"), visible},
-        {QStringLiteral("windows"), windows}, {QStringLiteral("message"), message},
-        {QStringLiteral("answer"), answer},   {QStringLiteral("click"), clickAt},
-        {QStringLiteral("move"), moveTo},     {QStringLiteral("drag"), dragBy},
-        {QStringLiteral("key"), keyStroke},   {QStringLiteral("type"), typing},
-        {QStringLiteral("choose"), choose},   {QStringLiteral("pick"), pick},
-        {QStringLiteral("close"), close},     {QStringLiteral("picture"), picture},
+        {QStringLiteral("windows"), windows}, {QStringLiteral("keyboard"), keyboard},
+        {QStringLiteral("message"), message}, {QStringLiteral("answer"), answer},
+        {QStringLiteral("click"), clickAt},   {QStringLiteral("move"), moveTo},
+        {QStringLiteral("drag"), dragBy},     {QStringLiteral("key"), keyStroke},
+        {QStringLiteral("type"), typing},     {QStringLiteral("choose"), choose},
+        {QStringLiteral("pick"), pick},       {QStringLiteral("close"), close},
+        {QStringLiteral("picture"), picture},
     };
     return table;
 }

@@ -24,22 +24,24 @@ int betweenGestures() {
     return 2 * QGuiApplication::styleHints()->mouseDoubleClickInterval();
 }
 
-/// Hands one pointer event to the window under the place; as on a real desktop that is another one than before when the
-/// window that was pressed has gone meanwhile.
-void point(const QPointer<QWindow>& pressed, const QPoint& place, QEvent::Type type, int wait) {
-    QWindow* window = pressed && pressed->isVisible() ? pressed.data() : QGuiApplication::topLevelAt(place);
-    if (!window)
-        return;
+/// Hands one pointer event to a window, with the left button as it then stands.
+void point(QWindow& window, const QPoint& inWindow, QEvent::Type type, int wait) {
     static Qt::MouseButtons held;
-    held.setFlag(Qt::LeftButton, type == QEvent::MouseButtonPress || (type == QEvent::MouseMove && held));
+    if (type != QEvent::MouseMove)
+        held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
     const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    qt_handleMouseEvent(window, window->mapFromGlobal(place), place, held, button, type, Qt::NoModifier,
+    qt_handleMouseEvent(&window, inWindow, window.mapToGlobal(inWindow), held, button, type, Qt::NoModifier,
                         pointerTime(wait));
 }
 
+/// One step of a gesture at a place of the widget. When its window has gone meanwhile, the step meets whatever window
+/// lies there now, as it does on a real desktop.
 std::function<void()> pointing(QWidget& widget, const QPoint& place, QEvent::Type type, int wait = 1) {
-    return [window = QPointer<QWindow>(widget.window()->windowHandle()), at = widget.mapToGlobal(place), type, wait] {
-        point(window, at, type, wait);
+    return [meant = QPointer<QWidget>(&widget), place, last = widget.mapToGlobal(place), type, wait] {
+        if (const QWidget* there = meant; there && there->isVisible())
+            point(*there->window()->windowHandle(), there->mapTo(there->window(), place), type, wait);
+        else if (QWindow* beneath = QGuiApplication::topLevelAt(last))
+            point(*beneath, beneath->mapFromGlobal(last), type, wait);
     };
 }
 

@@ -69,7 +69,12 @@ void checkInReach(const QWidget& widget, const QPoint& point) {
     if (!hit && window->rect().contains(inWindow))
         hit = window;
     if (!hit)
-        throw Refusal{widget.objectName() + QStringLiteral(" lies outside its window there")};
+        throw Refusal{QStringLiteral("%1 lies outside its window at %2,%3 of %4 x %5")
+                          .arg(widget.objectName())
+                          .arg(inWindow.x())
+                          .arg(inWindow.y())
+                          .arg(window->width())
+                          .arg(window->height())};
     if (hit != &widget && !widget.isAncestorOf(hit))
         throw Refusal{widget.objectName() + QStringLiteral(" is covered there by ") + hit->objectName()};
 }

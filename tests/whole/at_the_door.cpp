@@ -1,0 +1,127 @@
+#include "household.h"
+
+#include <gtest/gtest.h>
+
+using namespace whole;
+
+namespace {
+
+const Message wrongPassword{"密码错误，请重新输入密码", "登陆提醒", Message::Warning, {"确定", "取消"}};
+const Message unknownName{"用户名不存在，请重新登陆！", "登陆提醒", Message::Information, {"确定", "取消"}};
+
+void signInAs(Program& program, const std::string& name, const std::string& password) {
+    program.clearAndType("Form5/Combo1", name);
+    program.clearAndType("Form5/Text2", password);
+    program.click("Form5/Label1");
+}
+
+} // namespace
+
+TEST(AtTheDoor, ThreeWrongPasswordsEndTheProgram) {
+    const LedgerFolder folder;
+    Program program(folder);
+    for (const char* password : {"1", "12345", "青禾"}) {
+        program.clearAndType("Form5/Text2", password);
+        program.click("Form5/Label1");
+        EXPECT_EQ(program.message(), wrongPassword);
+        program.answer("确定");
+    }
+    EXPECT_EQ(program.message(),
+              (Message{"登陆密码错误三次，请询问管理员！", "错误提示", Message::Information, {"确定"}}));
+    program.answer("确定");
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(folder.header(), "01 00");
+}
+
+TEST(AtTheDoor, AWrongPasswordMayBeTheLastTry) {
+    const LedgerFolder folder;
+    Program program(folder);
+    program.clearAndType("Form5/Text2", "1");
+    program.click("Form5/Label1");
+    EXPECT_EQ(program.message(), wrongPassword);
+    program.answer("取消");
+    EXPECT_EQ(program.exitCode(), 0);
+}
+
+TEST(AtTheDoor, UnknownNamesAreCountedButNobodyIsLockedOut) {
+    const LedgerFolder folder;
+    Program program(folder);
+    for (int i = 1; i <= 4; ++i) {
+        signInAs(program, "李四", "123456");
+        EXPECT_EQ(program.message(), unknownName);
+        program.answer("确定");
+        if (i == 3)
+            answer(program, "用户名错误三次，请询问管理员！");
+        EXPECT_FALSE(program.showsMessage());
+        EXPECT_EQ(program.get("Form5/Combo1", "currentText").toString().toStdString(), "");
+    }
+    signInAs(program, "管理员", "123456");
+    program.waitFor("Form2");
+    endByCross(program);
+}
+
+TEST(AtTheDoor, NameAndPasswordMustBeThere) {
+    const LedgerFolder folder;
+    Program program(folder);
+    program.clearAndType("Form5/Text2", "");
+    program.click("Form5/Label1");
+    EXPECT_EQ(program.message(), (Message{"用户名和登录密码不能为空！", "登录提醒", Message::Warning, {"确定"}}));
+    program.answer("确定");
+    EXPECT_TRUE(program.shows("Form5"));
+}
+
+TEST(AtTheDoor, TheTickDecidesWhetherThePairIsRemembered) {
+    const LedgerFolder folder;
+    {
+        Program program(folder);
+        program.click("Form5/Check1");
+        signIn(program);
+        endByCross(program);
+    }
+    EXPECT_EQ(folder.rows("select count(*) from 登陆用户记录表"), std::vector<std::string>{"0"});
+    Program program(folder);
+    EXPECT_EQ(program.text("Form5/Text2"), "");
+    program.click("Form5/Text2");
+    program.type("123456");
+    program.click("Form5/Label3");
+    signIn(program);
+    endByCross(program);
+    EXPECT_EQ(folder.rows("select * from 登陆用户记录表"), std::vector<std::string>{"管理员|123456"});
+}
+
+TEST(AtTheDoor, LeavingDeletesThePictureAndLeavesTheDataOpen) {
+    const LedgerFolder folder;
+    Program program(folder);
+    EXPECT_TRUE(folder.has("dlpf.jpg"));
+    program.click("Form5/Image2");
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_FALSE(folder.has("dlpf.jpg"));
+    EXPECT_EQ(folder.header(), "01 00");
+}
+
+TEST(AtTheDoor, ASecondCopyIsTurnedAwayAfterItsSignIn) {
+    const LedgerFolder folder;
+    Program first(folder);
+    signIn(first);
+    Program second(folder);
+    second.click("Form5/Label1");
+    EXPECT_EQ(
+        second.message(),
+        (Message{"程序已经运行，程序可能已经最小化到左下角或系统托盘！", "青禾家庭记账本", Message::None, {"确定"}}));
+    second.answer("确定");
+    EXPECT_EQ(second.exitCode(), 0);
+
+    EXPECT_EQ(folder.header(), "01 00");
+    first.click("Form2/Label2(0)");
+    EXPECT_EQ(first.caption("Form2/Frame2"), "收入记录");
+    endByCross(first);
+}
+
+TEST(AtTheDoor, AnotherFolderIsAnotherLedger) {
+    const LedgerFolder ours, theirs;
+    Program first(ours), second(theirs);
+    signIn(first);
+    signIn(second);
+    endByCross(second);
+    endByCross(first);
+}

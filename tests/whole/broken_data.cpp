@@ -1,0 +1,95 @@
+#include "household.h"
+
+#include <gtest/gtest.h>
+
+using namespace whole;
+
+namespace {
+
+bool holdsChinese(const std::string& text) {
+    for (const QChar character : QString::fromStdString(text))
+        if (character.script() == QChar::Script_Han)
+            return true;
+    return false;
+}
+
+/// The program tells in Chinese what is wrong, and ends with 1.
+void expectErrorWindow(Program& program, const std::string& said) {
+    const Message message = program.message();
+    EXPECT_EQ(message.title, "青禾家庭记账本");
+    EXPECT_EQ(message.buttons, std::vector<std::string>{"确定"});
+    EXPECT_TRUE(holdsChinese(message.text));
+    EXPECT_NE(message.text.find(said), std::string::npos) << message.text;
+    program.answer("确定");
+    EXPECT_EQ(program.exitCode(), 1);
+}
+
+} // namespace
+
+TEST(BrokenData, AMissingFileIsTold) {
+    const LedgerFolder folder;
+    folder.remove("data.dll");
+    Program program(folder);
+    expectErrorWindow(program, "data.dll");
+    EXPECT_FALSE(folder.has("data.dll"));
+}
+
+TEST(BrokenData, AForeignFileIsTold) {
+    const LedgerFolder folder;
+    folder.write("data.dll", QByteArray("no ledger at all, just text\n").repeated(400));
+    Program program(folder);
+    expectErrorWindow(program, "data.dll");
+}
+
+TEST(BrokenData, ATruncatedFileIsTold) {
+    const LedgerFolder folder;
+    const QByteArray whole = folder.bytes("data.dll");
+    folder.write("data.dll", whole.left(whole.size() / 3));
+    Program program(folder);
+    expectErrorWindow(program, "data.dll");
+}
+
+TEST(BrokenData, AMissingTableIsTold) {
+    const LedgerFolder folder;
+    folder.execute("drop table 主界面");
+    Program program(folder);
+    program.click("Form5/Label1");
+    expectErrorWindow(program, "主界面");
+}
+
+TEST(BrokenData, AnAmountThatIsNoNumberEndsTheSaveWhereItStands) {
+    const LedgerFolder folder;
+    folder.execute("insert into srb values('1','2024-11-01','工资','王青',500,'工行','',1),"
+                   "('2','2024-11-02','稿费','李禾',70.5,'现金','',2)");
+    {
+        Program program(folder);
+        signIn(program);
+        program.click("Form2/Label2(0)");
+        program.click("Form2/Command4");
+        program.clickCell("Form2/ms2", 3, 1);
+        for (const char* text : {"3", "2024-11-03", "奖金", "王青"}) {
+            program.type(text);
+            program.key("Return");
+        }
+        // The sum is not finished when the calculator is closed, and what stands there goes into the cell.
+        program.waitForKeyboard("Form9");
+        program.type("12+");
+        program.close("Form9");
+        EXPECT_EQ(program.cell("Form2/ms2", 3, 5), "12+");
+        program.clickCell("Form2/ms2", 3, 6);
+        program.type("现金");
+        program.key("Return");
+
+        program.click("Form2/Command6");
+        expectErrorWindow(program, "12+");
+    }
+    EXPECT_EQ(folder.header(), "01 00");
+    EXPECT_EQ(folder.rows("select 编号,金额 from srb"), (std::vector<std::string>{"1|500", "2|70.5"}));
+
+    Program program(folder);
+    signIn(program);
+    program.click("Form2/Label2(0)");
+    EXPECT_EQ(program.cell("Form2/ms2", 2, 3), "稿费");
+    EXPECT_EQ(program.text("Form2/Label10"), "当前收入总额为：570.50元 ");
+    endByCross(program);
+}

@@ -1,0 +1,75 @@
+#include "household.h"
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+using namespace whole;
+
+namespace {
+
+const std::string count = "select count(*), min(区别), max(区别) from srb";
+const std::string old = "30000|1000001|1030000", fresh = "30000|1|30000";
+
+/// The rows of the table as it stands get numbers that no save gives, so that old rows are told from saved ones.
+void markOld(const LedgerFolder& folder) {
+    folder.execute("update srb set 区别 = 区别 + 1000000");
+}
+
+void fillLedger(const LedgerFolder& folder) {
+    folder.execute("with recursive n(i) as (select 1 union all select i + 1 from n where i < 30000) "
+                   "insert into srb select i, '2024-11-01', '工资', '王青', i * 0.5, '工行', '每月', i from n");
+    markOld(folder);
+}
+
+void openLedger(Program& program) {
+    signIn(program);
+    program.click("Form2/Label2(0)");
+}
+
+/// How long a save of the table takes, in ms.
+int savingTakes(const LedgerFolder& folder) {
+    Program program(folder);
+    openLedger(program);
+    program.shows("Form2");
+    QElapsedTimer timer;
+    timer.start();
+    program.click("Form2/Command6");
+    program.message();
+    return static_cast<int>(timer.elapsed());
+}
+
+} // namespace
+
+TEST(PowerCut, ASaveIsDoneOrWasNeverBegun) {
+    constexpr int Cuts = 100;
+    const LedgerFolder folder;
+    fillLedger(folder);
+    const int saving = savingTakes(folder);
+    markOld(folder);
+
+    int inTheMidst = 0, before = 0;
+    for (int i = 0; i < Cuts; ++i) {
+        {
+            Program program(folder);
+            openLedger(program);
+            program.shows("Form2");
+            program.click("Form2/Command6");
+            QThread::usleep(QRandomGenerator::global()->bounded(static_cast<quint32>(saving) * 1000));
+            program.kill();
+        }
+        inTheMidst += folder.has("data.dll-journal");
+        const std::vector<std::string> table = folder.rows(count);
+        ASSERT_TRUE(table[0] == old || table[0] == fresh) << table[0];
+        ASSERT_EQ(folder.rows("pragma integrity_check")[0], "ok");
+        if (table[0] == fresh)
+            markOld(folder);
+        else
+            ++before;
+    }
+    std::cout << "saving took " << saving << " ms; of " << Cuts << " cuts " << inTheMidst
+              << " met a save in the midst, and " << before << " left the table as it was\n";
+    EXPECT_GT(inTheMidst, 0);
+}
