@@ -28,6 +28,7 @@ QProcessEnvironment environment(const LedgerFolder& folder, const std::string& n
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("HOME"), folder.beside("home"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.beside(""));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_DRIVER ":" QINGHE_FAKETIME));
     environment.insert(QStringLiteral("QINGHE_DRIVER_SOCKET"), socket);

@@ -76,7 +76,7 @@ public:
     bool running();
     /// Waits for its end; -1 when it was killed or crashed.
     int exitCode();
-    void kill(); ///< as a power cut does
+    void kill(); ///< without a warning
     std::string errors() const { return m_errors; }
 
     /// For what has no word of its own above.

@@ -43,15 +43,15 @@ int savingTakes(const LedgerFolder& folder) {
 
 } // namespace
 
-TEST(PowerCut, ASaveIsDoneOrWasNeverBegun) {
-    constexpr int Cuts = 100;
+TEST(SuddenEnd, ASaveIsDoneOrWasNeverBegun) {
+    constexpr int Kills = 100;
     const LedgerFolder folder;
     fillLedger(folder);
     const int saving = savingTakes(folder);
     markOld(folder);
 
     int inTheMidst = 0, before = 0;
-    for (int i = 0; i < Cuts; ++i) {
+    for (int i = 0; i < Kills; ++i) {
         {
             Program program(folder);
             openLedger(program);
@@ -69,7 +69,7 @@ TEST(PowerCut, ASaveIsDoneOrWasNeverBegun) {
         else
             ++before;
     }
-    std::cout << "saving took " << saving << " ms; of " << Cuts << " cuts " << inTheMidst
+    std::cout << "saving took " << saving << " ms; of " << Kills << " kills " << inTheMidst
               << " met a save in the midst, and " << before << " left the table as it was\n";
     EXPECT_GT(inTheMidst, 0);
 }
