@@ -55,12 +55,13 @@ void paintLine(QPainter& painter, const QRect& room, Qt::Alignment alignment, co
     const QFontMetrics metrics(font);
     const QString shown = metrics.elidedText(words, Qt::ElideRight, room.width());
     // QLineEdit's own sums, half pixels rounded as there.
-    const int used = qRound(QFontMetricsF(font).horizontalAdvance(shown)) + 1;
+    const double advance = QFontMetricsF(font).horizontalAdvance(shown);
+    const int used = qRound(advance) + 1;
     int x = room.left();
     if (alignment & Qt::AlignRight)
         x += std::max(0, room.width() - used - 1);
     else if (alignment & Qt::AlignHCenter)
-        x += std::max(0, (room.width() - used) / 2);
+        x += std::max(0, qRound((room.width() - advance) / 2));
     const int y = room.top() + (room.height() - metrics.height() + 1) / 2 + metrics.ascent();
     painter.setFont(font);
     painter.setPen(colour);

@@ -100,7 +100,7 @@ void paintWritingPaper(const QPlainTextEdit& text) {
     };
     // The lines that are written, each where its text stands, and empty ones below them.
     const QTextCursor first = text.cursorForPosition(QPoint(0, 0));
-    double foot = 0, shift = 0;
+    double foot = 0, shift = 0, spacing = QFontMetricsF(text.font()).lineSpacing();
     bool measured = false;
     for (QTextBlock block = first.block(); block.isValid() && foot < paper->height(); block = block.next()) {
         const QTextLayout* layout = block.layout();
@@ -109,12 +109,12 @@ void paintWritingPaper(const QPlainTextEdit& text) {
             measured = true;
         }
         for (int i = 0; i < layout->lineCount(); ++i) {
-            foot = shift + layout->lineAt(i).y() + layout->lineAt(i).height();
+            spacing = layout->lineAt(i).height();
+            foot = shift + layout->lineAt(i).y() + spacing;
             rule(foot);
         }
         shift = foot;
     }
-    const double spacing = QFontMetricsF(text.font()).lineSpacing();
     for (foot += spacing; foot < paper->height() - margin / 2; foot += spacing)
         rule(foot);
 }

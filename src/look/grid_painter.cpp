@@ -39,6 +39,12 @@ int rowPixels() {
     return pixelEdge(MSFlexGrid::DefaultRowHeight);
 }
 
+/// The line below a row; none where the grid's own edge runs.
+void paintRowLine(QPainter& painter, const QRect& row, const QWidget& part, const MSFlexGrid& grid) {
+    if (part.mapTo(&grid, row.bottomLeft()).y() < grid.height() - 1)
+        paintRule(painter, row.left(), row.right() + 1, row.bottom(), colour::Line);
+}
+
 /// Rules for rows that are not there yet.
 void paintRules(QPainter& painter, const QRect& room) {
     for (int y = room.top() + rowPixels(); y <= room.bottom(); y += rowPixels())
@@ -53,9 +59,9 @@ void paintCaption(const QStyleOptionHeader& option, QPainter& painter, const MSF
               grid.isEnabled() ? colour::LeafDark : colour::Ink2);
 }
 
-void paintMarker(const QStyleOptionHeader& option, QPainter& painter, const MSFlexGrid& grid) {
+void paintMarker(const QStyleOptionHeader& option, QPainter& painter, const QWidget& header, const MSFlexGrid& grid) {
     const QRect cell = option.rect;
-    paintRule(painter, cell.left(), cell.right() + 1, cell.bottom(), colour::Line);
+    paintRowLine(painter, cell, header, grid);
     paintUpright(painter, cell.right(), cell.top(), cell.bottom(), UprightLine);
     if (!isCurrentRow(grid, option.section + 1))
         return;
@@ -113,7 +119,7 @@ void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFle
         const QRect band(room.left(), grid.rowViewportPosition(row), room.width(), grid.rowHeight(row));
         if (const QColor colour = bandOf(grid, row + 1); colour.isValid())
             painter.fillRect(band, colour);
-        paintRule(painter, band.left(), band.right() + 1, band.bottom(), colour::Line);
+        paintRowLine(painter, band, viewport, grid);
         foot = band.bottom() + 1;
     }
     paintRules(painter, {room.left(), foot, room.width(), room.bottom() - foot + 1});
@@ -137,7 +143,7 @@ void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWid
     const bool captions = isSideways(widget);
     fillGridPart(painter, option.rect, widget, grid, captions ? colour::LeafPale : colour::MarkerColumn);
     if (!captions)
-        return paintMarker(option, painter, grid);
+        return paintMarker(option, painter, widget, grid);
     if (qobject_cast<const QHeaderView*>(&widget))
         paintCaption(option, painter, grid);
     else
