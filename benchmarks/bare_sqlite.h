@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace qinghe::benchmarks {
+
+/// SQLite's own interface with nothing around it: the reference of the store's measures. A failure ends the process.
+class Bare {
+public:
+    explicit Bare(const QString& path, const char* vfs = nullptr);
+    ~Bare();
+    Bare(const Bare&) = delete;
+    Bare& operator=(const Bare&) = delete;
+
+    void run(const QString& sql);
+    /// Steps through all rows and looks at every column's value.
+    void read(const QString& sql);
+    sqlite3_stmt* prepare(const QString& sql);
+
+private:
+    sqlite3* m_db = nullptr;
+};
+
+/// What opening the income page reads and rewrites: the statistics' source, the old statistics emptied, the new ones
+/// written, the table, its total, and the table again for delete and save; one durable transaction.
+void openIncomeBare(Bare& db);
+
+/// What saving the income page writes: one statement that empties the table and prepared inserts of the same rows, one
+/// durable transaction. `rows` is the grid's content.
+struct Cells {
+    int rows = 0;
+    std::vector<std::string> texts; ///< seven a row; numbers as text, as a grid holds them
+};
+Cells readCells(Bare& db);
+void saveIncomeBare(Bare& db, const Cells& cells);
+
+} // namespace qinghe::benchmarks

@@ -1,0 +1,154 @@
+#include "child_runs.h"
+
+#include "look/look.h"
+#include "measure.h"
+#include "support/program_rig.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLibraryInfo>
+#include <QProcess>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+namespace qinghe::benchmarks {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Calls once, when a top-level window has been painted.
+class Painted : public QObject {
+public:
+    Painted(const QString& window, std::function<void()> then) : m_window(window), m_then(std::move(then)) {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !m_seen) {
+            const auto* widget = qobject_cast<QWidget*>(object);
+            if (widget && widget->isWindow() && (m_window.isEmpty() || widget->objectName() == m_window)) {
+                m_seen = true;
+                QMetaObject::invokeMethod(qApp, m_then, Qt::QueuedConnection);
+            }
+        }
+        return false;
+    }
+
+private:
+    QString m_window;
+    std::function<void()> m_then;
+    bool m_seen = false;
+};
+
+[[noreturn]] void endNow() {
+    std::fflush(nullptr);
+    std::_Exit(0);
+}
+
+/// Resident memory of this process, MiB.
+double residentMiB() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:"))
+            return std::stod(line.substr(6)) / 1024;
+    return 0;
+}
+
+/// The services of the desktop for a program in `folder`.
+Services servicesIn(const QString& folder) {
+    Services services = desktopServices();
+    services.appPath = folder;
+    return services;
+}
+
+void emptyWindow(QApplication&) {
+    QWidget window;
+    window.resize(355, 280);
+    Painted painted({}, [] {
+        std::printf("%f\n", residentMiB());
+        endNow();
+    });
+    window.show();
+    QApplication::exec();
+}
+
+/// As main does it, to the sign-in's first painting.
+void startProgram(QApplication& application, const QString& folder) {
+    QTranslator chinese;
+    if (chinese.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&chinese);
+    dress(application);
+    Program program(servicesIn(folder));
+    Painted painted(u"Form5"_s, [] { endNow(); });
+    program.start();
+    QApplication::exec();
+}
+
+/// Signs in and prints how long it takes to the main window's painting; with `open`, opens the income page as well and
+/// prints the resident memory instead.
+void signIn(QApplication& application, const QString& folder, bool open) {
+    dress(application);
+    Program program(servicesIn(folder));
+    program.start();
+    QApplication::processEvents();
+    QElapsedTimer timer;
+    Painted painted(u"Form2"_s, [&] {
+        if (!open) {
+            std::printf("%f\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
+            endNow();
+        }
+        auto* label = program.bench().forms.loaded(u"Form2"_s)->findChild<Label*>(u"Label2(0)"_s);
+        QTest::mouseClick(label, Qt::LeftButton);
+        QApplication::processEvents();
+        QApplication::processEvents();
+        std::printf("%f\n", residentMiB());
+        endNow();
+    });
+    timer.start();
+    QTest::mouseClick(program.bench().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
+    QApplication::exec();
+}
+
+QProcess* child(const QStringList& arguments) {
+    auto* process = new QProcess;
+    process->start(QCoreApplication::applicationFilePath(), arguments);
+    if (!process->waitForFinished(60'000) || process->exitCode() != 0)
+        qFatal("the child %s failed", qPrintable(arguments.join(u' ')));
+    return process;
+}
+
+} // namespace
+
+bool runAsChild(int argc, char** argv, int& exitCode) {
+    if (argc < 2)
+        return false;
+    const std::string what = argv[1];
+    const QString folder = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (what == "empty-window")
+        emptyWindow(application);
+    else if (what == "start")
+        startProgram(application, folder);
+    else
+        signIn(application, folder, what == "memory");
+    exitCode = 1;
+    return true;
+}
+
+double startTime(const QStringList& arguments) {
+    return milliseconds([&] { delete child(arguments); });
+}
+
+double childFigure(const QStringList& arguments) {
+    const std::unique_ptr<QProcess> process(child(arguments));
+    return process->readAllStandardOutput().trimmed().toDouble();
+}
+
+} // namespace qinghe::benchmarks

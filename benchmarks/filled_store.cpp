@@ -1,0 +1,59 @@
+#include "filled_store.h"
+
+#include "bare_sqlite.h"
+#include "store/header_toggle.h"
+#include "store/header_vfs.h"
+
+#include <QFile>
+
+namespace qinghe::benchmarks {
+
+namespace {
+
+/// Rows 1 to n in one go; %1 is the table, %2 the values by n.
+QString insertMany(const QString& table, const QString& values, int rows) {
+    return QStringLiteral("with recursive c(n) as (select 1 union all select n+1 from c where n<%3) "
+                          "insert into %1 select %2 from c")
+        .arg(table, values)
+        .arg(rows);
+}
+
+/// Some day of ten years.
+const QString Day = QStringLiteral("date('2015-01-01', '+'||(n*7919%3650)||' days')");
+
+} // namespace
+
+void fillTables(const QString& dataFile, int rows) {
+    healHeader(dataFile);
+    {
+        Bare db(dataFile, headerVfsName());
+        db.run(QStringLiteral("begin"));
+        const QString money = QStringLiteral("round(n*37%99991/7.0,2)");
+        for (const char* table : {"srb", "zcb"})
+            db.run(insertMany(QString::fromUtf8(table),
+                              QStringLiteral("'B'||n,%1,'项目'||(n%40),'家人'||(n%5),%2,'账户'||(n%6),"
+                                             "case when n%3 then '备注'||n end,n")
+                                  .arg(Day, money),
+                              rows));
+        for (const char* table : {"jrb", "jcb"})
+            db.run(insertMany(QString::fromUtf8(table),
+                              QStringLiteral("'账户'||(n%6),%1,%2,1,%2-1,'甲','乙','备注'||n,n").arg(Day, money),
+                              rows));
+        db.run(insertMany(QStringLiteral("ysb"), QStringLiteral("%1,'预算'||(n%40),%2,'备注'||n,n").arg(Day, money),
+                          rows));
+        db.run(insertMany(QStringLiteral("rcb"),
+                          QStringLiteral("%1,n%9,%1,'8:'||(n%60),'日程内容'||n,'音乐1',n").arg(Day), rows));
+        db.run(QStringLiteral("commit"));
+    }
+    spoilHeader(dataFile);
+}
+
+void plainCopy(const QString& dataFile, const QString& copy) {
+    QFile::remove(copy);
+    QFile::copy(dataFile, copy);
+    QFile file(copy);
+    if (!file.open(QIODevice::ReadWrite) || !file.seek(1) || file.write("QL", 2) != 2)
+        qFatal("cannot make the plain copy");
+}
+
+} // namespace qinghe::benchmarks

@@ -1,0 +1,145 @@
+#include "bare_sqlite.h"
+#include "child_runs.h"
+#include "filled_store.h"
+#include "look/look.h"
+#include "measure.h"
+#include "support/program_rig.h"
+
+#include <QApplication>
+
+#include <cstdlib>
+
+using namespace qinghe;
+using namespace qinghe::benchmarks;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Runs = 7;
+
+void measureStart(Report& report, const QString& full, const QString& empty) {
+    report.add(u"start to sign-in painted, against an empty window"_s,
+               inTurn(
+                   2 * Runs,
+                   [&] {
+                       return startTime({u"start"_s, full});
+                   },
+                   [] { return startTime({u"empty-window"_s}); }),
+               1.5);
+    report.add(u"sign-in click to main window painted, full tables against empty ones"_s,
+               inTurn(
+                   2 * Runs,
+                   [&] {
+                       return childFigure({u"sign-in"_s, full});
+                   },
+                   [&] {
+                       return childFigure({u"sign-in"_s, empty});
+                   }),
+               1.2);
+    report.add(u"resident memory with income open, against an empty window"_s,
+               inTurn(
+                   3,
+                   [&] {
+                       return childFigure({u"memory"_s, full});
+                   },
+                   [] { return childFigure({u"empty-window"_s}); }),
+               2, u"MiB"_s);
+}
+
+struct IncomeTimes {
+    Pair open, save;
+};
+
+/// Opens and saves the income page with `rows` rows against the same work in bare SQLite on a file of the same content.
+IncomeTimes measureIncome(int rows) {
+    qinghe::testing::ProgramRig rig;
+    fillTables(rig.dataFile(), rows);
+    plainCopy(rig.dataFile(), rig.file(u"plain.db"_s));
+    Bare bare(rig.file(u"plain.db"_s));
+    const Cells cells = readCells(bare);
+    rig.signIn();
+    auto& income = rig.onMain<Label>(u"Label2(0)"_s);
+    auto& save = rig.onMain<CommandButton>(u"Command6"_s);
+    IncomeTimes times;
+    times.open = inTurn(
+        Runs, [&] { return milliseconds([&] { rig.click(income); }); },
+        [&] { return milliseconds([&] { openIncomeBare(bare); }); });
+    times.save = inTurn(
+        Runs, [&] { return milliseconds([&] { rig.click(save); }); },
+        [&] { return milliseconds([&] { saveIncomeBare(bare, cells); }); });
+    if (rig.lastMessage().text != u"保存成功"_s)
+        qFatal("the save was refused");
+    return times;
+}
+
+void measureLedger(Report& report) {
+    std::vector<double> sizes, opens, saves;
+    for (int rows : {1000, 4000, 16000, FullTable}) {
+        const IncomeTimes times = measureIncome(rows);
+        sizes.push_back(rows);
+        opens.push_back(times.open.ours);
+        saves.push_back(times.save.ours);
+        report.note(u"%1 rows: open %2 ms (reference %3), save %4 ms (reference %5)"_s.arg(rows)
+                        .arg(times.open.ours, 0, 'f', 1)
+                        .arg(times.open.reference, 0, 'f', 1)
+                        .arg(times.save.ours, 0, 'f', 1)
+                        .arg(times.save.reference, 0, 'f', 1));
+        if (rows != FullTable)
+            continue;
+        report.add(u"opening income, 32767 rows, against bare SQLite"_s, times.open, 1.6);
+        report.add(u"saving income, 32767 rows, durable, against bare SQLite"_s, times.save, 2.0);
+    }
+    report.addPlain(u"growth of opening with the rows, exponent"_s, growthExponent(sizes, opens), 1.1);
+    report.addPlain(u"growth of saving with the rows, exponent"_s, growthExponent(sizes, saves), 1.1);
+}
+
+void measureDayQuery(Report& report) {
+    qinghe::testing::ProgramRig rig;
+    fillTables(rig.dataFile(), FullTable);
+    plainCopy(rig.dataFile(), rig.file(u"plain.db"_s));
+    Bare bare(rig.file(u"plain.db"_s));
+    rig.signIn();
+    Adodc& control = *rig.mainWindow().Adodc1;
+    const auto day = [](int i) { return QDate(2016, 1, 1).addDays(i); };
+    constexpr int Queries = 500;
+    const auto ours = [&] {
+        return milliseconds([&] {
+            for (int i = 0; i < Queries; ++i) {
+                Recordset& plans = control.open(u"select 提醒时间,提醒音乐,日程内容 from rcb where 日程日期= # "_s +
+                                                dateText(day(i)) + u"#"_s);
+                for (; !plans.eof(); plans.moveNext())
+                    plans.field(u"提醒时间"_s).text();
+            }
+        });
+    };
+    const auto reference = [&] {
+        return milliseconds([&] {
+            for (int i = 0; i < Queries; ++i)
+                bare.read(u"select 提醒时间,提醒音乐,日程内容 from rcb where 日程日期='"_s +
+                          day(i).toString(Qt::ISODate) + u"'"_s);
+        });
+    };
+    report.add(u"plans of one day among 32767, 500 queries, against bare SQLite"_s, inTurn(Runs, ours, reference), 3);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    int exitCode = 0;
+    if (runAsChild(argc, argv, exitCode))
+        return exitCode;
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    dress(application);
+    Report report;
+    {
+        qinghe::testing::ProgramRig full, empty;
+        fillTables(full.dataFile(), FullTable);
+        measureStart(report, full.folder(), empty.folder());
+    }
+    measureLedger(report);
+    measureDayQuery(report);
+    return report.close();
+}
