@@ -1,5 +1,6 @@
 #include "look/ground.h"
 
+#include "look/app_icon.h"
 #include "look/art.h"
 #include "look/colours.h"
 #include "look/drawing.h"
@@ -73,11 +74,18 @@ void paintPicture(QPainter& painter, const Form& form) {
     }
 }
 
+/// The program's icon, and the line between the borrowed list and the window images.
+void paintTitleMarks(QPainter& painter) {
+    paintAppIcon(painter, pixelRect(210, 135, 600, 600));
+    paintUpright(painter, pixelEdge(9982), 14, 31, colour::faded(colour::fromRgb(0x28501E), 20));
+}
+
 void paintMain(QPainter& painter, const Form& form) {
     const QRectF window = form.rect();
     paintPicture(painter, form);
     paintVeil(painter, window, onDarkPicture(form));
     paintShelf(painter, window);
+    paintTitleMarks(painter);
     paintEdge(painter, window, 5, true);
 }
 

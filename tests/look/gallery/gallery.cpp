@@ -43,14 +43,10 @@ private:
     }
 
     void band() {
-        auto* icon = at(new Image(this, u"icon"_s), 210, 135, 600, 600);
-        icon->setRole(Role::Glyph);
-        icon->setGlyph(Glyph::AppIcon);
         words(this, Role::ProductName, u"青禾家庭记账本"_s, 960, 240, 2175, 375);
         words(this, Role::ClockText, u"系统时间：2024-6-18"_s, 960, 690, 2000, 330);
         words(this, Role::ClockText, u"20:36:08"_s, 3000, 690, 1000, 330);
         words(this, Role::Link, u"qinghe.example"_s, 9375, 690, 2280, 330);
-        words(this, Role::Hairline, {}, 9975, 210, 15, 255);
         const Glyph glyphs[] = {Glyph::Borrow, Glyph::Info, Glyph::Tools, Glyph::Minimise, Glyph::Close};
         const double lefts[] = {9510, 10095, 10530, 10965, 11400};
         for (int i = 0; i < 5; ++i) {
