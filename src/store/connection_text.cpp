@@ -46,7 +46,7 @@ QString dataSource(const QString& connectionText) {
 
 QString systemPath(const QString& path) {
     const qsizetype last = path.lastIndexOf(u'\\');
-    if (QDir::separator() == u'\\' || last < path.lastIndexOf(u'/') || QFileInfo::exists(path))
+    if (QDir::separator() == u'\\' || last <= path.lastIndexOf(u'/') || QFileInfo::exists(path))
         return path;
     return path.first(last) + u'/' + path.sliced(last + 1);
 }

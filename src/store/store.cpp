@@ -10,13 +10,16 @@ namespace qinghe {
 
 namespace {
 
+constexpr qint64 kFileHeaderSize = 100;
+
 void requireStoreFile(const QString& path) {
     const QFileInfo file(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (!file.isFile())
         throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到账本文件“%1”。").arg(shown));
-    if (file.size() == 0) // to SQLite an empty file is a store without tables
-        throw RuntimeError(RuntimeError::StoreFailure, QStringLiteral("账本文件“%1”是空的。").arg(shown));
+    if (file.size() < kFileHeaderSize) // to SQLite a file of a few bytes is a store without tables
+        throw RuntimeError(RuntimeError::StoreFailure,
+                           QStringLiteral("“%1”是空的，或者不完整，不是账本文件。").arg(shown));
 }
 
 /// Whether an error leaves the file and the open unit of work sound.
@@ -31,14 +34,28 @@ struct Store::Impl {
     std::unique_ptr<Session> open;
     int generation = 0;
 
+    /// The open file, opened if need be; one that was replaced under its name is opened anew.
     Session& session() {
-        if (open && !open->inTransaction() && open->fileMoved())
-            drop();
+        dropIfMoved();
         if (!open) {
             requireStoreFile(path);
             open = std::make_unique<Session>(path);
         }
         return *open;
+    }
+
+    /// The file that the rows in hand came from.
+    Session& sessionOfRows() {
+        dropIfMoved();
+        if (!open)
+            throw RuntimeError(RuntimeError::StoreFailure,
+                               QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再修改。"));
+        return *open;
+    }
+
+    void dropIfMoved() {
+        if (open && !open->inTransaction() && open->fileMoved())
+            drop();
     }
 
     void drop() {
@@ -48,9 +65,9 @@ struct Store::Impl {
     }
 
     template<typename Work>
-    auto run(Work work) -> decltype(work(*open)) {
+    auto run(Work work, Session& (Impl::*file)()) -> decltype(work(*open)) {
         try {
-            return work(session());
+            return work((this->*file)());
         } catch (const RuntimeError& error) {
             if (!isRefusal(error))
                 recover(error);
@@ -81,7 +98,7 @@ const QString& Store::path() const {
 }
 
 std::shared_ptr<const ResultSet> Store::fetch(const QString& source) {
-    return m->run([&](Session& session) { return session.fetch(source); });
+    return m->run([&](Session& session) { return session.fetch(source); }, &Impl::session);
 }
 
 bool Store::inTransaction() const {
@@ -90,7 +107,7 @@ bool Store::inTransaction() const {
 
 void Store::commit() {
     if (inTransaction())
-        m->run([](Session& session) { session.commit(); });
+        m->run([](Session& session) { session.commit(); }, &Impl::session);
 }
 
 void Store::close() {
@@ -108,20 +125,20 @@ int Store::generation() const {
 }
 
 qint64 Store::insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values) {
-    return m->run([&](Session& session) { return session.insertRow(table, ordinals, values); });
+    return m->run([&](Session& session) { return session.insertRow(table, ordinals, values); }, &Impl::sessionOfRows);
 }
 
 void Store::updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
                       std::span<const StoredValue> values) {
-    m->run([&](Session& session) { session.updateRow(table, rowid, ordinals, values); });
+    m->run([&](Session& session) { session.updateRow(table, rowid, ordinals, values); }, &Impl::sessionOfRows);
 }
 
 void Store::deleteRow(const QString& table, qint64 rowid) {
-    m->run([&](Session& session) { session.deleteRow(table, rowid); });
+    m->run([&](Session& session) { session.deleteRow(table, rowid); }, &Impl::sessionOfRows);
 }
 
 const TableColumns& Store::columns(const QString& table) {
-    return m->run([&](Session& session) -> const TableColumns& { return session.columns(table); });
+    return m->run([&](Session& session) -> const TableColumns& { return session.columns(table); }, &Impl::session);
 }
 
 } // namespace qinghe

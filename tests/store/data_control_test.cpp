@@ -1,0 +1,109 @@
+#include "store/store_errors.h"
+#include "store/store_fixture.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace qinghe {
+namespace {
+
+class DataControl : public StoreTest {};
+
+TEST_F(DataControl, HasNoRecordsetBeforeTheFirstRefresh) {
+    EXPECT_FALSE(control.hasRecordset());
+    EXPECT_EQ(errorOf([&] { control.recordset(); }, u"Adodc1"_s), store_errors::ObjectNotSet);
+    control.setRecordSource(u"srb"_s);
+    EXPECT_FALSE(control.hasRecordset());
+    control.refresh();
+    EXPECT_TRUE(control.hasRecordset());
+}
+
+TEST_F(DataControl, GoesByItsNameAndKeepsWhatItIsTold) {
+    EXPECT_EQ(control.objectName(), u"Adodc1"_s);
+    EXPECT_TRUE(control.isVisible());
+    ASSERT_TRUE(control.setProperty("Visible", false));
+    EXPECT_FALSE(control.isVisible());
+    ASSERT_TRUE(control.setProperty("RecordSource", u"yhb"_s));
+    EXPECT_EQ(control.recordSource(), u"yhb"_s);
+    ASSERT_TRUE(control.setProperty("ConnectionString", u"x"_s));
+    EXPECT_EQ(control.connectionString(), u"x"_s);
+}
+
+TEST_F(DataControl, ANewSourceDoesNotQueryUntilRefresh) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    control.setRecordSource(u"yhb"_s);
+    EXPECT_EQ(control.recordset().field(0).name(), u"编号"_s);
+    EXPECT_EQ(control.recordset().recordCount(), 1);
+    control.refresh();
+    EXPECT_EQ(control.recordset().field(0).name(), u"用户名"_s);
+}
+
+TEST_F(DataControl, WritesToTheSetInHandWhateverTheSourceSays) {
+    control.open(u"select distinct 收入大类 from srflb"_s);
+    control.setRecordSource(u"ysb"_s);
+    add(control.recordset(), {{u"收入大类"_s, u"工资"_s}});
+    EXPECT_EQ(control.open(u"ysb"_s).recordCount(), 0);
+    EXPECT_EQ(control.open(u"srflb"_s).recordCount(), 1);
+}
+
+TEST_F(DataControl, RefreshStandsOnTheFirstRow) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    addIncome(u"2024-5-4"_s, u"奖金"_s, 200);
+    Recordset& set = control.open(u"srb"_s);
+    set.moveNext();
+    control.refresh();
+    EXPECT_EQ(control.recordset().field(u"项目").text(), u"工资"_s);
+}
+
+TEST_F(DataControl, AFailedRefreshLeavesTheSetInHand) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    EXPECT_EQ(errorOf([&] { control.open(u"nosuch"_s); }, u"nosuch"_s), RuntimeError::QueryFailure);
+    EXPECT_EQ(control.recordset().field(u"项目").text(), u"工资"_s);
+}
+
+TEST_F(DataControl, ConnectionWithoutAFileIsRefused) {
+    control.setConnectionString(u"data.dll"_s);
+    EXPECT_EQ(errorOf([&] { control.open(u"srb"_s); }), store_errors::ProviderUnknown);
+}
+
+TEST_F(DataControl, TwoControlsShareTheFileAndItsUnitOfWork) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    EXPECT_TRUE(store.inTransaction());
+    EXPECT_EQ(second.open(u"srb"_s).recordCount(), 1);
+    EXPECT_TRUE(store.inTransaction());
+}
+
+TEST_F(DataControl, AnotherFileIsOpenedWhenTheConnectionNamesIt) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"other"_s));
+    createStore(folder.filePath(u"other/data.dll"_s));
+    control.setConnectionString(connectionText(folder.filePath(u"other"_s), true));
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
+    EXPECT_EQ(second.open(u"srb"_s).recordCount(), 1); // written before the file was left
+}
+
+TEST_F(DataControl, BorrowedComesBackAsItWas) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    addIncome(u"2024-5-4"_s, u"奖金"_s, 200);
+    control.open(u"srb"_s).moveNext();
+    Adodc::Loan loan = control.borrow();
+    EXPECT_FALSE(control.hasRecordset());
+    control.open(u"yhb"_s);
+    control.giveBack(std::move(loan));
+    EXPECT_EQ(control.recordSource(), u"srb"_s);
+    EXPECT_EQ(control.recordset().field(u"项目").text(), u"奖金"_s);
+    control.recordset().deleteCurrent();
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 1);
+}
+
+TEST_F(DataControl, BorrowedBeforeAnyRefreshComesBackEmpty) {
+    Adodc::Loan loan = control.borrow();
+    control.open(u"yhb"_s);
+    control.giveBack(std::move(loan));
+    EXPECT_FALSE(control.hasRecordset());
+    EXPECT_EQ(control.recordSource(), QString());
+}
+
+} // namespace
+} // namespace qinghe

@@ -1,0 +1,96 @@
+#include "store/failing_disk.h"
+#include "store/rewritten_table.h"
+
+using namespace Qt::StringLiterals;
+
+namespace qinghe {
+namespace {
+
+constexpr int kRows = 150;
+
+class DiskFull : public StoreTest, public testing::WithParamInterface<bool> {
+protected:
+    ~DiskFull() override { failing_disk::makeSpace(); }
+    bool once() const { return GetParam(); }
+    void expectSound() { EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s); }
+};
+
+TEST_P(DiskFull, AtAnyWriteOfASaveLeavesTheOldTableOrTheNewOne) {
+    rewriteTable(store, control, u"0"_s, kRows);
+    int failures = 0;
+    for (bool failed = true; failed; ++failures) {
+        const QString before = markOfTable(control, kRows);
+        const QString mark = QString::number(failures + 1);
+        failing_disk::fillUpAfter(failures, once());
+        const int error = errorOf([&] { rewriteTable(store, control, mark, kRows); });
+        EXPECT_FALSE(store.inTransaction());
+        failed = failing_disk::makeSpace();
+        EXPECT_EQ(error, failed ? RuntimeError::DiskFull : 0);
+        EXPECT_EQ(markOfTable(control, kRows), error ? before : mark) << "after write " << failures;
+        if (::testing::Test::HasFailure())
+            return;
+    }
+    EXPECT_GT(failures, 20);
+    expectSound();
+}
+
+TEST_P(DiskFull, InASaveLargerThanTheMemoryKeptForItLeavesTheOldTable) {
+    const auto savePicture = [&](char byte) {
+        Recordset& set = control.open(u"皮肤选择"_s);
+        for (; !set.eof(); set.moveNext())
+            set.deleteCurrent();
+        for (int i = 0; i < 3; ++i)
+            add(set, {{u"皮肤文件"_s, QByteArray(8'000'000, byte)}});
+        store.commit();
+    };
+    savePicture('a');
+    for (const int healthyWrites : {0, 1, 100, 1000, 5000, 7000, 9000}) {
+        failing_disk::fillUpAfter(healthyWrites, once());
+        EXPECT_EQ(errorOf([&] { savePicture('b'); }, u"磁盘已满"_s), RuntimeError::DiskFull) << healthyWrites;
+        EXPECT_TRUE(failing_disk::makeSpace());
+        Recordset& set = control.open(u"皮肤选择"_s);
+        EXPECT_EQ(set.recordCount(), 3);
+        EXPECT_EQ(set.field(2).getChunk(8'000'000), QByteArray(8'000'000, 'a')) << healthyWrites;
+    }
+    expectSound();
+}
+
+TEST_P(DiskFull, LeavesTheStoreUsableOnceThereIsSpace) {
+    rewriteTable(store, control, u"旧"_s, kRows);
+    failing_disk::fillUpAfter(5, once());
+    EXPECT_EQ(errorOf([&] { rewriteTable(store, control, u"新"_s, kRows); }, u"data.dll"_s), RuntimeError::DiskFull);
+    failing_disk::makeSpace();
+    rewriteTable(store, control, u"新"_s, kRows);
+    store.close();
+    EXPECT_EQ(markOfTable(control, kRows), u"新"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(OnceAndLasting, DiskFull, testing::Bool());
+
+class PowerCut : public StoreTest {
+protected:
+    ~PowerCut() override { failing_disk::restorePower(); }
+};
+
+TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBackACommit) {
+    rewriteTable(store, control, u"0"_s, kRows);
+    int cuts = 0;
+    for (bool cut = true; cut; ++cuts) {
+        const QString before = markOfTable(control, kRows);
+        const QString mark = QString::number(cuts + 1);
+        failing_disk::cutPowerAfter(cuts);
+        const int error = errorOf([&] { rewriteTable(store, control, mark, kRows); });
+        store.close();
+        cut = failing_disk::restorePower();
+        const QString after = markOfTable(control, kRows);
+        EXPECT_TRUE(after == mark || (error && after == before)) << "after change " << cuts;
+        EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
+        if (::testing::Test::HasFailure())
+            return;
+    }
+    EXPECT_GT(cuts, 20);
+    EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s);
+}
+
+} // namespace
+} // namespace qinghe

@@ -1,0 +1,57 @@
+#include "store/rewritten_table.h"
+
+#include <chrono>
+#include <csignal>
+#include <random>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace qinghe {
+namespace {
+
+constexpr int kRows = 2000;
+constexpr int kKills = 120;
+
+class Kill : public StoreTest {
+protected:
+    /// Another process that rewrites the table over and over, with a mark of its own each time.
+    pid_t startRewriting(const QString& name) {
+        const pid_t child = fork();
+        if (child != 0)
+            return child;
+        Store own;
+        Adodc adodc(own, u"Adodc1"_s);
+        adodc.setConnectionString(connectionText(folder.path(), true));
+        for (int round = 0; errorOf([&] { rewriteTable(own, adodc, name + QString::number(round), kRows); }) == 0;)
+            ++round;
+        _exit(1);
+    }
+};
+
+TEST_F(Kill, AtAnyMomentLeavesTheOldTableOrTheNewOne) {
+    rewriteTable(store, control, u"begin"_s, kRows);
+    std::mt19937 chance(1);
+    int rewritten = 0;
+    for (int i = 0; i < kKills; ++i) {
+        store.close();
+        const QString name = u"%1-"_s.arg(i);
+        const pid_t child = startRewriting(name);
+        ASSERT_GT(child, 0);
+        std::this_thread::sleep_for(std::chrono::microseconds(chance() % 60'000));
+        ASSERT_EQ(kill(child, SIGKILL), 0);
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "the child gave up by itself";
+        rewritten += markOfTable(control, kRows).startsWith(name);
+        EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
+        ASSERT_FALSE(HasFailure()) << "after kill " << i;
+    }
+    EXPECT_GT(rewritten, kKills / 10); // the moments did fall among the rewritings
+    EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s);
+}
+
+} // namespace
+} // namespace qinghe

@@ -1,0 +1,204 @@
+#include "store/store_errors.h"
+#include "store/store_fixture.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace qinghe {
+namespace {
+
+class UnitOfWork : public StoreTest {
+protected:
+    QString journal() const { return path() + u"-journal"_s; }
+    QString outside(const QString& sql = u"SELECT count(*) FROM srb"_s) const { return OtherProgram(path()).row(sql); }
+};
+
+TEST_F(UnitOfWork, BeginsWithTheFirstWriteOnly) {
+    Recordset& set = control.open(u"srb"_s);
+    EXPECT_FALSE(store.inTransaction());
+    set.addNew();
+    set.field(u"项目").setValue(u"工资"_s);
+    EXPECT_FALSE(store.inTransaction());
+    set.update();
+    EXPECT_TRUE(store.inTransaction());
+    store.commit();
+    EXPECT_FALSE(store.inTransaction());
+    control.refresh();
+    control.recordset().deleteCurrent();
+    EXPECT_TRUE(store.inTransaction());
+}
+
+TEST_F(UnitOfWork, IsSeenOutsideOnceCommitted) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    EXPECT_EQ(outside(), u"0"_s);
+    EXPECT_TRUE(QFile::exists(journal()));
+    store.commit();
+    EXPECT_EQ(outside(), u"1"_s);
+    EXPECT_FALSE(QFile::exists(journal()));
+}
+
+TEST_F(UnitOfWork, CommitsDeletionsThatWereOnlyCollected) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    store.commit();
+    control.refresh();
+    control.recordset().deleteCurrent();
+    EXPECT_EQ(outside(), u"1"_s);
+    store.commit();
+    EXPECT_EQ(outside(), u"0"_s);
+}
+
+TEST_F(UnitOfWork, CommitOfNothingIsNothing) {
+    store.commit();
+    control.open(u"srb"_s);
+    store.commit();
+    store.close();
+    store.commit();
+    EXPECT_EQ(outside(), u"0"_s);
+}
+
+TEST_F(UnitOfWork, ClosingCommits) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    store.close();
+    EXPECT_EQ(outside(), u"1"_s);
+}
+
+TEST_F(UnitOfWork, AStoreThatGoesAwayCommitsNothing) {
+    {
+        Store other;
+        Adodc adodc(other, u"Adodc1"_s);
+        adodc.setConnectionString(connectionText(folder.path(), true));
+        add(adodc.open(u"srb"_s), {{u"项目"_s, u"工资"_s}});
+    }
+    EXPECT_EQ(outside(), u"0"_s);
+}
+
+TEST_F(UnitOfWork, ReadsItsOwnWrites) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    Recordset& set = control.open(u"select sum(金额) as 金额 from srb"_s);
+    EXPECT_EQ(set.field(0).text(), u"1"_s);
+    control.open(u"srb"_s).deleteCurrent();
+    EXPECT_TRUE(second.open(u"select sum(金额) as 金额 from srb"_s).field(0).isNull());
+    EXPECT_EQ(outside(), u"0"_s);
+}
+
+TEST_F(UnitOfWork, DeletionsOfSeveralTablesAllReachTheFile) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    add(second.open(u"yhb"_s), {{u"用户名"_s, u"甲"_s}});
+    add(second.recordset(), {{u"用户名"_s, u"乙"_s}});
+    store.commit();
+    control.refresh();
+    second.refresh();
+    second.recordset().deleteCurrent();
+    control.recordset().deleteCurrent();
+    second.recordset().moveNext();
+    second.recordset().deleteCurrent();
+    store.commit();
+    EXPECT_EQ(outside(u"SELECT (SELECT count(*) FROM srb) + (SELECT count(*) FROM yhb)"_s), u"0"_s);
+}
+
+TEST_F(UnitOfWork, SetsFromBeforeAClosingCanBeReadButNotWritten) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    Recordset& set = control.open(u"srb"_s);
+    const int before = store.generation();
+    store.close();
+    EXPECT_NE(store.generation(), before);
+    EXPECT_EQ(set.field(u"项目").text(), u"工资"_s);
+    EXPECT_EQ(errorOf([&] { set.deleteCurrent(); }), RuntimeError::StoreFailure);
+    EXPECT_EQ(errorOf([&] { set.addNew(); }), RuntimeError::StoreFailure);
+    EXPECT_EQ(errorOf([&] { set.field(u"项目").setValue(u"x"_s); }), RuntimeError::StoreFailure);
+    control.refresh();
+    control.recordset().deleteCurrent();
+    store.commit();
+    EXPECT_EQ(outside(), u"0"_s);
+}
+
+TEST_F(UnitOfWork, RowPendingOverAClosingIsRefused) {
+    Recordset& set = control.open(u"srb"_s);
+    set.addNew();
+    store.close();
+    EXPECT_EQ(errorOf([&] { set.update(); }), RuntimeError::StoreFailure);
+    EXPECT_EQ(outside(), u"0"_s);
+}
+
+TEST_F(UnitOfWork, WriteOfAnotherProcessIsSeenByTheNextRefresh) {
+    control.open(u"srb"_s);
+    OtherProgram other(path());
+    other.run(u"INSERT INTO srb (项目) VALUES ('外')"_s);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 1);
+    other.run(u"DELETE FROM srb"_s);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
+}
+
+TEST_F(UnitOfWork, NewRowsDoNotClashWithThoseOfAnotherProcess) {
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    store.commit();
+    OtherProgram(path()).run(u"INSERT INTO srb (项目) VALUES ('外')"_s);
+    addIncome(u"2024-5-3"_s, u"乙"_s, 1);
+    store.commit();
+    EXPECT_EQ(column(control.open(u"srb"_s), u"项目"_s), QStringList({u"甲"_s, u"外"_s, u"乙"_s}));
+}
+
+TEST_F(UnitOfWork, UnchangedTableIsNotReadTwice) {
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    const auto first = store.fetch(u"srb"_s);
+    EXPECT_EQ(store.fetch(u"srb"_s), first);
+    store.commit();
+    EXPECT_EQ(store.fetch(u"srb"_s), first);
+    addIncome(u"2024-5-3"_s, u"乙"_s, 1);
+    EXPECT_NE(store.fetch(u"srb"_s), first);
+}
+
+TEST_F(UnitOfWork, OldResultsAreGivenUp) {
+    control.open(u"yhb"_s);
+    const std::weak_ptr<const ResultSet> first = store.fetch(u"srb"_s);
+    EXPECT_FALSE(first.expired());
+    for (const auto& table : {u"zcb"_s, u"jrb"_s, u"jcb"_s})
+        store.fetch(table);
+    EXPECT_TRUE(first.expired());
+    const std::weak_ptr<const ResultSet> last = store.fetch(u"jcb"_s);
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    EXPECT_TRUE(last.expired());
+}
+
+TEST_F(UnitOfWork, WaitsInVainForAnotherProgramThatWrites) {
+    OtherProgram other(path());
+    other.run(u"BEGIN IMMEDIATE"_s);
+    EXPECT_EQ(errorOf([&] { addIncome(u"2024-5-3"_s, u"甲"_s, 1); }, u"占用"_s), store_errors::FileLocked);
+    EXPECT_FALSE(store.inTransaction());
+    other.run(u"ROLLBACK"_s);
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    store.commit();
+    EXPECT_EQ(outside(), u"1"_s);
+}
+
+TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    store.commit();
+    OtherProgram reader(path());
+    reader.run(u"BEGIN"_s);
+    reader.row(u"SELECT count(*) FROM srb"_s); // keeps the file from being changed
+    addIncome(u"2024-5-3"_s, u"乙"_s, 1);
+    EXPECT_EQ(errorOf([&] { store.commit(); }), store_errors::FileLocked);
+    EXPECT_FALSE(store.inTransaction());
+    reader.run(u"ROLLBACK"_s);
+    EXPECT_EQ(column(control.open(u"srb"_s), u"项目"_s), QStringList(u"甲"_s));
+    addIncome(u"2024-5-3"_s, u"丙"_s, 1);
+    store.commit();
+    EXPECT_EQ(outside(), u"2"_s);
+}
+
+TEST_F(UnitOfWork, FailedClosingLeavesTheFileClosed) {
+    OtherProgram reader(path());
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    reader.run(u"BEGIN"_s);
+    reader.row(u"SELECT count(*) FROM srb"_s);
+    const int before = store.generation();
+    EXPECT_EQ(errorOf([&] { store.close(); }), store_errors::FileLocked);
+    EXPECT_NE(store.generation(), before);
+    reader.run(u"ROLLBACK"_s);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
+}
+
+} // namespace
+} // namespace qinghe
