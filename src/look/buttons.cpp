@@ -16,7 +16,7 @@
 namespace qinghe {
 namespace {
 
-constexpr int IconSide = 14, IconGap = 3;
+constexpr int IconSide = 14, IconGap = 2;
 constexpr int MarkSide = 16, MarkGap = 6;
 
 bool enabled(const QStyleOption& option) {
@@ -75,7 +75,9 @@ QColor captionColour(const QStyleOptionButton& option, const QWidget* widget) {
 void paintButtonCaption(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) {
     const Placed* placed = Placed::of(widget);
     const Glyph glyph = placed ? placed->glyph() : Glyph::None;
-    const QFont font = fontFor(roleOf(widget));
+    // Digits are large; a key that bears a word is not.
+    const QFont font =
+        fontFor(roleOf(widget) == Role::CalcKey && option.text.size() > 1 ? Role::Plain : roleOf(widget));
     const QColor iconColour = enabled(option) ? colour::LeafDeep : colour::Off;
     // The arrows of the picker have captions for those who cannot see them; on view they are arrows alone.
     if (roleOf(widget) == Role::PickerArrow || option.text.isEmpty())

@@ -25,6 +25,7 @@ void paintUpright(QPainter& painter, double x, double top, double bottom, const 
 
 /// The words of one line, set as a one-line text box sets them, so that both stand alike to the pixel. Words that do
 /// not fit end in "…".
+inline constexpr int RightSlack = 2; ///< what a text box leaves free behind words on the right
 void paintLine(QPainter& painter, const QRect& room, Qt::Alignment alignment, const QString& words, const QFont& font,
                const QColor& colour);
 

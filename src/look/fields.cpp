@@ -59,8 +59,8 @@ void paintBox(const QStyleOption& option, QPainter& painter) {
 
 CellMargins cellMargins(const MSFlexGrid& grid, int col) {
     if (grid.ColWidth(col) < NarrowTwips)
-        return {2, 4, type::Small};
-    return {4, grid.isAmountColumn(col) ? 10 : 4, type::Body};
+        return {2, 4 - RightSlack, type::Small};
+    return {4, (grid.isAmountColumn(col) ? 10 : 4) - RightSlack, type::Body};
 }
 
 void fitEditor(QLineEdit& editor) {

@@ -14,7 +14,7 @@ namespace qinghe {
 
 class MSFlexGrid;
 
-/// How far a cell's text stands from the cell's edges, in pixels, and the size of its type. The editor that lies over
+/// The room of a cell's text, in pixels from the cell's edges, and the size of its type. The editor that lies over
 /// the cell keeps to the same.
 struct CellMargins {
     int left, right;

@@ -31,7 +31,7 @@ void paintTab(QPainter& painter, double centre, double top) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour::Red);
-    painter.drawRoundedRect(QRectF(centre - 12, top + 26, 24, 2.4), 1.2, 1.2);
+    painter.drawRoundedRect(QRectF(centre - 12, top + 26.8, 24, 2.4), 1.2, 1.2);
     painter.restore();
 }
 
@@ -43,7 +43,7 @@ void paintPageLabel(const QStyleOption& option, QPainter& painter, const Label& 
     font.setBold(red);
     if (red)
         paintTab(painter, centre, option.rect.top());
-    const QRect room(centre - 60, option.rect.top(), 120, red ? 26 : option.rect.height());
+    const QRect room(centre - 60, option.rect.top(), 120, red ? 26 : option.rect.height() - 2);
     paintLine(painter, room, Qt::AlignHCenter, caption.word, font, colourOf(label.ForeColor()));
 }
 
@@ -88,7 +88,7 @@ void paintCaution(const QStyleOption& option, QPainter& painter, const Label& la
 void paintLink(const QStyleOption& option, QPainter& painter, const Label& label) {
     QFont font = fontFor(Role::Link);
     font.setUnderline(true);
-    paintLine(painter, option.rect, Qt::AlignRight, label.Caption(), font,
+    paintLine(painter, option.rect.adjusted(0, 0, RightSlack, 0), Qt::AlignRight, label.Caption(), font,
               wordsColour(option, label, colour::LeafLink));
 }
 
