@@ -2,6 +2,7 @@
 
 #include "look/look.h"
 #include "measure.h"
+#include "platform/start_ahead.h"
 #include "support/program_rig.h"
 
 #include <QApplication>
@@ -130,6 +131,8 @@ bool runAsChild(int argc, char** argv, int& exitCode) {
         return false;
     const std::string what = argv[1];
     const QString folder = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    if (what != "empty-window")
+        readFontsAhead(); // as main does
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     if (what == "empty-window")

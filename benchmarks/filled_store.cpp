@@ -10,12 +10,11 @@ namespace qinghe::benchmarks {
 
 namespace {
 
-/// Rows 1 to n in one go; %1 is the table, %2 the values by n.
+/// Rows 1 to `rows` of a table in one go, their values by n.
 QString insertMany(const QString& table, const QString& values, int rows) {
-    return QStringLiteral("with recursive c(n) as (select 1 union all select n+1 from c where n<%3) "
-                          "insert into %1 select %2 from c")
-        .arg(table, values)
-        .arg(rows);
+    return QStringLiteral("with recursive c(n) as (select 1 union all select n+1 from c where n<") +
+           QString::number(rows) + QStringLiteral(") insert into ") + table + QStringLiteral(" select ") + values +
+           QStringLiteral(" from c");
 }
 
 /// Some day of ten years.

@@ -1,11 +1,13 @@
 #include "app/program.h"
 #include "look/look.h"
+#include "platform/start_ahead.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
 int main(int argc, char** argv) {
+    qinghe::readFontsAhead();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator chinese;

@@ -130,8 +130,8 @@ void MainWindow::load() {
     startClock();
     readReminderSetting();
     readTraySetting();
-    setPicture(writeOut(ChosenSkin, *Adodc1, m_bench));
-    m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_bench));
+    setPicture(writeOut(ChosenSkin, *Adodc1, m_bench, *this));
+    m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_bench, *m_desktop->Image2));
     m_desktop->computeSums();
     m_desktop->listPlans(false);
 }

@@ -5,7 +5,9 @@
 #include "store/header_toggle.h"
 
 #include <QGuiApplication>
+#include <QPainterPath>
 #include <QScreen>
+#include <QWindow>
 
 namespace qinghe {
 
@@ -13,7 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr quint32 Red = 255;
+
+QPolygon roundedRectangle(const QSize& size, int radius) {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(QPointF(), size), radius, radius);
+    return path.toFillPolygon().toPolygon();
 }
+
+} // namespace
 
 SignIn::SignIn(Workbench& bench)
     : Form(u"Form5"_s, Kind::Frameless, Ground::SignIn),
@@ -46,6 +55,8 @@ SignIn::SignIn(Workbench& bench)
     Image2->setGlyph(Glyph::Close);
     for (Image* image : {Image1, Image2})
         image->setRole(Role::Glyph);
+    setShape(roundedRectangle(size(), 6));
+    setTabOrder(Combo1, Text2);
     bindEvents();
 }
 
@@ -65,6 +76,11 @@ void SignIn::bindEvents() {
         Label1->setHandCursor();
     };
     MouseMove = [this](double, double) { Label1->setForeColor(0); };
+    // The window has no title bar to be moved by.
+    MouseDown = [this](double, double) {
+        if (windowHandle())
+            windowHandle()->startSystemMove();
+    };
     for (Label* control : {static_cast<Label*>(Image1), static_cast<Label*>(Image2), Label3})
         control->MouseMove = [control] { control->setHandCursor(); };
     CloseAsked = [this] { unload(); };
@@ -78,7 +94,8 @@ void SignIn::load() {
     offerNames();
     recallPair();
     Adodc1->setConnectionString(m_bench.connection());
-    setPicture(writeOut(SignInPicture, *Adodc1, m_bench));
+    Text2->setFocus();
+    setPicture(writeOut(SignInPicture, *Adodc1, m_bench, *this));
 }
 
 void SignIn::offerNames() {

@@ -18,8 +18,8 @@ inline constexpr StoredPicture ChosenSkin{u"select * from 皮肤选择 ", u"文�
 inline constexpr StoredPicture DesktopPicture{u"select * from 主界面", u"大小", u"文件", u"zjm.jpg"};
 inline constexpr StoredPicture SignInPicture{u"select * from 登陆皮肤 ", u"大小", u"皮肤", u"dlpf.jpg"};
 
-/// Reads the picture through `control`, writes its file and loads that. Throws RuntimeError: no row, not writable, no
-/// picture.
-QImage writeOut(const StoredPicture& picture, Adodc& control, const Workbench& bench);
+/// Reads the picture through `control`, writes its file and loads that, to be shown on `place`. Throws RuntimeError: no
+/// row, not writable, no picture.
+QImage writeOut(const StoredPicture& picture, Adodc& control, const Workbench& bench, const QWidget& place);
 
 } // namespace qinghe

@@ -38,6 +38,11 @@ bool isDark(const QImage& picture) {
 QPixmap scaledPicture(const QImage& picture, const QSize& size, double ratio) {
     static std::list<Kept> kept;
     const QSize device = size * ratio;
+    if (picture.size() == device && picture.format() == QImage::Format_RGB32) {
+        QImage fitting = picture; // shares its pixels
+        fitting.setDevicePixelRatio(ratio);
+        return QPixmap::fromImage(std::move(fitting));
+    }
     const auto found = std::find_if(kept.begin(), kept.end(),
                                     [&](const Kept& k) { return k.key == picture.cacheKey() && k.size == device; });
     if (found != kept.end()) {

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageIOHandler>
 #include <QImageReader>
 
 namespace qinghe::files {
@@ -49,7 +51,7 @@ void deleteMatching(const QString& folder, const QString& pattern) {
             failAccess(file, QStringLiteral("不能删除文件"));
 }
 
-QImage loadPicture(const QString& path) {
+QImage loadPicture(const QString& path, const QSize& fill) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到图片文件：%1。").arg(path));
@@ -58,6 +60,10 @@ QImage loadPicture(const QString& path) {
     QImageReader reader(&buffer);
     reader.setAllocationLimit(LargestPictureMiB);
     reader.setAutoTransform(true);
+    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize needed = turned ? (fill * qApp->devicePixelRatio()).transposed() : fill * qApp->devicePixelRatio();
+    if (reader.size().width() > needed.width() && reader.size().height() > needed.height())
+        reader.setScaledSize(needed);
     QImage image = reader.read();
     if (image.isNull())
         throw RuntimeError(RuntimeError::InvalidPicture,
