@@ -64,6 +64,8 @@ void Form::showForm() {
     applyPlace();
     setShown(true);
     raise();
+    if (!testAttribute(Qt::WA_ShowWithoutActivating))
+        activateWindow();
 }
 
 void Form::setShape(const QPolygon& points) {
