@@ -1,0 +1,178 @@
+#include "ledger/income_rig.h"
+
+#include <QApplication>
+
+// A click on a cell lays the editor over it and opens the tool of its column; a click in the editor brings a tool back.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class CellClickTest : public IncomeTest {
+protected:
+    CellClickTest() { openWith(3); }
+
+    /// A tool hangs under the editor, at its left edge.
+    void expectUnderEditor(const QString& tool) {
+        const Form& form = *rig.loaded(tool);
+        EXPECT_DOUBLE_EQ(form.Left(), rig.frame(u"Frame2"_s).Left() + tx2().Left() + rig.mainWindow().Left());
+        EXPECT_DOUBLE_EQ(form.Top(),
+                         rig.frame(u"Frame2"_s).Top() + tx2().Top() + tx2().Height() + rig.mainWindow().Top());
+    }
+};
+
+TEST_F(CellClickTest, LaysTheEditorExactlyOverTheCellAndCopiesItsText) {
+    clickCell(2, 4);
+    EXPECT_EQ(current(), u"2,4");
+    EXPECT_TRUE(tx2().isVisible());
+    EXPECT_EQ(tx2().Text(), u"人2");
+    EXPECT_EQ(tx2().Left(), 120 + 300 + 3 * 1150);
+    EXPECT_EQ(tx2().Top(), 840 + 2 * 300);
+    EXPECT_EQ(tx2().Width(), 1150);
+    EXPECT_EQ(tx2().Height(), 300);
+    expectEditorOver(2, 4);
+}
+
+TEST_F(CellClickTest, CoversEveryCellWithoutGapOrOverlap) {
+    for (int row = 1; row <= 3; ++row)
+        for (const int col : {1, 2, 3, 4, 5, 6, 7}) {
+            clickCell(row, col);
+            expectEditorOver(row, col);
+            EXPECT_EQ(rig.frame(u"Frame2"_s).childAt(tx2().geometry().center()), &tx2());
+        }
+}
+
+TEST_F(CellClickTest, GivesTheEditorTheKeyboard) {
+    clickCell(1, 3);
+    EXPECT_EQ(QApplication::focusWidget(), &tx2());
+    EXPECT_EQ(tools(), u"none");
+}
+
+TEST_F(CellClickTest, LosesTextThatEnterDidNotConfirm) {
+    clickCell(1, 3);
+    tx2().selectAll();
+    rig.type(tx2(), u"未确认"_s);
+    EXPECT_EQ(tx2().Text(), u"未确认");
+    clickCell(1, 4);
+    EXPECT_EQ(tx2().Text(), u"人1");
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"项目1");
+    EXPECT_EQ(ms2().TextMatrix(1, 4), u"人1");
+}
+
+TEST_F(CellClickTest, OpensTheDatePickerUnderTheDateColumn) {
+    clickCell(2, 2);
+    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(bench().dateTarget, 3);
+    expectUnderEditor(u"Form1"_s);
+    EXPECT_TRUE(tx2().isEnabled()); // a date can be typed as well
+    EXPECT_EQ(QApplication::focusWidget(), &tx2());
+    EXPECT_FALSE(rig.loaded(u"Form1"_s)->isModal());
+}
+
+TEST_F(CellClickTest, OpensTheCalculatorUnderTheAmountColumnAndClosesTheEditorToKeys) {
+    clickCell(2, 5);
+    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(bench().calcTarget, 1);
+    expectUnderEditor(u"Form9"_s);
+    EXPECT_FALSE(tx2().isEnabled());
+    EXPECT_TRUE(tx2().isVisible());
+    EXPECT_EQ(tx2().Text(), u"2.5");
+    EXPECT_FALSE(rig.loaded(u"Form9"_s)->isModal());
+}
+
+TEST_F(CellClickTest, LetsNoKeyReachTheAmountColumn) {
+    clickCell(2, 5);
+    rig.type(tx2(), u"9"_s);
+    rig.press(tx2(), Qt::Key_Backspace);
+    enter();
+    escape();
+    EXPECT_EQ(tx2().Text(), u"2.5");
+    EXPECT_EQ(ms2().TextMatrix(2, 5), u"2.5");
+    EXPECT_EQ(current(), u"2,5");
+    EXPECT_TRUE(tx2().Visible());
+}
+
+TEST_F(CellClickTest, ClosesTheToolsOnEveryOtherColumn) {
+    for (const int col : {1, 3, 4, 6, 7}) {
+        clickCell(1, 2);
+        clickCell(1, col);
+        EXPECT_EQ(tools(), u"none");
+        clickCell(1, 5);
+        clickCell(1, col);
+        EXPECT_EQ(tools(), u"none");
+        EXPECT_TRUE(tx2().isEnabled());
+        EXPECT_EQ(QApplication::focusWidget(), &tx2());
+    }
+}
+
+TEST_F(CellClickTest, ChangesOneToolForTheOtherBetweenTheirColumns) {
+    clickCell(1, 2);
+    clickCell(1, 5);
+    EXPECT_EQ(tools(), u"Form9");
+    clickCell(1, 2);
+    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_TRUE(tx2().isEnabled());
+}
+
+TEST_F(CellClickTest, MovesAnOpenToolUnderTheNextCellOfItsColumn) {
+    clickCell(1, 5);
+    Form* calculator = rig.loaded(u"Form9"_s);
+    rig.type(*calculator, u"12"_s);
+    clickCell(3, 5);
+    EXPECT_EQ(rig.loaded(u"Form9"_s), calculator);
+    expectUnderEditor(u"Form9"_s);
+    EXPECT_EQ(rig.control<TextBox>(u"Form9"_s, u"Text1"_s).Text(), u"12");
+}
+
+TEST_F(CellClickTest, DoesNothingWhileTheGridShowsStatistics) {
+    for (const QString& view : {u"Option8"_s, u"Option9"_s}) {
+        rig.onMain<OptionButton>(view).setValue(true);
+        ms2().setUsable(true);
+        clickCell(1, 1);
+        EXPECT_FALSE(tx2().Visible());
+        clickCell(1, 2);
+        EXPECT_EQ(tools(), u"none");
+    }
+}
+
+TEST_F(CellClickTest, BringsAClosedDatePickerBackByAClickInTheEditor) {
+    clickCell(1, 2);
+    rig.loaded(u"Form1"_s)->close();
+    EXPECT_EQ(tools(), u"none");
+    bench().dateTarget = 1;
+    rig.click(tx2());
+    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(bench().dateTarget, 3);
+    expectUnderEditor(u"Form1"_s);
+}
+
+TEST_F(CellClickTest, BringsTheCalculatorBackByAClickInTheEditorWhenItStandsOnTheAmount) {
+    clickCell(1, 4);
+    ms2().setCol(5); // as the arrow keys of the grid do
+    rig.click(tx2());
+    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(bench().calcTarget, 1);
+    EXPECT_FALSE(tx2().isEnabled());
+}
+
+TEST_F(CellClickTest, ClosesTheCalculatorByAClickInTheEditorOnAnotherColumn) {
+    clickCell(1, 5);
+    ms2().setCol(4);
+    tx2().setUsable(true);
+    rig.click(tx2());
+    EXPECT_EQ(tools(), u"none");
+    EXPECT_TRUE(tx2().isEnabled());
+}
+
+TEST_F(CellClickTest, TakesAPressOnTheCaptionsForNothing) {
+    clickCell(2, 3);
+    const QPoint caption = ms2().cellRect(0, 4).center();
+    QTest::mouseClick(QApplication::widgetAt(ms2().mapToGlobal(caption)), Qt::LeftButton);
+    QTest::mouseClick(ms2().viewport(), Qt::LeftButton, {}, QPoint(50, ms2().viewport()->height() - 5));
+    EXPECT_EQ(current(), u"2,3");
+    expectEditorOver(2, 3);
+}
+
+} // namespace
+} // namespace qinghe::testing

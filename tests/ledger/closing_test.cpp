@@ -1,0 +1,110 @@
+#include "ledger/income_rig.h"
+
+#include <QApplication>
+
+// Clicks beside the grid: the form commits what stands in the editor, a frame drops it.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ClosingTest : public IncomeTest {
+protected:
+    ClosingTest() { openWith(2); }
+
+    void writeInto(int row, int col, const QString& text) {
+        clickCell(row, col);
+        tx2().selectAll();
+        rig.type(tx2(), text);
+    }
+    /// The bare ground of the main window, in its upper left corner.
+    void clickForm() { QTest::mouseClick(&rig.mainWindow(), Qt::LeftButton, {}, QPoint(30, 3)); }
+    void clickFrame() {
+        Frame& frame = rig.frame(u"Frame2"_s);
+        QTest::mouseClick(&frame, Qt::LeftButton, {}, QPoint(frame.width() / 2, frame.height() - 3));
+    }
+};
+
+TEST_F(ClosingTest, CommitsTheBoxByAClickOnTheForm) {
+    writeInto(1, 3, u"未按回车"_s);
+    clickForm();
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"未按回车");
+    EXPECT_FALSE(tx2().Visible());
+    EXPECT_EQ(QApplication::focusWidget(), &ms2());
+}
+
+TEST_F(ClosingTest, HidesThePickerOnAPressOnTheForm) {
+    writeInto(1, 2, u"2024-1-1"_s);
+    EXPECT_EQ(tools(), u"Form1");
+    clickForm();
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-1-1");
+    EXPECT_EQ(tools(), u"none");
+}
+
+TEST_F(ClosingTest, DropsTheBoxByAClickOnItsFrame) {
+    writeInto(1, 3, u"未按回车"_s);
+    clickFrame();
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"项目1");
+    EXPECT_FALSE(tx2().Visible());
+    EXPECT_EQ(QApplication::focusWidget(), &ms2());
+}
+
+TEST_F(ClosingTest, ClosesTheToolsByAClickOnTheFrame) {
+    clickCell(1, 2);
+    clickFrame();
+    EXPECT_EQ(tools(), u"none");
+    clickCell(1, 5);
+    clickFrame();
+    EXPECT_EQ(tools(), u"none");
+}
+
+TEST_F(ClosingTest, TakesAClickOnADisabledBoxAsOneOnTheFrame) {
+    clickCell(1, 5);
+    rig.click(tx2());
+    EXPECT_FALSE(tx2().Visible());
+    EXPECT_EQ(tools(), u"none");
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"1.5");
+}
+
+TEST_F(ClosingTest, CommitsAlsoWhenAnotherPageIsInView) {
+    writeInto(1, 3, u"别处提交"_s);
+    rig.click(rig.onMain<Label>(u"Label24"_s));
+    EXPECT_FALSE(rig.frame(u"Frame2"_s).Visible());
+    clickForm();
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"别处提交");
+}
+
+TEST_F(ClosingTest, CommitsNothingWhileTheGridIsDisabled) {
+    writeInto(1, 3, u"统计中"_s);
+    ms2().setUsable(false);
+    clickForm();
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"项目1");
+    EXPECT_TRUE(tx2().Visible());
+    clickFrame();
+    EXPECT_FALSE(tx2().Visible());
+}
+
+TEST_F(ClosingTest, CommitsNothingByTheClickThatEndsAMoveOfTheWindow) {
+    writeInto(1, 3, u"拖动"_s);
+    MainWindow& window = rig.mainWindow();
+    QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(30, 3));
+    QTest::mouseMove(&window, QPoint(60, 23));
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, QPoint(30, 3));
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"项目1");
+    EXPECT_TRUE(tx2().Visible());
+}
+
+TEST_F(ClosingTest, WritesTheBoxOfAPageNeverOpenedToItsFreshGrid) {
+    rig.stop();
+    rig.signIn();
+    EXPECT_EQ(ms2().Rows(), 2);
+    EXPECT_EQ(ms2().Cols(), 2);
+    tx2().setText(u"甲"_s);
+    clickForm();
+    EXPECT_EQ(ms2().TextMatrix(1, 1), u"甲");
+    EXPECT_FALSE(rig.ended());
+}
+
+} // namespace
+} // namespace qinghe::testing

@@ -1,0 +1,154 @@
+#include "ledger/income_rig.h"
+
+#include <QApplication>
+
+// Esc drops the editor, Enter writes its text back and moves on; every other key is the box's own.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class EditorKeysTest : public IncomeTest {
+protected:
+    EditorKeysTest() { openWith(2); }
+
+    void expectKeyboardInEditor() { EXPECT_EQ(QApplication::focusWidget(), &tx2()); }
+};
+
+TEST_F(EditorKeysTest, LeaveTheCellAsItWasOnEsc) {
+    clickCell(1, 3);
+    rig.type(tx2(), u"改"_s);
+    escape();
+    EXPECT_FALSE(tx2().Visible());
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"项目1");
+    EXPECT_EQ(current(), u"1,3");
+    EXPECT_EQ(QApplication::focusWidget(), &ms2());
+}
+
+TEST_F(EditorKeysTest, LeaveThePickerOpenOnEsc) {
+    clickCell(1, 2);
+    escape();
+    EXPECT_EQ(tools(), u"Form1");
+}
+
+TEST_F(EditorKeysTest, WriteBackAndMoveToTheNextColumnOnEnter) {
+    clickCell(1, 3);
+    tx2().selectAll();
+    rig.type(tx2(), u"稿费"_s);
+    enter();
+    EXPECT_EQ(ms2().TextMatrix(1, 3), u"稿费");
+    EXPECT_EQ(current(), u"1,4");
+    EXPECT_EQ(tx2().Text(), u"人1");
+    expectEditorOver(1, 4);
+    expectKeyboardInEditor();
+}
+
+TEST_F(EditorKeysTest, MoveOnTheSameByTheEnterOfTheNumberPad) {
+    clickCell(1, 3);
+    rig.press(tx2(), Qt::Key_Enter);
+    EXPECT_EQ(current(), u"1,4");
+}
+
+TEST_F(EditorKeysTest, OpenThePickerWhenEnterReachesTheDate) {
+    clickCell(1, 1);
+    enter();
+    EXPECT_EQ(current(), u"1,2");
+    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(bench().dateTarget, 3);
+    expectKeyboardInEditor(); // a date can be typed at once
+    const Form& picker = *rig.loaded(u"Form1"_s);
+    EXPECT_DOUBLE_EQ(picker.Left(), 120 + tx2().Left() + rig.mainWindow().Left());
+    EXPECT_DOUBLE_EQ(picker.Top(), 1680 + tx2().Top() + 300 + rig.mainWindow().Top());
+}
+
+TEST_F(EditorKeysTest, CloseThePickerWhenEnterLeavesTheDate) {
+    clickCell(1, 2);
+    tx2().selectAll();
+    rig.type(tx2(), u"2024-7-8"_s);
+    enter();
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-7-8");
+    EXPECT_EQ(tools(), u"none");
+    expectKeyboardInEditor();
+}
+
+TEST_F(EditorKeysTest, OpenTheCalculatorWhenEnterReachesTheAmount) {
+    clickCell(2, 4);
+    enter();
+    EXPECT_EQ(current(), u"2,5");
+    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(bench().calcTarget, 1);
+    EXPECT_FALSE(tx2().isEnabled());
+    EXPECT_EQ(tx2().Text(), u"2.5");
+    EXPECT_NE(rig.mainWindow().focusWidget(), &add()); // a blank typed on would press it
+    EXPECT_EQ(rig.mainWindow().focusWidget(), &ms2());
+}
+
+TEST_F(EditorKeysTest, EnableTheEditorAndCloseTheCalculatorWhenEnterLeavesTheAmount) {
+    clickCell(1, 5);
+    tx2().setUsable(true);
+    enter();
+    EXPECT_EQ(current(), u"1,6");
+    EXPECT_EQ(tools(), u"none");
+    EXPECT_TRUE(tx2().isEnabled());
+    expectKeyboardInEditor();
+}
+
+TEST_F(EditorKeysTest, MoveFromTheLastColumnToTheFirstOfTheNextRow) {
+    clickCell(1, 7);
+    tx2().selectAll();
+    rig.type(tx2(), u"新备注"_s);
+    enter();
+    EXPECT_EQ(ms2().TextMatrix(1, 7), u"新备注");
+    EXPECT_EQ(current(), u"2,1");
+    EXPECT_TRUE(tx2().Visible());
+    EXPECT_EQ(tx2().Text(), u"2");
+    EXPECT_EQ(tools(), u"none");
+    expectEditorOver(2, 1);
+    expectKeyboardInEditor();
+}
+
+TEST_F(EditorKeysTest, CloseInTheLastCellAndStayThere) {
+    clickCell(2, 7);
+    tx2().selectAll();
+    rig.type(tx2(), u"末"_s);
+    enter();
+    EXPECT_EQ(ms2().TextMatrix(2, 7), u"末");
+    EXPECT_FALSE(tx2().Visible());
+    EXPECT_EQ(current(), u"2,7");
+    EXPECT_EQ(ms2().Rows(), 3); // Enter never adds a row
+    EXPECT_EQ(QApplication::focusWidget(), &ms2());
+}
+
+TEST_F(EditorKeysTest, EmptyACellWhenNothingIsLeftInTheBox) {
+    clickCell(1, 6);
+    tx2().selectAll();
+    rig.press(tx2(), Qt::Key_Backspace);
+    enter();
+    EXPECT_EQ(ms2().TextMatrix(1, 6), u"");
+}
+
+TEST_F(EditorKeysTest, TakeAnyCharacterInAnyColumn) {
+    fillCell(1, 1, u"#甲 'b\" 1"_s);
+    fillCell(1, 2, u"不是日期"_s);
+    EXPECT_EQ(ms2().TextMatrix(1, 1), u"#甲 'b\" 1");
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"不是日期");
+}
+
+TEST_F(EditorKeysTest, TakeWhatAnInputMethodCommits) {
+    clickCell(1, 6);
+    tx2().selectAll();
+    QInputMethodEvent commit;
+    commit.setCommitString(u"活期"_s);
+    QCoreApplication::sendEvent(&tx2(), &commit);
+    enter();
+    EXPECT_EQ(ms2().TextMatrix(1, 6), u"活期");
+}
+
+TEST_F(EditorKeysTest, ReachNothingInTheStore) {
+    fillCell(1, 3, u"改过"_s);
+    EXPECT_EQ(rig.sql(u"select 项目 from srb order by rowid"_s), (QStringList{u"项目1"_s, u"项目2"_s}));
+}
+
+} // namespace
+} // namespace qinghe::testing
