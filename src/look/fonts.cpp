@@ -12,11 +12,10 @@
 namespace qinghe {
 namespace {
 
-/// The first family that is here. Only these are asked for, one by one: a list of all families takes its time at start,
-/// and so does a font whose family is missing.
+/// The first family that is here, under any of its names: a Chinese desktop knows some of them by a Chinese one.
 QString firstOf(const QStringList& families) {
     const auto found = std::find_if(families.begin(), families.end(),
-                                    [](const QString& name) { return !QFontDatabase::styles(name).isEmpty(); });
+                                    [](const QString& name) { return QFontDatabase::hasFamily(name); });
     return found == families.end() ? QString() : *found;
 }
 
