@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPainterPath>
@@ -60,8 +61,13 @@ void paintTag(QPainter& painter, const QRect& tag, const QString& title, Role ro
     painter.setBrush(page ? colour::LeafDeep : colour::LeafTag);
     painter.drawRoundedRect(QRectF(tag).adjusted(0, -8, 0, 0), 4, 4);
     painter.restore();
-    paintLine(painter, tag.adjusted(TagPadding, 1, 0, 1), Qt::AlignLeft, title, tagFont(role),
-              page ? colour::White : colour::LeafDark);
+    // Set by the characters' own box, 38 % of which lie below its middle: the lines of some fonts are higher than a
+    // tag.
+    const QFont font = tagFont(role);
+    const double baseline = tag.top() + tag.height() / 2.0 + 0.38 * QFontInfo(font).pixelSize();
+    painter.setFont(font);
+    painter.setPen(page ? colour::White : colour::LeafDark);
+    painter.drawText(QPointF(tag.left() + TagPadding, qRound(baseline)), title);
 }
 
 } // namespace

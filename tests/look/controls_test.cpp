@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QTextBlock>
 
 namespace qinghe::testing {
 namespace {
@@ -138,11 +139,12 @@ TEST(Fields, ThePasswordShowsStars) {
 
 TEST(WritingPaper, HasARuleBelowEveryLine) {
     QPlainTextEdit text;
-    text.resize(320, 200);
+    text.resize(320, 240);
     text.setPlainText(u"一\n二\n三"_s);
     text.ensurePolished();
     const QImage image = rendered(text);
-    const int spacing = QFontMetrics(text.font()).lineSpacing();
+    QTextCursor second(text.document()->findBlockByNumber(1));
+    const int spacing = text.cursorRect(second).top() - text.cursorRect(QTextCursor(text.document())).top();
     for (int line = 1; line <= 5; ++line)
         EXPECT_TRUE(isNear(pixelAt(image, 250, 2 + 10 + line * spacing - 1), colour::PaperLine)) << line;
     EXPECT_TRUE(isNear(pixelAt(image, 250, 20), colour::Paper));
