@@ -1,7 +1,10 @@
 #include "platform/message_boxes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+
+#include <utility>
 
 namespace qinghe {
 
@@ -29,6 +32,17 @@ QMessageBox::Icon iconOf(MessageStyle style) {
     default:
         return QMessageBox::NoIcon;
     }
+}
+
+/// The words of the buttons, without the marks for keys that Qt's own words carry.
+void captionButtons(QMessageBox& box) {
+    constexpr std::pair<QMessageBox::StandardButton, const char16_t*> captions[] = {{QMessageBox::Ok, u"确定"},
+                                                                                    {QMessageBox::Cancel, u"取消"},
+                                                                                    {QMessageBox::Yes, u"是"},
+                                                                                    {QMessageBox::No, u"否"}};
+    for (const auto& [kind, caption] : captions)
+        if (QAbstractButton* button = box.button(kind))
+            button->setText(QString::fromUtf16(caption));
 }
 
 Answer answerOf(int button) {
@@ -63,6 +77,7 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
     fill(box, text, title);
     box.setIcon(iconOf(style));
     box.setStandardButtons(buttonsOf(style));
+    captionButtons(box);
     if (box.standardButtons() & QMessageBox::No)
         box.setEscapeButton(QMessageBox::No);
     return answerOf(box.exec());
@@ -75,6 +90,7 @@ void DesktopMessageBoxes::showError(int number, const QString& text) {
          productName());
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
+    captionButtons(box);
     box.exec();
 }
 

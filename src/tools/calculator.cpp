@@ -90,6 +90,7 @@ void Calculator::makeKeys() {
     Command3 = key(u"Command3"_s, u"="_s, 1680, 2640, 600, 480);
     Command4 = key(u"Command4"_s, u"清零"_s, 3000, 2640, 495, 480);
     Command3->setRole(Role::Primary);
+    Command4->setRole(Role::CalcOperator);
     Command3->Click = [this] { Form9_Command3_Click(); };
     Command4->Click = [this] { Form9_Command4_Click(); };
 }
