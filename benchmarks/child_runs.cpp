@@ -131,10 +131,13 @@ bool runAsChild(int argc, char** argv, int& exitCode) {
         return false;
     const std::string what = argv[1];
     const QString folder = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    std::thread fonts;
     if (what != "empty-window")
-        readFontsAhead(); // as main does
+        fonts = readFontsAhead(); // as main does
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    if (fonts.joinable())
+        fonts.join();
     if (what == "empty-window")
         emptyWindow(application);
     else if (what == "start")

@@ -7,12 +7,13 @@
 #include <QTranslator>
 
 int main(int argc, char** argv) {
-    qinghe::readFontsAhead();
+    std::thread fonts = qinghe::readFontsAhead();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator chinese;
     if (chinese.load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&chinese);
+    fonts.join();
     qinghe::dress(application);
     qinghe::Program program(qinghe::desktopServices());
     program.start();

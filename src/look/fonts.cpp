@@ -12,17 +12,19 @@
 namespace qinghe {
 namespace {
 
-/// The first family that is here, under any of its names: a Chinese desktop knows some of them by a Chinese one.
+/// The first family that is here, by just the name given: names that other families stand in for take long to find out
+/// at start. A Chinese desktop knows some families by a Chinese name alone.
 QString firstOf(const QStringList& families) {
     const auto found = std::find_if(families.begin(), families.end(),
-                                    [](const QString& name) { return QFontDatabase::hasFamily(name); });
+                                    [](const QString& name) { return !QFontDatabase::styles(name).isEmpty(); });
     return found == families.end() ? QString() : *found;
 }
 
 const QString& sansFamily() {
-    static const QString family = firstOf({QStringLiteral("Microsoft YaHei UI"), QStringLiteral("PingFang SC"),
-                                           QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("Noto Sans CJK SC"),
-                                           QStringLiteral("WenQuanYi Zen Hei")});
+    static const QString family = firstOf(
+        {QStringLiteral("Microsoft YaHei UI"), QStringLiteral("PingFang SC"), QStringLiteral("WenQuanYi Micro Hei"),
+         QStringLiteral("文泉驿微米黑"), QStringLiteral("文泉驛微米黑"), QStringLiteral("Noto Sans CJK SC"),
+         QStringLiteral("WenQuanYi Zen Hei"), QStringLiteral("文泉驿正黑"), QStringLiteral("文泉驛正黑")});
     return family;
 }
 
