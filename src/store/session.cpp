@@ -136,6 +136,8 @@ void Session::deleteRow(const QString& table, qint64 rowid) {
     beginWriting();
     if (m_deletions.table != table)
         flushDeletions();
+    if (m_deletions.rowids.empty())
+        inserter(table); // notes the highest identity while its row is there
     m_deletions.table = table;
     m_deletions.rowids.push_back(rowid);
 }

@@ -4,7 +4,6 @@
 #include "store/store_errors.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QStringView>
 #include <sqlite3.h>
 
@@ -24,7 +23,6 @@ struct FailureRow {
 constexpr std::array kFailures{
     FailureRow{SQLITE_READONLY_DBMOVED, RuntimeError::StoreFailure,
                u"账本文件“%1”在使用中被移走或换掉了，请重新启动程序。"},
-    FailureRow{SQLITE_IOERR_SHORT_READ, RuntimeError::StoreFailure, u"账本文件“%1”不完整，已经损坏。"},
     FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure, u"“%1”不是账本文件，或者已经损坏。"},
     FailureRow{SQLITE_CORRUPT, RuntimeError::StoreFailure, u"账本文件“%1”已经损坏，请用备份还原。"},
     FailureRow{SQLITE_FULL, RuntimeError::DiskFull, u"磁盘已满，无法保存到“%1”。请腾出空间后再试。"},
@@ -48,11 +46,9 @@ const FailureRow& rowOf(int code) {
 } // namespace
 
 void throwSqliteFailure(int code, const QString& path, const QString& detail) {
-    const QString file = QDir::toNativeSeparators(path);
-    if ((code & 0xff) == SQLITE_CANTOPEN && !QFileInfo::exists(path))
-        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到账本文件“%1”。").arg(file));
     const FailureRow& row = rowOf(code);
-    throw RuntimeError(row.number, row.text.toString().arg(file) + QStringLiteral("（%1：%2）").arg(code).arg(detail));
+    throw RuntimeError(row.number, row.text.toString().arg(QDir::toNativeSeparators(path)) +
+                                       QStringLiteral("（%1：%2）").arg(code).arg(detail));
 }
 
 } // namespace qinghe

@@ -49,6 +49,9 @@ public:
     /// as closed at the next use.
     int generation() const;
 
+    /// Throws RuntimeError (QueryFailure) when there is no such table.
+    const TableColumns& columns(const QString& table);
+
     // For recordsets only.
     /// Inserts a row and gives its identity. `values` stand beside the named columns; other columns stay NULL.
     qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
@@ -57,7 +60,6 @@ public:
     /// Deletes a row; deletions are collected and reach the file together, before anything else is read or written. A
     /// row that is already gone is no failure.
     void deleteRow(const QString& table, qint64 rowid);
-    const TableColumns& columns(const QString& table);
 
 private:
     struct Impl;

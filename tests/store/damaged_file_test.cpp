@@ -86,13 +86,18 @@ TEST_F(DamagedFile, TruncatedFileIsToldNotRead) {
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 3000);
 }
 
-TEST_F(DamagedFile, OverwrittenPagesAreToldNotRead) {
+TEST_F(DamagedFile, OverwrittenPagesAreToldNotReadAndTheFileIsOpenedAnewAfterwards) {
     fill(3000);
-    QByteArray bytes = fileBytes();
+    const QByteArray sound = fileBytes();
+    QByteArray bytes = sound;
     for (qsizetype at = 4096 * 30; at < bytes.size(); ++at)
         bytes[at] = '\xaa';
     setFileBytes(bytes);
+    const int before = store.generation();
     EXPECT_EQ(opening(), RuntimeError::StoreFailure);
+    EXPECT_NE(store.generation(), before);
+    setFileBytes(sound);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 3000);
 }
 
 TEST_F(DamagedFile, FileWithoutOurTablesIsNamedByTheMissingTable) {
@@ -104,6 +109,13 @@ TEST_F(DamagedFile, FileWithoutOurTablesIsNamedByTheMissingTable) {
 TEST_F(DamagedFile, TableWithOtherKindsIsRefused) {
     OtherProgram(path()).run(u"DROP TABLE srb; CREATE TABLE srb (编号 VARCHAR(20))"_s);
     EXPECT_EQ(opening(u"VARCHAR(20)"_s), RuntimeError::StoreFailure);
+}
+
+TEST_F(DamagedFile, TriggersThatCameWithTheFileDoNotRun) {
+    OtherProgram(path()).run(u"CREATE TRIGGER t AFTER INSERT ON srb BEGIN DELETE FROM yhb; END;"
+                             "INSERT INTO yhb (用户名) VALUES ('甲')"_s);
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    EXPECT_EQ(control.open(u"yhb"_s).recordCount(), 1);
 }
 
 TEST_F(DamagedFile, FileReplacedByAnotherIsNotWrittenThroughOldRowsAndIsReadAnew) {
@@ -119,6 +131,18 @@ TEST_F(DamagedFile, FileReplacedByAnotherIsNotWrittenThroughOldRowsAndIsReadAnew
     EXPECT_EQ(errorOf([&] { second.recordset().deleteCurrent(); }, u"换掉"_s), RuntimeError::StoreFailure);
     store.close();
     EXPECT_EQ(OtherProgram(path()).row(u"SELECT count(*) FROM srb"_s), u"2"_s);
+}
+
+TEST_F(DamagedFile, FileReplacedInTheMiddleOfTheWorkIsNotWritten) {
+    fill(2);
+    control.open(u"srb"_s).deleteCurrent();
+    const QString other = folder.filePath(u"other.dll"_s);
+    createStore(other);
+    ASSERT_EQ(rename(other.toLocal8Bit().constData(), path().toLocal8Bit().constData()), 0);
+    EXPECT_EQ(errorOf([&] { store.commit(); }, u"换掉"_s), RuntimeError::StoreFailure);
+    addIncome(u"2024-5-3"_s, u"新"_s, 1);
+    store.commit();
+    EXPECT_EQ(OtherProgram(path()).row(u"SELECT 项目 FROM srb"_s), u"新"_s);
 }
 
 TEST_F(DamagedFile, FileRemovedWhileOpenIsMissed) {

@@ -67,30 +67,5 @@ TEST_P(DiskFull, LeavesTheStoreUsableOnceThereIsSpace) {
 
 INSTANTIATE_TEST_SUITE_P(OnceAndLasting, DiskFull, testing::Bool());
 
-class PowerCut : public StoreTest {
-protected:
-    ~PowerCut() override { failing_disk::restorePower(); }
-};
-
-TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBackACommit) {
-    rewriteTable(store, control, u"0"_s, kRows);
-    int cuts = 0;
-    for (bool cut = true; cut; ++cuts) {
-        const QString before = markOfTable(control, kRows);
-        const QString mark = QString::number(cuts + 1);
-        failing_disk::cutPowerAfter(cuts);
-        const int error = errorOf([&] { rewriteTable(store, control, mark, kRows); });
-        store.close();
-        cut = failing_disk::restorePower();
-        const QString after = markOfTable(control, kRows);
-        EXPECT_TRUE(after == mark || (error && after == before)) << "after change " << cuts;
-        EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
-        if (::testing::Test::HasFailure())
-            return;
-    }
-    EXPECT_GT(cuts, 20);
-    EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s);
-}
-
 } // namespace
 } // namespace qinghe

@@ -74,7 +74,7 @@ TEST_F(Queries, MonthIsTheFirstSevenCharactersOfTheDatesText) {
 
 TEST_F(Queries, LeftWorksOnTheWholeTextFormOfADate) {
     for (const auto& text : {u"2024-5-3 8:05:09"_s, u"2024-10-20 0:00:01"_s, u"2024-12-31 23:59:59"_s, u"999-1-2"_s,
-                             u"100-10-10 10:10:10"_s, u"2020-2-20"_s, u"2000-1-10"_s})
+                             u"100-10-10 10:10:10"_s, u"100-1-1 8:05:09"_s, u"2020-2-20"_s, u"2000-1-10"_s})
         addIncome(text, text, 1);
     for (int length = 1; length <= 20; ++length) {
         for (const auto& text : column(u"srb"_s, u"时间"_s)) {

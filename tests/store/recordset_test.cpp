@@ -248,7 +248,9 @@ TEST_F(Records, SetsDoNotSeeWhatOthersWrite) {
 }
 
 TEST_F(Records, OldSetNeverDeletesARowThatTookThePlaceOfItsOwn) {
-    Recordset& old = users(u"甲乙丙"_s);
+    users(u"甲乙丙"_s);
+    store.close();
+    Recordset& old = control.open(u"yhb"_s);
     Recordset& other = second.open(u"yhb"_s);
     deleteAll(other);
     for (const auto& name : {u"子"_s, u"丑"_s, u"寅"_s})
@@ -256,6 +258,15 @@ TEST_F(Records, OldSetNeverDeletesARowThatTookThePlaceOfItsOwn) {
     store.commit();
     deleteAll(old);
     EXPECT_EQ(stored(), u"子丑寅"_s);
+}
+
+TEST_F(Records, OldSetDeletesNothingOnceAnotherProgramEmptiedTheTable) {
+    Recordset& old = users(u"甲乙丙"_s);
+    store.commit();
+    OtherProgram(path()).run(u"DELETE FROM yhb"_s);
+    add(second.open(u"yhb"_s), {{u"用户名"_s, u"子"_s}});
+    deleteAll(old);
+    EXPECT_EQ(stored(), u"子"_s);
 }
 
 TEST_F(Records, RowsOfAPartOfTheColumnsAreWrittenWithTheRestNull) {

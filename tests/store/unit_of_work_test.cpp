@@ -161,15 +161,25 @@ TEST_F(UnitOfWork, OldResultsAreGivenUp) {
     EXPECT_TRUE(last.expired());
 }
 
-TEST_F(UnitOfWork, WaitsInVainForAnotherProgramThatWrites) {
-    OtherProgram other(path());
-    other.run(u"BEGIN IMMEDIATE"_s);
-    EXPECT_EQ(errorOf([&] { addIncome(u"2024-5-3"_s, u"甲"_s, 1); }, u"占用"_s), store_errors::FileLocked);
-    EXPECT_FALSE(store.inTransaction());
-    other.run(u"ROLLBACK"_s);
+TEST_F(UnitOfWork, LargePicturesAreNotKept) {
+    add(control.open(u"主界面"_s), {{u"文件"_s, QByteArray(9'000'000, 'x')}});
+    const std::weak_ptr<const ResultSet> picture = store.fetch(u"主界面"_s);
+    EXPECT_TRUE(picture.expired());
+}
+
+TEST_F(UnitOfWork, IsRefusedFromItsFirstRowWhileAnotherProgramWrites) {
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.commit();
-    EXPECT_EQ(outside(), u"1"_s);
+    Recordset& set = control.open(u"srb"_s);
+    OtherProgram other(path());
+    other.run(u"BEGIN IMMEDIATE"_s);
+    EXPECT_EQ(errorOf([&] { set.deleteCurrent(); }, u"占用"_s), store_errors::FileLocked);
+    EXPECT_FALSE(store.inTransaction());
+    EXPECT_EQ(set.recordCount(), 1);
+    other.run(u"ROLLBACK"_s);
+    set.deleteCurrent();
+    store.commit();
+    EXPECT_EQ(outside(), u"0"_s);
 }
 
 TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
