@@ -1,5 +1,6 @@
 #include "platform/combo_box.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
@@ -10,9 +11,10 @@ ComboBox::ComboBox(QWidget* parent, const QString& name, bool typing) : QComboBo
     setObjectName(name);
     setEditable(typing);
     setInsertPolicy(QComboBox::NoInsert);
-    setCompleter(nullptr);
-    if (typing)
+    if (typing) {
+        setCompleter(nullptr);
         lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+    }
     // Qt tells the same of a typed text that happens to stand in the list; that is no choice.
     connect(this, &QComboBox::activated, this, [this] {
         if (m_choosing)
@@ -42,12 +44,14 @@ void ComboBox::addEntry(const QString& entry) {
 void ComboBox::showPopup() {
     m_choosing = true;
     QComboBox::showPopup();
+    view()->window()->installEventFilter(this);
 }
 
-void ComboBox::hidePopup() {
-    QComboBox::hidePopup();
-    // The choice is told just after the list has closed.
-    QTimer::singleShot(0, this, [this] { m_choosing = false; });
+bool ComboBox::eventFilter(QObject* watched, QEvent* event) {
+    // However the list was closed; the choice is told just after that.
+    if (event->type() == QEvent::Hide && watched == view()->window())
+        QTimer::singleShot(0, this, [this] { m_choosing = false; });
+    return QComboBox::eventFilter(watched, event);
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {

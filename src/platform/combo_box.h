@@ -24,14 +24,13 @@ public:
     Event<> Click;
 
     void showPopup() override;
-    void hidePopup() override;
 
 protected:
+    bool eventFilter(QObject*, QEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void wheelEvent(QWheelEvent*) override;
 
 private:
-    void chosen();
     bool m_choosing = false; ///< the list is open, or a key or the wheel is moving through it
 };
 

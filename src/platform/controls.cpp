@@ -20,6 +20,16 @@ bool leftInside(const QWidget* control, const QMouseEvent* event) {
     return event->button() == Qt::LeftButton && control->rect().contains(event->position().toPoint());
 }
 
+/// Whether this is the mouse on a disabled control: Qt's buttons swallow it, here it is the container's.
+bool isContainers(const QWidget* control, QEvent* event) {
+    const bool mouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease ||
+                       event->type() == QEvent::MouseButtonDblClick || event->type() == QEvent::MouseMove;
+    if (!mouse || control->isEnabled())
+        return false;
+    event->ignore();
+    return true;
+}
+
 /// Lets code set a state without the signal that stands for the user's click.
 template<class Button>
 void setCheckedQuietly(Button* button, bool on) {
@@ -96,6 +106,10 @@ CommandButton::CommandButton(QWidget* parent, const QString& name, const QString
     connect(this, &QPushButton::clicked, this, [this] { Click.fromQt(); });
 }
 
+bool CommandButton::event(QEvent* event) {
+    return !isContainers(this, event) && QPushButton::event(event);
+}
+
 void CommandButton::mouseMoveEvent(QMouseEvent* event) {
     QPushButton::mouseMoveEvent(event);
     event->accept();
@@ -138,6 +152,10 @@ void OptionButton::setValue(bool value) {
     }
 }
 
+bool OptionButton::event(QEvent* event) {
+    return !isContainers(this, event) && QRadioButton::event(event);
+}
+
 void OptionButton::mouseMoveEvent(QMouseEvent* event) {
     QRadioButton::mouseMoveEvent(event);
     event->accept();
@@ -155,6 +173,10 @@ void CheckBox::setValue(bool value) {
         return;
     setCheckedQuietly(this, value);
     Click.raise();
+}
+
+bool CheckBox::event(QEvent* event) {
+    return !isContainers(this, event) && QCheckBox::event(event);
 }
 
 void CheckBox::mouseMoveEvent(QMouseEvent* event) {

@@ -71,6 +71,7 @@ public:
     Event<> MouseMove;
 
 protected:
+    bool event(QEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 };
@@ -91,6 +92,7 @@ public:
     Event<> MouseMove;
 
 protected:
+    bool event(QEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
 };
 
@@ -109,6 +111,7 @@ public:
     Event<> MouseMove;
 
 protected:
+    bool event(QEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
 };
 

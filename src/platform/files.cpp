@@ -46,7 +46,8 @@ void writeAll(const QString& path, const QByteArray& bytes) {
 
 void deleteMatching(const QString& folder, const QString& pattern) {
     QDir dir(folder);
-    for (const QString& name : dir.entryList({pattern}, QDir::Files | QDir::Hidden | QDir::System))
+    const QString names = QString(pattern).replace(u'[', QStringLiteral("[[]")); // brackets are no wildcards here
+    for (const QString& name : dir.entryList({names}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive))
         if (QFile file(dir.filePath(name)); !file.remove())
             failAccess(file, QStringLiteral("不能删除文件"));
 }

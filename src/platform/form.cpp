@@ -44,7 +44,11 @@ Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-Form::~Form() = default;
+Form::~Form() {
+    // A window goes with its owner, if it was not unloaded before.
+    if (m_forms)
+        m_forms->forget(*this);
+}
 
 void Form::setPicture(QImage picture) {
     m_picture = std::move(picture);

@@ -13,8 +13,10 @@ Forms::~Forms() {
 void Forms::clear() {
     // A window that hangs off another one is deleted with it.
     std::vector<QPointer<Form>> left;
-    for (auto& [name, form] : m_forms)
+    for (auto& [name, form] : m_forms) {
+        form->m_forms = nullptr;
         left.emplace_back(form);
+    }
     m_forms.clear();
     for (const QPointer<Form>& form : left)
         delete form.data();
@@ -44,10 +46,15 @@ void Forms::unload(const QString& name) {
     if (it == m_forms.end())
         return;
     Form* form = it->second;
-    m_forms.erase(it);
+    forget(*form);
     form->unloaded();
     form->hide();
     form->deleteLater();
+}
+
+void Forms::forget(Form& form) {
+    form.m_forms = nullptr;
+    m_forms.erase(form.objectName());
 }
 
 } // namespace qinghe

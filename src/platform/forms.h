@@ -33,6 +33,8 @@ public:
 
 private:
     friend class Form;
+    void forget(Form& form);
+
     std::map<QString, Maker> m_makers;
     std::map<QString, Form*> m_forms;
 };

@@ -1,0 +1,138 @@
+#include "guard_fixture.h"
+#include "platform/message_boxes.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace qinghe::testing {
+namespace {
+
+/// Real boxes, answered from inside their own loop.
+class MessageBoxTest : public GuardTest {
+protected:
+    /// Runs `look` on the box that comes up, which has to close it.
+    static void whenShown(const std::function<void(QMessageBox&)>& look) {
+        QTimer::singleShot(0, qApp, [look] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            look(*box);
+        });
+    }
+    Answer show(MessageStyle style, const std::function<void(QMessageBox&)>& look) {
+        whenShown(look);
+        return boxes.show(u"正文"_s, style, u"标题"_s);
+    }
+    Answer press(MessageStyle style, QMessageBox::StandardButton button) {
+        return show(style, [button](QMessageBox& box) { box.button(button)->click(); });
+    }
+    Answer escape(MessageStyle style) {
+        return show(style, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    }
+
+    DesktopMessageBoxes boxes;
+};
+
+TEST_F(MessageBoxTest, ButtonsAndIconFollowTheStyle) {
+    struct Expected {
+        MessageStyle style;
+        QMessageBox::StandardButtons buttons;
+        QMessageBox::Icon icon;
+    };
+    constexpr auto ok = QMessageBox::Ok, cancel = QMessageBox::Cancel;
+    for (const Expected& expected :
+         {Expected{MessageStyle::Ok, ok, QMessageBox::NoIcon},
+          Expected{MessageStyle::OkCancel, ok | cancel, QMessageBox::NoIcon},
+          Expected{MessageStyle::OkWarning, ok, QMessageBox::Warning},
+          Expected{MessageStyle::OkCancelWarning, ok | cancel, QMessageBox::Warning},
+          Expected{MessageStyle::OkInformation, ok, QMessageBox::Information},
+          Expected{MessageStyle::OkCancelInformation, ok | cancel, QMessageBox::Information},
+          Expected{MessageStyle::YesNoQuestion, QMessageBox::Yes | QMessageBox::No, QMessageBox::Question}}) {
+        show(expected.style, [&](QMessageBox& box) {
+            EXPECT_EQ(box.standardButtons(), expected.buttons) << static_cast<int>(expected.style);
+            EXPECT_EQ(box.icon(), expected.icon) << static_cast<int>(expected.style);
+            box.reject();
+        });
+    }
+}
+
+TEST_F(MessageBoxTest, TextAndTitleArePlainText) {
+    whenShown([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), u"<b>饭</b>"_s);
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), u"提醒"_s);
+        for (const QLabel* label : box.findChildren<QLabel*>())
+            EXPECT_FALSE(label->text() == box.text() && label->textFormat() != Qt::PlainText);
+        box.accept();
+    });
+    boxes.show(u"<b>饭</b>"_s, MessageStyle::Ok, u"提醒"_s);
+}
+
+TEST_F(MessageBoxTest, AMessageWithoutATitleBearsTheProgramsName) {
+    whenShown([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), u"青禾家庭记账本"_s);
+        box.accept();
+    });
+    boxes.show(u"正文"_s, MessageStyle::Ok, {});
+}
+
+TEST_F(MessageBoxTest, EveryButtonGivesItsAnswer) {
+    EXPECT_EQ(press(MessageStyle::OkWarning, QMessageBox::Ok), Answer::Ok);
+    EXPECT_EQ(press(MessageStyle::OkCancel, QMessageBox::Ok), Answer::Ok);
+    EXPECT_EQ(press(MessageStyle::OkCancel, QMessageBox::Cancel), Answer::Cancel);
+    EXPECT_EQ(press(MessageStyle::YesNoQuestion, QMessageBox::Yes), Answer::Yes);
+    EXPECT_EQ(press(MessageStyle::YesNoQuestion, QMessageBox::No), Answer::No);
+}
+
+TEST_F(MessageBoxTest, EscTakesNothingForGranted) {
+    EXPECT_EQ(escape(MessageStyle::Ok), Answer::Ok);
+    EXPECT_EQ(escape(MessageStyle::OkCancelWarning), Answer::Cancel);
+    EXPECT_EQ(escape(MessageStyle::OkCancelInformation), Answer::Cancel);
+    EXPECT_EQ(escape(MessageStyle::YesNoQuestion), Answer::No);
+}
+
+TEST_F(MessageBoxTest, ARunTimeErrorIsToldWholeWithItsNumber) {
+    whenShown([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), u"青禾家庭记账本"_s);
+        EXPECT_TRUE(box.text().contains(u"13"_s));
+        EXPECT_TRUE(box.text().contains(u"类型不匹配：<十二元>"_s));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        box.accept();
+    });
+    boxes.showError(13, u"类型不匹配：<十二元>"_s);
+}
+
+TEST_F(MessageBoxTest, ABoxStandsOverTheActiveWindow) {
+    QWidget window;
+    window.show();
+    QApplication::setActiveWindow(&window);
+    show(MessageStyle::Ok, [&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &window);
+        box.accept();
+    });
+    window.hide();
+    show(MessageStyle::Ok, [&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), nullptr);
+        box.accept();
+    });
+}
+
+TEST_F(MessageBoxTest, TicksWaitWhileABoxIsOpen) {
+    handlers::enter([this] {
+        show(MessageStyle::Ok, [this](QMessageBox& box) {
+            handlers::tick(this, [this] { log << u"tick"_s; });
+            EXPECT_FALSE(log.contains(u"tick"_s));
+            box.accept();
+        });
+        log << u"after"_s;
+    });
+    EXPECT_LT(log.indexOf(u"after"_s), log.indexOf(u"tick"_s));
+}
+
+} // namespace
+} // namespace qinghe::testing

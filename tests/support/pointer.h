@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+/// The mouse as the window system brings it: into the window, where Qt finds the control under the pointer by itself.
+namespace qinghe::testing::pointer {
+
+inline QPoint inWindow(const QWidget& widget, QPoint at) {
+    return widget.mapTo(widget.window(), at);
+}
+
+inline void press(QWidget& widget, QPoint at) {
+    QTest::mousePress(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow(widget, at));
+}
+inline void press(QWidget& widget) {
+    press(widget, widget.rect().center());
+}
+
+inline void move(QWidget& widget, QPoint at) {
+    QTest::mouseMove(widget.window()->windowHandle(), inWindow(widget, at));
+}
+inline void move(QWidget& widget) {
+    move(widget, widget.rect().center());
+}
+
+inline void release(QWidget& widget, QPoint at) {
+    QTest::mouseRelease(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow(widget, at));
+}
+inline void release(QWidget& widget) {
+    release(widget, widget.rect().center());
+}
+
+inline void click(QWidget& widget, QPoint at) {
+    press(widget, at);
+    release(widget, at);
+}
+inline void click(QWidget& widget) {
+    click(widget, widget.rect().center());
+}
+
+inline void doubleClick(QWidget& widget, QPoint at) {
+    QTest::mouseDClick(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow(widget, at));
+}
+inline void doubleClick(QWidget& widget) {
+    doubleClick(widget, widget.rect().center());
+}
+
+} // namespace qinghe::testing::pointer
