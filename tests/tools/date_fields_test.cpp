@@ -1,0 +1,137 @@
+#include "tools/tool_rig.h"
+
+#include <QApplication>
+#include <QWindow>
+
+// The date picker beside the other windows: the fields it fills, the keyboard, the pointer, the purge window.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class DateFieldsTest : public ToolTest {
+protected:
+    void pick(int index) { rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(%1)"_s.arg(index))); }
+    /// Opens the purge window's stand-in with its date field.
+    Form& openPurge() {
+        bench().forms.define(u"Form3"_s, [] {
+            auto* form = new Form(u"Form3"_s, Form::Kind::Dialog, Ground::Main);
+            new TextBox(form, u"Text1"_s);
+            return form;
+        });
+        Form& purge = bench().forms.get(u"Form3"_s);
+        purge.showForm();
+        return purge;
+    }
+};
+
+TEST_F(DateFieldsTest, FillABoxWithoutGridAlone) {
+    openDatePicker();
+    TextBox box(&rig.mainWindow(), u"other"_s);
+    bench().dateFields[6] = {&box, nullptr};
+    bench().dateTarget = 6;
+    pick(6);
+    EXPECT_EQ(box.Text(), u"2024-6-1");
+    EXPECT_EQ(tx2().Text(), u"2024-5-3");
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
+}
+
+TEST_F(DateFieldsTest, FillTheCurrentCellOfTheGridBehindTheBox) {
+    openDatePicker();
+    TextBox box(&rig.mainWindow(), u"other"_s);
+    MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
+    bench().dateFields[7] = {&box, &grid};
+    bench().dateTarget = 7;
+    pick(6);
+    EXPECT_EQ(box.Text(), u"2024-6-1");
+    EXPECT_EQ(grid.TextMatrix(1, 1), u"2024-6-1");
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
+}
+
+TEST_F(DateFieldsTest, FillTheFieldThatAskedLastWhereverThePickerHangs) {
+    openDatePicker();
+    ms2().setCol(6);
+    pick(6);
+    EXPECT_EQ(ms2().TextMatrix(1, 6), u"2024-6-1");
+}
+
+TEST_F(DateFieldsTest, RaiseTheChangeOfTheBoxAlsoForTheSameDate) {
+    openDatePicker();
+    int changes = 0;
+    tx2().Change = [&] { ++changes; };
+    tx2().setText(u"2024-6-1"_s);
+    changes = 0;
+    pick(6);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(DateFieldsTest, LeaveTheKeyboardWithTheBox) {
+    const Form& picker = openDatePicker();
+    EXPECT_TRUE(picker.windowFlags() & Qt::WindowDoesNotAcceptFocus);
+    EXPECT_TRUE(picker.testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_EQ(QApplication::activeWindow(), &rig.mainWindow());
+    rig.click(rig.control<CommandButton>(u"Form1"_s, u"Command1"_s));
+    rig.click(rig.control<Label>(u"Form1"_s, u"Label3(9)"_s));
+    EXPECT_EQ(QApplication::focusWidget(), &tx2());
+}
+
+TEST_F(DateFieldsTest, StayAboveTheMainWindow) {
+    const Form& picker = openDatePicker();
+    EXPECT_EQ(picker.windowType(), Qt::Tool);
+    EXPECT_EQ(picker.parentWidget(), &rig.mainWindow());
+}
+
+TEST_F(DateFieldsTest, AreNotTouchedByTheReleaseOfTheDoubleClick) {
+    openDatePicker();
+    // The picker hangs over the first row; what lies beneath the day is a cell of the grid.
+    Label& day = rig.control<Label>(u"Form1"_s, u"Label3(8)"_s);
+    const QPoint at = day.mapToGlobal(day.rect().center());
+    const QPoint beneath = rig.mainWindow().mapFromGlobal(at);
+    ASSERT_TRUE(ms2().isAncestorOf(rig.mainWindow().childAt(beneath)));
+    QTest::mouseClick(&day, Qt::LeftButton);
+    QTest::mouseEvent(QTest::MouseDClick, &day, Qt::LeftButton, {}, day.rect().center());
+    EXPECT_FALSE(isOpen(u"Form1"_s));
+    QTest::mouseRelease(rig.mainWindow().windowHandle(), Qt::LeftButton, {}, beneath);
+    rig.settle();
+    EXPECT_TRUE(tx2().isVisible());
+    EXPECT_EQ(tx2().Text(), u"2024-6-3");
+    EXPECT_EQ(ms2().Row(), 1);
+    EXPECT_EQ(ms2().Col(), 2);
+    EXPECT_FALSE(isOpen(u"Form1"_s));
+}
+
+TEST_F(DateFieldsTest, AreNotFilledByADoubleClickThatBeganOnACell) {
+    openPage();
+    // The second press of a double click on the date cell falls on the picker or the box, whatever has come up there.
+    rig.clickCell(ms2(), 1, 2);
+    Label& day = rig.control<Label>(u"Form1"_s, u"Label3(8)"_s);
+    QTest::mouseEvent(QTest::MouseDClick, &day, Qt::LeftButton, {}, day.rect().center());
+    EXPECT_TRUE(isOpen(u"Form1"_s));
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
+}
+
+TEST_F(DateFieldsTest, CloseThePurgeWindowsOwnWhenThePickerGoes) {
+    openDatePicker();
+    Form& purge = openPurge();
+    rig.loaded(u"Form1"_s)->close();
+    EXPECT_FALSE(purge.findChild<TextBox*>(u"Text1"_s)->isEnabled());
+}
+
+TEST_F(DateFieldsTest, LeaveAHiddenPurgeWindowAlone) {
+    openDatePicker();
+    Form& purge = openPurge();
+    purge.setShown(false);
+    rig.loaded(u"Form1"_s)->close();
+    EXPECT_TRUE(purge.findChild<TextBox*>(u"Text1"_s)->isEnabled());
+}
+
+TEST_F(DateFieldsTest, LetThePickerGoWithEveryPageChange) {
+    openDatePicker();
+    rig.click(rig.onMain<Label>(u"Label24"_s));
+    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
+}
+
+} // namespace
+} // namespace qinghe::testing

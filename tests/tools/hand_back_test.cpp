@@ -1,0 +1,174 @@
+#include "tools/tool_rig.h"
+
+#include <QApplication>
+
+// How the calculator's number reaches the cell: by the window's close button or by Enter, and by no other way.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class HandBackTest : public ToolTest {
+protected:
+    HandBackTest() { openCalculator(); }
+
+    void type(const QString& text) { rig.type(*rig.loaded(u"Form9"_s), text); }
+    void press(Qt::Key key) { rig.press(*rig.loaded(u"Form9"_s), key); }
+    void clickKey(const QString& name) { rig.click(rig.control<CommandButton>(u"Form9"_s, name)); }
+    /// The button in the title bar.
+    void closeWindow() { rig.loaded(u"Form9"_s)->close(); }
+
+    /// The calculator is gone, and box and cell hold the text.
+    void expectHandedBack(const QString& text) {
+        EXPECT_FALSE(rig.loaded(u"Form9"_s));
+        EXPECT_EQ(tx2().Text(), text);
+        EXPECT_EQ(ms2().TextMatrix(1, 5), text);
+    }
+    void expectNothingHandedBack() { expectHandedBack(u"12.5"_s); }
+};
+
+TEST_F(HandBackTest, GivesTheNumberByTheWindowsCloseButton) {
+    clickKey(u"Command1(8)"_s);
+    clickKey(u"Command1(0)"_s);
+    closeWindow();
+    expectHandedBack(u"80"_s);
+    EXPECT_FALSE(tx2().isEnabled()); // the amount column stays closed to keys
+}
+
+TEST_F(HandBackTest, GivesTheNumberByEnter) {
+    type(u"80.5"_s);
+    press(Qt::Key_Return);
+    expectHandedBack(u"80.5"_s);
+}
+
+TEST_F(HandBackTest, GivesTheNumberByTheEnterOfTheNumberPad) {
+    type(u"80"_s);
+    press(Qt::Key_Enter);
+    expectHandedBack(u"80"_s);
+}
+
+TEST_F(HandBackTest, ComputesWhatIsPendingBeforeEnterGivesIt) {
+    type(u"80+20"_s);
+    press(Qt::Key_Return);
+    expectHandedBack(u"100"_s);
+}
+
+TEST_F(HandBackTest, ComputesNothingASecondTimeOnEnter) {
+    type(u"2"_s);
+    clickKey(u"Command2(4)"_s);
+    type(u"3"_s);
+    clickKey(u"Command3"_s);
+    press(Qt::Key_Return);
+    expectHandedBack(u"8"_s); // a further "=" would give 512
+}
+
+TEST_F(HandBackTest, GivesTheExpressionAsItStandsByTheCloseButton) {
+    type(u"80+20"_s);
+    closeWindow();
+    expectHandedBack(u"80+20"_s);
+}
+
+TEST_F(HandBackTest, GivesAProductWithItsBlankWhichTheSaveTakes) {
+    type(u"4*25"_s);
+    press(Qt::Key_Return);
+    expectHandedBack(u" 100"_s);
+    rig.click(rig.onMain<CommandButton>(u"Command6"_s));
+    EXPECT_EQ(rig.sql(u"select 金额 from srb"_s), QStringList{u"100"_s});
+}
+
+TEST_F(HandBackTest, GivesZeroAfterClear) {
+    type(u"5"_s);
+    clickKey(u"Command4"_s);
+    closeWindow();
+    expectHandedBack(u"0"_s);
+}
+
+TEST_F(HandBackTest, GivesNothingOnEsc) {
+    type(u"80"_s);
+    press(Qt::Key_Escape);
+    expectNothingHandedBack();
+}
+
+TEST_F(HandBackTest, GivesNothingFromAnUntouchedCalculator) {
+    closeWindow();
+    expectNothingHandedBack();
+    openCalculator();
+    press(Qt::Key_Return);
+    expectNothingHandedBack();
+}
+
+TEST_F(HandBackTest, GivesNothingAfterKeysThatAreNone) {
+    press(Qt::Key_Backspace);
+    type(u"a"_s);
+    closeWindow();
+    expectNothingHandedBack();
+}
+
+TEST_F(HandBackTest, GivesNothingWhenThePageLetsItGo) {
+    type(u"80"_s);
+    rig.click(rig.onMain<CommandButton>(u"Command4"_s)); // the add button
+    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+    openCalculator();
+    type(u"80"_s);
+    rig.clickCell(ms2(), 1, 3);
+    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+    openCalculator();
+    type(u"80"_s);
+    rig.click(rig.onMain<Label>(u"Label24"_s)); // another page
+    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+}
+
+TEST_F(HandBackTest, GivesNothingWhenTheLastComputationFails) {
+    type(u"7/0"_s);
+    press(Qt::Key_Return);
+    ASSERT_EQ(rig.messages->errors.size(), 1u);
+    EXPECT_EQ(rig.messages->errors.front().first, 11);
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+    EXPECT_EQ(rig.exitCode(), 1);
+}
+
+TEST_F(HandBackTest, LeavesTheKeyboardWithTheGridWhileTheBoxIsClosed) {
+    type(u"80"_s);
+    press(Qt::Key_Return);
+    rig.settle();
+    EXPECT_EQ(rig.mainWindow().focusWidget(), &ms2());
+}
+
+TEST_F(HandBackTest, GivesTheKeyboardToABoxThatItsChangeOpens) {
+    // The loan page's way: every change of the box, also to an equal text, opens or closes it by its column.
+    tx2().Change = [this] { tx2().setUsable(true); };
+    type(u"12.5"_s);
+    press(Qt::Key_Return);
+    rig.settle();
+    EXPECT_TRUE(tx2().isEnabled());
+    EXPECT_EQ(rig.mainWindow().focusWidget(), &tx2());
+}
+
+TEST_F(HandBackTest, GoesToTheFieldThatTheTargetNames) {
+    TextBox box(&rig.mainWindow(), u"other"_s);
+    MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
+    bench().calcFields[4] = {&box, &grid};
+    bench().calcTarget = 4;
+    type(u"80"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(box.Text(), u"80");
+    EXPECT_EQ(grid.TextMatrix(1, 1), u"80");
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+}
+
+TEST_F(HandBackTest, FillsTheCellAmongManyThatIsCurrent) {
+    press(Qt::Key_Escape);
+    rig.click(rig.onMain<CommandButton>(u"Command4"_s));
+    rig.clickCell(ms2(), 2, 5);
+    type(u"7"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+    EXPECT_EQ(ms2().TextMatrix(2, 5), u"7");
+}
+
+} // namespace
+} // namespace qinghe::testing
