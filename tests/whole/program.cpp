@@ -1,5 +1,6 @@
 #include "program.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
@@ -23,11 +24,21 @@ QJsonArray pair(QPoint point) {
     return {point.x(), point.y()};
 }
 
-/// What the program finds around it: the test's display, home and clock, and the driver.
+/// A browser that only notes what it is asked to open.
+void layBrowser(const LedgerFolder& folder) {
+    QDir().mkpath(folder.beside("desktop"));
+    QFile browser(folder.beside("desktop/xdg-open"));
+    browser.open(QFile::WriteOnly);
+    browser.write("#!/bin/sh\necho \"$1\" >> \"$0.pages\"\n");
+    browser.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+/// What the program finds around it: the test's display, home, browser and clock, and the driver.
 QProcessEnvironment environment(const LedgerFolder& folder, const std::string& now, const QString& socket) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("HOME"), folder.beside("home"));
+    environment.insert(QStringLiteral("PATH"), folder.beside("desktop") + u':' + qEnvironmentVariable("PATH"));
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.beside(""));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_DRIVER ":" QINGHE_FAKETIME));
@@ -48,7 +59,8 @@ std::ostream& operator<<(std::ostream& out, const Message& message) {
     return out;
 }
 
-Program::Program(const LedgerFolder& folder, const std::string& now) {
+Program::Program(const LedgerFolder& folder, const std::string& now) : m_folder(folder) {
+    layBrowser(folder);
     static int count = 0;
     const QString socket = folder.beside("line" + std::to_string(++count));
     m_process.setProcessEnvironment(environment(folder, now, socket));
@@ -184,6 +196,15 @@ std::vector<std::string> Program::windows() {
 
 void Program::picture(const std::string& file, const std::string& window) {
     ask({{"do", "picture"}, {"at", q(window)}, {"file", q(file)}});
+}
+
+std::vector<std::string> Program::openedPages() {
+    QFile pages(m_folder.beside("desktop/xdg-open.pages"));
+    pages.open(QFile::ReadOnly);
+    std::vector<std::string> opened;
+    while (!pages.atEnd())
+        opened.push_back(pages.readLine().trimmed().toStdString());
+    return opened;
 }
 
 void Program::waitUntil(const std::function<bool()>& holds, const std::string& what) {

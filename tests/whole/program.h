@@ -65,6 +65,8 @@ public:
     bool showsMessage();
     std::vector<std::string> windows();
     void picture(const std::string& file, const std::string& window = {});
+    /// What it has had opened in the desktop's browser.
+    std::vector<std::string> openedPages();
 
     /// Waits until it holds, at most ten seconds.
     void waitUntil(const std::function<bool()>& holds, const std::string& what);
@@ -87,6 +89,7 @@ private:
     std::string windowWithKeyboard();
     std::string whyGone();
 
+    const LedgerFolder& m_folder;
     QProcess m_process;
     QLocalSocket m_line;
     qint64 m_id = 0;

@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include <memory>
+
 namespace driver {
 
 namespace {
@@ -106,10 +108,20 @@ Steps move(QWidget& widget, const QPoint& place) {
 
 Steps drag(QWidget& widget, const QPoint& place, const QPoint& way) {
     checkInReach(widget, place);
-    return {pointing(widget, place, QEvent::MouseMove, betweenGestures()),
-            pointing(widget, place, QEvent::MouseButtonPress), pointing(widget, place + way / 2, QEvent::MouseMove),
-            pointing(widget, place + way, QEvent::MouseMove),
-            pointing(widget, place + way, QEvent::MouseButtonRelease)};
+    const auto start = std::make_shared<QPoint>();
+    const auto onTheWay = [start, meant = QPointer<QWidget>(&widget)](const QPoint& gone, QEvent::Type type) {
+        return [=] {
+            if (QWindow* window = meant ? meant->window()->windowHandle() : nullptr)
+                point(*window, window->mapFromGlobal(*start + gone), type, 1);
+        };
+    };
+    return {
+        pointing(widget, place, QEvent::MouseMove, betweenGestures()),
+        pointing(widget, place, QEvent::MouseButtonPress),
+        [start, meant = QPointer<QWidget>(&widget), place] { *start = meant ? meant->mapToGlobal(place) : QPoint(); },
+        onTheWay(way / 2, QEvent::MouseMove),
+        onTheWay(way, QEvent::MouseMove),
+        onTheWay(way, QEvent::MouseButtonRelease)};
 }
 
 Steps key(const QString& name) {

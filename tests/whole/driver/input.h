@@ -17,7 +17,7 @@ using Steps = std::vector<std::function<void()>>;
 /// reach the widget.
 Steps click(QWidget& widget, const QPoint& point, int times);
 Steps move(QWidget& widget, const QPoint& point);
-/// Presses at one point of the widget, moves the pointer by `way`, releases.
+/// Presses at one point of the widget, moves the pointer over the screen by `way`, releases.
 Steps drag(QWidget& widget, const QPoint& point, const QPoint& way);
 
 /// One key in the window that has the keyboard, such as Return, Escape, Tab, Backspace.
