@@ -31,14 +31,11 @@ GridPage::GridPage(MainWindow& form, const Traits& differences)
       Adodc1(*form.Adodc1),
       frame(form.navigation().frame(QString::fromUtf16(differences.frame))),
       grid(new MSFlexGrid(&frame, QString::fromUtf16(differences.grid))),
-      editor(new TextBox(&frame, QString::fromUtf16(differences.editor))),
+      editor(new CellEditor(&frame, QString::fromUtf16(differences.editor), *grid)),
       addButton(button(frame, differences.add, u"增加"_s, 8055, Glyph::Add)),
       removeButton(button(frame, differences.remove, u"删除"_s, 9255, Glyph::Remove)),
       saveButton(button(frame, differences.save, u"保存"_s, 10455, Glyph::Accept)) {
     grid->place(120, 840, 11415, 4815);
-    editor->setRole(Role::CellEditor);
-    editor->setShown(false);
-    editor->setFocusRefuge(grid);
     saveButton->setRole(Role::Primary);
     bench.editors[grid->objectName()] = {editor, grid};
     const EditorTarget target{editor, grid};
@@ -51,7 +48,6 @@ GridPage::GridPage(MainWindow& form, const Traits& differences)
 
 void GridPage::bindEvents() {
     grid->Click = [this] { cellClick(); };
-    connect(grid, &MSFlexGrid::scrolled, this, [this] { followScroll(); });
     editor->Click = [this] { editorClick(); };
     editor->KeyPress = [this](int key) { editorKey(key); };
     if (traits.closedColumn)
@@ -67,31 +63,6 @@ void GridPage::bindEvents() {
 }
 
 // ---- the editor over its cell
-
-void GridPage::placeEditor() {
-    editor->place(grid->Left() + grid->ColPos(grid->Col()), grid->Top() + grid->RowPos(grid->Row()),
-                  grid->ColWidth(grid->Col()), grid->RowHeight(grid->Row()));
-    maskEditor();
-}
-
-void GridPage::layEditor() {
-    placeEditor();
-    editor->setBoxText(grid->Text());
-}
-
-void GridPage::followScroll() {
-    if (editor->Visible())
-        placeEditor();
-}
-
-void GridPage::maskEditor() {
-    const QRect room = grid->cellRoom().translated(grid->pos());
-    const QRect seen = editor->geometry() & room;
-    if (seen == editor->geometry())
-        editor->clearMask();
-    else
-        editor->setMask(seen.isEmpty() ? QRegion(-1, -1, 1, 1) : QRegion(seen.translated(-editor->pos())));
-}
 
 void GridPage::hideEditor() {
     editor->setShown(false);
@@ -116,7 +87,7 @@ void GridPage::openCalculator() {
 void GridPage::cellClick() {
     if (!takesClicks())
         return;
-    layEditor();
+    editor->lay();
     editor->setShown(true);
     editor->raise();
     editor->takeFocus();
@@ -171,7 +142,7 @@ void GridPage::writeBack() {
         if (passedLast)
             hideEditor();
     }
-    layEditor();
+    editor->lay();
     const int column = grid->Col();
     if (traits.amounts.onEnter.holds(column)) {
         openCalculator();
@@ -215,7 +186,7 @@ void GridPage::addRow() {
         grid->setRowHeight(grid->Row() + 1, MSFlexGrid::DefaultRowHeight);
     }
     grid->setRow(grid->Rows() - 1);
-    placeEditor();
+    editor->place();
     if (traits.addedBox == AddedBox::TakesCell)
         editor->setBoxText(grid->Text());
     hideEditor();

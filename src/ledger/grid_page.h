@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/workbench.h"
+#include "ledger/cell_editor.h"
 
 #include <span>
 
@@ -93,7 +94,6 @@ protected:
     /// One grid row a record, from the current row on; NULL fields leave their cells as they are, the last field is
     /// never shown.
     void fill(Recordset& records);
-    /// The page's frame in its place, in front.
     void hideEditor();
 
     const Traits& traits;
@@ -102,17 +102,13 @@ protected:
     Adodc& Adodc1;
     Frame& frame;
     MSFlexGrid* const grid;
-    TextBox* const editor;
+    CellEditor* const editor;
     CommandButton* const addButton;
     CommandButton* const removeButton;
     CommandButton* const saveButton;
 
 private:
     void bindEvents();
-    void placeEditor();
-    void layEditor();
-    void followScroll();
-    void maskEditor();
     void openDatePicker();
     void openCalculator();
     void openTool(const char16_t* form);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/flex_grid.h"
+
+namespace qinghe {
+
+/// The text box that floats over the cells of a grid on the same frame. It lies exactly over the grid's current cell,
+/// follows it when the grid scrolls, and is out of sight while the cell is. What its keys do is the page's.
+class CellEditor : public TextBox {
+    Q_OBJECT
+
+public:
+    CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid);
+
+    /// Moves over the current cell and keeps the text.
+    void place();
+    /// Moves over the current cell and takes its text.
+    void lay();
+
+private:
+    void keepInSight();
+
+    MSFlexGrid& m_grid;
+};
+
+} // namespace qinghe
