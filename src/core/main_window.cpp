@@ -2,7 +2,6 @@
 
 #include "core/stored_picture.h"
 #include "core/tray_icon.h"
-#include "core/web_pages.h"
 #include "core/window_shape.h"
 #include "platform/files.h"
 #include "store/header_toggle.h"
@@ -34,53 +33,18 @@ MainWindow::MainWindow(Workbench& bench)
       Timer2(new Timer(this, u"Timer2"_s)),
       Timer3(new Timer(this, u"Timer3"_s)),
       m_bench(bench),
-      m_navigation(*this, bench) {
+      m_navigation(*this, bench),
+      m_titleBand(*this, bench) {
     setCaption(productName());
     const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
     place(centre.x() * TwipsPerPixel - FormWidth / 2, centre.y() * TwipsPerPixel - FormHeight / 2, FormWidth,
           FormHeight);
-    makeTitleBand();
     makeSettingsBoxes();
     m_desktop = std::make_unique<Desktop>(bench, m_navigation, *Adodc1);
     bindEvents();
 }
 
 MainWindow::~MainWindow() = default;
-
-void MainWindow::makeTitleBand() {
-    Picture3 = new Image(this, u"Picture3"_s);
-    Label16 = new Label(Picture3, u"Label16"_s);
-    Label17 = new Label(Picture3, u"Label17"_s);
-    Label20 = new Label(Picture3, u"Label20"_s, WebAddressCaption);
-    Label26 = new Label(this, u"Label26"_s, productName());
-    Picture3->place(120, 690, 11655, 330);
-    Label16->place(840, 0, 2000, 330);
-    Label17->place(2880, 0, 1000, 330);
-    Label20->place(9255, 0, 2280, 330);
-    Label26->place(960, 240, 2175, 375);
-    Label16->setRole(Role::ClockText);
-    Label17->setRole(Role::ClockText);
-    Label20->setRole(Role::Link);
-    Label26->setRole(Role::ProductName);
-
-    struct WindowImage {
-        Image*& image;
-        const char16_t* name;
-        double left; ///< twips
-        Glyph glyph;
-        const char16_t* tip;
-    };
-    for (const WindowImage& entry : {WindowImage{Image7, u"Image7", 10095, Glyph::Info, u"软件介绍"},
-                                     WindowImage{Image5, u"Image5", 10530, Glyph::Tools, u"软件工具"},
-                                     WindowImage{Image4, u"Image4", 10965, Glyph::Minimise, u"最小化"},
-                                     WindowImage{Image3, u"Image3", 11400, Glyph::Close, u"退出"}}) {
-        entry.image = new Image(this, QString::fromUtf16(entry.name));
-        entry.image->place(entry.left, 150, 375, 375);
-        entry.image->setRole(Role::Glyph);
-        entry.image->setGlyph(entry.glyph);
-        entry.image->setToolTip(QString::fromUtf16(entry.tip));
-    }
-}
 
 void MainWindow::makeSettingsBoxes() {
     const auto box = [this](const char16_t* frame, const char16_t* name, const char16_t* caption) {
@@ -104,15 +68,7 @@ void MainWindow::bindEvents() {
     // The desktop may close the window (a shortcut of the window manager); the program ends like any other then: the
     // header stays healed and the pictures stay.
     CloseAsked = [] { throw handlers::ProgramEnd{0}; };
-    Image3->Click = [this] { Form2_Image3_Click(); };
-    Image4->Click = [this] { Form2_Image4_Click(); };
-    Image5->Click = [this] { Form2_Image5_Click(); };
-    Image7->Click = [this] { Form2_Image7_Click(); };
-    Label20->Click = [this] { Form2_Label20_Click(); };
-    for (Label* control : {static_cast<Label*>(Image3), static_cast<Label*>(Image4), static_cast<Label*>(Image5),
-                           static_cast<Label*>(Image7), Label20})
-        control->MouseMove = [control] { control->setHandCursor(); };
-    Timer1->Tick = [this] { Label17->setCaption(timeText(m_bench.services.clock->now().time())); };
+    Timer1->Tick = [this] { m_titleBand.showTime(); };
 }
 
 void MainWindow::load() {
@@ -156,9 +112,7 @@ void MainWindow::preparePages() {
 void MainWindow::startClock() {
     Timer1->setInterval(1000);
     Timer1->setEnabled(true);
-    const QDateTime now = m_bench.services.clock->now();
-    Label16->setCaption(u"系统时间："_s + dateText(now.date()));
-    Label17->setCaption(timeText(now.time()));
+    m_titleBand.showDateAndTime();
 }
 
 void MainWindow::readReminderSetting() {
@@ -252,36 +206,6 @@ void MainWindow::Form2_Form_MouseMove(double x, double y) {
     if (dragging == 1)
         moveTo(Left() + x - dragStartX, Top() + y - m_bench.emptyRowFlag);
     m_navigation.markCurrent();
-}
-
-void MainWindow::Form2_Image3_Click() {
-    m_bench.unloadTools();
-    for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
-        files::deleteMatching(m_bench.services.appPath, QString::fromUtf16(picture.file));
-    m_bench.store.close();
-    spoilHeader(m_bench.beside(u"data.dll"_s));
-    throw handlers::ProgramEnd{0};
-}
-
-void MainWindow::Form2_Image4_Click() {
-    m_bench.unloadTools();
-    setWindowState(Minimised);
-}
-
-void MainWindow::Form2_Image5_Click() {
-    m_bench.unloadTools();
-    Form& web = m_bench.forms.get(u"Form7"_s);
-    web.place(Left() + Width(), Top(), Width(), Height());
-    web.showForm();
-}
-
-void MainWindow::Form2_Image7_Click() {
-    m_bench.unloadTools();
-    m_bench.services.launcher->explore(webPage(m_bench, u"adetail.htm"_s));
-}
-
-void MainWindow::Form2_Label20_Click() {
-    m_bench.services.launcher->explore(webPage(m_bench, u"index.htm"_s));
 }
 
 } // namespace qinghe

@@ -2,6 +2,7 @@
 
 #include "core/desktop.h"
 #include "core/navigation.h"
+#include "core/title_band.h"
 #include "core/workbench.h"
 #include "platform/timer.h"
 
@@ -9,8 +10,8 @@
 
 namespace qinghe {
 
-/// The main window, `Form2`: title band, window images, tray, drag, and the frames of all pages. The pages themselves
-/// stand above this floor and put their controls into the frames.
+/// The main window, `Form2`: its load, tray and drag, and the frames of all pages. The pages themselves stand above
+/// this floor and put their controls into the frames.
 class MainWindow : public Form {
     Q_OBJECT
 
@@ -35,14 +36,7 @@ public:
     CheckBox* Check7; // minimise to the tray, on the settings page
     CheckBox* Check8; // reminders, on the settings page
 
-    void Form2_Image3_Click(); ///< the only way out
-    void Form2_Image4_Click();
-    void Form2_Image5_Click();
-    void Form2_Image7_Click();
-    void Form2_Label20_Click();
-
 private:
-    void makeTitleBand();
     void makeSettingsBoxes();
     void bindEvents();
     void refuseSecondCopy();
@@ -59,16 +53,7 @@ private:
 
     Workbench& m_bench;
     Navigation m_navigation;
-
-    Image* Picture3; // the band of date, time and address
-    Label* Label16;  // date of the load
-    Label* Label17;  // time
-    Label* Label20;  // the makers' address
-    Label* Label26;  // the program's name
-    Image* Image3;   // exit
-    Image* Image4;   // minimise
-    Image* Image5;   // tools
-    Image* Image7;   // introduction
+    TitleBand m_titleBand;
     std::unique_ptr<Desktop> m_desktop;
 
     Int16 dragging;

@@ -1,0 +1,106 @@
+#include "core/title_band.h"
+
+#include "core/stored_picture.h"
+#include "core/web_pages.h"
+#include "platform/files.h"
+#include "store/header_toggle.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int Minimised = 1;
+}
+
+TitleBand::TitleBand(Form& window, Workbench& bench)
+    : m_window(window),
+      m_bench(bench),
+      Picture3(new Image(&window, u"Picture3"_s)),
+      Label16(new Label(Picture3, u"Label16"_s)),
+      Label17(new Label(Picture3, u"Label17"_s)),
+      Label20(new Label(Picture3, u"Label20"_s, WebAddressCaption)),
+      Label26(new Label(&window, u"Label26"_s, productName())) {
+    makeWords();
+    makeImages();
+}
+
+void TitleBand::makeWords() {
+    Picture3->place(120, 690, 11655, 330);
+    Label16->place(840, 0, 2000, 330);
+    Label17->place(2880, 0, 1000, 330);
+    Label20->place(9255, 0, 2280, 330);
+    Label26->place(960, 240, 2175, 375);
+    Label16->setRole(Role::ClockText);
+    Label17->setRole(Role::ClockText);
+    Label20->setRole(Role::Link);
+    Label26->setRole(Role::ProductName);
+    Label20->Click = [this] { Form2_Label20_Click(); };
+    Label20->MouseMove = [this] { Label20->setHandCursor(); };
+}
+
+void TitleBand::makeImages() {
+    struct WindowImage {
+        const char16_t* name;
+        double left; ///< twips
+        Glyph glyph;
+        const char16_t* tip;
+        void (TitleBand::*click)();
+    };
+    constexpr WindowImage images[] = {
+        {u"Image7", 10095, Glyph::Info, u"软件介绍", &TitleBand::Form2_Image7_Click},
+        {u"Image5", 10530, Glyph::Tools, u"软件工具", &TitleBand::Form2_Image5_Click},
+        {u"Image4", 10965, Glyph::Minimise, u"最小化", &TitleBand::Form2_Image4_Click},
+        {u"Image3", 11400, Glyph::Close, u"退出", &TitleBand::Form2_Image3_Click},
+    };
+    for (const WindowImage& entry : images) {
+        auto* image = new Image(&m_window, QString::fromUtf16(entry.name));
+        image->place(entry.left, 150, 375, 375);
+        image->setRole(Role::Glyph);
+        image->setGlyph(entry.glyph);
+        image->setToolTip(QString::fromUtf16(entry.tip));
+        image->Click = [this, click = entry.click] { (this->*click)(); };
+        image->MouseMove = [image] { image->setHandCursor(); };
+    }
+}
+
+void TitleBand::showDateAndTime() {
+    Label16->setCaption(u"系统时间："_s + dateText(m_bench.services.clock->today()));
+    showTime();
+}
+
+void TitleBand::showTime() {
+    Label17->setCaption(timeText(m_bench.services.clock->now().time()));
+}
+
+void TitleBand::Form2_Image3_Click() {
+    m_bench.unloadTools();
+    for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
+        files::deleteMatching(m_bench.services.appPath, QString::fromUtf16(picture.file));
+    m_bench.store.close();
+    spoilHeader(m_bench.beside(u"data.dll"_s));
+    throw handlers::ProgramEnd{0};
+}
+
+void TitleBand::Form2_Image4_Click() {
+    m_bench.unloadTools();
+    m_window.setWindowState(Minimised);
+}
+
+void TitleBand::Form2_Image5_Click() {
+    m_bench.unloadTools();
+    Form& web = m_bench.forms.get(u"Form7"_s);
+    web.place(m_window.Left() + m_window.Width(), m_window.Top(), m_window.Width(), m_window.Height());
+    web.showForm();
+}
+
+void TitleBand::Form2_Image7_Click() {
+    m_bench.unloadTools();
+    m_bench.services.launcher->explore(webPage(m_bench, u"adetail.htm"_s));
+}
+
+void TitleBand::Form2_Label20_Click() {
+    m_bench.services.launcher->explore(webPage(m_bench, u"index.htm"_s));
+}
+
+} // namespace qinghe

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/workbench.h"
+
+namespace qinghe {
+
+/// The band at the top of the main window, which has no title bar of the desktop's: its name, the date and time, the
+/// makers' address, and the window images. `Image3` is the only way out of a running main window.
+class TitleBand {
+public:
+    TitleBand(Form& window, Workbench& bench);
+
+    /// Writes the date and the time of now.
+    void showDateAndTime();
+    /// Writes the time of now.
+    void showTime();
+
+private:
+    void makeWords();
+    void makeImages();
+
+    void Form2_Image3_Click();
+    void Form2_Image4_Click();
+    void Form2_Image5_Click();
+    void Form2_Image7_Click();
+    void Form2_Label20_Click();
+
+    Form& m_window;
+    Workbench& m_bench;
+    Image* Picture3; // the band of date, time and address
+    Label* Label16;  // date of the load
+    Label* Label17;  // time
+    Label* Label20;  // the makers' address
+    Label* Label26;  // the program's name
+};
+
+} // namespace qinghe
