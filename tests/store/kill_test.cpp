@@ -1,5 +1,7 @@
 #include "store/rewritten_table.h"
 
+#include <QFile>
+
 #include <chrono>
 #include <csignal>
 #include <random>
@@ -32,24 +34,30 @@ protected:
 };
 
 TEST_F(Kill, AtAnyMomentLeavesTheOldTableOrTheNewOne) {
+    const auto start = std::chrono::steady_clock::now();
     rewriteTable(store, control, u"begin"_s, kRows);
+    const auto oneRewriting = std::chrono::steady_clock::now() - start;
     std::mt19937 chance(1);
+    std::uniform_real_distribution<double> moments(0, 2.5);
+    int interrupted = 0;
     int rewritten = 0;
     for (int i = 0; i < kKills; ++i) {
         store.close();
         const QString name = u"%1-"_s.arg(i);
         const pid_t child = startRewriting(name);
         ASSERT_GT(child, 0);
-        std::this_thread::sleep_for(std::chrono::microseconds(chance() % 60'000));
+        std::this_thread::sleep_for(oneRewriting * moments(chance));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
         ASSERT_TRUE(WIFSIGNALED(status)) << "the child gave up by itself";
+        interrupted += QFile::exists(path() + u"-journal"_s);
         rewritten += markOfTable(control, kRows).startsWith(name);
         EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
         ASSERT_FALSE(HasFailure()) << "after kill " << i;
     }
-    EXPECT_GT(rewritten, kKills / 10); // the moments did fall among the rewritings
+    EXPECT_GT(rewritten, kKills / 10);   // the moments did fall among the rewritings,
+    EXPECT_GT(interrupted, kKills / 10); // and inside them
     EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s);
 }
 

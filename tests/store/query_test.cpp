@@ -132,10 +132,11 @@ TEST_F(Queries, TextsCompareExactly) {
 }
 
 TEST_F(Queries, GroupsStandInTheOrderOfTheirTextAndNullIsAGroupOfItsOwn) {
-    const std::vector<std::pair<Value, int>> rows{{u"b"_s, 1},  {Value(), 2}, {u"工资"_s, 4}, {u""_s, 8},
-                                                  {u"B"_s, 16}, {u"b"_s, 32}, {Value(), 64}};
-    for (const auto& [item, amount] : rows)
-        add(control.open(u"srb"_s), {{u"项目"_s, item}, {u"金额"_s, amount}});
+    const QStringList items{u"b"_s, u"NULL"_s, u"工资"_s, u""_s, u"B"_s, u"b"_s, u"NULL"_s};
+    for (int amount = 1; const QString& item : items) {
+        add(control.open(u"srb"_s), {{u"项目"_s, item == u"NULL" ? Value() : item}, {u"金额"_s, amount}});
+        amount *= 2;
+    }
     const QString source = u"select 项目,sum(金额) as 总金额 from srb group by 项目"_s;
     EXPECT_EQ(column(source, u"项目"_s), QStringList({u"NULL"_s, u""_s, u"B"_s, u"b"_s, u"工资"_s}));
     EXPECT_EQ(column(source, u"总金额"_s), QStringList({u"66"_s, u"8"_s, u"16"_s, u"33"_s, u"4"_s}));
