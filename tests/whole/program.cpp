@@ -234,6 +234,10 @@ std::string Program::windowWithKeyboard() {
     return ask({{"do", "keyboard"}}).toString().toStdString();
 }
 
+void Program::look() {
+    QThread::msleep(300);
+}
+
 bool Program::running() {
     m_process.waitForFinished(0);
     return m_process.state() != QProcess::NotRunning;

@@ -74,6 +74,9 @@ public:
     /// A window that has just come takes the keyboard as soon as the desktop gives it.
     void waitForKeyboard(const std::string& window);
 
+    /// As long as a person takes to look; the window manager has then caught up.
+    void look();
+
     // Life
     bool running();
     /// Waits for its end; -1 when it was killed or crashed.

@@ -38,8 +38,10 @@ TEST(Tray, MinimisingGoesThereAndAClickComesBackEachTime) {
     for (int i = 0; i < 3; ++i) {
         program.waitFor(trayIcon);
         program.waitUntil([&] { return !program.shows("Form2"); }, "the main window to go");
+        program.look();
         program.click(trayIcon);
         program.waitFor("Form2");
+        program.look();
         program.click("Form2/Image4");
     }
     program.waitUntil([&] { return !program.shows("Form2"); }, "the main window to go");
