@@ -48,9 +48,7 @@ struct Recordset::Impl {
     void requireWritable() const {
         if (!rows->shape().writable())
             throw RuntimeError(RuntimeError::QueryFailure, QStringLiteral("合计和分组的查询结果不能修改。"));
-        if (generation != store.generation())
-            throw RuntimeError(RuntimeError::StoreFailure,
-                               QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再修改。"));
+        store.requireGeneration(generation);
     }
 
     /// Where the set stands when it is told to jump to the 1-based `position`; EOF when there is no such row.

@@ -44,15 +44,6 @@ struct Store::Impl {
         return *open;
     }
 
-    /// The file that the rows in hand came from.
-    Session& sessionOfRows() {
-        dropIfMoved();
-        if (!open)
-            throw RuntimeError(RuntimeError::StoreFailure,
-                               QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再修改。"));
-        return *open;
-    }
-
     void dropIfMoved() {
         if (open && !open->inTransaction() && open->fileMoved())
             drop();
@@ -65,9 +56,9 @@ struct Store::Impl {
     }
 
     template<typename Work>
-    auto run(Work work, Session& (Impl::*file)()) -> decltype(work(*open)) {
+    auto run(Work work) -> decltype(work(*open)) {
         try {
-            return work((this->*file)());
+            return work(session());
         } catch (const RuntimeError& error) {
             if (!isRefusal(error))
                 recover(error);
@@ -98,7 +89,7 @@ const QString& Store::path() const {
 }
 
 std::shared_ptr<const ResultSet> Store::fetch(const QString& source) {
-    return m->run([&](Session& session) { return session.fetch(source); }, &Impl::session);
+    return m->run([&](Session& session) { return session.fetch(source); });
 }
 
 bool Store::inTransaction() const {
@@ -107,7 +98,7 @@ bool Store::inTransaction() const {
 
 void Store::commit() {
     if (inTransaction())
-        m->run([](Session& session) { session.commit(); }, &Impl::session);
+        m->run([](Session& session) { session.commit(); });
 }
 
 void Store::close() {
@@ -124,21 +115,28 @@ int Store::generation() const {
     return m->generation;
 }
 
+void Store::requireGeneration(int generation) {
+    m->dropIfMoved();
+    if (generation != m->generation)
+        throw RuntimeError(RuntimeError::StoreFailure,
+                           QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再修改。"));
+}
+
 qint64 Store::insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values) {
-    return m->run([&](Session& session) { return session.insertRow(table, ordinals, values); }, &Impl::sessionOfRows);
+    return m->run([&](Session& session) { return session.insertRow(table, ordinals, values); });
 }
 
 void Store::updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
                       std::span<const StoredValue> values) {
-    m->run([&](Session& session) { session.updateRow(table, rowid, ordinals, values); }, &Impl::sessionOfRows);
+    m->run([&](Session& session) { session.updateRow(table, rowid, ordinals, values); });
 }
 
 void Store::deleteRow(const QString& table, qint64 rowid) {
-    m->run([&](Session& session) { session.deleteRow(table, rowid); }, &Impl::sessionOfRows);
+    m->run([&](Session& session) { session.deleteRow(table, rowid); });
 }
 
 const TableColumns& Store::columns(const QString& table) {
-    return m->run([&](Session& session) -> const TableColumns& { return session.columns(table); }, &Impl::session);
+    return m->run([&](Session& session) -> const TableColumns& { return session.columns(table); });
 }
 
 } // namespace qinghe

@@ -53,6 +53,8 @@ public:
     const TableColumns& columns(const QString& table);
 
     // For recordsets only.
+    /// Throws RuntimeError (StoreFailure) unless the file is still the one that was open under that number.
+    void requireGeneration(int generation);
     /// Inserts a row and gives its identity. `values` stand beside the named columns; other columns stay NULL.
     qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
     void updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
