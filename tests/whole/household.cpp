@@ -6,7 +6,7 @@ namespace whole {
 
 void signIn(Program& program) {
     program.click("Form5/Label1");
-    program.waitFor("Form2");
+    program.waitForKeyboard("Form2");
 }
 
 void endByCross(Program& program) {

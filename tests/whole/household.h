@@ -6,7 +6,8 @@ namespace whole {
 
 /// What everybody in these stories does the same way.
 
-/// Signs in with the remembered name and password, which takes one click, and waits for the main window.
+/// Signs in with the remembered name and password, which takes one click, and waits until the main window
+/// has the keyboard.
 void signIn(Program& program);
 /// Ends the program by the cross of the main window.
 void endByCross(Program& program);

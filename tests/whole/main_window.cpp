@@ -24,6 +24,7 @@ TEST(MainWindow, FollowsADragOfItsBackgroundAndPutsTheDatePickerAway) {
     program.click("Form2/Label2(0)");
     program.clickCell("Form2/ms2", 1, 2);
     program.waitFor("Form1");
+    program.look(); // the window has found its place
     const double left = program.get("Form2", "Left").toDouble(), top = program.get("Form2", "Top").toDouble();
 
     program.drag("Form2", bareTitle, {40, 24});
@@ -50,6 +51,7 @@ TEST(MainWindow, ToolsStandBesideIt) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
+    program.look(); // the window has found its place
     program.click("Form2/Image5");
     program.waitFor("Form7");
     EXPECT_EQ(program.get("Form7", "windowTitle").toString().toStdString(), "软件工具");
