@@ -23,7 +23,6 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -84,7 +83,7 @@ void prepareBox(QLineEdit& box, Role role, QObject* watcher) {
     fitEditor(box);
 }
 
-void prepareMessage(QMessageBox& box) {
+void prepareMessage(QWidget& box) {
     auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     if (!words)
         return;
@@ -277,8 +276,8 @@ void Style::polish(QWidget* widget) {
         prepareGrid(*grid);
     else if (auto* text = qobject_cast<QPlainTextEdit*>(widget))
         preparePaper(*text, this);
-    else if (auto* message = qobject_cast<QMessageBox*>(widget))
-        prepareMessage(*message);
+    else if (widget->inherits("QMessageBox"))
+        prepareMessage(*widget);
     else if (auto* box = qobject_cast<QLineEdit*>(widget))
         if (const Placed* placed = Placed::of(widget))
             prepareBox(*box, placed->role(), this);

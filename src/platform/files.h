@@ -14,8 +14,8 @@ void makeFolder(const QString& path);
 void writeAll(const QString& path, const QByteArray& bytes);
 /// Deletes the files that a pattern with "*" and "?" names, hidden ones included; finding none is harmless.
 void deleteMatching(const QString& folder, const QString& pattern);
-/// Reads a picture by its content, whatever the name says, with its orientation. A larger picture than `fill` (pixels of
-/// the desktop's own unit) is read no larger than the densest screen shows it there. FileNotFound, InvalidPicture.
+/// Reads a picture by its content, whatever the name says, with its orientation. A larger picture than `fill` (pixels
+/// of the desktop's own unit) is read no larger than the densest screen shows it there. FileNotFound, InvalidPicture.
 QImage loadPicture(const QString& path, const QSize& fill);
 
 } // namespace qinghe::files
