@@ -27,8 +27,8 @@ public:
     /// Never queries by itself: the set in hand stays that of the last refresh.
     void setRecordSource(const QString& source) { m_source = source; }
 
-    /// Runs the source; the recordset is replaced and stands on its first row. Throws RuntimeError, with the set in hand
-    /// left as it was.
+    /// Runs the source; the recordset is replaced and stands on its first row. Throws RuntimeError, with the set in
+    /// hand left as it was.
     void refresh();
     /// The recordset of the last refresh. Throws RuntimeError (91) before the first one.
     Recordset& recordset();
