@@ -3,6 +3,7 @@
 #include "platform/services.h"
 
 #include <functional>
+#include <ostream>
 #include <utility>
 #include <vector>
 
@@ -23,6 +24,10 @@ struct ShownMessage {
     bool operator==(const ShownMessage&) const = default;
 };
 
+inline void PrintTo(const ShownMessage& message, std::ostream* out) {
+    *out << message.title.toStdString() << ": " << message.text.toStdString() << " (" << message.style << ')';
+}
+
 /// Notes every box and answers it at once: with the answers lined up, else with OK (Yes where it asks Yes or No).
 class AnsweringMessages : public MessageBoxes {
 public:
@@ -41,11 +46,14 @@ public:
     void add(const TrayData& data, std::function<void(int)> onMessage) override {
         added.push_back(data);
         send = std::move(onMessage);
+        if (whenAdded)
+            whenAdded();
     }
 
     bool present = true;
     std::vector<TrayData> added;
-    std::function<void(int message)> send;
+    std::function<void(int message)> send; ///< an event of the icon, as the desktop brings it
+    std::function<void()> whenAdded;
 };
 
 class NotingLauncher : public Launcher {

@@ -1,0 +1,180 @@
+#include "core_fixture.h"
+
+namespace qinghe::testing {
+namespace {
+
+/// A program that cannot start says why in Chinese and ends with 1, and what had to stay is there at the next start.
+class BrokenStart : public CoreTest {
+protected:
+    void keepAside() { QFile::copy(rig.dataFile(), rig.file(u"aside"_s)); }
+    void putBack() {
+        rig.stop();
+        QFile::remove(rig.dataFile());
+        QFile::rename(rig.file(u"aside"_s), rig.dataFile());
+    }
+    void expectNextStartGood() {
+        rig.stop();
+        rig.signIn();
+        EXPECT_TRUE(rig.messages->errors.empty());
+        EXPECT_TRUE(main().isVisible());
+    }
+    void blockWithFolder(const QString& name) {
+        QFile::remove(rig.file(name));
+        ASSERT_TRUE(QDir(rig.folder()).mkdir(name));
+    }
+    void unblock(const QString& name) { ASSERT_TRUE(QDir(rig.folder()).rmdir(name)); }
+};
+
+TEST_F(BrokenStart, AMissingFileIsToldAndNotMade) {
+    keepAside();
+    QFile::remove(rig.dataFile());
+    rig.start();
+    expectError(RuntimeError::FileNotFound, u"data.dll"_s);
+    EXPECT_EQ(folder(), QStringList{u"aside"_s});
+    putBack();
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, AForeignFileIsTold) {
+    write(u"data.dll"_s, QByteArray("no ledger at all\n").repeated(500));
+    rig.start();
+    expectError(RuntimeError::StoreFailure, u"data.dll"_s);
+    EXPECT_EQ(bytes(u"data.dll"_s).size(), 17 * 500);
+}
+
+TEST_F(BrokenStart, AnEmptyFileIsToldAndStaysEmpty) {
+    write(u"data.dll"_s, {});
+    rig.start();
+    expectError(RuntimeError::StoreFailure, u"data.dll"_s);
+    EXPECT_EQ(bytes(u"data.dll"_s), "");
+}
+
+TEST_F(BrokenStart, ATruncatedFileIsTold) {
+    keepAside();
+    write(u"data.dll"_s, bytes(u"data.dll"_s).left(6000));
+    rig.start();
+    expectError(RuntimeError::StoreFailure, u"data.dll"_s);
+    putBack();
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, AFolderInPlaceOfTheFileIsTold) {
+    keepAside();
+    blockWithFolder(u"data.dll"_s);
+    rig.start();
+    expectError(RuntimeError::PathFileAccess, u"data.dll"_s);
+    rig.stop();
+    unblock(u"data.dll"_s);
+    putBack();
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, AFileThatIsSpoiltWhileTheProgramRunsIsToldAtTheNextQuery) {
+    rig.signIn();
+    keepAside();
+    write(u"data.dll"_s, QByteArray("overwritten by something else\n").repeated(3000));
+    click(u"Label24"_s);
+    expectError(RuntimeError::StoreFailure, u"data.dll"_s);
+    putBack();
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, AFileThatIsRemovedWhileTheProgramRunsIsToldAtTheNextQuery) {
+    rig.signIn();
+    keepAside();
+    QFile::remove(rig.dataFile());
+    click(u"Label24"_s);
+    expectError(RuntimeError::FileNotFound, u"data.dll"_s);
+    EXPECT_FALSE(folder().contains(u"data.dll"_s));
+    putBack();
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, AMissingTableIsToldWithItsName) {
+    rig.sql(u"drop table txb"_s);
+    rig.signIn();
+    expectError(RuntimeError::QueryFailure, u"txb"_s);
+}
+
+TEST_F(BrokenStart, APictureTableWithoutItsRowIsTold) {
+    for (const auto* table : {u"登陆皮肤", u"皮肤选择", u"主界面"}) {
+        const QString name = QString::fromUtf16(table);
+        rig.stop();
+        rig.sql(u"create table kept as select * from %1"_s.arg(name));
+        rig.sql(u"delete from %1"_s.arg(name));
+        if (name == u"登陆皮肤"_s)
+            rig.start();
+        else
+            rig.signIn();
+        expectError(RuntimeError::NoCurrentRecord, u"记录"_s);
+        rig.stop();
+        rig.sql(u"insert into %1 select * from kept"_s.arg(name));
+        rig.sql(u"drop table kept"_s);
+        expectNextStartGood();
+    }
+}
+
+TEST_F(BrokenStart, APictureThatIsNoneIsToldWithItsFile) {
+    rig.sql(u"update 皮肤选择 set 文件大小=5, 皮肤文件=x'0102030405'"_s);
+    rig.signIn();
+    expectError(RuntimeError::InvalidPicture, u"pf.jpg"_s);
+}
+
+TEST_F(BrokenStart, ASignInPictureThatCannotBeWrittenIsTold) {
+    blockWithFolder(u"dlpf.jpg"_s);
+    rig.start();
+    expectError(RuntimeError::PathFileAccess, u"dlpf.jpg"_s);
+    unblock(u"dlpf.jpg"_s);
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, APictureOfTheMainWindowThatCannotBeWrittenIsTold) {
+    for (const auto* file : {u"pf.jpg", u"zjm.jpg"}) {
+        const QString name = QString::fromUtf16(file);
+        rig.stop();
+        blockWithFolder(name);
+        rig.signIn();
+        expectError(RuntimeError::PathFileAccess, name);
+        unblock(name);
+        expectNextStartGood();
+    }
+}
+
+TEST_F(BrokenStart, AFileInPlaceOfTheDiaryFolderIsToldAndKept) {
+    write(u"mydiary"_s, "something of the user's");
+    rig.signIn();
+    expectError(RuntimeError::PathFileAccess, u"mydiary"_s);
+    EXPECT_EQ(bytes(u"mydiary"_s), "something of the user's");
+    QFile::remove(rig.file(u"mydiary"_s));
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, WhatTheSignInHadWrittenBeforeTheFailureStays) {
+    rig.sql(u"insert into yhb values('李四','abc',2)"_s);
+    blockWithFolder(u"pf.jpg"_s);
+    rig.start();
+    trySignIn(u"李四"_s, u"abc"_s);
+    expectError(RuntimeError::PathFileAccess, u"pf.jpg"_s);
+    EXPECT_EQ(rig.sql(u"select 用户名, 密码 from 登陆用户记录表"_s), QStringList{u"李四|abc"_s});
+    EXPECT_EQ(rig.headerBytes(), Healed);
+    rig.stop();
+    unblock(u"pf.jpg"_s);
+    rig.start();
+    EXPECT_EQ(name().Text(), u"李四"_s);
+}
+
+TEST_F(BrokenStart, AFailureInTheMidstOfLeavingKeepsTheLedger) {
+    rig.sql(u"insert into srb values('1','2024-05-03','工资','我',12.5,'现金','',1)"_s);
+    rig.signIn();
+    QFile::remove(rig.file(u"aside"_s));
+    keepAside();
+    QFile::remove(rig.dataFile());
+    click(u"Image3"_s);
+    expectError(RuntimeError::FileNotFound, u"data.dll"_s);
+    putBack();
+    expectNextStartGood();
+    EXPECT_EQ(rig.sql(u"select count(*) from srb"_s), QStringList{u"1"_s});
+}
+
+} // namespace
+} // namespace qinghe::testing

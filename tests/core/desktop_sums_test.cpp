@@ -1,0 +1,151 @@
+#include "core_fixture.h"
+
+namespace qinghe::testing {
+namespace {
+
+const QStringList LastMonth{u"Label25"_s, u"Label27"_s, u"Label28"_s, u"Label29"_s, u"Label30"_s};
+const QStringList ThisMonth{u"Label31"_s, u"Label32"_s, u"Label33"_s, u"Label34"_s, u"Label35"_s};
+
+class DesktopSums : public CoreTest {
+protected:
+    /// One row a ledger: income, expense, budget, borrowed and lent of one day.
+    void book(const QString& day, const std::array<double, 5>& amounts) {
+        rig.sql(u"insert into srb values('1','%1','工资','我',%2,'现金','',1)"_s.arg(day).arg(amounts[0]));
+        rig.sql(u"insert into zcb values('1','%1','饭','我',%2,'现金','',1)"_s.arg(day).arg(amounts[1]));
+        rig.sql(u"insert into ysb values('%1','旅行',%2,'',1)"_s.arg(day).arg(amounts[2]));
+        rig.sql(u"insert into jrb values('现金','%1',%2,0,%2,'他','我','',1)"_s.arg(day).arg(amounts[3]));
+        rig.sql(u"insert into jcb values('现金','%1',%2,0,%2,'我','他','',1)"_s.arg(day).arg(amounts[4]));
+    }
+    void bookIncome(const QString& day, const QString& amount) {
+        rig.sql(u"insert into srb values('1','%1','工资','我',%2,'现金','',1)"_s.arg(day, amount));
+    }
+    /// Starts on this day and gives the ten figures.
+    void startOn(const QDate& today) {
+        rig.stop();
+        rig.clock->time.setDate(today);
+        rig.signIn();
+    }
+    QStringList figures(const QStringList& labels) {
+        QStringList figures;
+        for (const QString& name : labels)
+            figures << caption(name);
+        return figures;
+    }
+    const QStringList nothing = QStringList(5, u"0.00元"_s);
+};
+
+TEST(DesktopKeys, LastMonthIsTheMonthBeforeBehindAZeroWithoutFurtherCare) {
+    EXPECT_EQ(lastMonthKey({2024, 6, 18}), u"2024-05"_s);
+    EXPECT_EQ(lastMonthKey({2024, 1, 31}), u"2024-00"_s);
+    EXPECT_EQ(lastMonthKey({2024, 2, 1}), u"2024-01"_s);
+    EXPECT_EQ(lastMonthKey({2024, 10, 1}), u"2024-09"_s);
+    EXPECT_EQ(lastMonthKey({2024, 11, 1}), u"2024-010"_s);
+    EXPECT_EQ(lastMonthKey({2024, 12, 1}), u"2024-011"_s);
+}
+
+TEST(DesktopKeys, ThisMonthHasNoLeadingZero) {
+    EXPECT_EQ(thisMonthKey({2024, 1, 31}), u"2024-1"_s);
+    EXPECT_EQ(thisMonthKey({2024, 6, 18}), u"2024-6"_s);
+    EXPECT_EQ(thisMonthKey({2024, 10, 1}), u"2024-10"_s);
+    EXPECT_EQ(thisMonthKey({2024, 12, 31}), u"2024-12"_s);
+}
+
+TEST_F(DesktopSums, TheFiguresStandInTheirPlaces) {
+    rig.signIn();
+    const std::array<double, 5> tops{1200, 2160, 3120, 4080, 4920};
+    for (qsizetype row = 0; row < 5; ++row) {
+        EXPECT_EQ(label(LastMonth[row]).Left(), 2280);
+        EXPECT_EQ(label(ThisMonth[row]).Left(), 6000);
+        EXPECT_EQ(label(LastMonth[row]).Top(), tops[static_cast<std::size_t>(row)]);
+        EXPECT_EQ(label(ThisMonth[row]).Top(), tops[static_cast<std::size_t>(row)]);
+    }
+    EXPECT_EQ(rig.frame(u"Frame13"_s).Caption(), u"桌面"_s);
+}
+
+TEST_F(DesktopSums, WithoutRowsAllFiguresAreNought) {
+    rig.signIn();
+    EXPECT_EQ(figures(LastMonth), nothing);
+    EXPECT_EQ(figures(ThisMonth), nothing);
+}
+
+TEST_F(DesktopSums, FromOctoberOnTheMonthsRowsAreSummed) {
+    book(u"2024-10-03"_s, {1200, 30.5, 500, 70, 8});
+    book(u"2024-10-31"_s, {0.25, 9.5, 0, 0, 0.125});
+    book(u"2024-09-30"_s, {7, 7, 7, 7, 7});
+    book(u"2023-10-03"_s, {7, 7, 7, 7, 7});
+    startOn({2024, 10, 18});
+    EXPECT_EQ(figures(ThisMonth),
+              (QStringList{u"1200.25元"_s, u"40.00元"_s, u"500.00元"_s, u"70.00元"_s, u"8.13元"_s}));
+    EXPECT_EQ(figures(LastMonth), nothing);
+}
+
+TEST_F(DesktopSums, NovemberAndDecemberCountTheirOwnRowsAndNeverThoseOfTheMonthBefore) {
+    for (const int month : {10, 11, 12})
+        book(u"2024-%1-05"_s.arg(month), {1. * month, 1. * month, 1. * month, 1. * month, 1. * month});
+    startOn({2024, 11, 5});
+    EXPECT_EQ(figures(ThisMonth), QStringList(5, u"11.00元"_s));
+    EXPECT_EQ(figures(LastMonth), nothing);
+    startOn({2024, 12, 5});
+    EXPECT_EQ(figures(ThisMonth), QStringList(5, u"12.00元"_s));
+    EXPECT_EQ(figures(LastMonth), nothing);
+}
+
+TEST_F(DesktopSums, InTheOtherMonthsTheDatesOwnTextKeepsTheRowsOut) {
+    book(u"2024-06-18"_s, {1, 1, 1, 1, 1});
+    book(u"2024-05-18"_s, {1, 1, 1, 1, 1});
+    startOn({2024, 6, 18});
+    EXPECT_EQ(figures(ThisMonth), nothing);
+    EXPECT_EQ(figures(LastMonth), nothing);
+}
+
+TEST_F(DesktopSums, InJanuaryTheLeftHandFiguresAreNoughtWhateverTheTablesHold) {
+    for (const auto* day : {u"2023-12-31", u"2024-01-01", u"2024-10-10", u"2023-10-10"})
+        book(QString::fromUtf16(day), {5, 5, 5, 5, 5});
+    startOn({2024, 1, 15});
+    EXPECT_EQ(figures(LastMonth), nothing);
+}
+
+TEST_F(DesktopSums, HalfAYuanHasNoDigitBeforeThePoint) {
+    bookIncome(u"2024-10-01"_s, u"0.5"_s);
+    startOn({2024, 10, 18});
+    EXPECT_EQ(caption(u"Label31"_s), u".50元"_s);
+}
+
+TEST_F(DesktopSums, ASumBelowNoughtKeepsItsSign) {
+    bookIncome(u"2024-10-01"_s, u"-12.5"_s);
+    startOn({2024, 10, 18});
+    EXPECT_EQ(caption(u"Label31"_s), u"-12.50元"_s);
+}
+
+TEST_F(DesktopSums, RowsThatCancelOutOrHoldNothingAreNought) {
+    bookIncome(u"2024-10-01"_s, u"5"_s);
+    bookIncome(u"2024-10-02"_s, u"-5"_s);
+    rig.sql(u"insert into zcb values('1','2024-10-01','饭','我',null,'','',1)"_s);
+    startOn({2024, 10, 18});
+    EXPECT_EQ(caption(u"Label31"_s), u"0.00元"_s);
+    EXPECT_EQ(caption(u"Label32"_s), u"0.00元"_s);
+}
+
+TEST_F(DesktopSums, WorkOnTheOtherPagesLeavesTheFiguresAloneUntilTheNextStart) {
+    bookIncome(u"2024-10-01"_s, u"100"_s);
+    startOn({2024, 10, 18});
+    click(u"Label2(0)"_s);
+    bookIncome(u"2024-10-02"_s, u"11"_s);
+    click(u"Label24"_s);
+    EXPECT_EQ(caption(u"Label31"_s), u"100.00元"_s);
+    startOn({2024, 10, 18});
+    EXPECT_EQ(caption(u"Label31"_s), u"111.00元"_s);
+}
+
+TEST_F(DesktopSums, ComingBackWritesTheSameFiguresAgain) {
+    bookIncome(u"2024-10-01"_s, u"100"_s);
+    startOn({2024, 10, 18});
+    label(u"Label31"_s).setCaption(u"?"_s);
+    label(u"Label25"_s).setCaption(u"?"_s);
+    click(u"Label24"_s);
+    EXPECT_EQ(caption(u"Label31"_s), u"100.00元"_s);
+    EXPECT_EQ(caption(u"Label25"_s), u"0.00元"_s);
+}
+
+} // namespace
+} // namespace qinghe::testing

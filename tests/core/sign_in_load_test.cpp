@@ -1,0 +1,113 @@
+#include "core_fixture.h"
+
+namespace qinghe::testing {
+namespace {
+
+class SignInLoad : public CoreTest {
+protected:
+    void forgetPair() { rig.sql(u"delete from 登陆用户记录表"_s); }
+    void addUser(const QString& user, const QString& word) {
+        rig.sql(u"insert into yhb values('%1','%2',2)"_s.arg(user, word));
+    }
+};
+
+TEST_F(SignInLoad, IsTheFirstWindowAndTheOnlyOne) {
+    rig.start();
+    EXPECT_TRUE(rig.loaded(u"Form5"_s)->isVisible());
+    EXPECT_EQ(rig.loaded(u"Form5"_s)->Caption(), u"青禾家庭记账本登陆"_s);
+    EXPECT_EQ(rig.loaded(u"Form2"_s), nullptr);
+}
+
+TEST_F(SignInLoad, HealsTheHeaderBeforeItsFirstQuery) {
+    EXPECT_EQ(rig.headerBytes(), Spoilt);
+    rig.start();
+    EXPECT_EQ(rig.headerBytes(), Healed);
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(SignInLoad, ItsControlsStandInTheirPlaces) {
+    rig.start();
+    struct Place {
+        QString name;
+        double left, top, width, height;
+    };
+    for (const Place& place : {Place{u"Combo1"_s, 1320, 1560, 3255, 300}, Place{u"Text2"_s, 1320, 2160, 3255, 375},
+                               Place{u"Label1"_s, 3600, 3420, 1335, 375}, Place{u"Image1"_s, 4320, 0, 375, 375},
+                               Place{u"Image2"_s, 4680, 0, 495, 375}}) {
+        const auto& control = rig.control<QWidget>(u"Form5"_s, place.name);
+        EXPECT_EQ(control.property("Left").toDouble(), place.left) << place.name.toStdString();
+        EXPECT_EQ(control.property("Top").toDouble(), place.top) << place.name.toStdString();
+        EXPECT_EQ(control.property("Width").toDouble(), place.width) << place.name.toStdString();
+        EXPECT_EQ(control.property("Height").toDouble(), place.height) << place.name.toStdString();
+    }
+    EXPECT_EQ(remember().Left(), 2280);
+    EXPECT_EQ(remember().Top(), 2760);
+    EXPECT_EQ(signInButton().Caption(), u"   登录"_s);
+    EXPECT_EQ(rig.control<Label>(u"Form5"_s, u"Label3"_s).Caption(), u"记住用户名和密码"_s);
+}
+
+TEST_F(SignInLoad, ThePasswordIsShownAsStars) {
+    rig.start();
+    EXPECT_EQ(password().echoMode(), QLineEdit::Password);
+    EXPECT_EQ(password().displayText(), u"******"_s);
+}
+
+TEST_F(SignInLoad, OffersTheNamesInTheTablesOrderWithoutTakingOne) {
+    addUser(u"李四"_s, u"1"_s);
+    addUser(u"阿宝"_s, u"1"_s);
+    rig.start();
+    QStringList offered;
+    for (int i = 0; i < name().count(); ++i)
+        offered << name().itemText(i);
+    EXPECT_EQ(offered, (QStringList{u"管理员"_s, u"李四"_s, u"阿宝"_s}));
+}
+
+TEST_F(SignInLoad, ARememberedPairIsFilledInAndTicked) {
+    addUser(u"李四"_s, u"abc"_s);
+    rig.sql(u"update 登陆用户记录表 set 用户名='李四', 密码='abc'"_s);
+    rig.start();
+    EXPECT_EQ(name().Text(), u"李四"_s);
+    EXPECT_EQ(password().Text(), u"abc"_s);
+    EXPECT_TRUE(remember().Value());
+}
+
+TEST_F(SignInLoad, WithoutARememberedPairTheFirstUserStandsThereWithoutPassword) {
+    forgetPair();
+    addUser(u"李四"_s, u"1"_s);
+    rig.start();
+    EXPECT_EQ(name().Text(), u"管理员"_s);
+    EXPECT_EQ(password().Text(), QString());
+    EXPECT_FALSE(remember().Value());
+}
+
+TEST_F(SignInLoad, WithoutAnyUserTheProgramCannotStart) {
+    forgetPair();
+    rig.sql(u"delete from yhb"_s);
+    rig.start();
+    expectError(RuntimeError::NoCurrentRecord, u"记录"_s);
+}
+
+TEST_F(SignInLoad, ARememberedPairIsShownEvenWithoutAnyUser) {
+    rig.sql(u"delete from yhb"_s);
+    rig.start();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_EQ(name().Text(), u"管理员"_s);
+}
+
+TEST_F(SignInLoad, WritesItsPictureBesideTheProgramAndShowsIt) {
+    rig.start();
+    EXPECT_EQ(QString::fromLatin1(bytes(u"dlpf.jpg"_s).toHex().toUpper()),
+              rig.sql(u"select hex(皮肤) from 登陆皮肤"_s).value(0));
+    EXPECT_EQ(rig.loaded(u"Form5"_s)->picture().pixelColor(4, 4).blue() < 30, true);
+    EXPECT_FALSE(rig.loaded(u"Form5"_s)->picture().isNull());
+}
+
+TEST_F(SignInLoad, TheTimesOfAnOldPictureFileDoNotMatter) {
+    write(u"dlpf.jpg"_s, "left from a crash");
+    rig.start();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_NE(bytes(u"dlpf.jpg"_s), "left from a crash");
+}
+
+} // namespace
+} // namespace qinghe::testing

@@ -1,0 +1,68 @@
+#include "core_fixture.h"
+#include "support/pointer.h"
+
+namespace qinghe::testing {
+namespace {
+
+class SignInWindow : public CoreTest {
+protected:
+    void SetUp() override { rig.start(); }
+    Form& form() { return *rig.loaded(u"Form5"_s); }
+    Image& image(const QString& name) { return rig.control<Image>(u"Form5"_s, name); }
+};
+
+TEST_F(SignInWindow, TheMinimiseImageMinimises) {
+    rig.click(image(u"Image1"_s));
+    EXPECT_EQ(form().WindowState(), 1);
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(SignInWindow, TheExitImageDeletesThePictureAndEndsWithTheHeaderHealed) {
+    ASSERT_TRUE(folder().contains(u"dlpf.jpg"_s));
+    rig.click(image(u"Image2"_s));
+    expectEndedWell();
+    EXPECT_EQ(folder(), QStringList{u"data.dll"_s});
+    EXPECT_EQ(rig.headerBytes(), Healed);
+}
+
+TEST_F(SignInWindow, TheDesktopsCloseEndsTheProgramAndLeavesThePicture) {
+    form().close();
+    expectEndedWell();
+    EXPECT_TRUE(folder().contains(u"dlpf.jpg"_s));
+    EXPECT_EQ(rig.headerBytes(), Healed);
+}
+
+TEST_F(SignInWindow, TheButtonIsRedUnderThePointerAndBlackWhenItIsOnTheWindow) {
+    rig.hover(signInButton());
+    EXPECT_EQ(signInButton().ForeColor(), Red);
+    EXPECT_TRUE(handOver(signInButton()));
+    pointer::move(form(), {150, 270});
+    EXPECT_EQ(signInButton().ForeColor(), Black);
+}
+
+TEST_F(SignInWindow, ImagesAndWordsShowTheHand) {
+    auto& words = rig.control<Label>(u"Form5"_s, u"Label3"_s);
+    for (Label* control :
+         {static_cast<Label*>(&image(u"Image1"_s)), static_cast<Label*>(&image(u"Image2"_s)), &words}) {
+        rig.hover(*control);
+        EXPECT_TRUE(handOver(*control)) << control->objectName().toStdString();
+    }
+    EXPECT_EQ(signInButton().ForeColor(), Black);
+}
+
+TEST_F(SignInWindow, TheSignInButtonStaysRedUntilThePointerIsOnTheBareWindow) {
+    rig.hover(signInButton());
+    rig.hover(image(u"Image1"_s));
+    EXPECT_EQ(signInButton().ForeColor(), Red);
+}
+
+TEST_F(SignInWindow, ThePictureStaysAfterTheSignInUntilTheMainWindowIsLeft) {
+    rig.click(signInButton());
+    rig.settle();
+    EXPECT_TRUE(folder().contains(u"dlpf.jpg"_s));
+    click(u"Image3"_s);
+    EXPECT_FALSE(folder().contains(u"dlpf.jpg"_s));
+}
+
+} // namespace
+} // namespace qinghe::testing

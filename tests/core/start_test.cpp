@@ -1,0 +1,140 @@
+#include "core_fixture.h"
+#include "store/header_toggle.h"
+
+namespace qinghe::testing {
+namespace {
+
+class Start : public CoreTest {
+protected:
+    const QString secondCopy = u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s;
+};
+
+TEST_F(Start, ASecondCopyAsksForNameAndPasswordFirstThenSaysSoAndEnds) {
+    rig.lock->free = false;
+    rig.start();
+    EXPECT_TRUE(rig.messages->shown.empty());
+    rig.click(signInButton());
+    EXPECT_EQ(rig.messages->shown, (std::vector<ShownMessage>{{secondCopy, 0, QString()}}));
+    expectEndedWell();
+    EXPECT_FALSE(folder().contains(u"mydiary"_s));
+    EXPECT_FALSE(folder().contains(u"pf.jpg"_s));
+    EXPECT_FALSE(main().isVisible());
+}
+
+TEST_F(Start, ACopyWhoseForerunnerHasEndedMeanwhileIsTheFirst) {
+    rig.lock->free = false;
+    rig.start();
+    rig.lock->free = true;
+    rig.click(signInButton());
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_TRUE(rig.messages->shown.empty());
+}
+
+TEST_F(Start, TheDiaryFolderIsMadeWhenItIsMissing) {
+    rig.signIn();
+    EXPECT_TRUE(QFileInfo(rig.file(u"mydiary"_s)).isDir());
+}
+
+TEST_F(Start, AnExistingDiaryFolderIsNotTouched) {
+    QDir(rig.folder()).mkdir(u"mydiary"_s);
+    write(u"mydiary/旅行.dll"_s, "text");
+    const QDateTime before = QFileInfo(rig.file(u"mydiary"_s)).lastModified();
+    rig.signIn();
+    EXPECT_EQ(bytes(u"mydiary/旅行.dll"_s), "text");
+    EXPECT_EQ(QFileInfo(rig.file(u"mydiary"_s)).lastModified(), before);
+}
+
+TEST_F(Start, TheMainWindowHealsTheHeaderOnceMore) {
+    rig.start();
+    rig.program->bench().store.close();
+    spoilHeader(rig.dataFile());
+    handlers::enter([this] { rig.program->bench().forms.get(u"Form2"_s); });
+    EXPECT_EQ(rig.headerBytes(), Healed);
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(Start, TheDesktopStandsInFront) {
+    rig.signIn();
+    EXPECT_EQ(main().navigation().currentPage, 24);
+    EXPECT_EQ(label(u"Label24"_s).ForeColor(), Red);
+    const Frame& desktop = rig.frame(u"Frame13"_s);
+    EXPECT_TRUE(desktop.isVisible());
+    EXPECT_EQ(desktop.Left(), 200);
+    EXPECT_EQ(desktop.Top(), 1680);
+    EXPECT_EQ(desktop.Width(), 11535);
+    EXPECT_EQ(desktop.Height(), 6135);
+    auto& band = rig.onMain<Image>(u"Picture3"_s);
+    EXPECT_EQ(band.Left(), 120);
+    EXPECT_EQ(band.Width(), 11655);
+}
+
+TEST_F(Start, AllOtherFramesAreHidden) {
+    rig.signIn();
+    for (const auto* name : {u"Frame7", u"Frame8", u"frame9", u"Frame10", u"Frame15", u"Frame16", u"Frame6", u"Frame3",
+                             u"Frame2", u"Frame17"})
+        EXPECT_FALSE(rig.frame(QString::fromUtf16(name)).Visible()) << QString::fromUtf16(name).toStdString();
+}
+
+TEST_F(Start, TheDataControlsAndTheSpareTickAreOutOfSight) {
+    rig.signIn();
+    for (const Adodc* control : {main().Adodc1, main().Adodc2, main().Adodc3})
+        EXPECT_FALSE(control->isVisible());
+    EXPECT_FALSE(rig.onMain<CheckBox>(u"Check5"_s).Visible());
+}
+
+TEST_F(Start, DateAndTimeStandInTheBandAndTheTimeGoesOn) {
+    rig.signIn();
+    EXPECT_EQ(caption(u"Label16"_s), u"系统时间：2024-6-18"_s);
+    EXPECT_EQ(caption(u"Label17"_s), u"20:36:08"_s);
+    auto& clock = rig.onMain<Timer>(u"Timer1"_s);
+    EXPECT_TRUE(clock.Enabled());
+    EXPECT_EQ(clock.interval(), 1000);
+    rig.clock->time = QDateTime(QDate(2024, 6, 19), QTime(7, 5, 9));
+    clock.setInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return caption(u"Label17"_s) == u"7:05:09"_s; }));
+    EXPECT_EQ(caption(u"Label16"_s), u"系统时间：2024-6-18"_s);
+}
+
+TEST_F(Start, TheCaptionRowBearsTheProgramsName) {
+    rig.signIn();
+    EXPECT_EQ(caption(u"Label26"_s), u"青禾家庭记账本"_s);
+    EXPECT_EQ(label(u"Label26"_s).Left(), 960);
+    EXPECT_EQ(label(u"Label26"_s).Top(), 240);
+    EXPECT_EQ(label(u"Label26"_s).Width(), 2175);
+    EXPECT_EQ(label(u"Label26"_s).Height(), 375);
+}
+
+TEST_F(Start, TheSharedNumbersBeginAtZero) {
+    rig.signIn();
+    EXPECT_EQ(rig.program->bench().dateTarget, 0);
+    EXPECT_EQ(rig.program->bench().calcTarget, 0);
+    EXPECT_EQ(rig.program->bench().emptyRowFlag, 0);
+}
+
+class ReminderSetting : public CoreTest {
+protected:
+    /// Whether the program takes reminders as wanted with these rows in the settings table.
+    bool wanted(const QString& rows) {
+        rig.stop();
+        rig.sql(u"delete from txb"_s);
+        if (!rows.isEmpty())
+            rig.sql(u"insert into txb values "_s + rows);
+        rig.signIn();
+        auto& comparer = rig.onMain<Timer>(u"Timer2"_s);
+        const bool first = rig.onMain<CheckBox>(u"Check1"_s).Value();
+        EXPECT_EQ(rig.onMain<CheckBox>(u"Check8"_s).Value(), first);
+        EXPECT_EQ(comparer.Enabled(), first);
+        EXPECT_EQ(comparer.interval(), 1000);
+        return first;
+    }
+};
+
+TEST_F(ReminderSetting, IsTakenFromExactlyOneRowThatIsTrue) {
+    EXPECT_TRUE(wanted(u"(1)"_s));
+    EXPECT_FALSE(wanted(u"(0)"_s));
+    EXPECT_FALSE(wanted({}));
+    EXPECT_FALSE(wanted(u"(1),(1)"_s));
+}
+
+} // namespace
+} // namespace qinghe::testing

@@ -1,0 +1,185 @@
+#include "core_fixture.h"
+
+#include <QStringDecoder>
+
+namespace qinghe::testing {
+namespace {
+
+class TrayIcon : public CoreTest {
+protected:
+    void want(bool on) { rig.sql(u"update systuopanb set 最小化到托盘=%1"_s.arg(on ? 1 : 0)); }
+    void minimise() {
+        main().setWindowState(1);
+        rig.settle();
+    }
+    /// An event of the icon.
+    void send(int message) {
+        rig.tray->send(message);
+        rig.settle();
+    }
+    std::size_t added() const { return rig.tray->added.size(); }
+};
+
+TEST_F(TrayIcon, StartingWithTheSettingOnTheWindowAppearsForAMomentThenOnlyTheIconRemains) {
+    want(true);
+    bool seen = false;
+    rig.start();
+    rig.tray->whenAdded = [&] { seen = main().isVisible(); };
+    rig.click(signInButton());
+    rig.settle();
+    EXPECT_TRUE(seen);
+    EXPECT_FALSE(main().isVisible());
+    EXPECT_EQ(added(), 1u);
+    EXPECT_TRUE(rig.onMain<CheckBox>(u"Check7"_s).Value());
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(TrayIcon, AStartIntoTheTrayStillFillsTheDesktop) {
+    want(true);
+    rig.signIn();
+    EXPECT_EQ(caption(u"Label36"_s), u"您还未添加今日日程！"_s);
+    EXPECT_EQ(caption(u"Label25"_s), u"0.00元"_s);
+    EXPECT_TRUE(folder().contains(u"zjm.jpg"_s));
+}
+
+TEST_F(TrayIcon, WithTheSettingOffOrMissingThereIsNoIcon) {
+    rig.signIn();
+    EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_FALSE(rig.onMain<CheckBox>(u"Check7"_s).Value());
+    rig.sql(u"delete from systuopanb"_s);
+    minimise();
+    EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(main().Visible());
+}
+
+TEST_F(TrayIcon, TheRecordIsThatOfThePlatform) {
+    want(true);
+    rig.signIn();
+    const TrayData& data = rig.tray->added.at(0);
+    EXPECT_EQ(data.cbSize, 88);
+    EXPECT_EQ(data.uFlags, 7u);
+    EXPECT_EQ(data.uCallbackMessage, 512u);
+    EXPECT_EQ(data.hWnd, main().winId());
+    EXPECT_EQ(data.uID, data.hIcon);
+    ASSERT_EQ(data.szTip.size(), 64);
+    QStringDecoder decode("GB18030");
+    EXPECT_EQ(QString(decode(data.szTip.left(14))), u"青禾家庭记账本"_s);
+    EXPECT_EQ(data.szTip.at(14), '\0');
+    EXPECT_EQ(data.szTip.mid(15), QByteArray(49, ' '));
+}
+
+TEST_F(TrayIcon, MinimisingHidesTheWindowWhenTheSettingIsOn) {
+    rig.signIn();
+    want(true);
+    minimise();
+    EXPECT_EQ(added(), 1u);
+    EXPECT_FALSE(main().Visible());
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(TrayIcon, TheMinimiseImageGoesToTheTrayToo) {
+    rig.signIn();
+    want(true);
+    click(u"Image4"_s);
+    EXPECT_EQ(added(), 1u);
+    EXPECT_FALSE(main().Visible());
+}
+
+TEST_F(TrayIcon, TheSettingIsReadAtEveryMinimise) {
+    rig.signIn();
+    minimise();
+    EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(main().Visible());
+    main().setWindowState(0);
+    want(true);
+    minimise();
+    EXPECT_EQ(added(), 1u);
+}
+
+TEST_F(TrayIcon, EverySizeEventAsksForTheSetting) {
+    rig.signIn();
+    main().Adodc1->open(u"txb"_s);
+    main().setWidth(main().Width() + 150);
+    rig.settle();
+    EXPECT_EQ(main().Adodc1->recordSource(), u"select 最小化到托盘 from systuopanb"_s);
+    want(true);
+    main().setWidth(main().Width() - 150);
+    rig.settle();
+    EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(main().Visible());
+}
+
+TEST_F(TrayIcon, ThePressOnTheIconBringsTheWindowBack) {
+    for (const int message : {513, 130}) {
+        rig.stop();
+        want(true);
+        rig.signIn();
+        ASSERT_FALSE(main().isVisible());
+        send(message);
+        EXPECT_TRUE(main().isVisible()) << message;
+        EXPECT_EQ(main().WindowState(), 0) << message;
+    }
+}
+
+TEST_F(TrayIcon, OtherEventsOfTheIconBringNothing) {
+    want(true);
+    rig.signIn();
+    for (const int message : {512, 514, 515, 516, 129, 131, 0}) {
+        send(message);
+        EXPECT_FALSE(main().isVisible()) << message;
+    }
+}
+
+TEST_F(TrayIcon, AMinimisedWindowComesBackUpright) {
+    rig.signIn();
+    want(true);
+    minimise();
+    send(513);
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_EQ(main().WindowState(), 0);
+}
+
+TEST_F(TrayIcon, AnEventOfTheIconDoesTheOtherWorkOfAMoveToo) {
+    want(true);
+    rig.signIn();
+    label(u"Label1"_s).setForeColor(Red);
+    send(513);
+    EXPECT_EQ(label(u"Label1"_s).ForeColor(), Black);
+    EXPECT_EQ(label(u"Label24"_s).ForeColor(), Red);
+}
+
+TEST_F(TrayIcon, TwoMinimisesInARowAddTheSameIconOnceMore) {
+    rig.signIn();
+    want(true);
+    minimise();
+    send(513);
+    minimise();
+    ASSERT_EQ(added(), 2u);
+    EXPECT_EQ(rig.tray->added[0].uID, rig.tray->added[1].uID);
+    EXPECT_EQ(rig.tray->added[0].hWnd, rig.tray->added[1].hWnd);
+    EXPECT_FALSE(main().Visible());
+    send(513);
+    EXPECT_TRUE(main().isVisible());
+}
+
+TEST_F(TrayIcon, WithoutATrayTheWindowIsMinimisedAndNobodyIsLockedOut) {
+    rig.tray->present = false;
+    want(true);
+    rig.signIn();
+    EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(main().Visible());
+    EXPECT_EQ(main().WindowState(), 1);
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(TrayIcon, TheProgramEndsWellOutOfATrayWindow) {
+    want(true);
+    rig.signIn();
+    send(513);
+    click(u"Image3"_s);
+    expectEndedWell();
+}
+
+} // namespace
+} // namespace qinghe::testing

@@ -1,0 +1,181 @@
+#include "core/window_shape.h"
+#include "core_fixture.h"
+#include "delivery/web_pages.h"
+#include "platform/web_browser.h"
+#include "support/pointer.h"
+
+namespace qinghe::testing {
+namespace {
+
+constexpr QPoint BareBand{400, 20}; ///< between the program's name and the window images
+
+class WindowBand : public CoreTest {
+protected:
+    void SetUp() override { rig.signIn(); }
+    Form& web() { return *rig.loaded(u"Form7"_s); }
+};
+
+TEST(WindowShape, RoundsTheUpperCornersByFivePixelsAndUsesWidthAndHeightThemselves) {
+    const QPolygon expected({{0, 5},
+                             {1, 4},
+                             {1, 3},
+                             {2, 2},
+                             {3, 1},
+                             {4, 1},
+                             {5, 0},
+                             {795, 0},
+                             {796, 1},
+                             {797, 1},
+                             {798, 2},
+                             {799, 3},
+                             {799, 4},
+                             {800, 5},
+                             {800, 540},
+                             {0, 540}});
+    EXPECT_EQ(mainWindowPolygon(800, 540), expected);
+}
+
+TEST_F(WindowBand, TheMainWindowHasItsShapeAndNoFrame) {
+    const int width = main().width(), height = main().height();
+    EXPECT_EQ(main().mask(), QRegion(mainWindowPolygon(width, height)));
+    EXPECT_FALSE(main().mask().contains(QPoint(0, 0)));
+    EXPECT_TRUE(main().mask().contains(QPoint(0, height - 1)));
+    EXPECT_TRUE(main().windowFlags() & Qt::FramelessWindowHint);
+}
+
+TEST_F(WindowBand, EachOfTheFourImagesUnloadsTheTools) {
+    for (const auto* image : {u"Image4", u"Image5", u"Image7", u"Image3"}) {
+        openTools();
+        click(QString::fromUtf16(image));
+        EXPECT_FALSE(toolsOpen()) << QString::fromUtf16(image).toStdString();
+    }
+}
+
+TEST_F(WindowBand, TheMinimiseImageMinimises) {
+    click(u"Image4"_s);
+    EXPECT_EQ(main().WindowState(), 1);
+    EXPECT_TRUE(main().Visible());
+    EXPECT_TRUE(rig.tray->added.empty());
+    main().setWindowState(0);
+    EXPECT_EQ(main().WindowState(), 0);
+}
+
+TEST_F(WindowBand, TheToolsWindowStandsToTheRightOfTheMainWindowInItsSize) {
+    main().moveTo(1500, 900);
+    click(u"Image5"_s);
+    EXPECT_TRUE(web().isVisible());
+    EXPECT_EQ(web().Caption(), u"软件工具"_s);
+    EXPECT_EQ(web().Left(), 1500 + main().Width());
+    EXPECT_EQ(web().Top(), 900);
+    EXPECT_EQ(web().Width(), main().Width());
+    EXPECT_EQ(web().Height(), main().Height());
+    EXPECT_EQ(rig.control<WebBrowser>(u"Form7"_s, u"Web1"_s).size(), web().size());
+}
+
+TEST_F(WindowBand, TheToolsWindowFollowsWhenItIsAskedForAgainAndCanBeClosed) {
+    click(u"Image5"_s);
+    main().moveTo(300, 600);
+    click(u"Image5"_s);
+    EXPECT_EQ(web().Left(), 300 + main().Width());
+    EXPECT_EQ(web().Top(), 600);
+    web().close();
+    EXPECT_EQ(rig.loaded(u"Form7"_s), nullptr);
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(WindowBand, TheToolsWindowShowsTheDeliveredPage) {
+    deliverWebPages(rig.folder());
+    click(u"Image5"_s);
+    auto& browser = rig.control<WebBrowser>(u"Form7"_s, u"Web1"_s);
+    EXPECT_EQ(browser.source(), QUrl::fromLocalFile(rig.file(u"web/softs.htm"_s)));
+    EXPECT_FALSE(browser.toPlainText().isEmpty());
+}
+
+TEST_F(WindowBand, ALinkOutOfTheToolsWindowOpensInTheSystemsBrowser) {
+    deliverWebPages(rig.folder());
+    click(u"Image5"_s);
+    emit rig.control<WebBrowser>(u"Form7"_s, u"Web1"_s).anchorClicked(QUrl(u"http://qinghe.example/"_s));
+    EXPECT_EQ(rig.launcher->opened, std::vector<QUrl>{QUrl(u"http://qinghe.example/"_s)});
+}
+
+TEST_F(WindowBand, IntroductionAndAddressOpenPagesThatAreThere) {
+    deliverWebPages(rig.folder());
+    click(u"Image7"_s);
+    click(u"Label20"_s);
+    const QUrl introduction = QUrl::fromLocalFile(rig.file(u"web/adetail.htm"_s));
+    const QUrl home = QUrl::fromLocalFile(rig.file(u"web/index.htm"_s));
+    EXPECT_EQ(rig.launcher->opened, (std::vector<QUrl>{introduction, home}));
+    for (const QUrl& page : rig.launcher->opened)
+        EXPECT_TRUE(QFile::exists(page.toLocalFile())) << page.toString().toStdString();
+}
+
+TEST_F(WindowBand, TheAddressLeavesTheToolsOpen) {
+    openTools();
+    click(u"Label20"_s);
+    EXPECT_TRUE(rig.loaded(u"Form1"_s) && rig.loaded(u"Form9"_s));
+    EXPECT_FALSE(caption(u"Label20"_s).isEmpty());
+}
+
+TEST_F(WindowBand, ADragMovesTheWindowByTheWayOfThePointer) {
+    main().moveTo(1507, 904);
+    rig.settle();
+    pointer::press(main(), BareBand);
+    pointer::move(main(), BareBand + QPoint(10, 5));
+    EXPECT_EQ(main().Left(), 1507 + 150);
+    EXPECT_EQ(main().Top(), 904 + 75);
+    // The window has come along: the same place in it is the pointer's again.
+    pointer::move(main(), BareBand + QPoint(-3, 0));
+    EXPECT_EQ(main().Left(), 1507 + 150 - 45);
+    pointer::release(main(), BareBand);
+    EXPECT_EQ(main().Top(), 904 + 75);
+}
+
+TEST_F(WindowBand, ADragCanLeaveTheScreenOnTheLeft) {
+    main().moveTo(150, 150);
+    pointer::press(main(), BareBand);
+    pointer::move(main(), BareBand - QPoint(100, 15));
+    EXPECT_EQ(main().Left(), 150 - 1500);
+    EXPECT_EQ(main().Top(), 150 - 225);
+    pointer::release(main(), BareBand);
+}
+
+TEST_F(WindowBand, AfterTheReleaseMovesOfThePointerMoveNothing) {
+    pointer::press(main(), BareBand);
+    pointer::release(main(), BareBand);
+    const double left = main().Left();
+    pointer::move(main(), BareBand + QPoint(30, 0));
+    EXPECT_EQ(main().Left(), left);
+}
+
+TEST_F(WindowBand, ADragThatBeginsWithTheDatePickerOpenHidesItFirstAndKeepsItLoaded) {
+    openTools();
+    const double left = main().Left();
+    pointer::press(main(), BareBand);
+    ASSERT_TRUE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(u"Form1"_s)->Visible());
+    EXPECT_TRUE(rig.loaded(u"Form9"_s)->Visible());
+    EXPECT_EQ(main().Left(), left);
+    pointer::move(main(), BareBand + QPoint(2, 0));
+    EXPECT_EQ(main().Left(), left + 30);
+    pointer::release(main(), BareBand);
+}
+
+TEST_F(WindowBand, TheStartOfADragIsKeptWithTheMarkOfAFilledRow) {
+    pointer::press(main(), BareBand);
+    EXPECT_EQ(rig.program->bench().emptyRowFlag, BareBand.y() * 15);
+    pointer::release(main(), BareBand);
+}
+
+TEST_F(WindowBand, APressOnAnImageOrALabelDragsNothing) {
+    const double left = main().Left();
+    for (const auto* name : {u"Image5", u"Label26", u"Label1", u"Picture3"}) {
+        auto& control = label(QString::fromUtf16(name));
+        pointer::press(control);
+        pointer::move(control, control.rect().center() + QPoint(9, 0));
+        EXPECT_EQ(main().Left(), left) << QString::fromUtf16(name).toStdString();
+        pointer::release(main(), BareBand);
+    }
+}
+
+} // namespace
+} // namespace qinghe::testing
