@@ -5,7 +5,7 @@
 namespace whole {
 
 Display::Display() {
-    m_server.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"});
+    m_server.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", "2560x1440x24", "-nolisten", "tcp"});
     while (!m_server.canReadLine())
         if (!m_server.waitForReadyRead(10000))
             throw std::runtime_error("Xvfb does not start: " + m_server.readAllStandardError().toStdString());
