@@ -223,6 +223,7 @@ Outcome carryOut(const QJsonObject& command) {
     const auto found = commands().find(textIn(command, "do"));
     if (found == commands().end())
         throw Refusal{QStringLiteral("there is no command ") + textIn(command, "do")};
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // a window may have come this very moment
     return found->second(command);
 }
 
