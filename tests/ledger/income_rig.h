@@ -53,8 +53,4 @@ inline const ShownMessage SaveRefused{QStringLiteral("为了保存信息的完�
                                       QStringLiteral("输入提示")};
 inline const ShownMessage SaveDone{QStringLiteral("保存成功"), 64, QStringLiteral("保存提示")};
 
-inline void PrintTo(const ShownMessage& message, std::ostream* out) {
-    *out << message.title.toStdString() << " (" << message.style << "): " << message.text.toStdString();
-}
-
 } // namespace qinghe::testing
