@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QAbstractTableModel>
-#include <QString>
+#include "platform/cell_texts.h"
 
-#include <vector>
+#include <QAbstractTableModel>
 
 namespace qinghe {
 
@@ -15,13 +14,13 @@ class FlexGridModel : public QAbstractTableModel {
 public:
     explicit FlexGridModel(QObject* parent) : QAbstractTableModel(parent) { resize(2, 2); }
 
-    int rows() const { return m_rows; }
-    int cols() const { return m_cols; }
+    int rows() const { return m_texts.rows(); }
+    int cols() const { return m_texts.cols(); }
     /// Shrinking drops cells; cells that come anew are blank. The view hears of it by announce().
-    void resize(int rows, int cols);
-    void removeRow(int row);
-    const QString& cell(int row, int col) const { return m_cells[at(row, col)]; }
-    void setCell(int row, int col, const QString& text) { m_cells[at(row, col)] = text; }
+    void resize(int rows, int cols) { m_texts.resize(rows, cols); }
+    void removeRow(int row) { m_texts.removeRow(row); }
+    QString cell(int row, int col) const { return m_texts.text(row, col); }
+    void setCell(int row, int col, const QString& text) { m_texts.setText(row, col, text); }
 
     /// Tells the view of all that has been written since.
     void announce();
@@ -32,13 +31,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::size_t at(int row, int col) const {
-        return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_cols) + static_cast<std::size_t>(col);
-    }
-
-    int m_rows = 0, m_cols = 0;
+    CellTexts m_texts;
     int m_shownRows = 1, m_shownCols = 1; ///< what the view knows
-    std::vector<QString> m_cells;
 };
 
 } // namespace qinghe
