@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOption>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -351,15 +352,25 @@ void MSFlexGrid::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
 }
 
+bool MSFlexGrid::fits(const QModelIndex& index) const {
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.index = index;
+    option.rect = visualRect(index);
+    option.text = index.data().toString();
+    const QRect room = style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this);
+    return option.fontMetrics.horizontalAdvance(option.text) <= room.width();
+}
+
 bool MSFlexGrid::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(event);
     // A text that does not fit is told whole.
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = index.isValid() ? index.data().toString() : QString();
-    if (fontMetrics().horizontalAdvance(text) + 12 > visualRect(index).width())
-        QToolTip::showText(help->globalPos(), text.toHtmlEscaped(), viewport(), visualRect(index));
+    if (index.isValid() && !fits(index))
+        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(index.data().toString()), viewport(),
+                           visualRect(index));
     else
         QToolTip::hideText();
     return true;

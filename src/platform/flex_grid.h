@@ -95,6 +95,7 @@ private:
     void changed(); ///< the model: rows, columns or texts
     void bringUpToDate();
     void layColumns();
+    bool fits(const QModelIndex& index) const;
 
     FlexGridModel* m_model;
     int m_row = 1, m_col = 1;
