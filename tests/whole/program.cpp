@@ -1,7 +1,7 @@
 #include "program.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
 #include <QProcessEnvironment>
@@ -72,12 +72,12 @@ Program::Program(const LedgerFolder& folder, const std::string& now) : m_folder(
 }
 
 void Program::connect(const QString& socket) {
-    for (QElapsedTimer timer = {}; m_line.state() != QLocalSocket::ConnectedState; QThread::msleep(2)) {
-        if (!timer.isValid())
-            timer.start();
-        m_line.connectToServer(socket);
-        if (!running() || timer.hasExpired(PatienceMs))
+    const QDeadlineTimer patience(PatienceMs);
+    while (m_line.state() != QLocalSocket::ConnectedState) {
+        if (!running() || patience.hasExpired())
             throw std::runtime_error("the program does not start: " + whyGone());
+        QThread::msleep(2);
+        m_line.connectToServer(socket);
     }
     windows(); // answered when what happens at the start has happened
 }
@@ -89,15 +89,15 @@ Program::~Program() {
 }
 
 void Program::click(const std::string& at) {
-    ask({{"do", "click"}, {"at", q(at)}});
+    perform({{"do", "click"}, {"at", q(at)}});
 }
 
 void Program::click(const std::string& at, QPoint point) {
-    ask({{"do", "click"}, {"at", q(at)}, {"point", pair(point)}});
+    perform({{"do", "click"}, {"at", q(at)}, {"point", pair(point)}});
 }
 
 void Program::doubleClick(const std::string& at) {
-    ask({{"do", "click"}, {"at", q(at)}, {"times", 2}});
+    perform({{"do", "click"}, {"at", q(at)}, {"times", 2}});
 }
 
 void Program::clickCell(const std::string& grid, int row, int col) {
@@ -108,21 +108,19 @@ void Program::clickCell(const std::string& grid, int row, int col) {
 }
 
 void Program::moveTo(const std::string& at) {
-    ask({{"do", "move"}, {"at", q(at)}});
+    perform({{"do", "move"}, {"at", q(at)}});
 }
 
 void Program::drag(const std::string& at, QPoint from, QPoint way) {
-    ask({{"do", "drag"}, {"at", q(at)}, {"point", pair(from)}, {"by", pair(way)}});
+    perform({{"do", "drag"}, {"at", q(at)}, {"point", pair(from)}, {"by", pair(way)}});
 }
 
 void Program::key(const std::string& name) {
-    waitUntil([this] { return !windowWithKeyboard().empty(); }, "the keyboard");
-    ask({{"do", "key"}, {"key", q(name)}});
+    perform({{"do", "key"}, {"key", q(name)}});
 }
 
 void Program::type(const std::string& text) {
-    waitUntil([this] { return !windowWithKeyboard().empty(); }, "the keyboard");
-    ask({{"do", "type"}, {"text", q(text)}});
+    perform({{"do", "type"}, {"text", q(text)}});
 }
 
 void Program::clearAndType(const std::string& box, const std::string& text) {
@@ -133,20 +131,19 @@ void Program::clearAndType(const std::string& box, const std::string& text) {
 }
 
 void Program::pick(const std::string& entry) {
-    ask({{"do", "pick"}, {"text", q(entry)}});
+    perform({{"do", "pick"}, {"text", q(entry)}});
 }
 
 void Program::choose(const std::string& file) {
-    ask({{"do", "choose"}, {"file", q(file)}});
+    perform({{"do", "choose"}, {"file", q(file)}});
 }
 
 void Program::close(const std::string& window) {
-    ask({{"do", "close"}, {"at", q(window)}});
+    perform({{"do", "close"}, {"at", q(window)}});
 }
 
 void Program::answer(const std::string& button) {
-    message();
-    ask({{"do", "answer"}, {"button", q(button)}});
+    perform({{"do", "answer"}, {"button", q(button)}});
 }
 
 bool Program::shows(const std::string& at) {
@@ -208,10 +205,9 @@ std::vector<std::string> Program::openedPages() {
 }
 
 void Program::waitUntil(const std::function<bool()>& holds, const std::string& what) {
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer patience(PatienceMs);
     while (!holds()) {
-        if (timer.hasExpired(PatienceMs))
+        if (patience.hasExpired())
             throw std::runtime_error("waited in vain for " + what);
         QThread::msleep(5);
     }
@@ -261,7 +257,19 @@ std::string Program::whyGone() {
                      : "it has ended with " + std::to_string(exitCode()) + ' ' + m_errors;
 }
 
-QJsonValue Program::ask(QJsonObject command) {
+void Program::perform(const QJsonObject& command) {
+    for (const QDeadlineTimer patience(PatienceMs);; QThread::msleep(10)) {
+        try {
+            ask(command);
+            return;
+        } catch (const Refused&) {
+            if (patience.hasExpired())
+                throw;
+        }
+    }
+}
+
+QJsonValue Program::ask(const QJsonObject& command) {
     const QByteArray line = QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n';
     m_line.write(line);
     while (!m_line.canReadLine())
@@ -269,7 +277,7 @@ QJsonValue Program::ask(QJsonObject command) {
             throw std::runtime_error(line.toStdString() + whyGone());
     const QJsonObject answer = QJsonDocument::fromJson(m_line.readLine()).object();
     if (answer.contains("refused"))
-        throw std::runtime_error(line.toStdString() + answer["refused"].toString().toStdString());
+        throw Refused(line.toStdString() + answer["refused"].toString().toStdString());
     return answer["value"];
 }
 

@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <ostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -53,7 +54,7 @@ public:
     void pick(const std::string& entry);    ///< in an open menu or list
     void choose(const std::string& file);   ///< in the file chooser
     void close(const std::string& window);  ///< by the desktop's close button
-    void answer(const std::string& button); ///< presses a button of the message box, waiting for the box first
+    void answer(const std::string& button); ///< presses a button of the message box
 
     // Eyes
     bool shows(const std::string& at);
@@ -84,10 +85,12 @@ public:
     void kill(); ///< without a warning
     std::string errors() const { return m_errors; }
 
-    /// For what has no word of its own above.
-    QJsonValue ask(QJsonObject command);
-
 private:
+    struct Refused : std::runtime_error {
+        using std::runtime_error::runtime_error;
+    };
+    void perform(const QJsonObject& command);
+    QJsonValue ask(const QJsonObject& command);
     void connect(const QString& socket);
     std::string windowWithKeyboard();
     std::string whyGone();

@@ -94,10 +94,6 @@ Outcome visible(const QJsonObject& command) {
     return {widget && widget->isVisible(), {}};
 }
 
-QString nameOf(const QObject& object) {
-    return object.objectName().isEmpty() ? QString::fromLatin1(object.metaObject()->className()) : object.objectName();
-}
-
 Outcome windows(const QJsonObject&) {
     QJsonArray names;
     for (const QWidget* window : QApplication::topLevelWidgets())

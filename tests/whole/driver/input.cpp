@@ -26,11 +26,14 @@ int betweenGestures() {
     return 2 * QGuiApplication::styleHints()->mouseDoubleClickInterval();
 }
 
-/// Hands one pointer event to a window, with the left button as it then stands.
+/// Hands one pointer event to a window, with the left button as it then stands. A press gives the window the keyboard,
+/// as the desktop does.
 void point(QWindow& window, const QPoint& inWindow, QEvent::Type type, int wait) {
     static Qt::MouseButtons held;
     if (type != QEvent::MouseMove)
         held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    if (type == QEvent::MouseButtonPress && !window.isActive() && !(window.flags() & Qt::WindowDoesNotAcceptFocus))
+        window.requestActivate();
     const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     qt_handleMouseEvent(&window, inWindow, window.mapToGlobal(inWindow), held, button, type, Qt::NoModifier,
                         pointerTime(wait));

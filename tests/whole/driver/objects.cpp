@@ -7,20 +7,20 @@ namespace driver {
 
 namespace {
 
-bool bearsName(const QObject& object, const QString& name) {
-    return object.objectName() == name || (object.objectName().isEmpty() && object.metaObject()->className() == name);
-}
-
 /// A window that was closed may still wait for its end beside a new one of the same name: the one on view is meant.
 QWidget* window(const QString& name) {
     QWidget* found = nullptr;
     for (QWidget* candidate : QApplication::topLevelWidgets())
-        if (bearsName(*candidate, name) && (!found || candidate->isVisible()))
+        if (nameOf(*candidate) == name && (!found || candidate->isVisible()))
             found = candidate;
     return found;
 }
 
 } // namespace
+
+QString nameOf(const QObject& object) {
+    return object.objectName().isEmpty() ? QString::fromLatin1(object.metaObject()->className()) : object.objectName();
+}
 
 QObject& objectAt(const QString& path) {
     const QStringList names = path.split(u'/');
@@ -62,7 +62,7 @@ void checkInReach(const QWidget& widget, const QPoint& point) {
     if (!front)
         front = QApplication::activeModalWidget();
     if (front && front != window)
-        throw Refusal{widget.objectName() + QStringLiteral(" is out of reach behind ") + front->windowTitle()};
+        throw Refusal{nameOf(widget) + QStringLiteral(" is out of reach behind ") + front->windowTitle()};
 
     const QPoint inWindow = widget.mapTo(window, point);
     const QWidget* hit = window->childAt(inWindow);
@@ -70,13 +70,17 @@ void checkInReach(const QWidget& widget, const QPoint& point) {
         hit = window;
     if (!hit)
         throw Refusal{QStringLiteral("%1 lies outside its window at %2,%3 of %4 x %5")
-                          .arg(widget.objectName())
+                          .arg(nameOf(widget))
                           .arg(inWindow.x())
                           .arg(inWindow.y())
                           .arg(window->width())
                           .arg(window->height())};
     if (hit != &widget && !widget.isAncestorOf(hit))
-        throw Refusal{widget.objectName() + QStringLiteral(" is covered there by ") + hit->objectName()};
+        throw Refusal{QStringLiteral("%1 is covered at %2,%3 by %4")
+                          .arg(nameOf(widget))
+                          .arg(inWindow.x())
+                          .arg(inWindow.y())
+                          .arg(nameOf(*hit))};
 }
 
 } // namespace driver

@@ -6,13 +6,15 @@
 #include <QWidget>
 
 /// Finds what a test names inside the running program. A name is a path: "Form2/Command6" is the object called Command6
-/// anywhere inside the window called Form2; a window without a name of its own goes by its class.
+/// anywhere inside the window called Form2; what has no name of its own goes by its class.
 namespace driver {
 
 /// Why a command cannot be carried out; goes back to the test.
 struct Refusal {
     QString why;
 };
+
+QString nameOf(const QObject& object);
 
 /// Throws Refusal when there is none.
 QObject& objectAt(const QString& path);
