@@ -50,6 +50,12 @@ TEST_F(ClosingTest, DropsTheBoxByAClickOnItsFrame) {
     EXPECT_EQ(QApplication::focusWidget(), &ms2());
 }
 
+TEST_F(ClosingTest, GivesTheGridTheKeyboardByAClickOnTheFrame) {
+    add().setFocus();
+    clickFrame();
+    EXPECT_EQ(QApplication::focusWidget(), &ms2());
+}
+
 TEST_F(ClosingTest, ClosesTheToolsByAClickOnTheFrame) {
     clickCell(1, 2);
     clickFrame();

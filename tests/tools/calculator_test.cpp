@@ -149,11 +149,11 @@ TEST_F(CalculatorTest, HasTheKeyboardWhenItOpensAndKeepsItThroughClicks) {
     rig.settle();
     EXPECT_EQ(QApplication::activeWindow(), &calculator());
     QWindow* window = calculator().windowHandle();
+    QTest::mouseClick(window, Qt::LeftButton, {}, rig.control<TextBox>(u"Form9"_s, u"Text1"_s).geometry().center());
     QTest::keyClick(window, Qt::Key_5);
     EXPECT_EQ(display(), u"5");
     for (const char16_t* clicked : {u"Command2(0)", u"Command1(1)", u"Command3"}) // 5+1=
         QTest::mouseClick(window, Qt::LeftButton, {}, key(clicked).geometry().center());
-    QTest::mouseClick(window, Qt::LeftButton, {}, rig.control<TextBox>(u"Form9"_s, u"Text1"_s).geometry().center());
     QTest::keyClick(window, Qt::Key_Return);
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"6"); // Enter confirms, whatever was clicked last
 }
