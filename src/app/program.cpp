@@ -4,6 +4,7 @@
 #include "core/sign_in.h"
 #include "core/web_window.h"
 #include "ledger/income_expense.h"
+#include "platform/free_memory.h"
 #include "tools/calculator.h"
 #include "tools/date_picker.h"
 
@@ -12,6 +13,8 @@ namespace qinghe {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::size_t LargeWork = 1 << 20; ///< bytes that a handler read, from which on freed memory is given back
 
 Form* mainWindowWithPages(Workbench& bench) {
     auto* window = new MainWindow(bench);
@@ -31,6 +34,8 @@ Program::Program(Services services) : m_bench(std::move(services)) {
             [this] {
                 if (!m_bench.forms.anyLoaded())
                     end(0);
+                else if (m_bench.store.rest() > LargeWork)
+                    giveBackFreeMemory();
             },
     });
     m_bench.store.use(m_bench.beside(u"data.dll"_s));

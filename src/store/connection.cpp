@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kBusyTimeoutMs = 2000;
 
+constexpr int kManyPages = 1 << 20; ///< bytes; fewer are worth more than their room
+
 /// Commits that outlast a power cut; pages of a long save stay in memory until the commit; nothing in a file from
 /// elsewhere is run.
 constexpr const char* kSettings = "PRAGMA journal_mode = DELETE;"
@@ -58,6 +60,15 @@ bool Connection::inTransaction() const {
 void Connection::rollBack() noexcept {
     if (inTransaction())
         sqlite3_exec(m_database.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+size_t Connection::giveBackPages() {
+    int used = 0, most = 0;
+    sqlite3_db_status(m_database.get(), SQLITE_DBSTATUS_CACHE_USED, &used, &most, 0);
+    if (used < kManyPages)
+        return 0;
+    sqlite3_db_release_memory(m_database.get());
+    return static_cast<size_t>(used);
 }
 
 qint64 Connection::dataVersion() {

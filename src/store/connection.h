@@ -23,6 +23,9 @@ public:
     /// opens the file next.
     void rollBack() noexcept;
 
+    /// Gives the pages of the file that are kept in memory back, where they are many; gives their size in bytes.
+    size_t giveBackPages();
+
     /// Changes whenever another connection has written.
     qint64 dataVersion();
     /// Whether the file is no longer the one that its path names.

@@ -11,6 +11,26 @@
 
 namespace qinghe {
 
+namespace {
+
+constexpr int kRowsReadAgain = 256; ///< at once, so that walks stay short of a query a row
+
+[[noreturn]] void throwNoCurrentRecord() {
+    throw RuntimeError(RuntimeError::NoCurrentRecord,
+                       QStringLiteral("没有当前记录：表中没有记录，已经到了末尾，或者这条记录已被删除。"));
+}
+
+} // namespace
+
+/// A row that has its values, among the rows where it was found.
+struct StoredRow {
+    const ResultSet* rows;
+    int row;
+
+    bool isNull(int column) const { return rows->isNull(row, column); }
+    QString text(int column) const { return rows->text(row, column); }
+};
+
 struct Recordset::Impl {
     Impl(Store& owner, std::shared_ptr<const ResultSet> result)
         : store(owner), generation(owner.generation()), rows(std::move(result)), edits(rows->shape().columns.size()) {}
@@ -18,8 +38,9 @@ struct Recordset::Impl {
     Store& store;
     int generation; ///< of the store when the rows were read
     std::shared_ptr<const ResultSet> rows;
-    std::shared_ptr<ResultSet> own; ///< the same as rows, once they are no longer shared
-    std::vector<bool> gone;         ///< by row, once one was deleted
+    std::shared_ptr<ResultSet> own;         ///< the same as rows, once they are no longer shared
+    std::shared_ptr<const ResultSet> again; ///< some of the rows whose values were read again
+    std::vector<bool> gone;                 ///< by row, once one was deleted
     int goneCount = 0;
     int current = 0; ///< a row, perhaps a deleted one; rowCount() is EOF
     bool adding = false;
@@ -41,8 +62,33 @@ struct Recordset::Impl {
 
     void requireRow() const {
         if (!onRow())
-            throw RuntimeError(RuntimeError::NoCurrentRecord,
-                               QStringLiteral("没有当前记录：表中没有记录，或者已经到了末尾。"));
+            throwNoCurrentRecord();
+    }
+
+    /// A row with its values; none when it has been deleted before they were read again.
+    std::optional<StoredRow> storedRow(int row) {
+        if (rows->hasValues(row))
+            return StoredRow{rows.get(), row};
+        const qint64 identity = rows->identities(row).front();
+        int found = again ? again->rowOf(identity) : -1;
+        if (found < 0 || !again->hasValues(found)) {
+            readAgain(row);
+            found = again->rowOf(identity);
+        }
+        return found < 0 ? std::nullopt : std::optional(StoredRow{again.get(), found});
+    }
+
+    void readAgain(int row) {
+        store.requireGeneration(generation);
+        const int last = std::min(row + kRowsReadAgain, rows->rowCount()) - 1;
+        again = store.fetchAgain(rows->shape(), rows->identities(row).front(), rows->identities(last).front());
+    }
+
+    StoredRow currentRow() {
+        requireRow();
+        if (const auto row = storedRow(current))
+            return *row;
+        throwNoCurrentRecord();
     }
 
     void requireWritable() const {
@@ -70,6 +116,7 @@ struct Recordset::Impl {
             return *own;
         own = empty ? std::make_shared<ResultSet>(rows->shape()) : std::make_shared<ResultSet>(*rows);
         rows = own;
+        store.restLater(own);
         if (empty) {
             gone.clear();
             goneCount = 0;
@@ -83,8 +130,8 @@ struct Recordset::Impl {
             values[i] = edits[i] ? encoded(*edits[i]) : StoredValue();
         const qint64 identity = store.insertRow(rows->shape().table, rows->shape().ordinals, values);
         ResultSet& mine = writableRows();
-        for (const StoredValue& value : values)
-            mine.appendCell(value);
+        if (!mine.isPlain())
+            std::ranges::for_each(values, [&](const StoredValue& value) { mine.appendCell(value); });
         mine.finishRow(identity);
         current = mine.rowCount() - 1;
         if (goneCount > 0)
@@ -104,6 +151,9 @@ struct Recordset::Impl {
         }
         for (const qint64 identity : rows->identities(current))
             store.updateRow(rows->shape().table, identity, ordinals, values);
+        again.reset();
+        if (!rows->hasValues(current))
+            return;
         ResultSet& mine = writableRows();
         for (size_t i = 0; i < changed.size(); ++i)
             mine.setCell(current, changed[i], values[i]);
@@ -179,7 +229,10 @@ void Recordset::find(const QString& criterion) {
                            QStringLiteral("查找条件应为 名称='文字'，不能是：%1").arg(criterion));
     const int column = field(sought.column).m_ordinal;
     const QString& text = sought.literals.front().text;
-    const auto matches = [&](int row) { return !m->rows->isNull(row, column) && m->rows->text(row, column) == text; };
+    const auto matches = [&](int row) {
+        const auto stored = m->storedRow(row);
+        return stored && !stored->isNull(column) && stored->text(column) == text;
+    };
     m->current = m->rowFrom(0);
     while (!eof() && !matches(m->current))
         m->current = m->rowFrom(m->current + 1);
@@ -208,25 +261,27 @@ QString Field::name() const {
 }
 
 Value Field::value() const {
-    const auto& set = *m_set->m;
     if (pending())
         return *pending();
-    if (set.adding)
+    if (m_set->m->adding)
         return {};
-    set.requireRow();
-    return set.rows->value(set.current, m_ordinal);
+    const StoredRow row = m_set->m->currentRow();
+    return row.rows->value(row.row, m_ordinal);
 }
 
 QString Field::text() const {
-    return stored() ? stored()->text(m_set->m->current, m_ordinal) : value().text();
+    const auto row = stored();
+    return row ? row->text(m_ordinal) : value().text();
 }
 
 bool Field::isNull() const {
-    return stored() ? stored()->isNull(m_set->m->current, m_ordinal) : value().isNull();
+    const auto row = stored();
+    return row ? row->isNull(m_ordinal) : value().isNull();
 }
 
 bool Field::differsFromEmpty() const {
-    return stored() ? stored()->holdsText(m_set->m->current, m_ordinal) : value().holdsText();
+    const auto row = stored();
+    return row ? row->rows->holdsText(row->row, m_ordinal) : value().holdsText();
 }
 
 bool Field::equalsEmpty() const {
@@ -255,9 +310,9 @@ const Column& Field::column() const {
     return m_set->m->rows->shape().columns[static_cast<size_t>(m_ordinal)];
 }
 
-const ResultSet* Field::stored() const {
-    const auto& set = *m_set->m;
-    return !set.adding && !pending() && set.onRow() ? set.rows.get() : nullptr;
+std::optional<StoredRow> Field::stored() const {
+    auto& set = *m_set->m;
+    return !set.adding && !pending() && set.onRow() ? std::optional(set.currentRow()) : std::nullopt;
 }
 
 const std::optional<Value>& Field::pending() const {

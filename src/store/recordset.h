@@ -10,19 +10,22 @@
 
 namespace qinghe {
 
-class ResultSet;
+struct StoredRow;
 
 /// One column of the current row; made by Recordset::field.
 class Field;
+class ResultSet;
 
-/// The rows of one Refresh: identities and values, no open statement. Stands on its first row, or at EOF when there is
-/// none. Rows added join it at the end; a row between AddNew and Update is not counted.
+/// The rows of one Refresh: identities and values, no open statement. When the store has rested (Store::rest), and for
+/// rows added, values are read again as they are then; a row that has been deleted meanwhile has none. Stands on its
+/// first row, or at EOF when there is none. Rows added join it at the end; a row between AddNew and Update is not
+/// counted.
 ///
 /// A set of a table, or of a select over one table without grouping, can be written; in a `select distinct` a deletion
 /// takes every stored row behind the value. Others refuse writing (RuntimeError, QueryFailure). Moving on, searching
 /// and AddNew store what is pending first, as update() would. Throws RuntimeError: NoCurrentRecord where a row is
-/// needed and none is current; StoreFailure for writing when the file was closed or replaced since (what was read can
-/// still be read), and what the store throws.
+/// needed and none is current, or it was deleted before its values were read again; StoreFailure when the file was
+/// closed or replaced since, for writing and for values that are to be read again; and what the store throws.
 class Recordset {
 public:
     Recordset(Store& store, std::shared_ptr<const ResultSet> rows);
@@ -81,7 +84,8 @@ private:
     friend class Recordset;
     Field(Recordset& set, int ordinal) : m_set(&set), m_ordinal(ordinal) {}
     const Column& column() const;
-    const ResultSet* stored() const; ///< the rows, when what they hold in the current one is the field's value
+    /// The row that holds the field's value; none while the set stands on no row or the value is pending.
+    std::optional<StoredRow> stored() const;
     const std::optional<Value>& pending() const; ///< what was set and not yet stored
 
     Recordset* m_set;

@@ -1,5 +1,6 @@
 #include "store/result_set.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace qinghe {
@@ -32,6 +33,11 @@ std::span<const qint64> ResultSet::identities(int row) const {
     return {&m_identities[first], end - first};
 }
 
+int ResultSet::rowOf(qint64 identity) const {
+    const auto found = std::ranges::lower_bound(m_identities, identity); // they ascend: rows come as they were written
+    return found != m_identities.end() && *found == identity ? static_cast<int>(found - m_identities.begin()) : -1;
+}
+
 void ResultSet::finishRow(qint64 identity) {
     if (m_shape.distinct)
         m_firstIdentity.push_back(m_identities.size());
@@ -55,6 +61,16 @@ void ResultSet::setCell(int row, int column, const StoredValue& value) {
 
 size_t ResultSet::footprint() const {
     return m_cells.size() * sizeof(Cell) + m_bytes.size() + m_identities.size() * sizeof(qint64);
+}
+
+size_t ResultSet::letValuesGo() {
+    if (!isPlain())
+        return 0;
+    const size_t before = footprint();
+    std::vector<Cell>().swap(m_cells); // an assignment may keep the room
+    std::string().swap(m_bytes);
+    m_identities.shrink_to_fit();
+    return before - footprint();
 }
 
 ResultSet::Cell ResultSet::packed(const StoredValue& value) {

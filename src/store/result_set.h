@@ -21,6 +21,9 @@ struct ResultShape {
 
 /// The rows of one query: values, and the identities of the stored rows behind them. Compact: a cell takes 16 bytes,
 /// and texts and blobs of all rows lie in one piece of memory. It knows nothing of the file that it came from.
+///
+/// Rows that can be told by their identity may stand without values: those that were finished without cells, and all of
+/// them once the values were let go.
 class ResultSet {
 public:
     explicit ResultSet(ResultShape shape) : m_shape(std::move(shape)) {}
@@ -29,7 +32,8 @@ public:
     int columnCount() const { return static_cast<int>(m_shape.columns.size()); }
     int rowCount() const { return m_rowCount; }
 
-    // Rows and columns count from 0 and must be in range.
+    // Rows and columns count from 0 and must be in range, and the row must have its values.
+    bool hasValues(int row) const { return cellIndex(row + 1, 0) <= m_cells.size(); }
     bool isNull(int row, int column) const;
     Value value(int row, int column) const;
     QString text(int row, int column) const;
@@ -37,8 +41,10 @@ public:
     bool holdsText(int row, int column) const;
     /// The stored rows behind a row; none in a set that is read only.
     std::span<const qint64> identities(int row) const;
+    /// The row of an identity in a plain set, -1 when there is none.
+    int rowOf(qint64 identity) const;
 
-    /// A row is appended cell by cell, then finished.
+    /// A row is appended cell by cell, then finished; behind a row without cells all others are to have none.
     void appendCell(const StoredValue& value) { m_cells.push_back(packed(value)); }
     void finishRow(qint64 identity);
     /// As finishRow, but a row equal to the one before it is only put behind that one.
@@ -47,6 +53,10 @@ public:
 
     /// About how much memory the set takes, in bytes.
     size_t footprint() const;
+    /// Whether a row is one stored row, whose values can be read again by its identity.
+    bool isPlain() const { return m_shape.writable() && !m_shape.distinct; }
+    /// Lets the values of a plain set go and gives their size in bytes; others stay as they are.
+    size_t letValuesGo();
 
 private:
     struct Cell {

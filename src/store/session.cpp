@@ -40,16 +40,48 @@ std::shared_ptr<const ResultSet> Session::read(const QString& source) {
     Statement statement = m_connection.prepare(selection.sql);
     for (int place = 1; const QString& text : selection.bound)
         statement.bind(place++, encoded(text));
-    const auto rows = std::make_shared<ResultSet>(selection.shape);
-    const int first = selection.shape.writable() ? 1 : 0; // behind the identity
+    return rowsOf(statement, selection.shape);
+}
+
+std::shared_ptr<const ResultSet> Session::rowsOf(Statement& statement, const ResultShape& shape) {
+    const auto rows = std::make_shared<ResultSet>(shape);
+    const int first = shape.writable() ? 1 : 0; // behind the identity
     const int count = rows->columnCount();
     while (statement.step()) {
         for (int column = 0; column < count; ++column)
             rows->appendCell(statement.column(first + column));
-        selection.shape.distinct ? rows->finishDistinctRow(statement.integer(0))
-                                 : rows->finishRow(statement.integer(0));
+        shape.distinct ? rows->finishDistinctRow(statement.integer(0)) : rows->finishRow(statement.integer(0));
     }
+    restLater(rows);
     return rows;
+}
+
+std::shared_ptr<const ResultSet> Session::fetchAgain(const ResultShape& shape, qint64 first, qint64 last) {
+    flushDeletions();
+    QByteArrayList names{"rowid"};
+    for (const int ordinal : shape.ordinals)
+        names += quotedName(columns(shape.table).at(static_cast<size_t>(ordinal)).name);
+    Statement statement = m_connection.prepare("SELECT " + names.join(',') + " FROM " + quotedName(shape.table) +
+                                               " WHERE rowid BETWEEN ? AND ? ORDER BY rowid");
+    statement.bind(1, first);
+    statement.bind(2, last);
+    return rowsOf(statement, shape);
+}
+
+void Session::restLater(const std::shared_ptr<ResultSet>& rows) {
+    std::erase_if(m_lent, [](const auto& lent) { return lent.expired(); });
+    m_lent.push_back(rows);
+}
+
+size_t Session::rest() {
+    size_t bytes = m_connection.giveBackPages();
+    for (const auto& lent : m_lent) {
+        if (const auto rows = lent.lock())
+            bytes += rows->letValuesGo();
+    }
+    m_lent.clear();
+    m_cache.clear();
+    return bytes;
 }
 
 void Session::remember(const QString& source, const std::shared_ptr<const ResultSet>& rows) {

@@ -19,6 +19,9 @@ public:
     explicit Session(const QString& path);
 
     std::shared_ptr<const ResultSet> fetch(const QString& source);
+    std::shared_ptr<const ResultSet> fetchAgain(const ResultShape& shape, qint64 first, qint64 last);
+    void restLater(const std::shared_ptr<ResultSet>& rows);
+    size_t rest();
     const TableColumns& columns(const QString& table);
 
     bool inTransaction() const { return m_connection.inTransaction(); }
@@ -48,6 +51,7 @@ private:
     void beginWriting();
     void forgetIfChangedElsewhere();
     std::shared_ptr<const ResultSet> read(const QString& source);
+    std::shared_ptr<const ResultSet> rowsOf(Statement& statement, const ResultShape& shape);
     void remember(const QString& source, const std::shared_ptr<const ResultSet>& rows);
     qint64 highestRowid(const QString& table);
     Inserter& inserter(const QString& table);
@@ -57,6 +61,7 @@ private:
     Connection m_connection;
     qint64 m_dataVersion = 0;
     std::deque<CachedResult> m_cache;
+    std::vector<std::weak_ptr<ResultSet>> m_lent; ///< whose values go when the store rests
     QHash<QString, TableColumns> m_columns;
     std::map<QString, Inserter> m_inserters;
     Deletions m_deletions;

@@ -92,6 +92,10 @@ std::shared_ptr<const ResultSet> Store::fetch(const QString& source) {
     return m->run([&](Session& session) { return session.fetch(source); });
 }
 
+size_t Store::rest() {
+    return m->open ? m->open->rest() : 0;
+}
+
 bool Store::inTransaction() const {
     return m->open && m->open->inTransaction();
 }
@@ -119,7 +123,16 @@ void Store::requireGeneration(int generation) {
     m->dropIfMoved();
     if (generation != m->generation)
         throw RuntimeError(RuntimeError::StoreFailure,
-                           QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再修改。"));
+                           QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再用。"));
+}
+
+std::shared_ptr<const ResultSet> Store::fetchAgain(const ResultShape& shape, qint64 first, qint64 last) {
+    return m->run([&](Session& session) { return session.fetchAgain(shape, first, last); });
+}
+
+void Store::restLater(const std::shared_ptr<ResultSet>& rows) {
+    if (m->open)
+        m->open->restLater(rows);
 }
 
 qint64 Store::insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values) {

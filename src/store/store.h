@@ -10,6 +10,7 @@
 namespace qinghe {
 
 class ResultSet;
+struct ResultShape;
 struct StoredValue;
 
 /// The one open data file of the process, shared by all data controls. Opened by the first use, without ever creating
@@ -39,6 +40,11 @@ public:
     /// from the last result as long as nothing has been written since, by us or by another process.
     std::shared_ptr<const ResultSet> fetch(const QString& source);
 
+    /// Between handlers: lets go what was read. Results forget their values but for sums, groups and distinct ones;
+    /// their rows keep their identities, and a value that is asked for later is read again. Gives about how many bytes
+    /// were let go.
+    size_t rest();
+
     bool inTransaction() const;
     /// Ends the unit of work durably; nothing happens when none is open. Throws RuntimeError (the work is then lost).
     void commit();
@@ -55,6 +61,10 @@ public:
     // For recordsets only.
     /// Throws RuntimeError (StoreFailure) unless the file is still the one that was open under that number.
     void requireGeneration(int generation);
+    /// The stored rows between two identities, in the shape of a plain result.
+    std::shared_ptr<const ResultSet> fetchAgain(const ResultShape& shape, qint64 first, qint64 last);
+    /// Lets a result that did not come from fetch rest like the others.
+    void restLater(const std::shared_ptr<ResultSet>& rows);
     /// Inserts a row and gives its identity. `values` stand beside the named columns; other columns stay NULL.
     qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
     void updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
