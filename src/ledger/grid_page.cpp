@@ -165,7 +165,7 @@ void GridPage::writeBack() {
 
 bool GridPage::isBlank(int row) const {
     for (int column = 1; column < grid->Cols(); ++column)
-        if (!grid->TextMatrix(row, column).isEmpty())
+        if (!grid->isEmpty(row, column))
             return false;
     return true;
 }
@@ -217,7 +217,7 @@ bool GridPage::refusesGap() {
         if (traits.saveMovesRow)
             grid->setRow(row);
         for (int column = 1; column < grid->Cols() - 1; ++column) {
-            if (!grid->TextMatrix(row, column).isEmpty())
+            if (!grid->isEmpty(row, column))
                 continue;
             bench.services.say(u"为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"_s,
                                MessageStyle::OkInformation, u"输入提示"_s);

@@ -117,6 +117,14 @@ QString CellTexts::text(int row, int col) const {
     return cell && *cell ? takeText(cell) : QString();
 }
 
+bool CellTexts::isEmpty(int row, int col) const {
+    if (row == m_open)
+        return m_openTexts[static_cast<std::size_t>(col)].isEmpty();
+    const char* packed = m_rows[static_cast<std::size_t>(row)];
+    const char* cell = packed ? cellAt(packed, col) : nullptr;
+    return !cell || !*cell;
+}
+
 void CellTexts::setText(int row, int col, const QString& text) {
     if (row != m_open)
         openRow(row);

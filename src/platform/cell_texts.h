@@ -23,6 +23,7 @@ public:
     void removeRow(int row);
 
     QString text(int row, int col) const;
+    bool isEmpty(int row, int col) const;
     void setText(int row, int col, const QString& text);
 
     /// How much memory the texts take, in bytes.

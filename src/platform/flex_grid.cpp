@@ -146,6 +146,12 @@ QString MSFlexGrid::TextMatrix(int row, int col) const {
     return m_model->cell(row, col);
 }
 
+bool MSFlexGrid::isEmpty(int row, int col) const {
+    checkRow(row, Rows());
+    checkCol(col, Cols());
+    return m_model->isEmpty(row, col);
+}
+
 void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
     checkRow(row, Rows());
     checkCol(col, Cols());

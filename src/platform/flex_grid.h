@@ -45,6 +45,8 @@ public:
     void setText(const QString& text);
 
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
+    /// Whether the cell holds no text; quicker than asking for it.
+    bool isEmpty(int row, int col) const;
     void setTextMatrix(int row, int col, const QString& text);
     Q_INVOKABLE double ColWidth(int col) const;
     void setColWidth(int col, double twips);

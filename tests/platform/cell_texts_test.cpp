@@ -127,6 +127,7 @@ TEST(CellTexts, AgreesWithPlainTextsUnderAnyChanges) {
         texts.setText(row, col, text);
         const int otherRow = below(texts.rows()), otherCol = below(cols);
         ASSERT_EQ(texts.text(otherRow, otherCol), plain[static_cast<std::size_t>(otherRow)][otherCol]) << step;
+        ASSERT_EQ(texts.isEmpty(otherRow, otherCol), plain[static_cast<std::size_t>(otherRow)][otherCol].isEmpty());
     }
 }
 

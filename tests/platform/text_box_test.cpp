@@ -72,7 +72,9 @@ TEST_F(TextBoxes, ABoxThatItsHandlerDisablesDoesNotTakeTheKey) {
 TEST_F(TextBoxes, ACommittedTextIsOneKeyPressACharacter) {
     commit(u"买菜"_s);
     EXPECT_EQ(takeKeys(), (QList<int>{u'买', u'菜'}));
-    EXPECT_EQ(box.Text(), u"买菜"_s);
+    commit(u"ab"_s);
+    EXPECT_EQ(takeKeys(), (QList<int>{'a', 'b'}));
+    EXPECT_EQ(box.Text(), u"买菜ab"_s);
 }
 
 TEST_F(TextBoxes, AnEmojiOfTwoUnitsIsOneKeyPress) {
