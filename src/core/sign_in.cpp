@@ -129,8 +129,7 @@ void SignIn::Form5_Label1_Click() {
     users.find(u"用户名='"_s + Combo1->Text() + u"'"_s);
     if (users.eof())
         return refuseUnknownName();
-    const Field password = users.field(u"用户密码"_s);
-    if (password.isNull() || password.text() != Text2->Text())
+    if (users.field(u"用户密码"_s).text() != Text2->Text())
         return refuseWrongPassword();
     rememberPair();
     m_bench.forms.get(u"Form2"_s);

@@ -122,7 +122,7 @@ bool CellTexts::isEmpty(int row, int col) const {
         return m_openTexts[static_cast<std::size_t>(col)].isEmpty();
     const char* packed = m_rows[static_cast<std::size_t>(row)];
     const char* cell = packed ? cellAt(packed, col) : nullptr;
-    return !cell || !*cell;
+    return !cell || !*cell || takeHead(cell).length == 0;
 }
 
 void CellTexts::setText(int row, int col, const QString& text) {

@@ -78,8 +78,6 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
     box.setIcon(iconOf(style));
     box.setStandardButtons(buttonsOf(style));
     captionButtons(box);
-    if (box.standardButtons() & QMessageBox::No)
-        box.setEscapeButton(QMessageBox::No);
     return answerOf(box.exec());
 }
 

@@ -61,6 +61,15 @@ TEST(CellTexts, EveryTextComesBackAsItWas) {
     EXPECT_EQ(texts.text(0, texts.cols() - 1), QString());
 }
 
+TEST(CellTexts, EmptyCellBetweenFilledOnesIsEmpty) {
+    CellTexts texts = table(2, 4);
+    for (int row = 0; row < 2; ++row) // the first one is packed, the second one lies open
+        texts.setText(row, 2, u"饭"_s);
+    for (int row = 0; row < 2; ++row)
+        for (int col = 0; col < 4; ++col)
+            EXPECT_EQ(texts.isEmpty(row, col), col != 2) << row << ' ' << col;
+}
+
 TEST(CellTexts, FewerColumnsDropTheirCellsForGood) {
     CellTexts texts = table(2, 3);
     for (int col = 0; col < 3; ++col)

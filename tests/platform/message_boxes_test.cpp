@@ -87,6 +87,24 @@ TEST_F(MessageBoxTest, EveryButtonGivesItsAnswer) {
     EXPECT_EQ(press(MessageStyle::YesNoQuestion, QMessageBox::No), Answer::No);
 }
 
+TEST_F(MessageBoxTest, ButtonsAreInChinese) {
+    const auto captions = [](const QMessageBox& box) {
+        QStringList texts;
+        for (const QAbstractButton* button : box.buttons())
+            texts << button->text();
+        texts.sort();
+        return texts;
+    };
+    show(MessageStyle::OkCancel, [&](QMessageBox& box) {
+        EXPECT_EQ(captions(box), (QStringList{u"取消"_s, u"确定"_s}));
+        box.reject();
+    });
+    show(MessageStyle::YesNoQuestion, [&](QMessageBox& box) {
+        EXPECT_EQ(captions(box), (QStringList{u"否"_s, u"是"_s}));
+        box.reject();
+    });
+}
+
 TEST_F(MessageBoxTest, EscTakesNothingForGranted) {
     EXPECT_EQ(escape(MessageStyle::Ok), Answer::Ok);
     EXPECT_EQ(escape(MessageStyle::OkCancelWarning), Answer::Cancel);

@@ -8,7 +8,6 @@
 #include <QBuffer>
 #include <QFile>
 #include <QSignalSpy>
-
 #include <sqlite3.h>
 
 namespace qinghe::testing {

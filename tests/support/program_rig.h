@@ -26,8 +26,8 @@ public:
     /// Lets go of the running program, as the end of its process would, and keeps the folder.
     void stop();
 
-    /// A control by the names of its form and itself: control<Label>("Form2", "Label2(0)"). Fails the test when there is
-    /// none.
+    /// A control by the names of its form and itself: control<Label>("Form2", "Label2(0)"). Fails the test when there
+    /// is none.
     template<class T>
     T& control(const QString& form, const QString& name) {
         Form* found = program->bench().forms.loaded(form);
@@ -63,8 +63,8 @@ public:
     QString folder() const { return m_dir->path(); }
     QString dataFile() const { return file(QStringLiteral("data.dll")); }
 
-    /// Runs SQL on the data file through a connection of its own (rows as texts joined with "|"; NULL reads "NULL"), for
-    /// preparing and for looking. Works while the program runs, between handlers, and on a spoilt header too.
+    /// Runs SQL on the data file through a connection of its own (rows as texts joined with "|"; NULL reads "NULL"),
+    /// for preparing and for looking. Works while the program runs, between handlers, and on a spoilt header too.
     QStringList sql(const QString& text);
     /// Bytes 1 and 2 of the data file.
     QByteArray headerBytes() const;
