@@ -231,7 +231,7 @@ std::string Program::windowWithKeyboard() {
 }
 
 void Program::look() {
-    QThread::msleep(300);
+    QThread::msleep(500);
 }
 
 bool Program::running() {
