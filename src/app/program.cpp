@@ -1,9 +1,12 @@
 #include "app/program.h"
 
+#include "analysis/charts.h"
 #include "core/main_window.h"
 #include "core/sign_in.h"
 #include "core/web_window.h"
+#include "ledger/categories.h"
 #include "ledger/income_expense.h"
+#include "maintenance/settings.h"
 #include "platform/free_memory.h"
 #include "tools/calculator.h"
 #include "tools/date_picker.h"
@@ -19,6 +22,9 @@ constexpr std::size_t LargeWork = 1 << 20; ///< bytes that a handler read, from 
 Form* mainWindowWithPages(Workbench& bench) {
     auto* window = new MainWindow(bench);
     new IncomeExpensePage(*window);
+    new CategoriesPage(*window);
+    new ChartsPage(*window);
+    new SettingsPage(*window);
     return window;
 }
 

@@ -150,8 +150,12 @@ void MainWindow::Form2_Form_Resize() {
     if (!Visible())
         return;
     Adodc1->setConnectionString(m_bench.connection());
+    // Pages save into the table that they last loaded: a minimised window must not leave another one in hand.
+    Adodc::Loan pages = Adodc1->borrow();
     Recordset& setting = Adodc1->open(u"select 最小化到托盘 from systuopanb"_s);
-    if (!setting.eof() && setting.field(0).value().truth() && WindowState() == Minimised)
+    const bool wanted = !setting.eof() && setting.field(0).value().truth();
+    Adodc1->giveBack(std::move(pages));
+    if (wanted && WindowState() == Minimised)
         toTray();
 }
 

@@ -64,20 +64,26 @@ void Navigation::leaveOthers(int code) {
     currentPage = code;
     m_bench.unloadTools();
     markCurrent();
-    for (auto& [frameName, frame] : m_frames) {
-        // The schedule leaves the users' page as it stands behind it, and is meant to.
-        const bool leftAlone = code == SchedulePage && frameName == u"Frame7"_s;
-        if (frameName != name(opened.frame) && !leftAlone)
+    // The schedule leaves the users' page as it stands behind it, and is meant to.
+    hideOthers(name(opened.frame), code == SchedulePage ? u"Frame7"_s : QString());
+}
+
+void Navigation::hideOthers(const QString& front, const QString& leftAlone) {
+    for (auto& [frameName, frame] : m_frames)
+        if (frameName != front && frameName != leftAlone)
             frame->setShown(false);
-    }
 }
 
 void Navigation::bringForward(int code) {
     const Page& opened = page(code);
     Frame& front = frame(name(opened.frame));
     front.place(opened.left, opened.top, opened.width, opened.height);
-    front.setShown(true);
-    front.raise();
+    show(front.objectName());
+}
+
+void Navigation::show(const QString& front) {
+    frame(front).setShown(true);
+    frame(front).raise();
     for (auto& [labelName, label] : m_labels)
         label->raise();
 }

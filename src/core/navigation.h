@@ -26,6 +26,11 @@ public:
     /// The second half: moves the page's frame into its place and shows it, below the row of labels.
     void bringForward(int code);
 
+    // The same two halves for a frame that comes to the front without its label.
+    void hideOthers(const QString& frame, const QString& leftAlone = {});
+    /// Shows a frame where it stands, before the others and below the row of labels.
+    void show(const QString& frame);
+
     Int16 currentPage = 24;
 
     /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others.

@@ -1,5 +1,6 @@
 #include "core/sign_in.h"
 
+#include "core/hover.h"
 #include "core/stored_picture.h"
 #include "platform/files.h"
 #include "store/header_toggle.h"
@@ -82,7 +83,7 @@ void SignIn::bindEvents() {
             windowHandle()->startSystemMove();
     };
     for (Label* control : {static_cast<Label*>(Image1), static_cast<Label*>(Image2), Label3})
-        control->MouseMove = [control] { control->setHandCursor(); };
+        showHandOver(control);
     CloseAsked = [this] { unload(); };
 }
 

@@ -1,5 +1,6 @@
 #include "core/title_band.h"
 
+#include "core/hover.h"
 #include "core/stored_picture.h"
 #include "core/web_pages.h"
 #include "platform/files.h"
@@ -36,7 +37,7 @@ void TitleBand::makeWords() {
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);
     Label20->Click = [this] { Form2_Label20_Click(); };
-    Label20->MouseMove = [this] { Label20->setHandCursor(); };
+    showHandOver(Label20);
 }
 
 void TitleBand::makeImages() {
@@ -60,7 +61,7 @@ void TitleBand::makeImages() {
         image->setGlyph(entry.glyph);
         image->setToolTip(QString::fromUtf16(entry.tip));
         image->Click = [this, click = entry.click] { (this->*click)(); };
-        image->MouseMove = [image] { image->setHandCursor(); };
+        showHandOver(image);
     }
 }
 

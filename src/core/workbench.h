@@ -9,6 +9,7 @@
 #include "store/store.h"
 
 #include <array>
+#include <functional>
 #include <map>
 
 namespace qinghe {
@@ -43,6 +44,9 @@ public:
     /// The categories' sticky mark of a filled row. It is one variable with the place where a drag of the main window
     /// began (dragStartY): a press on the bare form disturbs the mark, and is meant to.
     Int16 emptyRowFlag;
+
+    /// Brings up the page of the categories, which has no label of its own; entered by that page.
+    std::function<void()> openCategories;
 
     /// The connection text of the data file, with the blank at its end that most handlers leave there, or without.
     QString connection(bool blankBehind = true) const;

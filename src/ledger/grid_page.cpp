@@ -1,5 +1,7 @@
 #include "ledger/grid_page.h"
 
+#include "core/hover.h"
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -8,16 +10,11 @@ namespace {
 
 constexpr int Enter = 13, Escape = 27;
 constexpr double MarkerWidth = 300; ///< column 0, twips
-constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
 
 CommandButton* button(Frame& frame, const char16_t* name, const QString& caption, double left, Glyph glyph) {
     auto* made = new CommandButton(&frame, QString::fromUtf16(name), caption);
     made->place(left, 345, 1080, 390);
     made->setGlyph(glyph);
-    made->MouseMove = [made] {
-        made->setHandCursor();
-        made->setBackColor(Grey);
-    };
     return made;
 }
 
@@ -55,11 +52,7 @@ void GridPage::bindEvents() {
     addButton->Click = [this] { addRow(); };
     removeButton->Click = [this] { deleteRow(); };
     saveButton->Click = [this] { saveRows(); };
-    frame.MouseMove = [this] {
-        for (CommandButton* hovered : {addButton, removeButton, saveButton})
-            if (hovered->BackColor() == Grey)
-                hovered->setBackColor(White);
-    };
+    markHovered(frame, {addButton, removeButton, saveButton});
 }
 
 // ---- the editor over its cell

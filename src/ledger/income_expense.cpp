@@ -1,5 +1,6 @@
 #include "ledger/income_expense.h"
 
+#include "core/hover.h"
 #include "runtime/number_format.h"
 
 namespace qinghe {
@@ -63,7 +64,7 @@ IncomeExpensePage::IncomeExpensePage(MainWindow& form)
     Option7->setValue(true);
     Option7->Click = [this] { Form2_Option7_Click(); };
     for (OptionButton* option : {Option7, Option8, Option9})
-        option->MouseMove = [option] { option->setHandCursor(); };
+        showHandOver(option);
     frame.Click = [this] { Form2_Frame2_Click(); };
     window.navigation().onOpen(IncomePage, [this] { Form2_Label2_Click(0); });
     window.navigation().onOpen(ExpensePage, [this] { Form2_Label2_Click(1); });

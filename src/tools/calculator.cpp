@@ -1,5 +1,7 @@
 #include "tools/calculator.h"
 
+#include "core/hover.h"
+
 #include <QKeyEvent>
 
 namespace qinghe {
@@ -7,8 +9,6 @@ namespace qinghe {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
 
 struct Operator {
     const char16_t* caption;
@@ -39,11 +39,7 @@ Calculator::Calculator(Workbench& bench)
     Text1->setFocusPolicy(Qt::NoFocus);
     Text1->setBoxText(m_machine.display());
     makeKeys();
-    MouseMove = [this](double, double) {
-        for (CommandButton* hovered : m_keys)
-            if (hovered->BackColor() == Grey)
-                hovered->setBackColor(White);
-    };
+    MouseMove = [this](double, double) { unmarkHovered(m_keys); };
     CloseAsked = [this] {
         if (m_machine.touched())
             handBack();
@@ -60,10 +56,7 @@ CommandButton* Calculator::key(const QString& name, const QString& caption, doub
     made->setRole(Role::CalcKey);
     // The keyboard stays with the window: Enter confirms, whatever key was clicked last.
     made->setFocusPolicy(Qt::NoFocus);
-    made->MouseMove = [made] {
-        made->setHandCursor();
-        made->setBackColor(Grey);
-    };
+    markHovered(*made);
     m_keys.push_back(made);
     return made;
 }

@@ -1,0 +1,7 @@
+#include "analysis/charts.h"
+
+namespace qinghe {
+
+ChartsPage::ChartsPage(MainWindow& window) : QObject(&window) {}
+
+} // namespace qinghe

@@ -1,0 +1,28 @@
+#include "core/hover.h"
+
+namespace qinghe {
+
+namespace {
+constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
+}
+
+void markHovered(CommandButton& button) {
+    button.MouseMove = [&button] {
+        button.setHandCursor();
+        button.setBackColor(Grey);
+    };
+}
+
+void unmarkHovered(const std::vector<CommandButton*>& buttons) {
+    for (CommandButton* button : buttons)
+        if (button->BackColor() == Grey)
+            button->setBackColor(White);
+}
+
+void markHovered(Frame& frame, const std::vector<CommandButton*>& buttons) {
+    for (CommandButton* button : buttons)
+        markHovered(*button);
+    frame.MouseMove = [buttons] { unmarkHovered(buttons); };
+}
+
+} // namespace qinghe

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/controls.h"
+
+#include <vector>
+
+namespace qinghe {
+
+/// Over such a control the hand, nothing else.
+template<class Control>
+void showHandOver(Control* control) {
+    control->MouseMove = [control] { control->setHandCursor(); };
+}
+
+/// Over the button the hand and light grey.
+void markHovered(CommandButton& button);
+/// The grey ones of these buttons become white again.
+void unmarkHovered(const std::vector<CommandButton*>& buttons);
+/// Both for the buttons of a frame: grey under the pointer, white when it is on the bare frame.
+void markHovered(Frame& frame, const std::vector<CommandButton*>& buttons);
+
+} // namespace qinghe
