@@ -4,8 +4,11 @@
 #include "core/main_window.h"
 #include "core/sign_in.h"
 #include "core/web_window.h"
+#include "ledger/accounts.h"
+#include "ledger/budget.h"
 #include "ledger/categories.h"
 #include "ledger/income_expense.h"
+#include "ledger/loans.h"
 #include "maintenance/settings.h"
 #include "platform/free_memory.h"
 #include "tools/calculator.h"
@@ -22,6 +25,9 @@ constexpr std::size_t LargeWork = 1 << 20; ///< bytes that a handler read, from 
 Form* mainWindowWithPages(Workbench& bench) {
     auto* window = new MainWindow(bench);
     new IncomeExpensePage(*window);
+    new LoansPage(*window);
+    new BudgetPage(*window);
+    new AccountsPage(*window);
     new CategoriesPage(*window);
     new ChartsPage(*window);
     new SettingsPage(*window);

@@ -1,6 +1,7 @@
 #include "ledger/grid_page.h"
 
 #include "core/hover.h"
+#include "ledger/fill_rows.h"
 
 namespace qinghe {
 
@@ -52,6 +53,10 @@ void GridPage::bindEvents() {
     addButton->Click = [this] { addRow(); };
     removeButton->Click = [this] { deleteRow(); };
     saveButton->Click = [this] { saveRows(); };
+    frame.Click = [this] {
+        bench.unloadPickers();
+        hideEditor();
+    };
     markHovered(frame, {addButton, removeButton, saveButton});
 }
 
@@ -239,8 +244,10 @@ void GridPage::writeRow(Recordset& records, int row, Int16& counter) {
 
 void GridPage::saveRows() {
     bench.unloadPickers();
-    if (traits.saveReloads)
-        Adodc1.open(table());
+    if (traits.saveSource != SaveSource::InHand)
+        Adodc1.setRecordSource(table());
+    if (traits.saveSource == SaveSource::Reloaded)
+        Adodc1.refresh();
     if (refusesGap())
         return;
     emptyTable();
@@ -268,16 +275,29 @@ void GridPage::layColumns() {
     for (int column = 1; column < grid->Cols(); ++column) {
         const Column& entry = traits.columns[static_cast<std::size_t>(column - 1)];
         grid->setColWidth(column, entry.width);
-        grid->setTextMatrix(0, column, QString::fromUtf16(entry.caption));
+        captionColumn(column, entry.caption);
         if (traits.shownAsAmounts.holds(column))
             amounts.push_back(column);
     }
     grid->setAmountColumns(std::move(amounts));
 }
 
+void GridPage::captionColumn(int column, const char16_t* caption) {
+    grid->setTextMatrix(0, column, QString::fromUtf16(caption));
+}
+
 void GridPage::layOut() {
     grid->place(120, 840, 11415, 4815);
     layColumns();
+}
+
+void GridPage::loadTable(bool blankBehindConnection) {
+    Adodc1.setVisible(false);
+    Adodc1.setConnectionString(bench.connection(blankBehindConnection));
+    Recordset& records = Adodc1.open(table());
+    layOut();
+    startRows();
+    fill(records);
 }
 
 void GridPage::startRows() {
@@ -291,7 +311,7 @@ void GridPage::blankRow(int row) {
 }
 
 void GridPage::fill(Recordset& records) {
-    while (!records.eof()) {
+    fillRows(*grid, records, [this, &records] {
         for (int column = 1; column < records.fieldCount(); ++column) {
             const Field field = records.field(column - 1);
             if (field.differsFromEmpty())
@@ -299,12 +319,7 @@ void GridPage::fill(Recordset& records) {
             else if (field.equalsEmpty())
                 grid->setTextMatrix(rowForEmptyText(), column, {});
         }
-        records.moveNext();
-        if (records.eof())
-            break;
-        grid->setRows(grid->Rows() + 1);
-        grid->setRow(grid->Row() + 1);
-    }
+    });
 }
 
 } // namespace qinghe

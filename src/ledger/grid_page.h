@@ -42,6 +42,12 @@ public:
     enum class AddedBox { TakesCell, KeepsText };
     enum class LastRow { BlankedBelowThreeRows, BlankedWhenFirst };
     enum class SavedRows { FromFirstFilled, Every };
+    /// What a save does about the table before it reads the grid.
+    enum class SaveSource {
+        InHand,   ///< nothing: it works on what the page last loaded
+        Named,    ///< names it without a refresh: still what the page last loaded
+        Reloaded, ///< loads it again
+    };
 
     struct Traits {
         const char16_t* frame;
@@ -60,7 +66,7 @@ public:
         AddedBox addedBox = AddedBox::TakesCell;
         LastRow lastRow = LastRow::BlankedBelowThreeRows;
         SavedRows savedRows = SavedRows::FromFirstFilled;
-        bool saveReloads = false; ///< the save points Adodc1 at the table first
+        SaveSource saveSource = SaveSource::InHand;
         bool saveMovesRow = true; ///< a refused save leaves Row on the failing row
         bool refreshWhenEmptied = false;
     };
@@ -88,6 +94,10 @@ protected:
     void layOut();
     /// Captions and widths alone.
     void layColumns();
+    void captionColumn(int column, const char16_t* caption);
+    /// Loads table() into the grid as it is laid out here; the first row is not blanked, so that an empty table leaves
+    /// in it what it held.
+    void loadTable(bool blankBehindConnection = true);
     /// Two rows, the first one current.
     void startRows();
     void blankRow(int row);
@@ -95,6 +105,8 @@ protected:
     /// never shown.
     void fill(Recordset& records);
     void hideEditor();
+    /// The row of the loan grid, which other pages borrow.
+    int loanRow() const { return bench.editors.at(QStringLiteral("ms1")).grid->Row(); }
 
     const Traits& traits;
     MainWindow& window;

@@ -34,7 +34,7 @@ const GridPage::Traits IncomeExpense{
     .date = {.column = 2, .target = 3, .opensOnEnter = true},
     .amounts = {.onClick = {5, 5}, .onEnter = {5, 5}, .target = 1},
     .shownAsAmounts = {5, 5},
-    .saveReloads = true,
+    .saveSource = GridPage::SaveSource::Reloaded,
 };
 
 } // namespace
@@ -55,7 +55,8 @@ IncomeExpensePage::IncomeExpensePage(MainWindow& form)
       Option7(new OptionButton(&frame, u"Option7"_s, u"录入数据"_s)),
       Option8(new OptionButton(&frame, u"Option8"_s, u"本月项目统计"_s)),
       Option9(new OptionButton(&frame, u"Option9"_s, u"本月人员收支统计"_s)),
-      Label10(new Label(&frame, u"Label10"_s)) {
+      Label10(new Label(&frame, u"Label10"_s)),
+      m_statistics(form, *grid, *Label10, ledgerSide) {
     Option7->place(240, 390, 1380, 300);
     Option8->place(1740, 390, 1800, 300);
     Option9->place(3660, 390, 2280, 300);
@@ -63,6 +64,8 @@ IncomeExpensePage::IncomeExpensePage(MainWindow& form)
     Label10->setRole(Role::Total);
     Option7->setValue(true);
     Option7->Click = [this] { Form2_Option7_Click(); };
+    Option8->Click = [this] { Form2_Option8_Click(); };
+    Option9->Click = [this] { Form2_Option9_Click(); };
     for (OptionButton* option : {Option7, Option8, Option9})
         showHandOver(option);
     frame.Click = [this] { Form2_Frame2_Click(); };
@@ -101,19 +104,16 @@ bool IncomeExpensePage::takesClicks() const {
 void IncomeExpensePage::Form2_Label2_Click(int index) {
     ledgerSide = index == 0 ? 1 : 0;
     window.navigation().leaveOthers(side().page);
-    Adodc1.setVisible(false);
     Adodc1.setConnectionString(bench.connection());
     Adodc1.open(QString::fromUtf16(side().statisticsSource));
     refillStatistics();
 
-    Recordset& records = Adodc1.open(table());
     grid->setUsable(true);
-    layOut();
     frame.setCaption(QString::fromUtf16(side().frameCaption));
-    captionPerson();
     startRows();
     blankRow(1);
-    fill(records);
+    loadTable();
+    captionPerson();
     hideEditor();
     Option7->setValue(true);
     showTotal();
@@ -162,20 +162,46 @@ void IncomeExpensePage::Form2_Option7_Click() {
     bench.unloadPickers();
     for (const char16_t* other : {u"Frame6", u"Frame7", u"Frame8", u"frame9", u"Frame10", u"Frame3"})
         window.navigation().frame(QString::fromUtf16(other)).setShown(false);
-    Adodc1.setVisible(false);
-    Adodc1.setConnectionString(bench.connection());
-    Recordset& records = Adodc1.open(table());
-    for (CommandButton* button : {addButton, removeButton, saveButton})
-        button->setUsable(true);
-    grid->setUsable(true);
-    layColumns();
+    setEditing(true);
+    // An empty table leaves the first row as it is.
+    loadTable();
     captionPerson();
     // No sum is computed here: the total is that of the last opening.
     Label10->setCaption(QString::fromUtf16(side().totalCaption) + formatNumber(this->*side().total, u"0.00元"_s));
-    startRows();
-    fill(records);
     window.navigation().bringForward(side().page);
     hideEditor();
+}
+
+void IncomeExpensePage::setEditing(bool allowed) {
+    for (CommandButton* button : {addButton, removeButton, saveButton})
+        button->setUsable(allowed);
+    grid->setUsable(allowed);
+}
+
+bool IncomeExpensePage::pickerIsVisible() const {
+    const Form* picker = bench.forms.loaded(u"Form1"_s);
+    return picker && picker->Visible();
+}
+
+void IncomeExpensePage::Form2_Option8_Click() {
+    if (pickerIsVisible())
+        bench.unloadPickers();
+    closeEditing();
+    m_statistics.showItems();
+}
+
+void IncomeExpensePage::Form2_Option9_Click() {
+    // A calculator stays open here, and is meant to.
+    if (pickerIsVisible())
+        bench.forms.unload(u"Form1"_s);
+    closeEditing();
+    m_statistics.showPeople();
+}
+
+void IncomeExpensePage::closeEditing() {
+    editor->setBoxText({});
+    hideEditor();
+    setEditing(false);
 }
 
 void IncomeExpensePage::Form2_Frame2_Click() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ledger/grid_page.h"
+#include "ledger/month_statistics.h"
 
 namespace qinghe {
 
@@ -15,6 +16,8 @@ public:
 
     void Form2_Label2_Click(int index); ///< 0 income, 1 expense
     void Form2_Option7_Click();
+    void Form2_Option8_Click();
+    void Form2_Option9_Click();
     void Form2_Frame2_Click();
 
 protected:
@@ -28,6 +31,9 @@ private:
     void refillStatistics();
     void showTotal();
     void captionPerson();
+    void setEditing(bool allowed);
+    void closeEditing();
+    bool pickerIsVisible() const;
 
     OptionButton* Option7; // 录入数据
     OptionButton* Option8; // 本月项目统计
@@ -37,6 +43,7 @@ private:
     Int16 ledgerSide = 0; ///< 1 income, 0 expense
     float incomeTotal = 0;
     float expenseTotal = 0;
+    MonthStatistics m_statistics;
 };
 
 } // namespace qinghe

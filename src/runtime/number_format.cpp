@@ -104,4 +104,8 @@ QString formatNumber(double value, const QString& pattern) {
     return QString::fromLatin1(text) + form.literal.toString();
 }
 
+QString formatNumber(const Value& value, const QString& pattern) {
+    return value.isNull() ? QString() : formatNumber(value.number(), pattern);
+}
+
 } // namespace qinghe

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "runtime/value.h"
 
 namespace qinghe {
 
@@ -9,5 +9,7 @@ namespace qinghe {
 /// alone before the point there is no zero before it: 0.5 is ".50", -0.5 is "-.50", 0 is ".00". What rounds to nothing
 /// has no sign: -0.001 is ".00".
 QString formatNumber(double value, const QString& pattern);
+/// The same for a value of a column; NULL has no text. Throws RuntimeError (type mismatch) for what is no number.
+QString formatNumber(const Value& value, const QString& pattern);
 
 } // namespace qinghe
