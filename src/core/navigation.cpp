@@ -69,9 +69,13 @@ void Navigation::leaveOthers(int code) {
 }
 
 void Navigation::hideOthers(const QString& front, const QString& leftAlone) {
-    for (auto& [frameName, frame] : m_frames)
-        if (frameName != front && frameName != leftAlone)
-            frame->setShown(false);
+    for (auto& [frameName, frame] : m_frames) {
+        if (frameName == front || frameName == leftAlone)
+            continue;
+        frame->setShown(false);
+        if (const auto bound = m_onHidden.find(frameName); bound != m_onHidden.end())
+            bound->second();
+    }
 }
 
 void Navigation::bringForward(int code) {

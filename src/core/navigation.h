@@ -20,6 +20,8 @@ public:
 
     /// Binds the click of the page's label.
     void onOpen(int code, std::function<void()> open);
+    /// Binds what follows when a change of page hides this frame, whether it was on view or not.
+    void onHidden(const QString& frame, std::function<void()> follow) { m_onHidden[frame] = std::move(follow); }
 
     /// The first half of a page change: takes the number, unloads the tools, marks the label, hides the other frames.
     void leaveOthers(int code);
@@ -43,6 +45,7 @@ private:
     Workbench& m_bench;
     std::map<QString, Frame*> m_frames;
     std::map<QString, Label*> m_labels;
+    std::map<QString, std::function<void()>> m_onHidden;
 };
 
 } // namespace qinghe

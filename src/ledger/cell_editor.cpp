@@ -8,14 +8,21 @@ CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : 
     setFocusRefuge(&grid);
     connect(&grid, &MSFlexGrid::scrolled, this, [this] {
         if (Visible())
-            place();
+            followCell();
     });
 }
 
 void CellEditor::place() {
-    const int row = m_grid.Row(), col = m_grid.Col();
-    Placed::place(m_grid.Left() + m_grid.ColPos(col), m_grid.Top() + m_grid.RowPos(row), m_grid.ColWidth(col),
-                  m_grid.RowHeight(row));
+    m_row = m_grid.Row();
+    m_col = m_grid.Col();
+    followCell();
+}
+
+void CellEditor::followCell() {
+    if (m_row >= m_grid.Rows() || m_col >= m_grid.Cols())
+        return;
+    Placed::place(m_grid.Left() + m_grid.ColPos(m_col), m_grid.Top() + m_grid.RowPos(m_row), m_grid.ColWidth(m_col),
+                  m_grid.RowHeight(m_row));
     keepInSight();
 }
 

@@ -5,8 +5,9 @@
 
 namespace qinghe {
 
-/// The text box that floats over the cells of a grid on the same frame. It lies exactly over the grid's current cell,
-/// follows it when the grid scrolls, and is out of sight while the cell is. What its keys do is the page's.
+/// The text box that floats over the cells of a grid on the same frame. It lies exactly over the cell that was current
+/// when it was placed, follows that cell when the grid scrolls, and is out of sight while the cell is. What its keys do
+/// is the page's.
 class CellEditor : public TextBox {
     Q_OBJECT
 
@@ -19,9 +20,11 @@ public:
     void lay();
 
 private:
+    void followCell();
     void keepInSight();
 
     MSFlexGrid& m_grid;
+    int m_row = 1, m_col = 1; ///< the cell under the box
 };
 
 } // namespace qinghe

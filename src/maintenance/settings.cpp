@@ -15,7 +15,10 @@ SettingsPage::SettingsPage(MainWindow& window)
     Command31->place(360, 3450, 1920, 390);
     Command31->setGlyph(Glyph::List);
     markHovered(*Frame20, {Command31});
-    Command31->Click = [&bench = window.bench()] { bench.openCategories(); };
+    Command31->Click = [this, &bench = window.bench()] {
+        unmarkHovered({Command31}); // the pointer will not be here when the page comes back
+        bench.openCategories();
+    };
 }
 
 } // namespace qinghe
