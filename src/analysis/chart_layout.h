@@ -1,0 +1,80 @@
+#pragma once
+
+#include "analysis/axis_scale.h"
+#include "analysis/chart_matrix.h"
+#include "analysis/label_lines.h"
+
+#include <QRectF>
+
+namespace qinghe {
+
+/// Where everything in a chart stands, in pixels of its control: arithmetic alone, no painting. Columns have a pitch
+/// that gives each value room beside its neighbours; rows that do not fit into the plot are reached by scrolling.
+/// Nothing is worked out for rows that are not in view.
+///
+/// The matrix and the rulers must outlive the layout. Values are written at the columns when there is one series;
+/// several series have a legend instead.
+class ChartLayout {
+public:
+    struct Rulers {
+        const Ruler& value; ///< of the values and of the axis
+        const Ruler& label;
+    };
+    ChartLayout(const ChartMatrix& matrix, const QSizeF& size, Rulers rulers);
+
+    static constexpr double WidestColumn = 46;
+    static constexpr double ColumnShare = 0.56; ///< of the pitch
+    static constexpr double ValueGap = 10;      ///< between two values that stand side by side
+    static constexpr int StripHeight = 9;
+    static constexpr int LineHeight = 16; ///< of labels
+
+    const ChartMatrix& matrix() const { return m_matrix; }
+    const AxisScale& scale() const { return m_scale; }
+    /// Between the first line and the last.
+    const QRectF& plot() const { return m_plot; }
+    double pitch() const { return m_pitch; }
+    double columnWidth() const; ///< of one series
+    bool writesValues() const { return m_matrix.columnCount() == 1; }
+
+    /// How far the rows can be scrolled to the left; 0 when all are in view.
+    int longestScroll() const;
+    QRectF strip() const; ///< the room of the scroll strip; empty when there is none
+
+    double lineY(int index) const;
+    double y(double value) const;
+    QRectF unitBox() const; ///< of the unit above the axis
+    QRectF legendBox(int column) const;
+
+    // The following are of a row, at a scroll of so many pixels. They may reach over the plot's sides, where they are
+    // not painted.
+    struct Rows {
+        int first, behindLast;
+    };
+    Rows rowsInView(double scroll) const;
+    /// The row whose slot holds this x, or -1.
+    int rowAt(double x, double scroll) const;
+    double middle(int row, double scroll) const;
+    QString valueText(int row) const; ///< "" where there is no value
+    QRectF valueBox(int row, double scroll) const;
+    LabelLines label(int row) const;
+    QRectF labelBox(int row, int line, const QString& words, double scroll) const;
+
+private:
+    double value(int row) const { return m_matrix.values.front()[static_cast<size_t>(row)]; }
+    AxisScale fittingScale() const;
+    double axisWidth() const;
+    void layPitch();
+    double widestValue() const;
+    bool anyLabelBreaks() const;
+
+    const ChartMatrix& m_matrix;
+    QSizeF m_size;
+    Rulers m_rulers;
+    double m_lowest = 0, m_highest = 0;
+    AxisScale m_scale;
+    QRectF m_plot;
+    double m_pitch = 0;
+    int m_labelLines = 1;
+};
+
+} // namespace qinghe

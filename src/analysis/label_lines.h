@@ -1,0 +1,22 @@
+#pragma once
+
+#include "analysis/ruler.h"
+
+#include <QStringList>
+
+namespace qinghe {
+
+/// The words under a column.
+struct LabelLines {
+    QStringList lines;
+    bool cut = false; ///< a rest had no room and stands for "…"
+};
+
+/// What is drawn of a label: on one line, without the "-" that a month's key ends in ("2024-5-").
+QString drawnLabel(const QString& label);
+
+/// Lays a drawn label into a room: on one line where it fits, else on two even ones where two may be, the first not the
+/// shorter. A line that is still too long ends in "…". No character is cut in two.
+LabelLines breakLabel(const QString& words, double room, int mostLines, const Ruler& ruler);
+
+} // namespace qinghe

@@ -1,0 +1,206 @@
+#include "analysis/ms_chart.h"
+
+#include "analysis/chart_drawing.h"
+#include "analysis/scroll_strip.h"
+
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype TipLine = 40, LongestTip = 800; ///< characters
+
+ChartMatrix matrixOf(const QVariantList& data) {
+    ChartMatrix matrix;
+    std::vector<double> values;
+    values.reserve(static_cast<size_t>(data.size()));
+    for (const QVariant& entry : data) {
+        const QVariantList row = entry.toList();
+        bool isNumber = false;
+        const double value = row.value(1).toDouble(&isNumber);
+        matrix.rows << row.value(0).toString();
+        values.push_back(isNumber ? value : ChartMatrix::NoValue);
+    }
+    matrix.values.push_back(std::move(values));
+    return matrix;
+}
+
+/// Text for a tool tip, in lines that no screen is too narrow for.
+QString tipText(const QString& label, const QString& value) {
+    const QString head = label.size() > LongestTip ? label.left(LongestTip) + u'…' : label;
+    QStringList lines;
+    for (qsizetype at = 0; at < head.size(); at += TipLine)
+        lines << head.mid(at, TipLine);
+    lines << value;
+    return Qt::convertFromPlainText(lines.join(u'\n').trimmed());
+}
+
+/// A scroll bar's own keys run the other way.
+QAbstractSlider::SliderAction actionOf(int key) {
+    switch (key) {
+    case Qt::Key_Left:
+        return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Right:
+        return QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_PageUp:
+        return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+        return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+        return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+        return QAbstractSlider::SliderToMaximum;
+    default:
+        return QAbstractSlider::SliderNoAction;
+    }
+}
+
+} // namespace
+
+MSChart::MSChart(QWidget* parent, const QString& name) : QWidget(parent), Placed(this), m_matrix(sampleMatrix()) {
+    setObjectName(name);
+    setMouseTracking(true);
+    setFont(QFont(u"宋体"_s));
+}
+
+MSChart::~MSChart() = default;
+
+void MSChart::setChartData(const QVariantList& rows) {
+    m_data = rows;
+    m_matrix = rows.isEmpty() ? sampleMatrix() : matrixOf(rows);
+    m_places.reset();
+    m_labelRuler.reset();
+    if (m_drawing)
+        m_drawing->setMatrix(m_matrix);
+    if (m_strip)
+        m_strip->setValue(0);
+    if (isVisible())
+        layOutStrip();
+    update();
+}
+
+const ChartLayout& MSChart::places() {
+    if (!m_valueRuler)
+        m_valueRuler = std::make_unique<FontRuler>(chartValueFont());
+    if (!m_labelRuler)
+        m_labelRuler = std::make_unique<FontRuler>(chartLabelFont(m_matrix));
+    if (!m_places)
+        m_places.emplace(m_matrix, size(), ChartLayout::Rulers{*m_valueRuler, *m_labelRuler});
+    return *m_places;
+}
+
+int MSChart::scrolled() const {
+    return m_strip ? m_strip->value() : 0;
+}
+
+void MSChart::scrollTo(int pixels) {
+    layOutStrip();
+    m_strip->setValue(pixels);
+}
+
+void MSChart::layOutStrip() {
+    if (!m_strip) {
+        m_strip = new ScrollStrip(this);
+        connect(m_strip, &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
+    }
+    const int longest = places().longestScroll();
+    m_strip->setRange(0, longest);
+    m_strip->setPageStep(qRound(places().plot().width()));
+    m_strip->setSingleStep(qRound(places().pitch()));
+    m_strip->setGeometry(places().strip().toRect());
+    m_strip->setVisible(longest > 0);
+    setFocusPolicy(longest > 0 ? Qt::StrongFocus : Qt::NoFocus);
+}
+
+void MSChart::paintOn(QPaintDevice& device) {
+    if (!m_drawing) {
+        m_drawing = std::make_unique<ChartDrawing>();
+        m_drawing->setMatrix(m_matrix);
+    }
+    m_drawing->paint(device, places(), size(), scrolled());
+}
+
+void MSChart::paintEvent(QPaintEvent*) {
+    paintOn(*this);
+}
+
+void MSChart::resizeEvent(QResizeEvent*) {
+    m_places.reset();
+    if (isVisible())
+        layOutStrip();
+}
+
+void MSChart::showEvent(QShowEvent*) {
+    layOutStrip();
+}
+
+QString MSChart::tipAt(const QPoint& place) {
+    const int row = place.y() < places().plot().top() ? -1 : places().rowAt(place.x(), scrolled());
+    if (row < 0 || !places().label(row).cut)
+        return {};
+    return tipText(m_matrix.rows[row], places().valueText(row));
+}
+
+bool MSChart::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (const QString tip = tipAt(help->pos()); !tip.isEmpty())
+        QToolTip::showText(help->globalPos(), tip, this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void MSChart::mousePressEvent(QMouseEvent* event) {
+    pressBegan();
+    if (event->button() == Qt::LeftButton)
+        m_dragged = event->position().x() + scrolled();
+    event->accept();
+}
+
+void MSChart::mouseMoveEvent(QMouseEvent* event) {
+    if (m_dragged)
+        scrollTo(qRound(*m_dragged - event->position().x()));
+    event->accept();
+}
+
+void MSChart::mouseReleaseEvent(QMouseEvent* event) {
+    m_dragged.reset();
+    event->accept();
+}
+
+void MSChart::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void MSChart::wheelEvent(QWheelEvent* event) {
+    layOutStrip();
+    QCoreApplication::sendEvent(m_strip, event);
+    event->accept();
+}
+
+void MSChart::keyPressEvent(QKeyEvent* event) {
+    const QAbstractSlider::SliderAction action = actionOf(event->key());
+    if (!m_strip || action == QAbstractSlider::SliderNoAction)
+        QWidget::keyPressEvent(event);
+    else
+        m_strip->triggerAction(action);
+}
+
+void MSChart::focusInEvent(QFocusEvent*) {
+    update();
+}
+
+void MSChart::focusOutEvent(QFocusEvent*) {
+    update();
+}
+
+} // namespace qinghe

@@ -1,0 +1,452 @@
+#include "analysis/chart_drawing.h"
+#include "analysis/ms_chart.h"
+#include "qt_printing.h"
+
+#include <QHelpEvent>
+#include <QImage>
+#include <QPainter>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+// The chart as a control: what it takes, what it draws, how it scrolls.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QVariantList row(const QString& label, const QVariant& value) {
+    return {label, value};
+}
+
+class ChartControlTest : public ::testing::Test {
+protected:
+    ChartControlTest() : chart(&window, u"MSC1"_s) {
+        window.resize(800, 320);
+        chart.place(120, 240, 10815, 4335);
+        window.show();
+        QTest::qWait(1);
+    }
+
+    void fill(const std::vector<double>& values, const QString& label = u"现金"_s) {
+        QVariantList rows;
+        for (size_t i = 0; i < values.size(); ++i)
+            rows << QVariant(row(label + QString::number(i), values[i]));
+        chart.setChartData(rows);
+    }
+
+    /// What the chart draws, on white.
+    QImage drawn(double scale = 1) {
+        QImage image((QSizeF(chart.size()) * scale).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::white);
+        chart.paintOn(image);
+        return image;
+    }
+
+    static bool isColumn(QRgb pixel) { return qGreen(pixel) - qBlue(pixel) > 60 && qGreen(pixel) > qRed(pixel); }
+    static bool isAmber(QRgb pixel) { return qRed(pixel) - qBlue(pixel) > 150; }
+    static bool isInk(QRgb pixel) { return qGray(pixel) < 110; }
+    static bool isWritten(QRgb pixel) { return qGray(pixel) < 170; }
+    /// Pixels of a kind in a part of the picture.
+    template<class Kind>
+    static int count(const QImage& image, const QRectF& part, Kind kind) {
+        const double scale = image.devicePixelRatio();
+        const QRect area = QRectF(part.topLeft() * scale, part.size() * scale).toAlignedRect() & image.rect();
+        int found = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                found += kind(image.pixel(x, y));
+        return found;
+    }
+    int columnPixels() { return count(drawn(), QRectF(chart.rect()), isColumn); }
+
+    /// Everything that is written in view.
+    std::vector<QRectF> writtenBoxes() {
+        const ChartLayout& places = chart.places();
+        std::vector<QRectF> boxes{places.unitBox()};
+        const ChartLayout::Rows rows = places.rowsInView(chart.scrolled());
+        for (int i = rows.first; i < rows.behindLast; ++i) {
+            if (!places.valueText(i).isEmpty())
+                boxes.push_back(places.valueBox(i, chart.scrolled()));
+            const QStringList lines = places.label(i).lines;
+            for (int line = 0; line < lines.size(); ++line)
+                boxes.push_back(places.labelBox(i, line, lines[line], chart.scrolled()));
+        }
+        return boxes;
+    }
+    void expectNothingOverlaps() {
+        const QRectF plot = chart.places().plot();
+        const QRectF sides(plot.left(), 0, plot.width(), chart.height());
+        const std::vector<QRectF> boxes = writtenBoxes();
+        for (size_t i = 0; i < boxes.size(); ++i) {
+            const QRectF seen = i == 0 ? boxes[i] : boxes[i] & sides; // what reaches over the sides is not painted
+            EXPECT_GE(seen.top(), 0);
+            EXPECT_LE(seen.bottom(), chart.height());
+            for (size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(seen.adjusted(0.1, 0.1, -0.1, -0.1).intersects(j == 0 ? boxes[0] : boxes[j] & sides))
+                    << i << " over " << j;
+            EXPECT_FALSE(seen.intersects(chart.places().strip())) << i << " in the strip";
+        }
+    }
+
+    QScrollBar* strip() { return chart.findChild<QScrollBar*>(); }
+    bool scrolls() { return strip() && strip()->isVisible(); }
+    void wheel(int steps) {
+        const QPointF at = chart.rect().center();
+        QWheelEvent event(at, chart.mapToGlobal(at), {}, {0, 120 * steps}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&chart, &event);
+        EXPECT_TRUE(event.isAccepted());
+    }
+    QString tipOver(int row) {
+        const QPoint at(qRound(chart.places().middle(row, chart.scrolled())), 100);
+        QHelpEvent help(QEvent::ToolTip, at, chart.mapToGlobal(at));
+        QCoreApplication::sendEvent(&chart, &help);
+        const QString text = QToolTip::isVisible() ? QToolTip::text() : QString();
+        QToolTip::hideText();
+        return text;
+    }
+
+    QWidget window;
+    MSChart chart;
+};
+
+TEST_F(ChartControlTest, ShowsASampleAndHoldsNoDataBeforeTheFirst) {
+    EXPECT_EQ(chart.ChartData(), QVariantList());
+    EXPECT_EQ(chart.places().matrix().rows.join(u' '), u"R1 R2 R3 R4 R5");
+    EXPECT_EQ(chart.places().matrix().columns.join(u' '), u"C1 C2 C3 C4");
+    EXPECT_EQ(chart.font().family(), u"宋体");
+    EXPECT_GT(columnPixels(), 2000);
+    EXPECT_FALSE(scrolls());
+    expectNothingOverlaps();
+}
+
+TEST_F(ChartControlTest, SetsItsSampleInGroupsOfFour) {
+    const QImage image = drawn();
+    const int y = qRound(chart.places().y(20)); // all values of the sample are higher
+    int columns = 0;
+    bool inside = false;
+    for (int x = 0; x < image.width(); ++x) {
+        const bool coloured = image.pixelColor(x, y).saturation() > 60;
+        columns += coloured && !inside;
+        inside = coloured;
+    }
+    EXPECT_EQ(columns, 20);
+}
+
+TEST_F(ChartControlTest, GivesBackTheDataItTook) {
+    const QVariantList data{QVariant(row(u"2024-5-"_s, 12.5)), QVariant(row(u""_s, QVariant()))};
+    chart.setProperty("ChartData", data);
+    EXPECT_EQ(chart.property("ChartData").toList(), data);
+    EXPECT_EQ(chart.places().label(0).lines, QStringList(u"2024-5"_s));
+}
+
+TEST_F(ChartControlTest, DrawsAColumnWhereItsValueStands) {
+    fill({10, 40, 25});
+    const QImage image = drawn();
+    const ChartLayout& places = chart.places();
+    for (int i = 0; i < 3; ++i) {
+        const double value = std::array{10.0, 40.0, 25.0}[static_cast<size_t>(i)];
+        const int x = qRound(places.middle(i, 0));
+        EXPECT_TRUE(isColumn(image.pixel(x, qRound(places.y(value)) + 1))) << i;
+        EXPECT_TRUE(isColumn(image.pixel(x, qRound(places.y(0)) - 1))) << i;
+        EXPECT_FALSE(isColumn(image.pixel(x, qRound(places.y(value)) - 1))) << i;
+        EXPECT_TRUE(isColumn(image.pixel(x - 22, qRound(places.y(0)) - 2))) << i;
+        EXPECT_FALSE(isColumn(image.pixel(x - 25, qRound(places.y(0)) - 2))) << i;
+        EXPECT_GT(count(image, places.valueBox(i, 0), isInk), 10) << i;
+        EXPECT_GT(count(image, places.labelBox(i, 0, places.label(i).lines.front(), 0), isInk), 10) << i;
+    }
+    EXPECT_EQ(image.pixelColor(qRound(places.middle(1, 0)), qRound(places.y(0)) - 1).name(), u"#a9d687");
+    expectNothingOverlaps();
+}
+
+TEST_F(ChartControlTest, RoundsTheUpperCornersOfItsColumns) {
+    fill({60});
+    const QImage image = drawn();
+    const int left = qRound(chart.places().middle(0, 0) - 23), top = qRound(chart.places().y(60));
+    EXPECT_EQ(image.pixelColor(left, top), QColor(225, 234, 217)); // the line at 60, the column's corner is off
+    EXPECT_TRUE(isColumn(image.pixel(left, top + 5)));
+    EXPECT_TRUE(isColumn(image.pixel(left + 6, top + 1)));
+    EXPECT_TRUE(isColumn(image.pixel(left, qRound(chart.places().y(0)) - 1)));
+}
+
+TEST_F(ChartControlTest, DrawsLinesInTheirColours) {
+    fill({60, -20});
+    const QImage image = drawn();
+    const ChartLayout& places = chart.places();
+    const int x = qRound(places.plot().left()) + 3;
+    for (int i = 0; i < places.scale().lineCount(); ++i) {
+        const bool zero = places.scale().line(i) == 0;
+        EXPECT_EQ(image.pixelColor(x, qRound(places.lineY(i))).name(), zero ? u"#8fa884" : u"#e1ead9") << i;
+    }
+}
+
+TEST_F(ChartControlTest, WritesTheNumbersOfItsAxisAndTheYuanAbove) {
+    fill({60, -20});
+    const QImage image = drawn();
+    const ChartLayout& places = chart.places();
+    EXPECT_GT(count(image, places.unitBox(), isWritten), 5);
+    for (int i = 0; i < places.scale().lineCount(); ++i)
+        EXPECT_GT(count(image, QRectF(20, places.lineY(i) - 5, 30, 10), isWritten), 3) << i;
+    EXPECT_EQ(count(image, QRectF(51, 0, 5, chart.height()), isWritten), 0); // the gap before the plot
+}
+
+TEST_F(ChartControlTest, HangsNegativeValuesBelowTheAxisInAmber) {
+    fill({-30, -60, -45});
+    const QImage image = drawn();
+    const ChartLayout& places = chart.places();
+    EXPECT_EQ(count(image, QRectF(chart.rect()), isColumn), 0);
+    const int x = qRound(places.middle(0, 0));
+    EXPECT_EQ(image.pixelColor(x, qRound(places.y(0)) + 5).name(), u"#b86a00");
+    EXPECT_TRUE(isAmber(image.pixel(x, qRound(places.y(-30)) - 1)));
+    EXPECT_FALSE(isAmber(image.pixel(x, qRound(places.y(-30)) + 1)));
+    EXPECT_FALSE(isAmber(image.pixel(x - 22, qRound(places.y(-30)) - 1))); // round at its foot
+    expectNothingOverlaps();
+}
+
+TEST_F(ChartControlTest, HasNeitherColumnNorTextWhereThereIsNoValue) {
+    chart.setChartData({QVariant(row(u"甲"_s, 10)), QVariant(row(u"乙"_s, QVariant())), QVariant(row(u"丙"_s, 20))});
+    const QImage image = drawn();
+    const QRectF slot(chart.places().middle(1, 0) - 40, 0, 80, chart.places().plot().bottom());
+    EXPECT_EQ(count(image, slot, isColumn), 0);
+    EXPECT_EQ(count(image, slot, isInk), 0);
+    EXPECT_EQ(chart.places().valueText(1), u"");
+    EXPECT_EQ(chart.places().label(1).lines, QStringList(u"乙"_s));
+    expectNothingOverlaps();
+}
+
+TEST_F(ChartControlTest, WritesNothingUnderAnEmptyLabel) {
+    chart.setChartData({QVariant(row(QString(), 10))});
+    const ChartLayout& places = chart.places();
+    EXPECT_TRUE(places.label(0).lines.isEmpty());
+    EXPECT_EQ(count(drawn(), QRectF(0, places.plot().bottom() + 8, 720, 20), isInk), 0);
+    EXPECT_EQ(places.valueText(0), u"10.00");
+}
+
+TEST_F(ChartControlTest, LetsTheSmallestAmountShow) {
+    fill({1000000, 0.01});
+    const int x = qRound(chart.places().middle(1, 0));
+    EXPECT_TRUE(isColumn(drawn().pixel(x, qRound(chart.places().y(0)) - 1)));
+}
+
+TEST_F(ChartControlTest, DrawsNoColumnForNothing) {
+    fill({0, 0, 0});
+    EXPECT_EQ(columnPixels(), 0);
+    EXPECT_EQ(chart.places().valueText(0), u"0.00");
+    EXPECT_EQ(chart.places().scale().high(), 100);
+    expectNothingOverlaps();
+}
+
+struct Shape {
+    const char* name;
+    int rows;
+    double (*value)(int);
+};
+double fallen(int i) {
+    return i % 5 == 0 ? -1500.25 * i : 99.99 * i;
+}
+double huge(int i) {
+    return 1e15 + i;
+}
+double bottomless(int i) {
+    return i % 2 ? -1e15 : -9.999e14;
+}
+double equal(int) {
+    return 1234.5;
+}
+double nothing(int) {
+    return 0;
+}
+double missing(int i) {
+    return i % 3 ? i : ChartMatrix::NoValue;
+}
+double endless(int i) {
+    return std::pow(10.0, i % 300);
+}
+
+class ChartShapesTest : public ChartControlTest, public ::testing::WithParamInterface<Shape> {};
+
+TEST_P(ChartShapesTest, WriteNothingOverAnything) {
+    const Shape& shape = GetParam();
+    std::vector<double> values;
+    for (int i = 0; i < shape.rows; ++i)
+        values.push_back(shape.value(i));
+    for (const QString& label : {u"现"_s, u"小满教育金账户"_s, u"2024-1"_s, QString(10'000, u'长')}) {
+        fill(values, label);
+        const int longest = chart.places().longestScroll();
+        for (const int at : {0, 31, longest / 2, longest}) {
+            chart.scrollTo(at);
+            expectNothingOverlaps();
+            EXPECT_FALSE(drawn().isNull());
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Charts, ChartShapesTest,
+                         ::testing::Values(Shape{"OnePoint", 1, fallen}, Shape{"TwelvePoints", 12, fallen},
+                                           Shape{"ThreeHundredPoints", 300, fallen}, Shape{"HugeValues", 12, huge},
+                                           Shape{"AllNegative", 12, bottomless}, Shape{"EqualValues", 12, equal},
+                                           Shape{"AllZero", 12, nothing}, Shape{"MissingValues", 12, missing},
+                                           Shape{"ValuesWithoutEnd", 300, endless}),
+                         [](const auto& shape) { return shape.param.name; });
+
+TEST_F(ChartControlTest, StartsAtTheLeftWithEachData) {
+    fill(std::vector<double>(30, 14792.7));
+    ASSERT_TRUE(scrolls());
+    EXPECT_EQ(chart.scrolled(), 0);
+    chart.scrollTo(200);
+    fill(std::vector<double>(40, 14792.7));
+    EXPECT_EQ(chart.scrolled(), 0);
+}
+
+TEST_F(ChartControlTest, ScrollsByTheWheel) {
+    fill(std::vector<double>(300, 14792.7));
+    wheel(-1);
+    const int once = chart.scrolled();
+    EXPECT_GT(once, 0);
+    wheel(-1);
+    EXPECT_GT(chart.scrolled(), once);
+    for (int i = 0; i < 200; ++i)
+        wheel(+1);
+    EXPECT_EQ(chart.scrolled(), 0);
+}
+
+TEST_F(ChartControlTest, ScrollsByDraggingThePlot) {
+    fill(std::vector<double>(300, 14792.7));
+    const QImage before = drawn();
+    QTest::mousePress(&chart, Qt::LeftButton, {}, {500, 100});
+    QTest::mouseMove(&chart, {380, 105});
+    EXPECT_EQ(chart.scrolled(), 120);
+    QTest::mouseRelease(&chart, Qt::LeftButton, {}, {380, 105});
+    QTest::mouseMove(&chart, {300, 105});
+    EXPECT_EQ(chart.scrolled(), 120);
+    EXPECT_NE(drawn(), before);
+}
+
+TEST_F(ChartControlTest, ScrollsByDraggingTheStrip) {
+    fill(std::vector<double>(30, 14792.7));
+    QTest::mousePress(strip(), Qt::LeftButton, {}, {20, 4});
+    QTest::mouseMove(strip(), {2000, 4});
+    QTest::mouseRelease(strip(), Qt::LeftButton, {}, {2000, 4});
+    EXPECT_EQ(chart.scrolled(), chart.places().longestScroll());
+}
+
+TEST_F(ChartControlTest, ScrollsByKeys) {
+    fill(std::vector<double>(300, 14792.7));
+    const int pitch = qRound(chart.places().pitch());
+    QTest::keyClick(&chart, Qt::Key_Right);
+    EXPECT_EQ(chart.scrolled(), pitch);
+    QTest::keyClick(&chart, Qt::Key_Left);
+    EXPECT_EQ(chart.scrolled(), 0);
+    QTest::keyClick(&chart, Qt::Key_PageDown);
+    EXPECT_EQ(chart.scrolled(), 652);
+    QTest::keyClick(&chart, Qt::Key_End);
+    EXPECT_EQ(chart.scrolled(), chart.places().longestScroll());
+    QTest::keyClick(&chart, Qt::Key_Home);
+    EXPECT_EQ(chart.scrolled(), 0);
+}
+
+TEST_F(ChartControlTest, TakesTheKeyboardOnlyWhileItScrolls) {
+    fill({1, 2, 3});
+    EXPECT_EQ(chart.focusPolicy(), Qt::NoFocus);
+    EXPECT_FALSE(scrolls());
+    fill(std::vector<double>(300, 14792.7));
+    EXPECT_EQ(chart.focusPolicy(), Qt::StrongFocus);
+}
+
+TEST_F(ChartControlTest, DrawsTheLastRowsAtTheRightEnd) {
+    std::vector<double> values(300, 100);
+    values.back() = -100;
+    fill(values);
+    EXPECT_EQ(count(drawn(), QRectF(chart.rect()), isAmber), 0);
+    chart.scrollTo(chart.places().longestScroll());
+    const QRectF plot = chart.places().plot();
+    EXPECT_GT(count(drawn(), QRectF(plot.right() - chart.places().pitch(), 0, chart.places().pitch(), chart.height()),
+                    isAmber),
+              500);
+}
+
+TEST_F(ChartControlTest, PaintsNoRowOverTheSidesOfThePlot) {
+    fill(std::vector<double>(300, 14792.7));
+    const QRectF plot = chart.places().plot();
+    const QRectF left(plot.left() - 7, 0, 7, chart.height()), right(plot.right(), 0, 12, chart.height());
+    for (const int at : {10, 25, 40, 55}) {
+        chart.scrollTo(at);
+        const QImage image = drawn();
+        for (const QRectF& side : {left, right})
+            EXPECT_EQ(count(image, side.adjusted(1, 0, -1, 0), [](QRgb pixel) { return pixel != 0xFFFFFFFF; }), 0)
+                << at;
+    }
+}
+
+TEST_F(ChartControlTest, TellsALabelWholeThatIsCut) {
+    chart.setChartData({QVariant(row(QString(100, u'长'), 12.5)), QVariant(row(u"短"_s, 3))});
+    EXPECT_EQ(tipOver(1), u"");
+    fill(std::vector<double>(8, 1), u"<b>一个很长很长很长很长很长的名称</b>"_s);
+    const QString tip = tipOver(2);
+    EXPECT_TRUE(tip.contains(u"&lt;b&gt;一个很长很长很长很长很长的名称&lt;/b&gt;2"_s)) << tip.toStdString();
+    EXPECT_TRUE(tip.contains(u"1.00"_s)) << tip.toStdString();
+}
+
+TEST_F(ChartControlTest, KeepsTheTipOfAnEndlessLabelOnTheScreen) {
+    fill(std::vector<double>(8, 1), QString(10'000, u'长'));
+    const QString tip = tipOver(2);
+    EXPECT_GT(tip.count(u'长'), 100);
+    EXPECT_LT(tip.size(), 1200);
+    EXPECT_TRUE(tip.contains(u"1.00"_s));
+}
+
+TEST_F(ChartControlTest, TakesWhatIsNoRowForARowWithoutAnything) {
+    chart.setChartData({QVariant(), QVariant(5), QVariant(QVariantList{}), QVariant(row(u"甲"_s, u"乙"_s))});
+    EXPECT_EQ(chart.places().matrix().rowCount(), 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(chart.places().valueText(i), u"");
+    EXPECT_EQ(columnPixels(), 0);
+}
+
+TEST_F(ChartControlTest, FollowsItsSize) {
+    fill(std::vector<double>(8, 10));
+    chart.place(120, 240, 5000, 3000);
+    EXPECT_LT(chart.places().plot().right(), 334);
+    EXPECT_EQ(strip()->isVisible(), chart.places().longestScroll() > 0);
+    expectNothingOverlaps();
+    chart.place(120, 240, 300, 300);
+    EXPECT_FALSE(drawn().isNull());
+}
+
+class ChartScaleTest : public ChartControlTest, public ::testing::WithParamInterface<double> {};
+
+TEST_P(ChartScaleTest, HasSharpLinesAndColumns) {
+    fill({10, 40, 25.3});
+    const double scale = GetParam();
+    const QImage image = drawn(scale);
+    const ChartLayout& places = chart.places();
+    // Down through the free space at the left end: whole pixels in one of two colours or none.
+    const int x = qRound((places.plot().left() + 3) * scale);
+    int lines = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        const QString colour = image.pixelColor(x, y).name();
+        EXPECT_TRUE(colour == u"#ffffff" || colour == u"#e1ead9" || colour == u"#8fa884") << colour.toStdString();
+        lines += colour != u"#ffffff";
+    }
+    EXPECT_EQ(lines, places.scale().lineCount() * qRound(scale));
+    // Across a column: from the ground to its full colour within one pixel.
+    const int y = qRound(places.y(5) * scale);
+    for (int at = 1; at < image.width(); ++at)
+        if (isColumn(image.pixel(at, y)) && !isColumn(image.pixel(at - 1, y))) {
+            EXPECT_EQ(image.pixelColor(at - 1, y).name(), u"#ffffff") << at;
+            EXPECT_EQ(image.pixel(at, y), image.pixel(at + 4, y)) << at;
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, ChartScaleTest, ::testing::Values(1.0, 1.5, 2.0));
+
+} // namespace
+} // namespace qinghe::testing

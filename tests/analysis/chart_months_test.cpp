@@ -1,0 +1,107 @@
+#include "analysis/charts_rig.h"
+
+// The charts by month: how a ledger is gathered in its work table.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The two months' charts and what they are made of.
+struct Side {
+    const char* name;
+    const char16_t* option;
+    const char16_t* ledger;
+    const char16_t* work;
+    const char16_t* caption;
+    const char16_t* sums;
+};
+
+class ChartMonthsTest : public ChartsTest, public ::testing::WithParamInterface<Side> {
+protected:
+    ChartMonthsTest() { storeAccount(u"'现金'"_s, u"100"_s); }
+
+    QString ledger() const { return QString::fromUtf16(GetParam().ledger); }
+    QString work() const { return QString::fromUtf16(GetParam().work); }
+    void choose() { ChartsTest::choose(QString::fromUtf16(GetParam().option)); }
+    void store(const QString& date, double amount) { ChartsTest::store(ledger(), date, u"'项'"_s, amount); }
+    QStringList workRows() { return rig.sql(u"select * from %1 order by rowid"_s.arg(work())); }
+};
+
+TEST_P(ChartMonthsTest, GiveEachMonthOfEachYearAPoint) {
+    store(u"'2006-09-05'"_s, 1);
+    store(u"'2006-10-05'"_s, 2);
+    store(u"'2006-09-25'"_s, 4);
+    store(u"'2007-09-05'"_s, 8);
+    choose();
+    EXPECT_EQ(points(), u"2006-10=2 2006-9-=5 2007-9-=8"); // in the order of the key's text
+    EXPECT_EQ(caption(), QString::fromUtf16(GetParam().caption));
+    EXPECT_FALSE(rig.frame(u"Frame1"_s).Visible());
+    EXPECT_EQ(chart().places().label(1).lines, QStringList(u"2006-9"_s));
+}
+
+TEST_P(ChartMonthsTest, CopyEveryRowWithARunningNumber) {
+    store(u"'2024-05-03'"_s, 1.5);
+    store(u"'2024-11-30'"_s, -2);
+    choose();
+    EXPECT_EQ(workRows(), (QStringList{u"2024-5-|1.5|1"_s, u"2024-11|-2|2"_s}));
+}
+
+TEST_P(ChartMonthsTest, EmptyTheWorkTableFirst) {
+    rig.sql(u"insert into %1 values('1999-1-', 5, 1), ('1999-2-', 6, 2)"_s.arg(work()));
+    store(u"'2024-05-03'"_s, 1.5);
+    choose();
+    EXPECT_EQ(workRows(), QStringList(u"2024-5-|1.5|1"_s));
+    store(u"'2024-06-03'"_s, 1);
+    click(u"Option10"_s);
+    click(QString::fromUtf16(GetParam().option));
+    EXPECT_EQ(workRows(), (QStringList{u"2024-5-|1.5|1"_s, u"2024-6-|1|2"_s}));
+    EXPECT_EQ(points(), u"2024-5-=1.5 2024-6-=1");
+}
+
+TEST_P(ChartMonthsTest, SayThatThereIsNothingAndLeaveTheWorkTableEmpty) {
+    rig.sql(u"insert into %1 values('1999-1-', 5, 1)"_s.arg(work()));
+    choose();
+    EXPECT_EQ(rig.messages->shown, std::vector{NothingToChart});
+    EXPECT_EQ(workRows(), QStringList());
+    EXPECT_EQ(points(), u"现金=100");
+    EXPECT_EQ(caption(), u"账户对比分析");
+}
+
+TEST_P(ChartMonthsTest, LeaveTheirSumsInTheSecondControl) {
+    store(u"'2024-05-03'"_s, 1.5);
+    choose();
+    EXPECT_EQ(adodc1().recordSource(), u"select 时间,金额 from %1"_s.arg(ledger()));
+    EXPECT_EQ(adodc2().recordSource(), QString::fromUtf16(GetParam().sums));
+    EXPECT_EQ(adodc1().connectionString(), rig.program->bench().connection(true));
+    EXPECT_EQ(adodc2().connectionString(), rig.program->bench().connection(true));
+    EXPECT_EQ(adodc2().recordset().recordCount(), 1);
+    EXPECT_FALSE(adodc2().recordset().eof());
+}
+
+TEST_P(ChartMonthsTest, ShowAMonthWithoutAmountsAsOneWithoutValue) {
+    rig.sql(u"insert into %1 values('1', '2024-05-03', '项', '我', NULL, '', '', 1)"_s.arg(ledger()));
+    rig.sql(u"insert into %1 values('2', NULL, '项', '我', 3, '', '', 2)"_s.arg(ledger()));
+    choose();
+    EXPECT_EQ(points(), u"=3 2024-5-=");
+}
+
+TEST_P(ChartMonthsTest, TouchNoOtherTable) {
+    store(u"'2024-05-03'"_s, 1.5);
+    rig.sql(u"insert into nsrb values('x', 1, 1)"_s);
+    rig.sql(u"insert into nzcb values('x', 1, 1)"_s);
+    const QString other = work() == u"nsrb" ? u"nzcb"_s : u"nsrb"_s;
+    choose();
+    EXPECT_EQ(rig.sql(u"select * from "_s + other), QStringList(u"x|1|1"_s));
+    EXPECT_EQ(rig.sql(u"select count(*) from "_s + ledger()), QStringList(u"1"_s));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sides, ChartMonthsTest,
+                         ::testing::Values(Side{"Income", u"Option11", u"srb", u"nsrb", u"年度收入统计",
+                                                u"select 时间,sum(金额)as 金额 from nsrb group by 时间"},
+                                           Side{"Expense", u"Option12", u"zcb", u"nzcb", u"年度年支出统计",
+                                                u"select 时间,sum(金额)as 金额 from nzcb group by 时间"}),
+                         [](const auto& side) { return side.param.name; });
+
+} // namespace
+} // namespace qinghe::testing

@@ -1,0 +1,56 @@
+#include "analysis/charts_rig.h"
+
+namespace qinghe::testing {
+
+using namespace Qt::StringLiterals;
+
+void ChartsTest::store(const QString& table, const QString& date, const QString& item, double amount) {
+    rig.sql(u"insert into %1 values('1', %2, %3, '我', %4, '现金', '', 1)"_s.arg(table, date, item).arg(amount));
+}
+
+void ChartsTest::storeAccount(const QString& name, const QString& balance) {
+    rig.sql(u"insert into zhb(账户名称, 余额, 区别) values(%1, %2, 1)"_s.arg(name, balance));
+}
+
+void ChartsTest::storeOneEach() {
+    storeAccount(u"'现金'"_s, u"100"_s);
+    store(u"srb"_s, u"'2024-05-03'"_s, u"'工资'"_s, 10);
+    store(u"zcb"_s, u"'2024-06-04'"_s, u"'买菜'"_s, 20);
+}
+
+void ChartsTest::open() {
+    rig.click(rig.onMain<Label>(u"Label12"_s));
+    rig.settle();
+}
+
+void ChartsTest::click(const QString& name) {
+    rig.click(option(name));
+    rig.settle();
+}
+
+void ChartsTest::choose(const QString& name) {
+    open();
+    click(name);
+}
+
+void ChartsTest::query(const QString& from, const QString& to) {
+    for (const auto& [box, text] : {std::pair(&Text1(), from), std::pair(&Text2(), to)}) {
+        box->selectAll();
+        if (text.isEmpty())
+            rig.press(*box, Qt::Key_Delete);
+        rig.type(*box, text);
+    }
+    rig.click(rig.onMain<CommandButton>(u"Command25"_s));
+    rig.settle();
+}
+
+QString ChartsTest::points() {
+    QStringList texts;
+    for (const QVariant& point : chart().ChartData()) {
+        const QVariantList row = point.toList();
+        texts << row.at(0).toString() + u'=' + (row.at(1).isValid() ? QString::number(row.at(1).toDouble()) : u""_s);
+    }
+    return texts.join(u' ');
+}
+
+} // namespace qinghe::testing

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "analysis/ms_chart.h"
+#include "qt_printing.h"
+#include "support/program_rig.h"
+
+#include <gtest/gtest.h>
+
+namespace qinghe::testing {
+
+/// A program in whose main window the page of the charts can be opened.
+class ChartsTest : public ::testing::Test {
+protected:
+    ChartsTest() { rig.signIn(); }
+
+    /// Stores a row of the income (srb) or the expense (zcb); date and item as SQL: "'2024-05-03'", "NULL".
+    void store(const QString& table, const QString& date, const QString& item, double amount);
+    void storeAccount(const QString& name, const QString& balance);
+    /// One row of everything, so that no chart is refused: 现金 100, 工资 10 in 2024-5, 买菜 20 in 2024-6.
+    void storeOneEach();
+
+    void open();
+    /// Opens the page, with something to show, and chooses an option by a click.
+    void choose(const QString& name);
+    void click(const QString& option);
+    void query(const QString& from, const QString& to);
+
+    MSChart& chart() { return rig.onMain<MSChart>(QStringLiteral("MSC1")); }
+    OptionButton& option(const QString& name) { return rig.onMain<OptionButton>(name); }
+    TextBox& Text1() { return *rig.frame(QStringLiteral("Frame1")).findChild<TextBox*>(QStringLiteral("Text1")); }
+    TextBox& Text2() { return *rig.frame(QStringLiteral("Frame1")).findChild<TextBox*>(QStringLiteral("Text2")); }
+    QString caption() { return rig.frame(QStringLiteral("Frame12")).Caption(); }
+    Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
+    Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
+
+    /// The chart's data: "label=value" a point, "label=" without a value, joined with blanks.
+    QString points();
+
+    ProgramRig rig;
+};
+
+inline const ShownMessage NothingToChart{QStringLiteral("目前没有提供给图表统计的记录数据！"), 64,
+                                         QStringLiteral("提示")};
+inline const ShownMessage TwoDatesWanted{QStringLiteral("请选择两个日期"), 64, QStringLiteral("输入提示")};
+inline const ShownMessage NothingInRange{QStringLiteral("当前日期范围内不存在记录"), 64, QStringLiteral("查询提示")};
+
+} // namespace qinghe::testing
