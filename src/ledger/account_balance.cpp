@@ -1,6 +1,9 @@
 #include "ledger/account_balance.h"
 
 #include "runtime/number_text.h"
+#include "runtime/runtime_error.h"
+
+#include <cmath>
 
 namespace qinghe {
 
@@ -27,9 +30,13 @@ int direction(AccountColumn column) {
 std::optional<QString> balanceAfterLeaving(AccountColumn column, const QString& text, const QString& balance) {
     if (column == AccountColumn::Start)
         return text;
-    if (const int sign = direction(column))
-        return spacedNumberText(leadingNumber(balance) + sign * leadingNumber(text));
-    return std::nullopt;
+    const int sign = direction(column);
+    if (sign == 0)
+        return std::nullopt;
+    const double result = leadingNumber(balance) + sign * leadingNumber(text);
+    if (!std::isfinite(result))
+        throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：账户的余额太大。"));
+    return spacedNumberText(result);
 }
 
 } // namespace qinghe

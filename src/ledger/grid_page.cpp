@@ -254,13 +254,10 @@ void GridPage::saveRows() {
     if (traits.refreshWhenEmptied)
         Adodc1.refresh();
     Int16 counter;
-    bool filledRowMet = traits.savedRows == SavedRows::Every;
-    for (int row = 1; row < grid->Rows(); ++row) {
+    for (int row = 1; row < grid->Rows(); ++row) { // none is blank: that would have been a gap
         if (traits.saveMovesRow)
             grid->setRow(row);
-        filledRowMet = filledRowMet || !isBlank(row);
-        if (filledRowMet)
-            writeRow(Adodc1.recordset(), row, counter);
+        writeRow(Adodc1.recordset(), row, counter);
     }
     bench.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
     hideEditor();

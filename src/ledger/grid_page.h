@@ -41,7 +41,6 @@ public:
     enum class AddTests { LastRow, CurrentRow };
     enum class AddedBox { TakesCell, KeepsText };
     enum class LastRow { BlankedBelowThreeRows, BlankedWhenFirst };
-    enum class SavedRows { FromFirstFilled, Every };
     /// What a save does about the table before it reads the grid.
     enum class SaveSource {
         InHand,   ///< nothing: it works on what the page last loaded
@@ -65,7 +64,6 @@ public:
         AddTests addTests = AddTests::LastRow;
         AddedBox addedBox = AddedBox::TakesCell;
         LastRow lastRow = LastRow::BlankedBelowThreeRows;
-        SavedRows savedRows = SavedRows::FromFirstFilled;
         SaveSource saveSource = SaveSource::InHand;
         bool saveMovesRow = true; ///< a refused save leaves Row on the failing row
         bool refreshWhenEmptied = false;

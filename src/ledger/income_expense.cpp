@@ -2,6 +2,10 @@
 
 #include "core/hover.h"
 #include "runtime/number_format.h"
+#include "runtime/runtime_error.h"
+
+#include <cmath>
+#include <limits>
 
 namespace qinghe {
 
@@ -36,6 +40,12 @@ const GridPage::Traits IncomeExpense{
     .shownAsAmounts = {5, 5},
     .saveSource = GridPage::SaveSource::Reloaded,
 };
+
+float single(double total) {
+    if (!(std::abs(total) <= std::numeric_limits<float>::max()))
+        throw RuntimeError(RuntimeError::Overflow, u"溢出：收支总额太大，超过了 3.4E+38。"_s);
+    return static_cast<float>(total);
+}
 
 } // namespace
 
@@ -154,7 +164,7 @@ void IncomeExpensePage::showTotal() {
         return;
     }
     const double total = field.value().number();
-    this->*side().total = static_cast<float>(total);
+    this->*side().total = single(total);
     Label10->setCaption(caption + formatNumber(total, u"##.00"_s) + u"元 "_s);
 }
 

@@ -39,7 +39,6 @@ const GridPage::Traits Loans{
     .closedColumn = 5,
     .addedBox = GridPage::AddedBox::KeepsText,
     .lastRow = GridPage::LastRow::BlankedWhenFirst,
-    .savedRows = GridPage::SavedRows::Every,
     .saveMovesRow = false,
     .refreshWhenEmptied = true,
 };

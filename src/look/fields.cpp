@@ -58,7 +58,8 @@ void paintBox(const QStyleOption& option, QPainter& painter) {
 } // namespace
 
 CellMargins cellMargins(const MSFlexGrid& grid, int col) {
-    if (grid.ColWidth(col) < NarrowTwips)
+    // A grid that has lost columns may be painted once more with them, before its view hears of it.
+    if (col < grid.Cols() && grid.ColWidth(col) < NarrowTwips)
         return {2, 4 - RightSlack, type::Small};
     return {4, (grid.isAmountColumn(col) ? 10 : 4) - RightSlack, type::Body};
 }

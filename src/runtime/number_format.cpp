@@ -1,5 +1,7 @@
 #include "runtime/number_format.h"
 
+#include "runtime/runtime_error.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -95,6 +97,8 @@ QByteArray trimmedTo(QByteArray fraction, qsizetype least) {
 } // namespace
 
 QString formatNumber(double value, const QString& pattern) {
+    if (!std::isfinite(value))
+        throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：数字太大，无法显示。"));
     const Pattern form = parsed(pattern);
     const Decimal number = rounded(decimalOf(std::abs(value)), form.mostFraction);
     QByteArray text = value < 0 && !number.isZero() ? "-" : "";

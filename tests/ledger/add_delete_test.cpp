@@ -13,10 +13,6 @@ class AddDeleteTest : public IncomeTest {
 protected:
     QStringList stored() { return rig.sql(u"select 编号 || '-' || 区别 from srb order by rowid"_s); }
     void select(int row) { clickCell(row, 1); }
-    void press(CommandButton& button) {
-        rig.click(button);
-        rig.settle();
-    }
 };
 
 TEST_F(AddDeleteTest, AddAppendsABlankRowAndMakesItTheCurrentOne) {
@@ -132,7 +128,7 @@ TEST_F(AddDeleteTest, DeleteTakesTheRecordRightAfterTheOpening) {
 
 TEST_F(AddDeleteTest, DeleteOnTheExpenseSideLeavesIncomeAlone) {
     store(2);
-    store(2, u"zcb"_s);
+    store(Expense, 2);
     open(1);
     select(1);
     press(remove());

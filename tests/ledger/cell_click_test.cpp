@@ -12,14 +12,6 @@ using namespace Qt::StringLiterals;
 class CellClickTest : public IncomeTest {
 protected:
     CellClickTest() { openWith(3); }
-
-    /// A tool hangs under the editor, at its left edge.
-    void expectUnderEditor(const QString& tool) {
-        const Form& form = *rig.loaded(tool);
-        EXPECT_DOUBLE_EQ(form.Left(), rig.frame(u"Frame2"_s).Left() + tx2().Left() + rig.mainWindow().Left());
-        EXPECT_DOUBLE_EQ(form.Top(),
-                         rig.frame(u"Frame2"_s).Top() + tx2().Top() + tx2().Height() + rig.mainWindow().Top());
-    }
 };
 
 TEST_F(CellClickTest, LaysTheEditorExactlyOverTheCellAndCopiesItsText) {
@@ -51,8 +43,7 @@ TEST_F(CellClickTest, GivesTheEditorTheKeyboard) {
 
 TEST_F(CellClickTest, LosesTextThatEnterDidNotConfirm) {
     clickCell(1, 3);
-    tx2().selectAll();
-    rig.type(tx2(), u"未确认"_s);
+    write(u"未确认"_s);
     EXPECT_EQ(tx2().Text(), u"未确认");
     clickCell(1, 4);
     EXPECT_EQ(tx2().Text(), u"人1");
@@ -127,7 +118,7 @@ TEST_F(CellClickTest, MovesAnOpenToolUnderTheNextCellOfItsColumn) {
 
 TEST_F(CellClickTest, DoesNothingWhileTheGridShowsStatistics) {
     for (const QString& view : {u"Option8"_s, u"Option9"_s}) {
-        rig.onMain<OptionButton>(view).setValue(true);
+        choose(view);
         ms2().setUsable(true);
         clickCell(1, 1);
         EXPECT_FALSE(tx2().Visible());

@@ -15,14 +15,7 @@ protected:
 
     void writeInto(int row, int col, const QString& text) {
         clickCell(row, col);
-        tx2().selectAll();
-        rig.type(tx2(), text);
-    }
-    /// The bare ground of the main window, in its upper left corner.
-    void clickForm() { QTest::mouseClick(&rig.mainWindow(), Qt::LeftButton, {}, QPoint(30, 3)); }
-    void clickFrame() {
-        Frame& frame = rig.frame(u"Frame2"_s);
-        QTest::mouseClick(&frame, Qt::LeftButton, {}, QPoint(frame.width() / 2, frame.height() - 3));
+        write(text);
     }
 };
 

@@ -34,8 +34,7 @@ TEST_F(EditorKeysTest, LeaveThePickerOpenOnEsc) {
 
 TEST_F(EditorKeysTest, WriteBackAndMoveToTheNextColumnOnEnter) {
     clickCell(1, 3);
-    tx2().selectAll();
-    rig.type(tx2(), u"稿费"_s);
+    write(u"稿费"_s);
     enter();
     EXPECT_EQ(ms2().TextMatrix(1, 3), u"稿费");
     EXPECT_EQ(current(), u"1,4");
@@ -64,8 +63,7 @@ TEST_F(EditorKeysTest, OpenThePickerWhenEnterReachesTheDate) {
 
 TEST_F(EditorKeysTest, CloseThePickerWhenEnterLeavesTheDate) {
     clickCell(1, 2);
-    tx2().selectAll();
-    rig.type(tx2(), u"2024-7-8"_s);
+    write(u"2024-7-8"_s);
     enter();
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-7-8");
     EXPECT_EQ(tools(), u"none");
@@ -96,8 +94,7 @@ TEST_F(EditorKeysTest, EnableTheEditorAndCloseTheCalculatorWhenEnterLeavesTheAmo
 
 TEST_F(EditorKeysTest, MoveFromTheLastColumnToTheFirstOfTheNextRow) {
     clickCell(1, 7);
-    tx2().selectAll();
-    rig.type(tx2(), u"新备注"_s);
+    write(u"新备注"_s);
     enter();
     EXPECT_EQ(ms2().TextMatrix(1, 7), u"新备注");
     EXPECT_EQ(current(), u"2,1");
@@ -110,8 +107,7 @@ TEST_F(EditorKeysTest, MoveFromTheLastColumnToTheFirstOfTheNextRow) {
 
 TEST_F(EditorKeysTest, CloseInTheLastCellAndStayThere) {
     clickCell(2, 7);
-    tx2().selectAll();
-    rig.type(tx2(), u"末"_s);
+    write(u"末"_s);
     enter();
     EXPECT_EQ(ms2().TextMatrix(2, 7), u"末");
     EXPECT_FALSE(tx2().Visible());

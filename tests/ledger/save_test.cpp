@@ -9,13 +9,6 @@ using namespace Qt::StringLiterals;
 
 class SaveTest : public IncomeTest {
 protected:
-    QStringList stored(const QString& table = u"srb"_s) {
-        return rig.sql(u"select * from %1 order by rowid"_s.arg(table));
-    }
-    void press(CommandButton& button) {
-        rig.click(button);
-        rig.settle();
-    }
     /// What a household types on its first evening.
     void fillFirstRow() { fillRow(1, {u"001"_s, u"2024-6-18"_s, u"工资"_s, u"我"_s, u"8000.5"_s, u"现金"_s, u""_s}); }
 };
@@ -41,7 +34,7 @@ TEST_F(SaveTest, StoresTheExpenseSideInItsOwnTable) {
     open(1);
     fillFirstRow();
     press(save());
-    EXPECT_EQ(stored(u"zcb"_s), QStringList{u"001|2024-06-18|工资|我|8000.5|现金|NULL|1"_s});
+    EXPECT_EQ(stored(Expense), QStringList{u"001|2024-06-18|工资|我|8000.5|现金|NULL|1"_s});
     EXPECT_EQ(stored().size(), 1);
     EXPECT_EQ(adodc1().recordSource(), u"zcb");
 }
@@ -58,8 +51,7 @@ TEST_F(SaveTest, HidesTheEditorAndClosesTheTools) {
 TEST_F(SaveTest, LeavesOutWhatStandsUnconfirmedInTheEditor) {
     openWith(1);
     clickCell(1, 3);
-    tx2().selectAll();
-    rig.type(tx2(), u"未确认"_s);
+    write(u"未确认"_s);
     press(save());
     EXPECT_EQ(rig.sql(u"select 项目 from srb"_s), QStringList{u"项目1"_s});
 }
@@ -127,8 +119,7 @@ TEST_F(SaveTest, ChangesNothingWhenItIsDoneTwice) {
 TEST_F(SaveTest, LeavesTheTotalOfTheOpening) {
     openWith(2);
     clickCell(1, 5);
-    rig.type(*rig.loaded(u"Form9"_s), u"100"_s);
-    rig.press(*rig.loaded(u"Form9"_s), Qt::Key_Return);
+    calculate(u"100"_s);
     press(save());
     EXPECT_EQ(rig.sql(u"select 金额 from srb order by rowid"_s), (QStringList{u"100"_s, u"2.5"_s}));
     EXPECT_EQ(total(), u"当前收入总额为：4.00元 ");
@@ -152,10 +143,10 @@ TEST_F(SaveTest, HasCommittedWhenItSaysSo) {
 
 TEST_F(SaveTest, MovesNoAccount) {
     rig.sql(u"insert into zhb values('账户1',100,0,0,0,0,0,0,100,'',1)"_s);
-    const QStringList before = stored(u"zhb"_s);
+    const QStringList before = stored(Accounts);
     openWith(1);
     press(save());
-    EXPECT_EQ(stored(u"zhb"_s), before);
+    EXPECT_EQ(stored(Accounts), before);
 }
 
 TEST_F(SaveTest, TakesDatesAndNumbersAsPeopleWriteThem) {

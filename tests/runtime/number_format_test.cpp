@@ -1,7 +1,9 @@
 #include "qt_printing.h"
 #include "runtime/number_format.h"
+#include "runtime/runtime_error.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace qinghe {
 namespace {
@@ -52,6 +54,11 @@ TEST(FormatNumber, FillsLargeNumbersWithZerosBehindFifteenDigits) {
         {1234567890123456, u"1234567890123460.00"},
     };
     expectFormatted(table, u"##.00"_qs);
+}
+
+TEST(FormatNumber, WritesAVeryLargeNumberOutAndRefusesWhatIsBeyondAll) {
+    EXPECT_EQ(formatNumber(1e300, u"##.00"_qs), u'1' + QString(300, u'0') + u".00"_qs);
+    EXPECT_THROW(formatNumber(std::numeric_limits<double>::infinity(), u"##.00"_qs), RuntimeError);
 }
 
 TEST(FormatNumber, KeepsTheTextBehindThePattern) {

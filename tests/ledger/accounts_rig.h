@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ledger/page_rig.h"
+
+namespace qinghe::testing {
+
+/// The page of savings accounts.
+class AccountsTest : public PageTest {
+protected:
+    AccountsTest() : PageTest(Accounts) {}
+
+    /// Stores one account: its name, eight amounts as SQL writes them (starting amount to balance), no remark.
+    void storeAccount(const QString& amounts, const QString& name = QStringLiteral("户")) {
+        rig.sql(QStringLiteral("insert into zhb values('%1',%2,'',1)").arg(name, amounts));
+    }
+    QString balance(int row = 1) { return grid().TextMatrix(row, 9); }
+};
+
+} // namespace qinghe::testing

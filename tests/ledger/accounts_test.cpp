@@ -1,0 +1,181 @@
+#include "ledger/accounts_rig.h"
+#include "runtime/runtime_error.h"
+
+#include <QApplication>
+
+// The page of savings accounts: its opening, its cells, its buttons.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST_F(AccountsTest, OpensWithItsCaptionsAndWidths) {
+    openWith(1);
+    EXPECT_EQ(row(0), u"账户名称|起始金额|收入|支出|借入|借出|转入|转出|余额|备注信息");
+    EXPECT_EQ(grid().Cols(), 11);
+    EXPECT_EQ(grid().ColWidth(0), 300);
+    EXPECT_EQ(grid().ColWidth(1), 1377);
+    for (int col = 2; col <= 9; ++col)
+        EXPECT_EQ(grid().ColWidth(col), 847);
+    EXPECT_EQ(grid().ColWidth(10), 2754);
+    EXPECT_EQ(grid().Left(), 120);
+    EXPECT_EQ(grid().Top(), 840);
+    EXPECT_EQ(grid().Width(), 11415);
+    EXPECT_EQ(grid().Height(), 4815);
+}
+
+TEST_F(AccountsTest, BringsItsFrameForwardAndMarksItsLabel) {
+    open();
+    EXPECT_TRUE(frame().isVisible());
+    EXPECT_EQ(frame().Caption(), u"账户");
+    EXPECT_EQ(frame().Left(), 120);
+    EXPECT_EQ(frame().Top(), 1680);
+    EXPECT_EQ(frame().Width(), 11655);
+    EXPECT_EQ(frame().Height(), 6255);
+    EXPECT_EQ(rig.mainWindow().navigation().currentPage, 6);
+    EXPECT_EQ(rig.onMain<Label>(u"Label6"_s).ForeColor(), 255u);
+    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), 0u);
+    EXPECT_EQ(adodc1().recordSource(), u"zhb");
+    EXPECT_TRUE(adodc1().connectionString().endsWith("data.dll"_L1)); // and no blank
+}
+
+TEST_F(AccountsTest, KeepsTheOldFirstRowOverAnEmptyTableWithoutAMessage) {
+    openWith(2);
+    rig.sql(u"delete from zhb"_s);
+    open();
+    EXPECT_EQ(rows(), QStringList{u"户1|100|10|20|30|40|50|60|71|备1"_s});
+    EXPECT_TRUE(rig.messages->shown.empty());
+}
+
+TEST_F(AccountsTest, WritesAnEmptyTextToTheRowNumberOfTheLoanList) {
+    store(Lent, 3);
+    open(Lent);
+    rig.clickCell(rig.onMain<MSFlexGrid>(u"ms1"_s), 1, 1);
+    store(2);
+    storeAccount(u"1,2,3,4,5,6,7,8"_s, u""_s);
+    open();
+    EXPECT_EQ(rows(), (QStringList{u"|100|10|20|30|40|50|60|71|"_s, u"户2|100|10|20|30|40|50|60|72|备2"_s,
+                                   u"|1|2|3|4|5|6|7|8|"_s})); // the first row lost name and remark
+}
+
+TEST_F(AccountsTest, StopsWhenTheRowNumberOfTheLoanListIsBeyondItsOwn) {
+    store(Lent, 3);
+    open(Lent); // which leaves the last row current
+    storeAccount(u"1,2,3,4,5,6,7,8"_s);
+    open();
+    expectStopped(RuntimeError::SubscriptOutOfRange);
+}
+
+TEST_F(AccountsTest, SkipsNullFieldsInTheFill) {
+    rig.sql(u"insert into zhb(账户名称,余额) values('户',5)"_s);
+    open();
+    EXPECT_EQ(rows(), QStringList{u"户||||||||5|"_s});
+}
+
+TEST_F(AccountsTest, OpensTheCalculatorByAClickOnEveryNumberButTheBalance) {
+    openWith(1);
+    for (int col = 1; col <= 10; ++col) {
+        clickCell(1, col);
+        const bool number = col >= 2 && col <= 8;
+        EXPECT_EQ(tools(), number ? u"Form9"_s : u"none"_s) << col;
+        EXPECT_EQ(box().isEnabled(), !number) << col;
+        if (number)
+            expectUnderEditor(u"Form9"_s);
+        EXPECT_EQ(box().Text(), grid().TextMatrix(1, col));
+    }
+    EXPECT_EQ(bench().calcTarget, 3);
+}
+
+TEST_F(AccountsTest, TakesOneKeyInTheBalanceAndIsClosedThen) {
+    openWith(1);
+    clickCell(1, 9);
+    EXPECT_EQ(QApplication::focusWidget(), &box());
+    box().selectAll();
+    rig.type(box(), u"98"_s);
+    EXPECT_EQ(box().Text(), u"9");
+    EXPECT_FALSE(box().isEnabled());
+    clickForm();
+    EXPECT_EQ(balance(), u"9");
+    clickCell(1, 10);
+    EXPECT_TRUE(box().isEnabled());
+}
+
+TEST_F(AccountsTest, ActsByTheColumnOnAClickInTheBox) {
+    openWith(1);
+    clickCell(1, 1);
+    for (const int col : {9, 10, 5}) {
+        box().setUsable(true);
+        grid().setCol(col); // as the arrow keys of the grid do
+        press(box());
+        EXPECT_EQ(box().isEnabled(), col == 10) << col;
+        EXPECT_EQ(tools(), col == 5 ? u"Form9"_s : u"none"_s) << col;
+    }
+}
+
+TEST_F(AccountsTest, LooksAtTheCurrentRowBeforeItAddsOne) {
+    openWith(2);
+    press(add());
+    clickCell(1, 1);
+    press(add()); // the current row is filled, so a second blank one is added
+    EXPECT_TRUE(rig.messages->shown.empty());
+    EXPECT_EQ(grid().Rows(), 5);
+    press(add());
+    EXPECT_EQ(rig.messages->shown, std::vector{AddRefused});
+    EXPECT_EQ(grid().Rows(), 5);
+}
+
+TEST_F(AccountsTest, GoesToTheLastRowWithAnEmptyBoxWhenABlankOneAboveRefusesTheAdd) {
+    openWith(3);
+    for (int col = 1; col <= 10; ++col)
+        grid().setTextMatrix(1, col, {});
+    clickCell(1, 1);
+    press(add());
+    EXPECT_EQ(rig.messages->shown, std::vector{AddRefused});
+    EXPECT_EQ(current(), u"3,1");
+    EXPECT_EQ(box().Text(), u"");
+    EXPECT_FALSE(box().Visible());
+    expectEditorOver(3, 1);
+}
+
+TEST_F(AccountsTest, CommitsTheBoxBeforeItLooksAtTheRow) {
+    open();
+    clickCell(1, 1);
+    write(u"工资卡"_s);
+    press(add());
+    EXPECT_TRUE(rig.messages->shown.empty());
+    EXPECT_EQ(rows(), (QStringList{u"工资卡|||||||||"_s, blankRow()}));
+}
+
+TEST_F(AccountsTest, RefusesASaveWithoutABalance) {
+    openWith(2);
+    grid().setTextMatrix(2, 9, {});
+    press(save());
+    EXPECT_EQ(rig.messages->shown, std::vector{SaveRefused});
+    EXPECT_EQ(grid().Row(), 2);
+    grid().setTextMatrix(2, 9, u"0"_s);
+    grid().setTextMatrix(2, 10, {});
+    press(save());
+    EXPECT_EQ(rig.lastMessage(), SaveDone);
+}
+
+TEST_F(AccountsTest, NamesItsTableForTheSaveAndYetKeepsTheSetInHand) {
+    openWith(2);
+    adodc1().setRecordSource(u"ysb"_s);
+    rig.sql(u"insert into zhb(账户名称, 区别) values('外', 9)"_s); // came in behind the page's back
+    press(save());
+    EXPECT_EQ(adodc1().recordSource(), u"zhb");
+    EXPECT_EQ(stored(u"账户名称"_s), (QStringList{u"外"_s, u"户1"_s, u"户2"_s}));
+}
+
+TEST_F(AccountsTest, StoresABalanceAsItStandsAndNeverWorksItOut) {
+    openWith(1);
+    grid().setTextMatrix(1, 9, u" 12345.5"_s);
+    press(save());
+    EXPECT_EQ(stored(u"余额"_s), QStringList{u"12345.5"_s});
+    restart();
+    EXPECT_EQ(balance(), u"12345.5");
+}
+
+} // namespace
+} // namespace qinghe::testing

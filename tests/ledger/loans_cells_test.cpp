@@ -1,0 +1,147 @@
+#include "ledger/loans_rig.h"
+
+#include <QApplication>
+
+// The columns of a loan: amounts that are keyed by moving along with Enter, a balance that is closed to keys, a date.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class LoansCellsTest : public LoansTest {
+protected:
+    LoansCellsTest() { openWith(3); }
+};
+
+TEST_F(LoansCellsTest, OpenTheCalculatorByAClickOnEitherAmount) {
+    for (const int col : {3, 4}) {
+        clickCell(1, 1);
+        clickCell(1, col);
+        EXPECT_EQ(tools(), u"Form9");
+        expectUnderEditor(u"Form9"_s);
+        EXPECT_EQ(bench().calcTarget, 2);
+        EXPECT_FALSE(box().isEnabled());
+        calculate(u"7"_s);
+        EXPECT_EQ(grid().TextMatrix(1, col), u"7");
+    }
+}
+
+TEST_F(LoansCellsTest, TakeAmountsFromTheKeyboardAfterEnter) {
+    clickCell(1, 2);
+    enter();
+    EXPECT_EQ(tools(), u"none");
+    EXPECT_TRUE(box().isEnabled());
+    write(u"200"_s);
+    enter();
+    EXPECT_EQ(tools(), u"none");
+    write(u"五十"_s); // any text is taken
+    enter();
+    EXPECT_EQ(row(1), u"户1|2024-5-1|200|五十|90|甲|乙|备1");
+    EXPECT_EQ(current(), u"1,5");
+}
+
+TEST_F(LoansCellsTest, OpenThePickerByEnterAndByClick) {
+    clickCell(1, 1);
+    enter();
+    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(bench().dateTarget, 4);
+    expectUnderEditor(u"Form1"_s);
+    enter();
+    EXPECT_EQ(tools(), u"none");
+    clickCell(2, 2);
+    rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(6)"_s));
+    EXPECT_EQ(grid().TextMatrix(2, 2), u"2024-6-1");
+    EXPECT_EQ(box().Text(), u"2024-6-1");
+}
+
+TEST_F(LoansCellsTest, BringTheToolsBackByAClickInTheBox) {
+    clickCell(1, 2);
+    rig.loaded(u"Form1"_s)->close();
+    press(box());
+    EXPECT_EQ(tools(), u"Form1");
+    clickCell(1, 1);
+    for (const int col : {3, 4}) {
+        box().setUsable(true);
+        grid().setCol(col); // as the arrow keys of the grid do
+        press(box());
+        EXPECT_EQ(tools(), u"Form9");
+        EXPECT_FALSE(box().isEnabled());
+    }
+}
+
+TEST_F(LoansCellsTest, CloseTheBoxWhenEnterReachesTheBalance) {
+    clickCell(1, 2);
+    enter();
+    enter();
+    EXPECT_TRUE(box().isEnabled());
+    enter();
+    EXPECT_EQ(current(), u"1,5");
+    EXPECT_EQ(box().Text(), u"90");
+    EXPECT_FALSE(box().isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), &grid());
+}
+
+TEST_F(LoansCellsTest, TakeOneKeyInTheBalanceAfterAClickWhichTheFormCommits) {
+    clickCell(1, 5);
+    EXPECT_TRUE(box().isEnabled());
+    EXPECT_EQ(tools(), u"none");
+    box().selectAll();
+    rig.type(box(), u"12"_s);
+    EXPECT_FALSE(box().isEnabled());
+    EXPECT_EQ(box().Text(), u"1");
+    EXPECT_EQ(grid().TextMatrix(1, 5), u"90");
+    clickForm();
+    EXPECT_EQ(grid().TextMatrix(1, 5), u"1");
+}
+
+TEST_F(LoansCellsTest, CloseTheBalanceByAClickInTheBox) {
+    clickCell(1, 5);
+    press(box());
+    EXPECT_FALSE(box().isEnabled());
+    clickCell(1, 6);
+    EXPECT_TRUE(box().isEnabled());
+    press(box());
+    EXPECT_TRUE(box().isEnabled());
+}
+
+TEST_F(LoansCellsTest, OpenTheBoxAgainByEnterBehindTheBalance) {
+    clickCell(1, 5);
+    enter();
+    EXPECT_EQ(current(), u"1,6");
+    EXPECT_TRUE(box().isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), &box());
+}
+
+TEST_F(LoansCellsTest, OpenTheBoxWhenTheCalculatorHandsBackAnEqualAmount) {
+    clickCell(1, 3);
+    calculate(u"100"_s);
+    EXPECT_EQ(grid().TextMatrix(1, 3), u"100");
+    EXPECT_TRUE(box().isEnabled());
+    EXPECT_EQ(rig.mainWindow().focusWidget(), &box());
+    enter();
+    EXPECT_EQ(current(), u"1,4");
+}
+
+TEST_F(LoansCellsTest, WorkNothingOutBetweenTheAmounts) {
+    clickCell(1, 3);
+    calculate(u"500"_s);
+    enter();
+    write(u"20"_s);
+    enter();
+    EXPECT_EQ(grid().TextMatrix(1, 5), u"90");
+}
+
+TEST_F(LoansCellsTest, KeepTheTextOfTheBoxWhenARowIsAdded) {
+    clickCell(1, 6);
+    write(u"丙"_s);
+    press(add());
+    EXPECT_EQ(box().Text(), u"丙");
+    EXPECT_FALSE(box().Visible());
+    EXPECT_EQ(current(), u"4,6");
+    EXPECT_EQ(row(4), blankRow());
+    EXPECT_EQ(grid().TextMatrix(1, 6), u"甲");
+}
+
+} // namespace
+} // namespace qinghe::testing

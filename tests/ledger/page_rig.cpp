@@ -1,0 +1,96 @@
+#include "ledger/page_rig.h"
+
+namespace qinghe::testing {
+
+using namespace Qt::StringLiterals;
+
+void PageTest::store(const LedgerList& other, int count) {
+    rig.sql(u"with recursive n(n) as (select 1 union all select n + 1 from n where n < %1) "
+            "insert into %2 select %3 from n"_s.arg(count)
+                .arg(QString::fromUtf16(other.table), QString::fromUtf16(other.values)));
+}
+
+void PageTest::open(const LedgerList& other) {
+    press(rig.onMain<Label>(QString::fromUtf16(other.label)));
+    if (*other.option)
+        choose(QString::fromUtf16(other.option));
+}
+
+void PageTest::openWith(int count) {
+    store(count);
+    open();
+}
+
+void PageTest::restart() {
+    rig.stop();
+    rig.signIn();
+    open();
+}
+
+QStringList PageTest::stored(const LedgerList& other, const QString& columns) {
+    return rig.sql(u"select %1 from %2 order by rowid"_s.arg(columns, QString::fromUtf16(other.table)));
+}
+
+void PageTest::press(QWidget& control) {
+    rig.click(control);
+    rig.settle();
+}
+
+void PageTest::write(const QString& text) {
+    box().selectAll();
+    rig.type(box(), text);
+}
+
+void PageTest::fillCell(int row, int col, const QString& text) {
+    clickCell(row, col);
+    write(text);
+    enter();
+}
+
+void PageTest::calculate(const QString& keys) {
+    Form& calculator = *rig.loaded(u"Form9"_s);
+    rig.type(calculator, keys);
+    rig.press(calculator, Qt::Key_Return);
+    rig.settle();
+}
+
+void PageTest::clickFrame() {
+    QTest::mouseClick(&frame(), Qt::LeftButton, {}, QPoint(frame().width() / 2, frame().height() - 3));
+}
+
+QStringList PageTest::rows() {
+    QStringList texts;
+    for (int number = 1; number < grid().Rows(); ++number)
+        texts << row(number);
+    return texts;
+}
+
+QString PageTest::tools() {
+    QStringList open;
+    for (const QString& name : {u"Form1"_s, u"Form9"_s})
+        if (Form* form = rig.loaded(name); form && form->isVisible())
+            open << name;
+    return open.isEmpty() ? u"none"_s : open.join('+'_L1);
+}
+
+void PageTest::expectEditorOver(int row, int col) {
+    EXPECT_DOUBLE_EQ(box().Left(), grid().Left() + grid().ColPos(col));
+    EXPECT_DOUBLE_EQ(box().Top(), grid().Top() + grid().RowPos(row));
+    EXPECT_DOUBLE_EQ(box().Width(), grid().ColWidth(col));
+    EXPECT_DOUBLE_EQ(box().Height(), 300);
+    EXPECT_EQ(box().geometry(), grid().cellRect(row, col).translated(grid().pos()));
+}
+
+void PageTest::expectUnderEditor(const QString& tool) {
+    const Form& form = *rig.loaded(tool);
+    EXPECT_DOUBLE_EQ(form.Left(), frame().Left() + box().Left() + rig.mainWindow().Left());
+    EXPECT_DOUBLE_EQ(form.Top(), frame().Top() + box().Top() + box().Height() + rig.mainWindow().Top());
+}
+
+void PageTest::expectStopped(int error) {
+    ASSERT_EQ(rig.messages->errors.size(), 1u);
+    EXPECT_EQ(rig.messages->errors.front().first, error) << rig.messages->errors.front().second.toStdString();
+    EXPECT_EQ(rig.exitCode(), 1);
+}
+
+} // namespace qinghe::testing

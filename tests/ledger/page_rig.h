@@ -1,0 +1,93 @@
+#pragma once
+
+#include "ledger/ledger_lists.h"
+#include "qt_printing.h"
+#include "support/program_rig.h"
+
+#include <gtest/gtest.h>
+
+namespace qinghe::testing {
+
+/// A program in whose main window one list of the ledger can be opened and worked on, as a user does.
+class PageTest : public ::testing::Test {
+protected:
+    explicit PageTest(const LedgerList& worked) : list(worked) { rig.signIn(); }
+
+    /// Stores rows beforehand, 1 to `count`, by the list's own values.
+    void store(int count) { store(list, count); }
+    void store(const LedgerList& other, int count);
+    void open() { open(list); }
+    void open(const LedgerList& other);
+    void openWith(int count);
+    /// Ends the program and starts it anew on the same file, with the list on view.
+    void restart();
+    /// The list's table as it is in the file.
+    QStringList stored(const QString& columns = QStringLiteral("*")) { return stored(list, columns); }
+    QStringList stored(const LedgerList& other, const QString& columns = QStringLiteral("*"));
+
+    MSFlexGrid& grid() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms%1").arg(list.number)); }
+    TextBox& box() { return rig.onMain<TextBox>(QStringLiteral("tx%1").arg(list.number)); }
+    Frame& frame() { return rig.frame(QString::fromUtf16(list.frame)); }
+    CommandButton& add() { return button(0); }
+    CommandButton& remove() { return button(1); }
+    CommandButton& save() { return button(2); }
+    OptionButton& option(const QString& name) { return rig.onMain<OptionButton>(name); }
+    Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
+    Workbench& bench() { return rig.program->bench(); }
+
+    void press(QWidget& control);
+    void choose(const QString& name) { press(option(name)); }
+    void clickCell(int row, int col) { rig.clickCell(grid(), row, col); }
+    /// Writes into the open editor over what stands there.
+    void write(const QString& text);
+    /// Puts a text into a cell by click, typing and Enter. Not for columns that take no keys.
+    void fillCell(int row, int col, const QString& text);
+    /// Types into the open calculator and confirms.
+    void calculate(const QString& keys);
+    void enter() { rig.press(box(), Qt::Key_Return); }
+    void escape() { rig.press(box(), Qt::Key_Escape); }
+    /// The bare ground of the main window, in its upper left corner.
+    void clickForm() { QTest::mouseClick(&rig.mainWindow(), Qt::LeftButton, {}, QPoint(30, 3)); }
+    void clickFrame();
+
+    QStringList rows();
+    QString row(int number) { return ProgramRig::rowText(grid(), number); }
+    QString blankRow() { return QString(grid().Cols() - 2, u'|'); }
+    int lastColumn() { return grid().Cols() - 1; }
+    QString current() { return QStringLiteral("%1,%2").arg(grid().Row()).arg(grid().Col()); }
+    /// Which of the two tools are open: "Form1", "Form9", both or none.
+    QString tools();
+
+    /// The editor lies exactly over a cell, in twips and in pixels.
+    void expectEditorOver(int row, int col);
+    /// A tool hangs under the editor, at its left edge.
+    void expectUnderEditor(const QString& tool);
+    /// The program has ended with this run-time error.
+    void expectStopped(int error);
+
+    const LedgerList& list;
+    ProgramRig rig;
+
+private:
+    CommandButton& button(int place) {
+        return rig.onMain<CommandButton>(QStringLiteral("Command%1").arg(list.firstButton + place));
+    }
+};
+
+/// The same for each list in turn.
+class EveryListTest : public PageTest, public ::testing::WithParamInterface<LedgerList> {
+protected:
+    EveryListTest() : PageTest(GetParam()) {}
+};
+
+inline std::string listName(const ::testing::TestParamInfo<LedgerList>& info) {
+    return info.param.name;
+}
+
+inline const ShownMessage AddRefused{QStringLiteral("当前有一条空记录"), 64, QStringLiteral("温馨提示")};
+inline const ShownMessage DeleteAsked{QStringLiteral("是否需要删除?"), 65, QStringLiteral("温馨提示")};
+inline const ShownMessage SaveRefused{QStringLiteral("为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"), 64,
+                                      QStringLiteral("输入提示")};
+inline const ShownMessage SaveDone{QStringLiteral("保存成功"), 64, QStringLiteral("保存提示")};
+
+} // namespace qinghe::testing
