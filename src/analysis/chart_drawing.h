@@ -2,30 +2,34 @@
 
 #include "analysis/chart_layout.h"
 
+#include <QFont>
+
 #include <memory>
 
 class QPaintDevice;
 
 namespace qinghe {
 
-/// Paints a chart that has been laid out, by means of the plotting library: columns, axis, lines and words. What is not
-/// in view costs nothing. One drawing serves one matrix at a time.
-class ChartDrawing {
-public:
-    ChartDrawing();
-    ~ChartDrawing();
-
-    void setMatrix(const ChartMatrix& matrix);
-    /// Paints on a transparent ground. The layout must be of the matrix set.
-    void paint(QPaintDevice& device, const ChartLayout& layout, const QSize& size, double scroll);
-
-private:
-    class Plot;
-    std::unique_ptr<Plot> m_plot;
+struct ChartFonts {
+    QFont value; ///< of the values and of the axis
+    QFont label;
 };
 
-/// The fonts of a chart's words.
-QFont chartValueFont();
-QFont chartLabelFont(const ChartMatrix& matrix);
+/// Paints a chart that has been laid out: columns, axis, lines and words. What is not in view costs nothing. One
+/// drawing serves one matrix at a time.
+///
+/// The plotting library that stands behind it would cost every start of the program a millisecond. So the drawing is a
+/// module of its own beside the program (src/analysis/plot) and is loaded when a chart is first painted.
+class ChartDrawing {
+public:
+    virtual ~ChartDrawing() = default;
+
+    /// The drawing of the module in a folder; nullptr when it is not there.
+    static std::unique_ptr<ChartDrawing> load(const QString& folder);
+
+    virtual void setMatrix(const ChartMatrix& matrix, const ChartFonts& fonts) = 0;
+    /// Paints on a transparent ground. The layout must be of the matrix set.
+    virtual void paint(QPaintDevice& device, const ChartLayout& layout, const QSize& size, double scroll) = 0;
+};
 
 } // namespace qinghe

@@ -20,8 +20,8 @@ constexpr double LeastAxis = 57, AxisGap = 7;
 constexpr double LeastPitch = 36;
 constexpr double LabelGap = 4;     ///< between two labels side by side
 constexpr double LabelMiddle = 15; ///< from the axis to the middle of the first line
-constexpr double ValueHeight = 14, ValueDistance = 2.5;
-constexpr double UnitMiddle = 10, UnitHeight = 14;
+constexpr double SmallHeight = 14, ValueDistance = 3;
+constexpr double UnitMiddle = 9.5;
 constexpr double LegendWidth = 40;
 constexpr double TooLongForCents = 1e15;
 
@@ -72,7 +72,7 @@ AxisScale ChartLayout::fittingScale() const {
         return scale;
     // The lowest value's text hangs below its column and must not reach the labels.
     const double least = m_size.height() - Top - Foot - LineHeight - StripRoom;
-    if (scale.share(m_lowest) * least < ValueHeight + ValueDistance)
+    if (scale.share(m_lowest) * least < SmallHeight + ValueDistance)
         scale.addLineBelow();
     return scale;
 }
@@ -89,7 +89,7 @@ void ChartLayout::layPitch() {
         return;
     double least = LeastPitch;
     if (writesValues())
-        least = std::max(least, std::ceil(widestValue() + ValueGap));
+        least = std::max(least, widestValue() + ValueGap);
     m_pitch = std::max(least, m_plot.width() / m_matrix.rowCount());
 }
 
@@ -135,13 +135,23 @@ double ChartLayout::lineY(int index) const {
     return y(m_scale.line(index));
 }
 
+const QString& ChartLayout::unit() {
+    static const QString yuan = u"元"_s;
+    return yuan;
+}
+
+QRectF ChartLayout::axisBox(double y, const QString& words) const {
+    const double width = m_rulers.value.width(words);
+    return {m_plot.left() - AxisGap - width, y - SmallHeight / 2, width, SmallHeight};
+}
+
 QRectF ChartLayout::unitBox() const {
-    return {0, UnitMiddle - UnitHeight / 2, m_plot.left() - AxisGap, UnitHeight};
+    return axisBox(UnitMiddle, unit());
 }
 
 QRectF ChartLayout::legendBox(int column) const {
     const double left = m_plot.right() - (m_matrix.columnCount() - column) * LegendWidth;
-    return {left, UnitMiddle - UnitHeight / 2, LegendWidth, UnitHeight};
+    return {left, UnitMiddle - SmallHeight / 2, LegendWidth, SmallHeight};
 }
 
 ChartLayout::Rows ChartLayout::rowsInView(double scroll) const {
@@ -171,8 +181,8 @@ QRectF ChartLayout::valueBox(int row, double scroll) const {
     const double width = m_rulers.value.width(valueText(row));
     const double left = middle(row, scroll) - width / 2;
     if (value(row) < 0)
-        return {left, y(value(row)) + ValueDistance, width, ValueHeight};
-    return {left, y(value(row)) - ValueDistance - ValueHeight, width, ValueHeight};
+        return {left, y(value(row)) + ValueDistance, width, SmallHeight};
+    return {left, y(value(row)) - ValueDistance - SmallHeight, width, SmallHeight};
 }
 
 LabelLines ChartLayout::label(int row) const {

@@ -27,6 +27,7 @@ public:
     static constexpr double ValueGap = 10;      ///< between two values that stand side by side
     static constexpr int StripHeight = 9;
     static constexpr int LineHeight = 16; ///< of labels
+    static const QString& unit();         ///< yuan
 
     const ChartMatrix& matrix() const { return m_matrix; }
     const AxisScale& scale() const { return m_scale; }
@@ -42,6 +43,8 @@ public:
 
     double lineY(int index) const;
     double y(double value) const;
+    /// Of words at the left of the axis, with their middle at this height.
+    QRectF axisBox(double y, const QString& words) const;
     QRectF unitBox() const; ///< of the unit above the axis
     QRectF legendBox(int column) const;
 

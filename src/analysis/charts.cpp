@@ -179,11 +179,13 @@ void ChartsPage::gatherMonths(const MonthChart& chart) {
         Adodc2.open(QString::fromUtf16(chart.workAgain));
     Recordset& months = Adodc2.recordset();
     Recordset& records = Adodc1.recordset();
+    const Field day = records.field(0), amount = records.field(1);
+    Field month = months.field(u"时间"_s), sum = months.field(u"金额"_s), number = months.field(u"区别"_s);
     for (int counter = 1; !records.eof(); records.moveNext(), ++counter) {
         months.addNew();
-        months.field(u"时间"_s).setValue(records.field(0).text().left(MonthLength));
-        months.field(u"金额"_s).setValue(records.field(1).value());
-        months.field(u"区别"_s).setValue(counter);
+        month.setValue(day.text().left(MonthLength));
+        sum.setValue(amount.value());
+        number.setValue(counter);
         months.update();
     }
     Adodc2.refresh();

@@ -2,10 +2,13 @@
 
 #include "analysis/chart_drawing.h"
 #include "analysis/scroll_strip.h"
+#include "look/colours.h"
+#include "look/fonts.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -16,6 +19,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype TipLine = 40, LongestTip = 800; ///< characters
+
+ChartFonts fontsFor(const ChartMatrix& matrix) {
+    QFont label = matrix.columnCount() == 1 ? sans(type::Body) : figureFont();
+    label.setBold(false);
+    return {sans(type::Small), label};
+}
 
 ChartMatrix matrixOf(const QVariantList& data) {
     ChartMatrix matrix;
@@ -64,7 +73,8 @@ QAbstractSlider::SliderAction actionOf(int key) {
 
 } // namespace
 
-MSChart::MSChart(QWidget* parent, const QString& name) : QWidget(parent), Placed(this), m_matrix(sampleMatrix()) {
+MSChart::MSChart(QWidget* parent, const QString& name, const QString& moduleFolder)
+    : QWidget(parent), Placed(this), m_moduleFolder(moduleFolder), m_matrix(sampleMatrix()) {
     setObjectName(name);
     setMouseTracking(true);
     setFont(QFont(u"宋体"_s));
@@ -76,9 +86,9 @@ void MSChart::setChartData(const QVariantList& rows) {
     m_data = rows;
     m_matrix = rows.isEmpty() ? sampleMatrix() : matrixOf(rows);
     m_places.reset();
-    m_labelRuler.reset();
+    m_rulers.reset();
     if (m_drawing)
-        m_drawing->setMatrix(m_matrix);
+        m_drawing->setMatrix(m_matrix, fontsFor(m_matrix));
     if (m_strip)
         m_strip->setValue(0);
     if (isVisible())
@@ -87,12 +97,11 @@ void MSChart::setChartData(const QVariantList& rows) {
 }
 
 const ChartLayout& MSChart::places() {
-    if (!m_valueRuler)
-        m_valueRuler = std::make_unique<FontRuler>(chartValueFont());
-    if (!m_labelRuler)
-        m_labelRuler = std::make_unique<FontRuler>(chartLabelFont(m_matrix));
-    if (!m_places)
-        m_places.emplace(m_matrix, size(), ChartLayout::Rulers{*m_valueRuler, *m_labelRuler});
+    if (!m_places) {
+        const ChartFonts fonts = fontsFor(m_matrix);
+        m_rulers.emplace(FontRuler(fonts.value), FontRuler(fonts.label));
+        m_places.emplace(m_matrix, size(), ChartLayout::Rulers{m_rulers->first, m_rulers->second});
+    }
     return *m_places;
 }
 
@@ -120,11 +129,19 @@ void MSChart::layOutStrip() {
 }
 
 void MSChart::paintOn(QPaintDevice& device) {
-    if (!m_drawing) {
-        m_drawing = std::make_unique<ChartDrawing>();
-        m_drawing->setMatrix(m_matrix);
+    if (!m_drawingSought) {
+        m_drawingSought = true;
+        if ((m_drawing = ChartDrawing::load(m_moduleFolder)))
+            m_drawing->setMatrix(m_matrix, fontsFor(m_matrix));
     }
-    m_drawing->paint(device, places(), size(), scrolled());
+    if (m_drawing) {
+        m_drawing->paint(device, places(), size(), scrolled());
+        return;
+    }
+    QPainter painter(&device);
+    painter.setFont(sans(type::Body));
+    painter.setPen(colour::Ink2);
+    painter.drawText(rect(), Qt::AlignCenter, u"程序文件夹里缺少 qinghe_charts，无法显示图表。"_s);
 }
 
 void MSChart::paintEvent(QPaintEvent*) {

@@ -3,6 +3,7 @@
 #include "analysis/chart_layout.h"
 #include "platform/placed.h"
 
+#include <QCoreApplication>
 #include <QVariantList>
 #include <QWidget>
 
@@ -23,7 +24,8 @@ class MSChart : public QWidget, public Placed {
     Q_PROPERTY(QVariantList ChartData READ ChartData WRITE setChartData)
 
 public:
-    MSChart(QWidget* parent, const QString& name);
+    /// The folder holds the drawing's module; without it the chart says so and is otherwise whole.
+    MSChart(QWidget* parent, const QString& name, const QString& moduleFolder = QCoreApplication::applicationDirPath());
     ~MSChart() override;
 
     /// Rows of [label, value]; a value that is no number (an invalid QVariant) has no column. Empty before the first
@@ -58,13 +60,15 @@ private:
     /// What is told of a row whose label is cut, else "".
     QString tipAt(const QPoint& place);
 
+    const QString m_moduleFolder;
     QVariantList m_data;
     ChartMatrix m_matrix;
-    std::unique_ptr<Ruler> m_valueRuler, m_labelRuler;
+    std::optional<std::pair<FontRuler, FontRuler>> m_rulers; ///< of the values and of the labels
     std::optional<ChartLayout> m_places;
-    std::unique_ptr<ChartDrawing> m_drawing; ///< made when the chart is first on view
-    ScrollStrip* m_strip = nullptr;          ///< likewise
-    std::optional<double> m_dragged;         ///< the row place under the pointer that drags
+    std::unique_ptr<ChartDrawing> m_drawing; ///< loaded when the chart is first on view
+    bool m_drawingSought = false;
+    ScrollStrip* m_strip = nullptr;  ///< made likewise
+    std::optional<double> m_dragged; ///< the row place under the pointer that drags
 };
 
 } // namespace qinghe

@@ -1,4 +1,3 @@
-#include "analysis/chart_drawing.h"
 #include "analysis/ms_chart.h"
 #include "qt_printing.h"
 
@@ -70,7 +69,7 @@ protected:
     /// Everything that is written in view.
     std::vector<QRectF> writtenBoxes() {
         const ChartLayout& places = chart.places();
-        std::vector<QRectF> boxes{places.unitBox()};
+        std::vector<QRectF> boxes;
         const ChartLayout::Rows rows = places.rowsInView(chart.scrolled());
         for (int i = rows.first; i < rows.behindLast; ++i) {
             if (!places.valueText(i).isEmpty())
@@ -81,18 +80,25 @@ protected:
         }
         return boxes;
     }
+    std::vector<QRectF> axisBoxes() {
+        const ChartLayout& places = chart.places();
+        std::vector<QRectF> boxes{places.unitBox()};
+        for (int i = 0; i < places.scale().lineCount(); ++i)
+            boxes.push_back(places.axisBox(places.lineY(i), places.scale().text(i)));
+        return boxes;
+    }
     void expectNothingOverlaps() {
         const QRectF plot = chart.places().plot();
+        // What reaches over the sides of the plot is not painted.
         const QRectF sides(plot.left(), 0, plot.width(), chart.height());
-        const std::vector<QRectF> boxes = writtenBoxes();
+        std::vector<QRectF> boxes = axisBoxes();
+        for (const QRectF& box : writtenBoxes())
+            boxes.push_back(box & sides);
+        boxes.push_back(chart.places().strip());
         for (size_t i = 0; i < boxes.size(); ++i) {
-            const QRectF seen = i == 0 ? boxes[i] : boxes[i] & sides; // what reaches over the sides is not painted
-            EXPECT_GE(seen.top(), 0);
-            EXPECT_LE(seen.bottom(), chart.height());
+            EXPECT_TRUE(QRectF(chart.rect()).contains(boxes[i]) || boxes[i].isEmpty()) << i;
             for (size_t j = 0; j < i; ++j)
-                EXPECT_FALSE(seen.adjusted(0.1, 0.1, -0.1, -0.1).intersects(j == 0 ? boxes[0] : boxes[j] & sides))
-                    << i << " over " << j;
-            EXPECT_FALSE(seen.intersects(chart.places().strip())) << i << " in the strip";
+                EXPECT_FALSE(boxes[i].adjusted(0.1, 0.1, -0.1, -0.1).intersects(boxes[j])) << i << " over " << j;
         }
     }
 
@@ -231,9 +237,22 @@ TEST_F(ChartControlTest, WritesNothingUnderAnEmptyLabel) {
 }
 
 TEST_F(ChartControlTest, LetsTheSmallestAmountShow) {
-    fill({1000000, 0.01});
-    const int x = qRound(chart.places().middle(1, 0));
-    EXPECT_TRUE(isColumn(drawn().pixel(x, qRound(chart.places().y(0)) - 1)));
+    fill({1000000, 0.01, -0.01});
+    const QImage image = drawn();
+    const ChartLayout& places = chart.places();
+    EXPECT_TRUE(isColumn(image.pixel(qRound(places.middle(1, 0)), qRound(places.y(0)) - 1)));
+    EXPECT_TRUE(isAmber(image.pixel(qRound(places.middle(2, 0)), qRound(places.y(0)) + 1)));
+}
+
+TEST_F(ChartControlTest, LeavesItsLinesOutBehindTheDigitsOfAValue) {
+    fill({1000, 955});
+    const ChartLayout& places = chart.places();
+    const QRectF box = places.valueBox(1, 0);
+    const int y = qRound(places.lineY(places.scale().lineCount() - 1));
+    ASSERT_TRUE(box.top() < y - 2 && y + 2 < box.bottom());
+    const QImage image = drawn();
+    EXPECT_EQ(image.pixelColor(qRound(box.left()) - 1, y).name(), u"#ffffff");
+    EXPECT_EQ(image.pixelColor(qRound(box.left()) - 6, y).name(), u"#e1ead9");
 }
 
 TEST_F(ChartControlTest, DrawsNoColumnForNothing) {
@@ -409,6 +428,18 @@ TEST_F(ChartControlTest, TakesWhatIsNoRowForARowWithoutAnything) {
     for (int i = 0; i < 4; ++i)
         EXPECT_EQ(chart.places().valueText(i), u"");
     EXPECT_EQ(columnPixels(), 0);
+}
+
+TEST_F(ChartControlTest, SaysWhatIsMissingWhenItsModuleIsNotThere) {
+    MSChart alone(&window, u"alone"_s, u"/nowhere"_s);
+    alone.place(0, 0, 6000, 4335);
+    alone.setChartData({QVariant(row(u"甲"_s, 10))});
+    QImage image(alone.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    alone.paintOn(image);
+    EXPECT_EQ(count(image, image.rect(), isColumn), 0);
+    EXPECT_GT(count(image, QRectF(alone.rect()).adjusted(0, 100, 0, -100), isInk), 100);
+    EXPECT_EQ(alone.places().valueText(0), u"10.00");
 }
 
 TEST_F(ChartControlTest, FollowsItsSize) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/plotting.h"
+#include "plotting.h"
 
 #include <QColor>
 

@@ -1,4 +1,4 @@
-#include "analysis/rounded_columns.h"
+#include "rounded_columns.h"
 
 #include "look/colours.h"
 #include "look/drawing.h"
@@ -48,13 +48,14 @@ void RoundedColumns::draw(QCPPainter* painter) {
 
 void RoundedColumns::paintColumn(QPainter& painter, const QRectF& room, bool hanging) const {
     QRectF rect = onPixels(painter, room);
-    // The smallest amount still shows.
-    if (rect.height() < hair(painter))
-        rect.setTop(rect.bottom() - hair(painter));
+    const double line = hair(painter);
+    // The smallest amount still shows: a column stands on the line at 0, or hangs from below it.
     if (hanging) {
+        rect = QRectF(rect.left(), rect.top() + line, rect.width(), std::max(line, rect.height() - line));
         painter.fillPath(hangingFrom(rect), colour::Amber);
         return;
     }
+    rect.setTop(std::min(rect.top(), rect.bottom() - line));
     QLinearGradient shade(rect.topLeft(), rect.bottomLeft());
     shade.setColorAt(0, m_shade.top);
     shade.setColorAt(1, m_shade.foot);
