@@ -3,6 +3,8 @@
 #include "core/hover.h"
 #include "ledger/fill_rows.h"
 
+#include <QScrollBar>
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -20,9 +22,18 @@ Frame* listFrame(Frame& page, const CategoryList::Traits& traits) {
     return frame;
 }
 
+/// The columns leave less room beside them than a scroll bar takes. A few pixels of the last one may lie under it; the
+/// list does not move sideways for them.
+void keepFromMovingSideways(MSFlexGrid* grid) {
+    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QScrollBar* bar = grid->horizontalScrollBar();
+    QObject::connect(bar, &QScrollBar::rangeChanged, grid, [bar] { bar->setRange(0, 0); });
+}
+
 MSFlexGrid* listGrid(Frame* frame, const CategoryList::Traits& traits) {
     auto* grid = new MSFlexGrid(frame, QString::fromUtf16(traits.grid));
     grid->place(Margin, 360, traits.gridWidth, GridHeight);
+    keepFromMovingSideways(grid);
     return grid;
 }
 
@@ -181,8 +192,8 @@ void CategoryList::save(Recordset& records) {
 void CategoryList::writeCurrentRow(Recordset& records) const {
     records.addNew();
     for (int column = 1; column < grid->Cols(); ++column)
-        if (!grid->isEmpty(grid->Row(), column))
-            records.field(column - 1).setValue(grid->TextMatrix(grid->Row(), column));
+        if (const QString text = grid->TextMatrix(grid->Row(), column); !text.isEmpty())
+            records.field(column - 1).setValue(text);
     records.update();
 }
 

@@ -1,5 +1,7 @@
 #include "ledger/cell_editor.h"
 
+#include <algorithm>
+
 namespace qinghe {
 
 CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : TextBox(frame, name), m_grid(grid) {
@@ -31,10 +33,16 @@ void CellEditor::lay() {
     setBoxText(m_grid.Text());
 }
 
+/// Where its cell reaches under the list's right end the box ends there, edge and all; above and below it slips under
+/// the list's ends.
 void CellEditor::keepInSight() {
     const QRect room = m_grid.cellRoom().translated(m_grid.pos());
-    const QRect seen = geometry() & room;
-    if (seen == geometry())
+    QRect box = geometry();
+    if (box.left() < room.right())
+        box.setRight(std::min(box.right(), room.right()));
+    setGeometry(box);
+    const QRect seen = box & room;
+    if (seen == box)
         clearMask();
     else
         setMask(seen.isEmpty() ? QRegion(-1, -1, 1, 1) : QRegion(seen.translated(-pos())));

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QScrollBar>
 
 // Clicking and typing in the two lists of the categories.
 
@@ -180,6 +181,34 @@ TEST_F(CategoriesCellsTest, TakesWhatAnInputMethodCommits) {
     QApplication::sendEvent(&tx3(), &commit);
     rig.press(tx3(), Qt::Key_Return);
     EXPECT_EQ(majors(), QStringList{u"买菜"_s});
+}
+
+TEST_F(CategoriesCellsTest, LongListsDoNotMoveSidewaysForTheirScrollBar) {
+    QStringList rows;
+    for (int i = 10; i < 50; ++i)
+        rows << u"甲|细%1|x"_s.arg(i) << u"大%1|1|a"_s.arg(i);
+    openWith(rows);
+    clickMajor(41);
+    for (MSFlexGrid* grid : {&ms4(), &ms3()})
+        for (int col = 1; col < grid->Cols(); ++col)
+            for (int round = 0; round < 2; ++round) {
+                rig.clickCell(*grid, 3 + round, col);
+                EXPECT_EQ(grid->ColPos(1), 300);
+                EXPECT_TRUE(grid->verticalScrollBar()->isVisible());
+                EXPECT_FALSE(grid->horizontalScrollBar()->isVisible());
+            }
+}
+
+TEST_F(CategoriesCellsTest, TheBoxEndsWithTheListWhereItsCellReachesUnderTheScrollBar) {
+    QStringList rows;
+    for (int i = 10; i < 50; ++i)
+        rows << u"大%1|1|a"_s.arg(i);
+    openWith(rows);
+    clickMajor(3);
+    const QRect room = ms3().cellRoom().translated(ms3().pos());
+    EXPECT_EQ(tx3().geometry().right(), room.right());
+    EXPECT_EQ(tx3().Width(), 4700);
+    EXPECT_TRUE(tx3().mask().isEmpty());
 }
 
 TEST_F(CategoriesCellsTest, DisabledMinorsTakeNoClick) {

@@ -94,11 +94,12 @@ TEST_F(CategoriesSaveTest, TheBoxIsClosedAndWhatWasNotConfirmedIsLeftOut) {
 
 TEST_F(CategoriesSaveTest, ABlankLastRowIsDroppedBeforeAnyTextWasSeen) {
     openWith({u"甲|1|a"_s, u"乙|2|b"_s});
-    clickMajor(2);
+    clickMajor(1); // it is the last row that counts, wherever the user stands
     ms3().setTextMatrix(2, 1, {});
     save(9);
     EXPECT_EQ(majors(), QStringList{u"乙"_s});
     EXPECT_EQ(stored(), QStringList{u"乙|NULL|NULL"_s});
+    EXPECT_EQ(bench().emptyRowFlag, 0); // a text further up was not looked at
 }
 
 TEST_F(CategoriesSaveTest, ABlankLastRowIsKeptOnceATextWasSeenAndBecomesARecordWithoutAMajor) {
