@@ -405,6 +405,17 @@ TEST_F(ChartControlTest, PaintsNoRowOverTheSidesOfThePlot) {
     }
 }
 
+TEST_F(ChartControlTest, KeepsTheAxisAsItIsWhileRowsPassBeside) {
+    fill(std::vector<double>(300, 14792.7));
+    const QRect axis(0, 0, 50, chart.height());
+    const QImage before = drawn().copy(axis);
+    EXPECT_GT(count(before, before.rect(), isWritten), 200);
+    for (int at = 1; at < 65; at += 3) {
+        chart.scrollTo(at);
+        EXPECT_EQ(drawn().copy(axis), before) << at;
+    }
+}
+
 TEST_F(ChartControlTest, TellsALabelWholeThatIsCut) {
     chart.setChartData({QVariant(row(QString(100, u'长'), 12.5)), QVariant(row(u"短"_s, 3))});
     EXPECT_EQ(tipOver(1), u"");

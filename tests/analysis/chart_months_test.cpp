@@ -68,6 +68,18 @@ TEST_P(ChartMonthsTest, SayThatThereIsNothingAndLeaveTheWorkTableEmpty) {
     EXPECT_EQ(caption(), u"账户对比分析");
 }
 
+TEST_P(ChartMonthsTest, LeaveTheWorkTableEmptyWhenTheProgramEndsBeforeTheCopy) {
+    rig.sql(u"insert into %1 values('1999-1-', 5, 1)"_s.arg(work()));
+    rig.sql(u"alter table %1 rename column 区别 to 别"_s.arg(work()));
+    store(u"'2024-05-03'"_s, 1.5);
+    choose();
+    EXPECT_EQ(rig.exitCode(), 1);
+    EXPECT_EQ(rig.messages->errors.size(), 1u);
+    EXPECT_EQ(adodc2().recordSource(), work());
+    EXPECT_EQ(workRows(), QStringList());
+    EXPECT_EQ(rig.sql(u"select count(*) from "_s + ledger()), QStringList(u"1"_s));
+}
+
 TEST_P(ChartMonthsTest, LeaveTheirSumsInTheSecondControl) {
     store(u"'2024-05-03'"_s, 1.5);
     choose();

@@ -140,7 +140,7 @@ void ChartPlot::paint(QPaintDevice& device, const ChartLayout& layout, const QSi
     m_layout = nullptr;
 }
 
-/// Lines are left out behind the digits of values.
+// Lines are left out behind the digits of values.
 QRegion ChartPlot::withoutValues() const {
     QRegion region = m_plot.viewport();
     const ChartLayout::Rows rows = m_layout->rowsInView(m_scroll);
@@ -153,13 +153,13 @@ QRegion ChartPlot::withoutValues() const {
 void ChartPlot::paintScale(QPainter& painter) const {
     const QRectF& plot = m_layout->plot();
     const AxisScale& scale = m_layout->scale();
-    painter.setClipRegion(withoutValues(), Qt::IntersectClip);
-    for (int i = 0; i < scale.lineCount(); ++i) {
-        paintRule(painter, plot.left(), plot.right(), m_layout->lineY(i), ChartRule);
+    paintWordsIn(painter, m_layout->unitBox(), ChartLayout::unit(), m_fonts.value, colour::Ink3);
+    for (int i = 0; i < scale.lineCount(); ++i)
         paintWordsIn(painter, m_layout->axisBox(m_layout->lineY(i), scale.text(i)), scale.text(i), m_fonts.value,
                      colour::Ink3);
-    }
-    paintWordsIn(painter, m_layout->unitBox(), ChartLayout::unit(), m_fonts.value, colour::Ink3);
+    painter.setClipRegion(withoutValues(), Qt::IntersectClip);
+    for (int i = 0; i < scale.lineCount(); ++i)
+        paintRule(painter, plot.left(), plot.right(), m_layout->lineY(i), ChartRule);
 }
 
 void ChartPlot::paintWords(QPainter& painter) const {
