@@ -158,21 +158,23 @@ void MSChart::showEvent(QShowEvent*) {
     layOutStrip();
 }
 
-QString MSChart::tipAt(const QPoint& place) {
+int MSChart::cutRowAt(const QPoint& place) {
     const int row = place.y() < places().plot().top() ? -1 : places().rowAt(place.x(), scrolled());
-    if (row < 0 || !places().label(row).cut)
-        return {};
-    return tipText(m_matrix.rows[row], places().valueText(row));
+    return row >= 0 && places().label(row).cut ? row : -1;
 }
 
 bool MSChart::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    if (const QString tip = tipAt(help->pos()); !tip.isEmpty())
-        QToolTip::showText(help->globalPos(), tip, this);
-    else
+    const int row = cutRowAt(help->pos());
+    if (row < 0) {
         QToolTip::hideText();
+        return true;
+    }
+    const double pitch = places().pitch();
+    const QRectF slot(places().middle(row, scrolled()) - pitch / 2, 0, pitch, height());
+    QToolTip::showText(help->globalPos(), tipText(m_matrix.rows[row], places().valueText(row)), this, slot.toRect());
     return true;
 }
 

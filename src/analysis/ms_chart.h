@@ -57,8 +57,8 @@ protected:
 
 private:
     void layOutStrip();
-    /// What is told of a row whose label is cut, else "".
-    QString tipAt(const QPoint& place);
+    /// The row under a place whose label is cut and is told whole, or -1.
+    int cutRowAt(const QPoint& place);
 
     const QString m_moduleFolder;
     QVariantList m_data;
