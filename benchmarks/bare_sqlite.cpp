@@ -9,7 +9,7 @@ namespace qinghe::benchmarks {
 
 namespace {
 
-constexpr int Columns = 7;
+constexpr std::string_view NumberType = "NUMBER";
 
 const char* textOf(sqlite3_stmt* statement, int column) {
     return reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
@@ -76,12 +76,15 @@ void openIncomeBare(Bare& db) {
     db.run(QStringLiteral("commit"));
 }
 
-Cells readCells(Bare& db) {
+Cells readCells(Bare& db, const QString& table) {
     Cells cells;
-    sqlite3_stmt* from =
-        db.prepare(QStringLiteral("select 编号,时间,项目,收款人,金额,账户,备注 from srb order by rowid"));
+    cells.table = table;
+    sqlite3_stmt* from = db.prepare(QStringLiteral("select * from %1 order by rowid").arg(table));
+    cells.columns = sqlite3_column_count(from) - 1;
+    for (int i = 0; i < cells.columns; ++i)
+        cells.numbers.push_back(std::string_view(sqlite3_column_decltype(from, i)) == NumberType);
     for (; sqlite3_step(from) == SQLITE_ROW; ++cells.rows)
-        for (int i = 0; i < Columns; ++i) {
+        for (int i = 0; i < cells.columns; ++i) {
             const char* text = textOf(from, i);
             cells.texts.emplace_back(text ? text : "");
         }
@@ -89,22 +92,22 @@ Cells readCells(Bare& db) {
     return cells;
 }
 
-void saveIncomeBare(Bare& db, const Cells& cells) {
+void saveBare(Bare& db, const Cells& cells) {
     db.run(QStringLiteral("begin immediate"));
-    db.run(QStringLiteral("delete from srb"));
+    db.run(QStringLiteral("delete from ") + cells.table);
     sqlite3_stmt* to = db.prepare(
-        QStringLiteral("insert into srb(编号,时间,项目,收款人,金额,账户,备注,区别) values(?,?,?,?,?,?,?,?)"));
-    for (int row = 0; row < cells.rows; ++row) {
-        for (int i = 0; i < Columns; ++i) {
-            const std::string& text = cells.texts[static_cast<std::size_t>(row * Columns + i)];
-            if (i == 4)
-                sqlite3_bind_double(to, i + 1, std::strtod(text.c_str(), nullptr));
-            else if (text.empty())
+        QStringLiteral("insert into %1 values(%2?)").arg(cells.table, QStringLiteral("?,").repeated(cells.columns)));
+    auto text = cells.texts.begin();
+    for (int row = 1; row <= cells.rows; ++row) {
+        for (int i = 0; i < cells.columns; ++i, ++text) {
+            if (text->empty())
                 sqlite3_bind_null(to, i + 1);
+            else if (cells.numbers[static_cast<std::size_t>(i)])
+                sqlite3_bind_double(to, i + 1, std::strtod(text->c_str(), nullptr));
             else
-                sqlite3_bind_text(to, i + 1, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+                sqlite3_bind_text(to, i + 1, text->data(), static_cast<int>(text->size()), SQLITE_STATIC);
         }
-        sqlite3_bind_int(to, 8, row + 1);
+        sqlite3_bind_int(to, cells.columns + 1, row);
         sqlite3_step(to);
         sqlite3_reset(to);
     }

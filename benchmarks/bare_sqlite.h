@@ -31,13 +31,17 @@ private:
 /// written, the table, its total, and the table again for delete and save; one durable transaction.
 void openIncomeBare(Bare& db);
 
-/// What saving the income page writes: one statement that empties the table and prepared inserts of the same rows, one
-/// durable transaction. `rows` is the grid's content.
+/// The rows of a table as the grids and the saves know them: texts, but for the last column, which is the row's number.
 struct Cells {
+    QString table;
+    int columns = 0;           ///< without the last one
+    std::vector<bool> numbers; ///< which of them hold numbers
     int rows = 0;
-    std::vector<std::string> texts; ///< seven a row; numbers as text, as a grid holds them
+    std::vector<std::string> texts; ///< row by row
 };
-Cells readCells(Bare& db);
-void saveIncomeBare(Bare& db, const Cells& cells);
+Cells readCells(Bare& db, const QString& table);
+/// What saving a page writes: one statement that empties the table and prepared inserts of the same rows, one durable
+/// transaction.
+void saveBare(Bare& db, const Cells& cells);
 
 } // namespace qinghe::benchmarks

@@ -22,6 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto ChildMark = "--child"; ///< first argument of a process that was started to be measured
+
 /// Calls once, when a top-level window has been painted.
 class Painted : public QObject {
 public:
@@ -118,7 +120,7 @@ void signIn(QApplication& application, const QString& folder, bool open) {
 
 QProcess* child(const QStringList& arguments) {
     auto* process = new QProcess;
-    process->start(QCoreApplication::applicationFilePath(), arguments);
+    process->start(QCoreApplication::applicationFilePath(), QStringList{QString::fromLatin1(ChildMark)} + arguments);
     if (!process->waitForFinished(60'000) || process->exitCode() != 0)
         qFatal("the child %s failed", qPrintable(arguments.join(u' ')));
     return process;
@@ -127,10 +129,10 @@ QProcess* child(const QStringList& arguments) {
 } // namespace
 
 bool runAsChild(int argc, char** argv, int& exitCode) {
-    if (argc < 2)
+    if (argc < 3 || std::string(argv[1]) != ChildMark)
         return false;
-    const std::string what = argv[1];
-    const QString folder = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    const std::string what = argv[2];
+    const QString folder = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QString();
     std::thread fonts;
     if (what != "empty-window")
         fonts = readFontsAhead(); // as main does

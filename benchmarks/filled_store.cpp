@@ -40,6 +40,12 @@ void fillTables(const QString& dataFile, int rows) {
                               rows));
         db.run(insertMany(QStringLiteral("ysb"), QStringLiteral("%1,'预算'||(n%40),%2,'备注'||n,n").arg(Day, money),
                           rows));
+        db.run(insertMany(QStringLiteral("zhb"),
+                          QStringLiteral("'账户'||n,%1,n%100,n%50,0,0,n%7,n%3,%1+n%53,'备注'||n,n").arg(money), rows));
+        for (const char* table : {"srflb", "zcflb"}) {
+            db.run(QStringLiteral("delete from ") + QString::fromUtf8(table));
+            db.run(insertMany(QString::fromUtf8(table), QStringLiteral("'大类'||n,'细类'||n,'dm'||n"), rows));
+        }
         db.run(insertMany(QStringLiteral("rcb"),
                           QStringLiteral("%1,n%9,%1,'8:'||(n%60),'日程内容'||n,'音乐1',n").arg(Day), rows));
         db.run(QStringLiteral("commit"));

@@ -233,12 +233,13 @@ void GridPage::emptyTable() {
         records.deleteCurrent();
 }
 
-void GridPage::writeRow(Recordset& records, int row, Int16& counter) {
+void GridPage::writeRow(Recordset& records, Field& number, int row, Int16& counter) {
     records.addNew();
-    records.field(u"区别"_s).setValue(static_cast<int>(++counter));
-    for (int column = 1; column < grid->Cols(); ++column)
-        if (const QString text = grid->TextMatrix(row, column); !text.isEmpty())
-            records.field(column - 1).setValue(text);
+    number.setValue(static_cast<int>(++counter));
+    const QStringList texts = grid->rowTexts(row);
+    for (int column = 1; column < texts.size(); ++column)
+        if (!texts[column].isEmpty())
+            records.field(column - 1).setValue(texts[column]);
     records.update();
 }
 
@@ -253,11 +254,13 @@ void GridPage::saveRows() {
     emptyTable();
     if (traits.refreshWhenEmptied)
         Adodc1.refresh();
+    Recordset& records = Adodc1.recordset();
+    Field number = records.field(u"区别"_s);
     Int16 counter;
     for (int row = 1; row < grid->Rows(); ++row) { // none is blank: that would have been a gap
         if (traits.saveMovesRow)
             grid->setRow(row);
-        writeRow(Adodc1.recordset(), row, counter);
+        writeRow(records, number, row, counter);
     }
     bench.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
     hideEditor();
@@ -308,14 +311,12 @@ void GridPage::blankRow(int row) {
 }
 
 void GridPage::fill(Recordset& records) {
-    fillRows(*grid, records, [this, &records] {
-        for (int column = 1; column < records.fieldCount(); ++column) {
-            const Field field = records.field(column - 1);
-            if (field.differsFromEmpty())
-                grid->setTextMatrix(grid->Row(), column, field.text());
-            else if (field.equalsEmpty())
-                grid->setTextMatrix(rowForEmptyText(), column, {});
-        }
+    std::vector<std::optional<QString>> texts;
+    fillRows(*grid, records, [&] {
+        records.readTexts(texts);
+        for (int column = 1; column < static_cast<int>(texts.size()); ++column)
+            if (const auto& text = texts[static_cast<std::size_t>(column - 1)])
+                grid->setTextMatrix(text->isEmpty() ? rowForEmptyText() : grid->Row(), column, *text);
     });
 }
 

@@ -126,7 +126,7 @@ private:
     bool isBlank(int row) const;
     bool refusesGap();
     void emptyTable();
-    void writeRow(Recordset& records, int row, Int16& counter);
+    void writeRow(Recordset& records, Field& number, int row, Int16& counter);
 };
 
 } // namespace qinghe

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
 #include <limits>
 #include <string>
 #include <utility>
@@ -40,25 +39,21 @@ Head takeHead(const char*& at) {
 }
 
 void appendText(std::string& packed, const QString& text) {
-    const auto fitsByte = [](QChar c) { return c.unicode() < 0x100; };
-    const Head head{static_cast<std::size_t>(text.size()), !std::all_of(text.cbegin(), text.cend(), fitsByte)};
+    const auto* characters = reinterpret_cast<const char16_t*>(text.constData());
+    const auto length = static_cast<std::size_t>(text.size());
+    char16_t all = 0;
+    for (std::size_t i = 0; i < length; ++i)
+        all |= characters[i];
+    const Head head{length, all >= 0x100};
     appendHead(packed, head);
-    if (head.wide)
-        packed.append(reinterpret_cast<const char*>(text.constData()), head.bytes());
-    else
-        std::transform(text.cbegin(), text.cend(), std::back_inserter(packed),
-                       [](QChar c) { return static_cast<char>(c.unicode()); });
-}
-
-std::string packedRow(const std::vector<QString>& texts) {
-    std::string packed;
-    const auto filled = [](const QString& text) { return !text.isEmpty(); };
-    const auto end = std::find_if(texts.rbegin(), texts.rend(), filled).base();
-    for (auto text = texts.begin(); text != end; ++text)
-        appendText(packed, *text);
-    if (!packed.empty())
-        packed += '\0';
-    return packed;
+    if (head.wide) {
+        packed.append(reinterpret_cast<const char*>(characters), head.bytes());
+        return;
+    }
+    const std::size_t begin = packed.size();
+    packed.resize(begin + length);
+    for (std::size_t i = 0; i < length; ++i)
+        packed[begin + i] = static_cast<char>(characters[i]);
 }
 
 /// Takes one cell's text and moves `at` behind it.
@@ -88,6 +83,32 @@ std::size_t packedSize(const char* row) {
 
 } // namespace
 
+// ---- a row as it is packed
+
+void CellTexts::PackedRow::clear() {
+    m_bytes.clear();
+    m_filled = 0;
+    m_cols = 0;
+}
+
+void CellTexts::PackedRow::append(int col, const QString& text) {
+    for (; m_cols < col; ++m_cols)
+        appendHead(m_bytes, {0, false});
+    ++m_cols;
+    appendText(m_bytes, text);
+    if (!text.isEmpty())
+        m_filled = m_bytes.size();
+}
+
+const std::string& CellTexts::PackedRow::close() {
+    m_bytes.resize(m_filled);
+    if (m_filled > 0)
+        m_bytes += '\0';
+    return m_bytes;
+}
+
+// ---- all rows
+
 void CellTexts::resize(int rows, int cols) {
     closeRow();
     for (int row = rows; row < this->rows(); ++row)
@@ -109,18 +130,27 @@ void CellTexts::removeRow(int row) {
     m_rows.erase(m_rows.begin() + row);
 }
 
+/// The packed texts of a row; nothing for a blank one.
+const char* CellTexts::packedTexts(int row) const {
+    return row == m_open ? m_packing.cells() : m_rows[static_cast<std::size_t>(row)];
+}
+
 QString CellTexts::text(int row, int col) const {
-    if (row == m_open)
-        return m_openTexts[static_cast<std::size_t>(col)];
-    const char* packed = m_rows[static_cast<std::size_t>(row)];
+    if (row == m_open && !m_isPacking)
+        return m_openTexts[col];
+    const char* packed = packedTexts(row);
     const char* cell = packed ? cellAt(packed, col) : nullptr;
     return cell && *cell ? takeText(cell) : QString();
 }
 
+QStringList CellTexts::rowTexts(int row) const {
+    return row == m_open && !m_isPacking ? m_openTexts : unpacked(packedTexts(row));
+}
+
 bool CellTexts::isEmpty(int row, int col) const {
-    if (row == m_open)
-        return m_openTexts[static_cast<std::size_t>(col)].isEmpty();
-    const char* packed = m_rows[static_cast<std::size_t>(row)];
+    if (row == m_open && !m_isPacking)
+        return m_openTexts[col].isEmpty();
+    const char* packed = packedTexts(row);
     const char* cell = packed ? cellAt(packed, col) : nullptr;
     return !cell || !*cell || takeHead(cell).length == 0;
 }
@@ -128,7 +158,11 @@ bool CellTexts::isEmpty(int row, int col) const {
 void CellTexts::setText(int row, int col, const QString& text) {
     if (row != m_open)
         openRow(row);
-    m_openTexts[static_cast<std::size_t>(col)] = text;
+    if (m_isPacking && col >= m_packing.cols())
+        return m_packing.append(col, text);
+    if (m_isPacking)
+        unpackOpenRow();
+    m_openTexts[col] = text;
 }
 
 std::size_t CellTexts::footprint() const {
@@ -150,17 +184,32 @@ void CellTexts::cutRow(int row, int cols) {
 
 void CellTexts::openRow(int row) {
     closeRow();
-    m_openTexts.assign(static_cast<std::size_t>(m_cols), QString());
-    if (const char* cell = place(row))
-        for (auto text = m_openTexts.begin(); *cell; ++text)
-            *text = takeText(cell);
+    m_packing.clear();
+    m_isPacking = !place(row);
     m_open = row;
+    if (!m_isPacking)
+        m_openTexts = unpacked(place(row));
+}
+
+void CellTexts::unpackOpenRow() {
+    m_isPacking = false;
+    m_openTexts = unpacked(m_packing.cells());
+    m_packing.clear();
+}
+
+QStringList CellTexts::unpacked(const char* packed) const {
+    QStringList texts(m_cols);
+    for (auto text = texts.begin(); packed && *packed; ++text)
+        *text = takeText(packed);
+    return texts;
 }
 
 void CellTexts::closeRow() {
     if (m_open < 0)
         return;
-    storeRow(m_open, packedRow(m_openTexts));
+    for (int col = 0; !m_isPacking && col < m_cols; ++col)
+        m_packing.append(col, m_openTexts[col]);
+    storeRow(m_open, m_packing.close());
     m_open = -1;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <memory>
@@ -23,6 +23,7 @@ public:
     void removeRow(int row);
 
     QString text(int row, int col) const;
+    QStringList rowTexts(int row) const; ///< one for each column
     bool isEmpty(int row, int col) const;
     void setText(int row, int col, const QString& text);
 
@@ -32,10 +33,31 @@ public:
 private:
     static constexpr std::size_t PieceSize = 16 * 1024;
 
+    /// A row as it is packed, cell after cell.
+    class PackedRow {
+    public:
+        void clear();
+        int cols() const { return m_cols; }
+        /// Cells before `col` that were not written are blank.
+        void append(int col, const QString& text);
+        /// The texts up to the last one that is filled, with their end; empty for a blank row.
+        const std::string& close();
+        /// The same as it stands, with all cells written.
+        const char* cells() const { return m_bytes.c_str(); }
+
+    private:
+        std::string m_bytes;
+        std::size_t m_filled = 0; ///< bytes up to the end of the last filled cell
+        int m_cols = 0;
+    };
+
     char*& place(int row) { return m_rows[static_cast<std::size_t>(row)]; }
     void dropRow(int row);
     void cutRow(int row, int cols);
     void openRow(int row);
+    void unpackOpenRow();
+    QStringList unpacked(const char* packed) const;
+    const char* packedTexts(int row) const;
     void closeRow();
     void storeRow(int row, const std::string& packed);
     char* room(std::size_t size);
@@ -49,7 +71,10 @@ private:
     std::size_t m_taken = 0; ///< of all pieces
     std::size_t m_inUse = 0; ///< by rows as they are now
     int m_open = -1;         ///< the row that lies open, whose packed texts do not count
-    std::vector<QString> m_openTexts;
+    /// Its texts; a blank row that is written from the left to the right is packed as it comes and has none.
+    QStringList m_openTexts;
+    PackedRow m_packing;
+    bool m_isPacking = false;
 };
 
 } // namespace qinghe

@@ -146,6 +146,11 @@ QString MSFlexGrid::TextMatrix(int row, int col) const {
     return m_model->cell(row, col);
 }
 
+QStringList MSFlexGrid::rowTexts(int row) const {
+    checkRow(row, Rows());
+    return m_model->rowTexts(row);
+}
+
 bool MSFlexGrid::isEmpty(int row, int col) const {
     checkRow(row, Rows());
     checkCol(col, Cols());
@@ -243,7 +248,8 @@ QRect MSFlexGrid::cellRoom() const {
 }
 
 void MSFlexGrid::changed() {
-    m_stale = true;
+    if (std::exchange(m_stale, true))
+        return;
     // Outside a handler (tools that reach the grid by name) the next turn of the loop is the boundary.
     if (handlers::depth() > 0)
         handlers::atBoundary(this, [this] { bringUpToDate(); });

@@ -45,6 +45,8 @@ public:
     void setText(const QString& text);
 
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
+    /// All texts of a row, the one of the marker column first; quicker than cell by cell.
+    QStringList rowTexts(int row) const;
     /// Whether the cell holds no text; quicker than asking for it.
     bool isEmpty(int row, int col) const;
     void setTextMatrix(int row, int col, const QString& text);

@@ -20,6 +20,7 @@ public:
     void resize(int rows, int cols) { m_texts.resize(rows, cols); }
     void removeRow(int row) { m_texts.removeRow(row); }
     QString cell(int row, int col) const { return m_texts.text(row, col); }
+    QStringList rowTexts(int row) const { return m_texts.rowTexts(row); }
     bool isEmpty(int row, int col) const { return m_texts.isEmpty(row, col); }
     void setCell(int row, int col, const QString& text) { m_texts.setText(row, col, text); }
 

@@ -72,6 +72,17 @@ std::optional<ReadDay> readDay(Scanner& scanner) {
     return complete && date.isValid() ? std::optional(ReadDay{date, monthAlone}) : std::nullopt;
 }
 
+/// The number of a few characters that are to be digits; -1 when one of them is none.
+int digitsOf(QByteArrayView text) {
+    int value = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9')
+            return -1;
+        value = value * 10 + (c - '0');
+    }
+    return value;
+}
+
 /// Hours and minutes, and seconds if they stand there; an invalid time when it is none.
 QTime readTime(Scanner& scanner) {
     const int hour = scanner.number(1, 2);
@@ -105,6 +116,10 @@ public:
         int month = 0;
         int dayOfMonth = 0;
         day.getDate(&year, &month, &dayOfMonth);
+        return date(year, yearWidth, month, dayOfMonth, width);
+    }
+
+    Joiner& date(int year, int yearWidth, int month, int dayOfMonth, int width) {
         return number(year, yearWidth).mark(u'-').number(month, width).mark(u'-').number(dayOfMonth, width);
     }
 
@@ -112,7 +127,7 @@ public:
         return number(time.hour(), hourWidth).mark(u':').number(time.minute(), 2).mark(u':').number(time.second(), 2);
     }
 
-    QString text() const { return QString::fromUtf16(m_text.data(), static_cast<qsizetype>(m_length)); }
+    QString text() const { return QStringView(m_text.data(), static_cast<qsizetype>(m_length)).toString(); }
 
 private:
     std::array<char16_t, 32> m_text;
@@ -163,6 +178,15 @@ std::optional<DateValue> parseDate(const QString& text) {
 std::optional<DateValue> parseIsoDate(const QString& iso) {
     const auto value = parseDate(iso);
     return value && value->iso() == iso ? value : std::nullopt; // no other spelling of the same moment
+}
+
+std::optional<QString> textOfIsoDay(QByteArrayView iso) {
+    if (iso.size() != 10 || iso[4] != '-' || iso[7] != '-')
+        return std::nullopt;
+    const int year = digitsOf(iso.first(4)), month = digitsOf(iso.sliced(5, 2)), day = digitsOf(iso.sliced(8));
+    if (year < kFirstYear || !QDate::isValid(year, month, day))
+        return std::nullopt;
+    return Joiner().date(year, 1, month, day, 1).text();
 }
 
 } // namespace qinghe

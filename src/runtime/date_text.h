@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QDate>
 #include <QDateTime>
 #include <QString>
@@ -29,6 +30,10 @@ QString timeText(const QTime& time);
 /// in front do no harm, so ISO text is read too. Years 100 to 9999. std::nullopt for anything else, "2024-13-1",
 /// "2024-5-", "24:00" behind a date and "" included.
 std::optional<DateValue> parseDate(const QString& text);
+
+/// The text form of a day in the store's own ISO text of ten characters, in one step; std::nullopt when it is none, or
+/// when a time stands behind it.
+std::optional<QString> textOfIsoDay(QByteArrayView iso);
 
 /// Reads the store's own ISO text. std::nullopt when it is none.
 std::optional<DateValue> parseIsoDate(const QString& iso);

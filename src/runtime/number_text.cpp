@@ -5,22 +5,74 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <locale>
 #include <sstream>
+#include <utility>
 
 namespace qinghe {
 
 namespace {
+
+using NumberBuffer = std::array<char, 32>;
 
 /// The general form: plain while the decimal exponent is at least -4 and below `digits`, else scientific.
 template<typename Number>
 QString generalText(Number value, int digits) {
     if (value == 0)
         return QStringLiteral("0"); // a negative zero has no sign
-    std::array<char, 32> text;
+    NumberBuffer text;
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
     return QString::fromLatin1(text.data(), end.ptr - text.data()).toUpper();
+}
+
+/// The same text for a double that is a whole number of hundredths, as amounts are; they need no search for digits.
+/// A decimal of at most 15 digits that reads as the double is its text. Nothing for others.
+std::optional<QString> amountText(double value) {
+    constexpr double most = 1e13;
+    if (!(std::abs(value) < most))
+        return std::nullopt;
+    const double hundredths = std::nearbyint(value * 100);
+    if (hundredths / 100 != value)
+        return std::nullopt;
+    NumberBuffer text;
+    char* const end = text.data() + text.size();
+    char* at = end;
+    auto rest = static_cast<std::uint64_t>(std::abs(hundredths));
+    for (int place = 0; place < 3 || rest > 0; ++place, rest /= 10) {
+        const auto digit = static_cast<char>('0' + rest % 10);
+        if (place == 2 && at != end)
+            *--at = '.';
+        if (place >= 2 || digit != '0' || at != end)
+            *--at = digit;
+    }
+    if (hundredths < 0)
+        *--at = '-';
+    return QString::fromLatin1(at, end - at);
+}
+
+/// The value of a text that is nothing but digits, perhaps with a sign before and a point among them; nothing for
+/// others. Most amounts are, and need no reader.
+std::optional<double> plainNumber(const QString& text) {
+    NumberBuffer number;
+    const auto length = static_cast<std::size_t>(text.size());
+    if (length == 0 || length > number.size())
+        return std::nullopt;
+    bool point = false;
+    for (std::size_t i = 0; i < length; ++i) {
+        const char16_t c = text[static_cast<qsizetype>(i)].unicode();
+        const bool inside = i > 0 && i + 1 < length;
+        const bool fits =
+            (c >= u'0' && c <= u'9') || (c == u'-' && i == 0 && length > 1) ||
+            (c == u'.' && inside && text[static_cast<qsizetype>(i - 1)] != u'-' && !std::exchange(point, true));
+        if (!fits)
+            return std::nullopt;
+        number[i] = static_cast<char>(c);
+    }
+    double value = 0;
+    std::from_chars(number.data(), number.data() + length, value);
+    return value;
 }
 
 QString withoutLeadingZero(QString text) {
@@ -139,7 +191,8 @@ QString withoutBlanks(const QString& text) {
 } // namespace
 
 QString numberText(double value) {
-    return generalText(value, std::numeric_limits<double>::digits10);
+    const auto amount = amountText(value);
+    return amount ? *amount : generalText(value, std::numeric_limits<double>::digits10);
 }
 
 QString numberText(float value) {
@@ -173,6 +226,8 @@ double leadingNumber(const QString& text) {
 }
 
 std::optional<double> fullNumber(const QString& text) {
+    if (const auto plain = plainNumber(text))
+        return plain;
     const QString trimmed = text.trimmed();
     NumberReader reader(trimmed);
     const bool signedFirst = reader.sign();

@@ -11,15 +11,21 @@ namespace {
 
 constexpr int kBusyTimeoutMs = 2000;
 
-constexpr int kManyPages = 1 << 20; ///< bytes; fewer are worth more than their room
+/// Page memory in KiB: for the pages of a long save until its commit, and what is kept between handlers, so that the
+/// same list is soon read again.
+constexpr int kWorkingPages = 16000, kRestingPages = 1500;
 
 /// Commits that outlast a power cut; pages of a long save stay in memory until the commit; nothing in a file from
 /// elsewhere is run.
 constexpr const char* kSettings = "PRAGMA journal_mode = DELETE;"
                                   "PRAGMA synchronous = EXTRA;"
                                   "PRAGMA temp_store = MEMORY;"
-                                  "PRAGMA cache_size = -16000;"
                                   "PRAGMA trusted_schema = OFF;";
+
+void limitPages(sqlite3* database, int kib) {
+    sqlite3_exec(database, QByteArray("PRAGMA cache_size = -" + QByteArray::number(kib)).constData(), nullptr, nullptr,
+                 nullptr);
+}
 
 } // namespace
 
@@ -36,6 +42,7 @@ sqlite3* Connection::opened(const QString& path) {
         sqlite3_busy_timeout(handle, kBusyTimeoutMs);
         sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
         code = sqlite3_exec(handle, kSettings, nullptr, nullptr, nullptr);
+        limitPages(handle, kWorkingPages);
     }
     if (code != SQLITE_OK)
         throwSqliteFailure(code, path, QString::fromUtf8(sqlite3_errmsg(handle)));
@@ -65,10 +72,13 @@ void Connection::rollBack() noexcept {
 size_t Connection::giveBackPages() {
     int used = 0, most = 0;
     sqlite3_db_status(m_database.get(), SQLITE_DBSTATUS_CACHE_USED, &used, &most, 0);
-    if (used < kManyPages)
+    const int before = used;
+    if (before <= kRestingPages * 1024)
         return 0;
-    sqlite3_db_release_memory(m_database.get());
-    return static_cast<size_t>(used);
+    limitPages(m_database.get(), kRestingPages);
+    limitPages(m_database.get(), kWorkingPages);
+    sqlite3_db_status(m_database.get(), SQLITE_DBSTATUS_CACHE_USED, &used, &most, 0);
+    return static_cast<size_t>(before - used);
 }
 
 qint64 Connection::dataVersion() {

@@ -242,6 +242,18 @@ int Recordset::fieldCount() const {
     return m->rows->columnCount();
 }
 
+void Recordset::readTexts(std::vector<std::optional<QString>>& texts) {
+    texts.resize(static_cast<size_t>(fieldCount()));
+    if (m->adding || m->edited()) {
+        for (int i = 0; i < fieldCount(); ++i)
+            texts[static_cast<size_t>(i)] = field(i).isNull() ? std::nullopt : std::optional(field(i).text());
+        return;
+    }
+    const StoredRow row = m->currentRow();
+    for (int i = 0; i < fieldCount(); ++i)
+        texts[static_cast<size_t>(i)] = row.isNull(i) ? std::nullopt : std::optional(row.text(i));
+}
+
 Field Recordset::field(int ordinal) {
     if (ordinal < 0 || ordinal >= fieldCount())
         throw RuntimeError(store_errors::NoSuchField, QStringLiteral("记录里没有第 %1 栏。").arg(ordinal + 1));

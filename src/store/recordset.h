@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace qinghe {
 
@@ -51,6 +52,9 @@ public:
     void find(const QString& criterion);
 
     int fieldCount() const;
+    /// The texts of the current row's fields, std::nullopt for NULL; quicker than field by field. `texts` is filled
+    /// anew.
+    void readTexts(std::vector<std::optional<QString>>& texts);
     Field field(int ordinal);      ///< 0-based; throws RuntimeError (3265, no such item)
     Field field(QStringView name); ///< throws likewise
 

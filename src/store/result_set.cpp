@@ -50,7 +50,7 @@ void ResultSet::finishDistinctRow(qint64 identity) {
     finishRow(identity);
     if (m_rowCount < 2 || !lastTwoRowsEqual())
         return;
-    m_cells.resize(m_cells.size() - m_shape.columns.size());
+    m_cells.drop(m_shape.columns.size());
     m_firstIdentity.pop_back();
     --m_rowCount;
 }
@@ -60,15 +60,18 @@ void ResultSet::setCell(int row, int column, const StoredValue& value) {
 }
 
 size_t ResultSet::footprint() const {
-    return m_cells.size() * sizeof(Cell) + m_bytes.size() + m_identities.size() * sizeof(qint64);
+    size_t bytes = m_cells.size() * sizeof(Cell) + m_identities.size() * sizeof(qint64);
+    for (const std::string& piece : m_bytes)
+        bytes += piece.capacity();
+    return bytes;
 }
 
 size_t ResultSet::letValuesGo() {
     if (!isPlain())
         return 0;
     const size_t before = footprint();
-    std::vector<Cell>().swap(m_cells); // an assignment may keep the room
-    std::string().swap(m_bytes);
+    m_cells = {};
+    m_bytes = {};
     m_identities.shrink_to_fit();
     return before - footprint();
 }
@@ -80,15 +83,22 @@ ResultSet::Cell ResultSet::packed(const StoredValue& value) {
     case Storage::Real:
         return {value.storage, 0, std::bit_cast<quint64>(value.real)};
     case Storage::Text:
-    case Storage::Blob: {
-        const size_t begin = m_bytes.size();
-        m_bytes.append(value.bytes.constData(), static_cast<size_t>(value.bytes.size()));
-        return {value.storage, static_cast<quint32>(value.bytes.size()), begin};
-    }
+    case Storage::Blob:
+        return {value.storage, static_cast<quint32>(value.bytes.size()), keep(value.bytes)};
     case Storage::Null:
         break;
     }
     return {Storage::Null, 0, 0};
+}
+
+quint64 ResultSet::keep(const QByteArray& bytes) {
+    const auto size = static_cast<size_t>(bytes.size());
+    if (m_bytes.empty() || m_bytes.back().capacity() - m_bytes.back().size() < size)
+        m_bytes.emplace_back().reserve(std::max(size, BytesAPiece));
+    std::string& piece = m_bytes.back();
+    const quint64 place = (m_bytes.size() - 1) << 32 | piece.size();
+    piece.append(bytes.constData(), size);
+    return place;
 }
 
 StoredValue ResultSet::stored(int row, int column) const {
@@ -101,7 +111,8 @@ StoredValue ResultSet::stored(int row, int column) const {
     case Storage::Text:
     case Storage::Blob:
         return {.storage = cell.storage,
-                .bytes = QByteArray::fromRawData(m_bytes.data() + cell.payload, static_cast<qsizetype>(cell.length))};
+                .bytes = QByteArray::fromRawData(m_bytes[cell.payload >> 32].data() + (cell.payload & 0xFFFF'FFFF),
+                                                 static_cast<qsizetype>(cell.length))};
     case Storage::Null:
         break;
     }

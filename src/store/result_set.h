@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/column.h"
+#include "store/pieces.h"
 #include "store/stored_value.h"
 
 #include <span>
@@ -20,7 +21,7 @@ struct ResultShape {
 };
 
 /// The rows of one query: values, and the identities of the stored rows behind them. Compact: a cell takes 16 bytes,
-/// and texts and blobs of all rows lie in one piece of memory. It knows nothing of the file that it came from.
+/// and texts and blobs of all rows lie in a few pieces of memory. It knows nothing of the file that it came from.
 ///
 /// Rows that can be told by their identity may stand without values: those that were finished without cells, and all of
 /// them once the values were let go.
@@ -62,19 +63,23 @@ private:
     struct Cell {
         Storage storage;
         quint32 length;  ///< of a text or a blob
-        quint64 payload; ///< the number's bits, or where the bytes begin
+        quint64 payload; ///< the number's bits, or where the bytes begin: a piece, and a place there in the low half
     };
     static_assert(sizeof(Cell) == 16);
 
     Cell packed(const StoredValue& value);
+    quint64 keep(const QByteArray& bytes);
     StoredValue stored(int row, int column) const;
     size_t cellIndex(int row, int column) const;
     bool lastTwoRowsEqual() const;
 
     ResultShape m_shape;
     int m_rowCount = 0;
-    std::vector<Cell> m_cells;
-    std::string m_bytes;
+    static constexpr size_t CellsAPiece = 4096;
+    static constexpr size_t BytesAPiece = 64 * 1024;
+
+    Pieces<Cell, CellsAPiece> m_cells;
+    std::vector<std::string> m_bytes; ///< each text or blob lies in one of them
     std::vector<qint64> m_identities;
     std::vector<size_t> m_firstIdentity; ///< by row; used when rows may stand for several
 };

@@ -22,8 +22,8 @@ Statement::Statement(sqlite3* database, const QByteArray& sql, const QString& pa
 }
 
 void Statement::bind(int place, const StoredValue& value) {
-    QByteArray& bytes = m_bound.at(static_cast<size_t>(place - 1)) = value.bytes;
-    const auto length = static_cast<sqlite3_uint64>(bytes.size());
+    const auto kept = [&]() -> const QByteArray& { return m_bound.at(static_cast<size_t>(place - 1)) = value.bytes; };
+    const auto length = static_cast<sqlite3_uint64>(value.bytes.size());
     switch (value.storage) {
     case Storage::Null:
         return check(sqlite3_bind_null(m_statement.get(), place));
@@ -32,9 +32,9 @@ void Statement::bind(int place, const StoredValue& value) {
     case Storage::Real:
         return check(sqlite3_bind_double(m_statement.get(), place, value.real));
     case Storage::Text:
-        return check(sqlite3_bind_text64(m_statement.get(), place, bytes.constData(), length, nullptr, SQLITE_UTF8));
+        return check(sqlite3_bind_text64(m_statement.get(), place, kept().constData(), length, nullptr, SQLITE_UTF8));
     case Storage::Blob:
-        return check(sqlite3_bind_blob64(m_statement.get(), place, bytes.constData(), length, nullptr));
+        return check(sqlite3_bind_blob64(m_statement.get(), place, kept().constData(), length, nullptr));
     }
 }
 
@@ -57,19 +57,19 @@ bool Statement::step() {
 }
 
 StoredValue Statement::column(int ordinal) const {
-    sqlite3_stmt* statement = m_statement.get();
-    const auto bytes = [&](const void* data) {
-        return QByteArray::fromRawData(static_cast<const char*>(data), sqlite3_column_bytes(statement, ordinal));
+    sqlite3_value* value = sqlite3_column_value(m_statement.get(), ordinal);
+    const auto bytes = [value](const void* data) {
+        return QByteArray::fromRawData(static_cast<const char*>(data), sqlite3_value_bytes(value));
     };
-    switch (sqlite3_column_type(statement, ordinal)) {
+    switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
-        return {.storage = Storage::Integer, .integer = sqlite3_column_int64(statement, ordinal)};
+        return {.storage = Storage::Integer, .integer = sqlite3_value_int64(value)};
     case SQLITE_FLOAT:
-        return {.storage = Storage::Real, .real = sqlite3_column_double(statement, ordinal)};
+        return {.storage = Storage::Real, .real = sqlite3_value_double(value)};
     case SQLITE_TEXT:
-        return {.storage = Storage::Text, .bytes = bytes(sqlite3_column_text(statement, ordinal))};
+        return {.storage = Storage::Text, .bytes = bytes(sqlite3_value_text(value))};
     case SQLITE_BLOB:
-        return {.storage = Storage::Blob, .bytes = bytes(sqlite3_column_blob(statement, ordinal))};
+        return {.storage = Storage::Blob, .bytes = bytes(sqlite3_value_blob(value))};
     default:
         return {};
     }

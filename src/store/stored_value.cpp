@@ -1,5 +1,7 @@
 #include "store/stored_value.h"
 
+#include "runtime/number_text.h"
+
 namespace qinghe {
 
 namespace {
@@ -54,6 +56,11 @@ Value decoded(const StoredValue& stored, ColumnKind kind) {
 QString decodedText(const StoredValue& stored, ColumnKind kind) {
     if (stored.storage == Storage::Text && kind != ColumnKind::Date)
         return QString::fromUtf8(stored.bytes);
+    if (stored.storage == Storage::Text)
+        if (const auto day = textOfIsoDay(stored.bytes))
+            return *day;
+    if (stored.storage == Storage::Real)
+        return numberText(stored.real);
     return decoded(stored, kind).text();
 }
 

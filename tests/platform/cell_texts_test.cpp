@@ -116,12 +116,12 @@ TEST(CellTexts, AgreesWithPlainTextsUnderAnyChanges) {
     const auto below = [&](int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random); };
     std::vector<QStringList> plain(5, QStringList(4));
     CellTexts texts = table(5, 4);
-    int cols = 4;
+    int cols = 4, row = 0, col = 0;
     const auto resize = [&](int rows, int newCols) {
         texts.resize(rows, cols = newCols);
         plain.resize(static_cast<std::size_t>(rows));
-        for (QStringList& row : plain)
-            row.resize(cols);
+        for (QStringList& line : plain)
+            line.resize(cols);
     };
     for (int step = 0; step < 20'000; ++step) {
         const int rows = texts.rows();
@@ -130,13 +130,17 @@ TEST(CellTexts, AgreesWithPlainTextsUnderAnyChanges) {
             resize(1 + below(40), 1 + below(8));
         else if (what == 1 && rows > 1)
             plain.erase(plain.begin() + step % rows), texts.removeRow(step % rows);
-        const int row = below(texts.rows()), col = below(cols);
+        // Often the next cell to the right of the last one, as a list is filled.
+        const bool onwards = below(3) > 0 && row < texts.rows() && col + 1 < cols;
+        row = onwards ? row : below(texts.rows());
+        col = onwards ? col + 1 : below(cols);
         const QString text(below(what == 2 ? 5000 : 12), what % 2 ? u'米' : u'8');
         plain[static_cast<std::size_t>(row)][col] = text;
         texts.setText(row, col, text);
         const int otherRow = below(texts.rows()), otherCol = below(cols);
         ASSERT_EQ(texts.text(otherRow, otherCol), plain[static_cast<std::size_t>(otherRow)][otherCol]) << step;
         ASSERT_EQ(texts.isEmpty(otherRow, otherCol), plain[static_cast<std::size_t>(otherRow)][otherCol].isEmpty());
+        ASSERT_EQ(texts.rowTexts(otherRow), plain[static_cast<std::size_t>(otherRow)]) << step;
     }
 }
 

@@ -92,6 +92,17 @@ TEST(ParseIsoDate, ReadsItsOwnSpellingAlone) {
         EXPECT_FALSE(parseIsoDate(text)) << text.toStdString();
 }
 
+TEST(TextOfIsoDay, AgreesWithTheLongWayRound) {
+    for (QDate day(1999, 12, 1); day < QDate(2001, 4, 1); day = day.addDays(1)) {
+        const DateValue value{day, {}};
+        ASSERT_EQ(textOfIsoDay(value.iso().toUtf8()), value.text());
+    }
+    EXPECT_EQ(textOfIsoDay("0100-01-01"), QStringLiteral("100-1-1"));
+    for (const char* other : {"2024-02-30", "2024-13-01", "2024-00-10", "0099-01-01", "2024-5-3", "2024-05-03 08:05:09",
+                              "2024/05/03", "2024-05-0x", "", "今天"})
+        EXPECT_EQ(textOfIsoDay(other), std::nullopt) << other;
+}
+
 TEST(ParseDate, ReadsBackBothFormsOfEveryDayOfFourYears) {
     for (QDate day(2023, 1, 1); day.year() < 2027; day = day.addDays(1)) {
         const DateValue value{day, QTime(day.day() % 24, day.month(), day.year() % 60)};

@@ -3,6 +3,11 @@
 #include "runtime/runtime_error.h"
 
 #include <gtest/gtest.h>
+#include <iomanip>
+#include <random>
+#include <sstream>
+
+using namespace Qt::StringLiterals;
 
 namespace qinghe {
 namespace {
@@ -51,6 +56,18 @@ TEST(NumberText, KeepsFifteenDigitsOfADouble) {
     };
     for (const auto& [value, text] : table)
         EXPECT_EQ(numberText(value), text);
+}
+
+TEST(NumberText, WritesAmountsAsTheFifteenDigitsOfTheirValue) {
+    std::mt19937_64 random(7);
+    for (int i = 0; i < 20'000; ++i) {
+        const auto hundredths = static_cast<double>(random() % 10'000'000'000'000'000ULL >> random() % 50);
+        for (const double value : {hundredths / 100, -hundredths / 100, hundredths / 100 + 1e-9, hundredths / 1000}) {
+            std::ostringstream wanted;
+            wanted << std::setprecision(15) << std::uppercase << value;
+            ASSERT_EQ(numberText(value).toStdString(), value == 0 ? "0" : wanted.str());
+        }
+    }
 }
 
 TEST(NumberText, TurnsScientificFromSixteenPlacesOnAndBelowFourZeros) {
@@ -194,6 +211,19 @@ TEST(FullNumber, TakesEveryWayToWriteAnAmount) {
     };
     for (const auto& [text, value] : table)
         EXPECT_EQ(fullNumber(text.toString()), value) << text;
+}
+
+TEST(FullNumber, ReadsPlainDigitsAsTheMachineDoes) {
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 20'000; ++i) {
+        const QString text = numberText(static_cast<double>(random() % 1'000'000'000'000ULL) / 1000 - 3e8);
+        ASSERT_EQ(fullNumber(text), text.toDouble()) << text.toStdString();
+    }
+    for (const QStringView none : {u"-", u".", u"-.", u"1-", u"1..2", u"1.2.3", u"٣"})
+        EXPECT_EQ(fullNumber(none.toString()), std::nullopt) << none.toString().toStdString();
+    EXPECT_EQ(fullNumber(u"5."_s), 5);
+    EXPECT_EQ(fullNumber(u"-.5"_s), -.5);
+    EXPECT_EQ(fullNumber(QString(40, u'1')), 1.1111111111111112e39);
 }
 
 TEST(FullNumber, RefusesATextThatIsNoNumberAsAWhole) {

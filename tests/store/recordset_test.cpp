@@ -335,6 +335,32 @@ TEST_F(Records, FieldsAreReachedByNameAndOrdinalOnly) {
     EXPECT_EQ(errorOf([&] { set.field(u"密码"); }, u"“密码”"_s), store_errors::NoSuchField);
 }
 
+TEST_F(Records, RowIsReadAsTheTextsOfItsFields) {
+    Recordset& set = users(u"甲乙"_s);
+    std::vector<std::optional<QString>> texts{u"from before"_s};
+    set.moveNext();
+    set.readTexts(texts);
+    EXPECT_EQ(texts, (std::vector<std::optional<QString>>{u"乙"_s, std::nullopt, u"2"_s}));
+    set.field(1).setValue(QString()); // not stored yet
+    set.readTexts(texts);
+    EXPECT_EQ(texts, (std::vector<std::optional<QString>>{u"乙"_s, QString(), u"2"_s}));
+    set.moveNext();
+    EXPECT_EQ(errorOf([&] { set.readTexts(texts); }), RuntimeError::NoCurrentRecord);
+}
+
+TEST_F(Records, SetOfManyLongTextsKeepsEachOfThem) {
+    Recordset& set = control.open(u"yhb"_s);
+    for (int i = 1; i <= 300; ++i)
+        add(set, {{u"用户名"_s, QString(i * 7 % 1000, QChar(u'a' + i % 26))}, {u"用户密码"_s, QString::number(i)}});
+    add(set, {{u"用户名"_s, QString(200'000, u'饭')}});
+    Recordset& again = control.open(u"yhb"_s);
+    for (int i = 1; i <= 300; ++i, again.moveNext()) {
+        ASSERT_EQ(again.field(0).text(), QString(i * 7 % 1000, QChar(u'a' + i % 26)));
+        ASSERT_EQ(again.field(1).text(), QString::number(i));
+    }
+    EXPECT_EQ(again.field(0).text(), QString(200'000, u'饭'));
+}
+
 TEST_F(Records, MovedSetWorksOn) {
     Recordset set = std::move(users(u"甲乙"_s));
     set.moveNext();
