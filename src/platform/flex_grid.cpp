@@ -204,7 +204,8 @@ double MSFlexGrid::RowPos(int row) {
     bringUpToDate();
     if (row == 0)
         return 0;
-    return (row - verticalScrollBar()->value()) * DefaultRowHeight;
+    // Scrolled to its end, the view lays its last row on the lower edge, which need not be a whole row's.
+    return DefaultRowHeight + verticalHeader()->sectionViewportPosition(row - 1) * TwipsPerPixel;
 }
 
 void MSFlexGrid::RemoveItem(int row) {

@@ -90,10 +90,11 @@ TEST_F(GridView, ColumnsFollowEachOtherFromTheMarkerColumnOn) {
 
 TEST_F(GridView, PlacesFollowTheScroll) {
     grid.ensureVisible(40, 10);
-    const int rows = grid.verticalScrollBar()->value(), pixels = grid.horizontalScrollBar()->value();
-    ASSERT_GT(rows, 0);
+    const int pixels = grid.horizontalScrollBar()->value();
+    ASSERT_GT(grid.verticalScrollBar()->value(), 0);
     ASSERT_GT(pixels, 0);
-    EXPECT_EQ(grid.RowPos(40), (40 - rows) * 300.0);
+    EXPECT_EQ(grid.RowPos(40), 300 + grid.rowViewportPosition(39) * 15.0);
+    EXPECT_EQ(grid.RowPos(40) - grid.RowPos(38), 600);
     EXPECT_LE(grid.RowPos(1), 0);
     EXPECT_EQ(grid.ColPos(1), 300 - pixels * 15.0);
     EXPECT_EQ(grid.RowPos(0), 0);
@@ -127,6 +128,18 @@ TEST_F(GridView, TellsWhenItsCellsHaveMoved) {
     QSignalSpy moved(&grid, &MSFlexGrid::scrolled);
     grid.verticalScrollBar()->setValue(5);
     EXPECT_GE(moved.count(), 1);
+}
+
+TEST_F(GridView, PlacesAreThoseOfTheCellsAlsoAtTheEndOfAListThatIsNoWholeNumberOfRowsHigh) {
+    handlers::enter([this] { grid.place(150, 300, 5700, 2415); });
+    turnLoop();
+    for (const int top : {0, 12, grid.verticalScrollBar()->maximum()}) {
+        grid.verticalScrollBar()->setValue(top);
+        const int row = top + 3;
+        const QRect seen = grid.visualRect(grid.model()->index(row - 1, 2)).translated(grid.viewport()->pos());
+        EXPECT_EQ(grid.cellRect(row, 3).top(), seen.top()) << top;
+        EXPECT_EQ(grid.cellRect(row, 3).bottom(), seen.bottom()) << top;
+    }
 }
 
 TEST_F(GridView, ATextThatDoesNotFitIsToldWholeAndAsItStands) {
