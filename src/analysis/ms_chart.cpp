@@ -141,7 +141,7 @@ void MSChart::paintOn(QPaintDevice& device) {
     QPainter painter(&device);
     painter.setFont(sans(type::Body));
     painter.setPen(colour::Ink2);
-    painter.drawText(rect(), Qt::AlignCenter, u"程序文件夹里缺少 qinghe_charts，无法显示图表。"_s);
+    painter.drawText(rect(), Qt::AlignCenter, u"无法载入程序文件夹里的 qinghe_charts，图表显示不出来。"_s);
 }
 
 void MSChart::paintEvent(QPaintEvent*) {
