@@ -115,4 +115,43 @@ void saveBare(Bare& db, const Cells& cells) {
     db.run(QStringLiteral("commit"));
 }
 
+void saveNamesBare(Bare& db, const Cells& cells, const QString& columns) {
+    const auto count = static_cast<int>(columns.count(u',')) + 1;
+    db.run(QStringLiteral("begin immediate"));
+    db.run(QStringLiteral("delete from ") + cells.table);
+    sqlite3_stmt* to = db.prepare(QStringLiteral("insert into %1(%2) values(%3?)")
+                                      .arg(cells.table, columns, QStringLiteral("?,").repeated(count - 1)));
+    for (int row = 0; row < cells.rows; ++row) {
+        for (int i = 0; i < count; ++i) {
+            const std::string& text = cells.texts[static_cast<std::size_t>(row * cells.columns + i)];
+            sqlite3_bind_text(to, i + 1, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+        }
+        sqlite3_step(to);
+        sqlite3_reset(to);
+    }
+    sqlite3_finalize(to);
+    db.run(QStringLiteral("commit"));
+}
+
+void gatherMonthsBare(Bare& db) {
+    db.run(QStringLiteral("begin immediate"));
+    db.read(QStringLiteral("select * from nsrb"));
+    db.run(QStringLiteral("delete from nsrb"));
+    sqlite3_stmt* from = db.prepare(QStringLiteral("select 时间,金额 from srb order by rowid"));
+    sqlite3_stmt* to = db.prepare(QStringLiteral("insert into nsrb(时间,金额,区别) values(?,?,?)"));
+    for (int n = 1; sqlite3_step(from) == SQLITE_ROW; ++n) {
+        sqlite3_bind_text(to, 1, textOf(from, 0), 7, SQLITE_STATIC);
+        sqlite3_bind_double(to, 2, sqlite3_column_double(from, 1));
+        sqlite3_bind_int(to, 3, n);
+        sqlite3_step(to);
+        sqlite3_reset(to);
+    }
+    sqlite3_finalize(from);
+    sqlite3_finalize(to);
+    db.read(QStringLiteral("select * from nsrb order by rowid"));
+    db.read(QStringLiteral("select 时间,sum(金额) as 金额 from nsrb group by 时间"));
+    db.read(QStringLiteral("select 时间,sum(金额) as 金额 from nsrb group by 时间"));
+    db.run(QStringLiteral("commit"));
+}
+
 } // namespace qinghe::benchmarks

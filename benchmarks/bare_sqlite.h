@@ -39,6 +39,12 @@ struct Cells {
     int rows = 0;
     std::vector<std::string> texts; ///< row by row
 };
+/// What saving a list of categories writes: the table emptied, then the first columns of the rows under these names.
+void saveNamesBare(Bare& db, const Cells& cells, const QString& columns);
+
+/// What the chart of income by month does: the ledger read, the work table emptied and filled by month, its sums.
+void gatherMonthsBare(Bare& db);
+
 Cells readCells(Bare& db, const QString& table);
 /// What saving a page writes: one statement that empties the table and prepared inserts of the same rows, one durable
 /// transaction.

@@ -1,5 +1,6 @@
 #include "ledger_pages.h"
 
+#include "analysis/ms_chart.h"
 #include "bare_sqlite.h"
 #include "filled_store.h"
 #include "support/program_rig.h"
@@ -91,6 +92,75 @@ void measureReports(Report& report, FullBook& book) {
                1.5);
 }
 
+/// The categories: a list of as many majors as rows, and one major with as many minors.
+void measureCategories(Report& report, FullBook& book) {
+    auto& Option3 = book.rig.onMain<OptionButton>(u"Option3"_s);
+    auto& Option4 = book.rig.onMain<OptionButton>(u"Option4"_s);
+    book.rig.click(book.rig.onMain<Label>(u"Label7"_s));
+    book.rig.click(book.rig.onMain<CommandButton>(u"Command31"_s));
+    const QString majors = u"select distinct 收入大类 from srflb"_s;
+    report.add(u"opening categories, 32767 majors, against bare SQLite"_s,
+               inTurn(
+                   Runs,
+                   [&] {
+                       book.rig.click(Option4);
+                       return book.clickTime(Option3);
+                   },
+                   [&] { return book.readTime({majors}); }),
+               1.6);
+    const auto saveTimes = [&](const QString& button, const QString& into) {
+        auto& save = book.rig.onMain<CommandButton>(button);
+        const Cells names = readCells(*book.bare, u"srflb"_s);
+        return inTurn(
+            Runs, [&] { return book.clickTime(save); },
+            [&] { return milliseconds([&] { saveNamesBare(*book.bare, names, into); }); });
+    };
+    report.add(u"saving 32767 majors, durable, against bare SQLite"_s, saveTimes(u"Command9"_s, u"收入大类"_s), 1.6);
+
+    book.rig.sql(u"update srflb set 收入大类='一', 收入细类='细'||rowid, 快速代码='dm'||rowid"_s);
+    book.bare->run(u"update srflb set 收入大类='一', 收入细类='细'||rowid, 快速代码='dm'||rowid"_s);
+    book.rig.click(Option4);
+    book.rig.click(Option3);
+    auto& ms3 = book.rig.onMain<MSFlexGrid>(u"ms3"_s);
+    report.add(u"opening one major with 32767 minors, against bare SQLite"_s,
+               inTurn(
+                   Runs, [&] { return milliseconds([&] { book.rig.clickCell(ms3, 1, 1); }); },
+                   [&] { return book.readTime({u"select * from srflb where 收入大类='一' order by rowid"_s}); }),
+               1.6);
+    report.add(u"saving 32767 minors, durable, against bare SQLite"_s,
+               saveTimes(u"Command12"_s, u"收入大类,收入细类"_s), 1.6);
+}
+
+/// What a chart of months reads and rewrites, and one drawing of it.
+void measureCharts(Report& report, FullBook& book) {
+    auto& Option10 = book.rig.onMain<OptionButton>(u"Option10"_s);
+    auto& Option11 = book.rig.onMain<OptionButton>(u"Option11"_s);
+    auto& MSC1 = book.rig.onMain<MSChart>(u"MSC1"_s);
+    book.rig.sql(u"delete from zhb where 区别 > 300"_s);
+    book.rig.click(book.rig.onMain<Label>(u"Label12"_s));
+    QImage image(MSC1.size(), QImage::Format_ARGB32_Premultiplied);
+    const auto drawing = [&] { return milliseconds([&] { MSC1.paintOn(image); }); };
+    std::vector<double> drawings;
+    for (int i = 0; i < 3 * Runs; ++i) {
+        MSC1.setChartData(QVariantList(MSC1.ChartData())); // laid out anew
+        drawings.push_back(drawing());
+    }
+    if (MSC1.ChartData().size() != 300)
+        qFatal("not 300 points");
+    report.addPlain(u"drawing a chart of 300 points, ms"_s, median(drawings), 16);
+    report.add(u"the chart of 120 months, 32767 rows, against bare SQLite and one drawing"_s,
+               inTurn(
+                   Runs,
+                   [&] {
+                       book.rig.click(Option10);
+                       return book.clickTime(Option11);
+                   },
+                   [&] { return milliseconds([&] { gatherMonthsBare(*book.bare); }) + drawing(); }),
+               1.6);
+    if (MSC1.ChartData().size() != 120)
+        qFatal("not 120 months");
+}
+
 } // namespace
 
 void measureLedgerPages(Report& report) {
@@ -102,6 +172,8 @@ void measureLedgerPages(Report& report) {
          })
         measurePage(report, book, page);
     measureReports(report, book);
+    measureCategories(report, book);
+    measureCharts(report, book);
 }
 
 } // namespace qinghe::benchmarks
