@@ -11,8 +11,8 @@ namespace {
 
 constexpr int PageCode = 1;
 constexpr int AmountColumn = 3, NoteColumn = 8;
-constexpr double NoteWidth = 2800, WideNoteWidth = 3200; ///< twips
-constexpr double RaisedTop = 1560;                       ///< the page's top when the picture brings it up
+// When the picture brings the page up; twips.
+constexpr double WideNoteWidth = 3200, RaisedTop = 1560;
 
 constexpr std::array<GridPage::Column, 8> Columns{{
     {u"账户", 1150},
@@ -22,7 +22,7 @@ constexpr std::array<GridPage::Column, 8> Columns{{
     {u"余额", 1150},
     {u"借出人", 1150},
     {u"借给人", 1150},
-    {u"备注", NoteWidth},
+    {u"备注", 2800},
 }};
 
 const GridPage::Traits Loans{
@@ -106,7 +106,7 @@ void LoansPage::Form2_Label1_Click() {
     window.navigation().leaveOthers(PageCode);
     hideEditor();
     window.navigation().bringForward(PageCode);
-    bringUp(*Option2, lent(), NoteWidth);
+    bringUp(*Option2, lent());
 }
 
 void LoansPage::Form2_Image1_Click() {
@@ -116,25 +116,25 @@ void LoansPage::Form2_Image1_Click() {
     const Page& page = Navigation::page(PageCode);
     frame.place(page.left, RaisedTop, page.width, page.height);
     window.navigation().show(frame.objectName());
-    bringUp(*Option1, borrowed(), WideNoteWidth);
+    bringUp(*Option1, borrowed());
+    grid->setColWidth(NoteColumn, WideNoteWidth);
 }
 
-void LoansPage::bringUp(OptionButton& option, const List& list, double noteWidth) {
+void LoansPage::bringUp(OptionButton& option, const List& list) {
     // Only an option that was not set yet runs its click, which writes the totals as well.
     option.setValue(true);
-    loadTable();
-    layList(list, noteWidth);
+    loadList(list);
 }
 
 void LoansPage::Form2_Option1_Click() {
-    load(borrowed());
+    choose(borrowed());
 }
 
 void LoansPage::Form2_Option2_Click() {
-    load(lent());
+    choose(lent());
 }
 
-void LoansPage::load(const List& list) {
+void LoansPage::choose(const List& list) {
     bench.unloadPickers();
     window.navigation().frame(u"Frame2"_s).setShown(false);
     hideEditor();
@@ -142,8 +142,7 @@ void LoansPage::load(const List& list) {
     frame.setCaption(QString::fromUtf16(list.frameCaption));
     startRows();
     blankRow(1);
-    loadTable();
-    layList(list, NoteWidth);
+    loadList(list);
     window.navigation().bringForward(PageCode);
     showTotal(list);
     // Delete and save rely on the bare table, not on the sum.
@@ -151,9 +150,9 @@ void LoansPage::load(const List& list) {
     Adodc1.open(QString::fromUtf16(list.table));
 }
 
-void LoansPage::layList(const List& list, double noteWidth) {
+void LoansPage::loadList(const List& list) {
+    loadTable();
     captionColumn(AmountColumn, list.amount);
-    grid->setColWidth(NoteColumn, noteWidth);
 }
 
 void LoansPage::showTotal(const List& list) {

@@ -28,9 +28,11 @@ private:
 
     void makeImage1();
     /// What both ways to the page share: option, table, columns, rows. The first row is not blanked.
-    void bringUp(OptionButton& option, const List& list, double noteWidth);
-    void load(const List& list);
-    void layList(const List& list, double noteWidth);
+    void bringUp(OptionButton& option, const List& list);
+    /// An option's click: list, captions and totals.
+    void choose(const List& list);
+    /// The rows of the list, with its caption of the amount.
+    void loadList(const List& list);
     void showTotal(const List& list);
 
     OptionButton* Option1; // 借入表

@@ -61,6 +61,15 @@ TEST_F(BudgetTest, OpensThePickerByAClickButNotByEnter) {
     EXPECT_EQ(grid().TextMatrix(2, 1), u"2024-6-1");
 }
 
+TEST_F(BudgetTest, ClosesThePickerWhenEnterLeavesTheDate) {
+    clickCell(1, 1);
+    write(u"2024-7-1"_s);
+    enter();
+    EXPECT_EQ(tools(), u"none");
+    EXPECT_EQ(current(), u"1,2");
+    EXPECT_EQ(grid().TextMatrix(1, 1), u"2024-7-1");
+}
+
 TEST_F(BudgetTest, OpensTheCalculatorByEnterAndByAClick) {
     clickCell(1, 2);
     enter();
@@ -162,6 +171,12 @@ TEST_F(BudgetTest, KeepsTheOldFirstRowOverAnEmptyTableWhereItStandsForNoRecord) 
     EXPECT_EQ(rig.messages->shown, std::vector{DeleteAsked});
     EXPECT_EQ(rows(), QStringList{blankRow()});
     EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(BudgetTest, KeepsWhatTheFirstRowHeldWhereARecordHoldsNothing) {
+    rig.sql(u"update ysb set 预算项目 = null, 备注 = '' where 区别 = 1"_s);
+    open();
+    EXPECT_EQ(row(1), u"2024-5-1|房租|2000|"); // an empty text is written, nothing is not
 }
 
 TEST_F(BudgetTest, KeepsTheSetOfTheOpeningThroughASave) {

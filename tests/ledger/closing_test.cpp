@@ -13,6 +13,8 @@ class ClosingTest : public IncomeTest {
 protected:
     ClosingTest() { openWith(2); }
 
+    MSFlexGrid& ms1() { return rig.onMain<MSFlexGrid>(u"ms1"_s); }
+    TextBox& tx1() { return rig.onMain<TextBox>(u"tx1"_s); }
     void writeInto(int row, int col, const QString& text) {
         clickCell(row, col);
         write(text);
@@ -72,6 +74,42 @@ TEST_F(ClosingTest, CommitsAlsoWhenAnotherPageIsInView) {
     EXPECT_FALSE(rig.frame(u"Frame2"_s).Visible());
     clickForm();
     EXPECT_EQ(ms2().TextMatrix(1, 3), u"别处提交");
+}
+
+TEST_F(ClosingTest, CommitsALoanAlsoWhenIncomeIsInView) {
+    store(Lent, 1);
+    open(Lent);
+    rig.clickCell(ms1(), 1, 1);
+    tx1().selectAll();
+    rig.type(tx1(), u"别处提交"_s);
+    open();
+    clickForm();
+    EXPECT_EQ(ms1().TextMatrix(1, 1), u"别处提交");
+    EXPECT_FALSE(tx1().Visible());
+}
+
+TEST_F(ClosingTest, DropsTheBoxOfALoanByAClickOnTheFrameOfIncome) {
+    store(Lent, 1);
+    open(Lent);
+    rig.clickCell(ms1(), 1, 1);
+    open();
+    EXPECT_TRUE(tx1().Visible()); // in a frame that is hidden
+    clickFrame();
+    EXPECT_FALSE(tx1().Visible());
+}
+
+TEST_F(ClosingTest, CommitsNeitherBudgetNorAccountWhileTheirPagesAreHidden) {
+    for (const LedgerList& other : {Budget, Accounts}) {
+        store(other, 1);
+        open(other);
+        auto& otherGrid = rig.onMain<MSFlexGrid>(u"ms%1"_s.arg(other.number));
+        rig.clickCell(otherGrid, 1, other.text);
+        const QString before = otherGrid.Text();
+        rig.onMain<TextBox>(u"tx%1"_s.arg(other.number)).setText(u"未按回车"_s);
+        open();
+        clickForm();
+        EXPECT_EQ(otherGrid.TextMatrix(1, other.text), before) << other.name;
+    }
 }
 
 TEST_F(ClosingTest, CommitsNothingWhileTheGridIsDisabled) {

@@ -40,6 +40,7 @@ TEST_P(EveryListCellsTest, StayAsTheyWereOnEsc) {
     escape();
     EXPECT_EQ(textOf(1), before);
     EXPECT_FALSE(box().Visible());
+    EXPECT_EQ(current(), u"1,%1"_s.arg(list.text));
     EXPECT_EQ(QApplication::focusWidget(), &grid());
 }
 
@@ -57,6 +58,8 @@ TEST_P(EveryListCellsTest, FollowOneAnotherFromTheLastColumnToTheFirstOfTheNextR
     EXPECT_EQ(grid().TextMatrix(1, lastColumn()), u"新备注");
     EXPECT_EQ(current(), u"2,1");
     EXPECT_TRUE(box().Visible());
+    EXPECT_EQ(box().Text(), grid().TextMatrix(2, 1));
+    EXPECT_EQ(tools(), u"none");
     EXPECT_EQ(QApplication::focusWidget(), &box());
     expectEditorOver(2, 1);
 }

@@ -48,9 +48,10 @@ void PageTest::fillCell(int row, int col, const QString& text) {
 }
 
 void PageTest::calculate(const QString& keys) {
-    Form& calculator = *rig.loaded(u"Form9"_s);
-    rig.type(calculator, keys);
-    rig.press(calculator, Qt::Key_Return);
+    Form* calculator = rig.loaded(u"Form9"_s);
+    ASSERT_NE(calculator, nullptr) << "no calculator at " << current().toStdString();
+    rig.type(*calculator, keys);
+    rig.press(*calculator, Qt::Key_Return);
     rig.settle();
 }
 
@@ -82,9 +83,10 @@ void PageTest::expectEditorOver(int row, int col) {
 }
 
 void PageTest::expectUnderEditor(const QString& tool) {
-    const Form& form = *rig.loaded(tool);
-    EXPECT_DOUBLE_EQ(form.Left(), frame().Left() + box().Left() + rig.mainWindow().Left());
-    EXPECT_DOUBLE_EQ(form.Top(), frame().Top() + box().Top() + box().Height() + rig.mainWindow().Top());
+    const Form* form = rig.loaded(tool);
+    ASSERT_NE(form, nullptr) << tool.toStdString();
+    EXPECT_DOUBLE_EQ(form->Left(), frame().Left() + box().Left() + rig.mainWindow().Left());
+    EXPECT_DOUBLE_EQ(form->Top(), frame().Top() + box().Top() + box().Height() + rig.mainWindow().Top());
 }
 
 void PageTest::expectStopped(int error) {
