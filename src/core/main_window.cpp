@@ -19,6 +19,7 @@ namespace {
 constexpr quint32 Red = 255;
 constexpr double FormWidth = 12000, FormHeight = 8100; // twips
 constexpr int Minimised = 1, Normal = 0;
+constexpr int LateReportMs = 250;     ///< how long a busy window manager may still tell of the way to the tray
 constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
 constexpr int OtherTrayMessage = 130; ///< compared as well, and meant
 
@@ -149,6 +150,8 @@ void MainWindow::toTray() {
 void MainWindow::Form2_Form_Resize() {
     if (!Visible())
         return;
+    if (WindowState() == Minimised && m_sinceReturn.isValid() && m_sinceReturn.elapsed() < LateReportMs)
+        return setWindowState(Normal);
     Adodc1->setConnectionString(m_bench.connection());
     // Pages save into the table that they last loaded: a minimised window must not leave another one in hand.
     Adodc::Loan pages = Adodc1->borrow();
@@ -204,8 +207,10 @@ void MainWindow::Form2_Form_MouseMove(double x, double y) {
     if (message == OtherTrayMessage || message == LeftButtonDown) {
         if (WindowState() != Normal)
             setWindowState(Normal);
-        if (!Visible())
+        if (!Visible()) {
             showForm();
+            m_sinceReturn.start();
+        }
     }
     if (dragging == 1)
         moveTo(Left() + x - dragStartX, Top() + y - m_bench.emptyRowFlag);

@@ -6,6 +6,8 @@
 #include "core/workbench.h"
 #include "platform/timer.h"
 
+#include <QElapsedTimer>
+
 #include <memory>
 
 namespace qinghe {
@@ -55,6 +57,8 @@ private:
     Navigation m_navigation;
     TitleBand m_titleBand;
     std::unique_ptr<Desktop> m_desktop;
+
+    QElapsedTimer m_sinceReturn; ///< from the tray
 
     Int16 dragging;
     Int16 dragStartX; // dragStartY is the bench's emptyRowFlag

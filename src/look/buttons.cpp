@@ -18,6 +18,7 @@ namespace {
 
 constexpr int IconSide = 14, IconGap = 2;
 constexpr int MarkSide = 16, MarkGap = 6;
+constexpr int LowButton = 22; // pixels, all of them
 
 bool enabled(const QStyleOption& option) {
     return option.state & QStyle::State_Enabled;
@@ -53,8 +54,12 @@ void paintButtonBody(const QStyleOptionButton& option, QPainter& painter, const 
     const bool primary = isPrimary(option, widget) && enabled(option);
     const QColor edge = !enabled(option) ? colour::OffLine : primary ? colour::LeafDeep : colour::Ctl;
     paintPanel(painter, option.rect, 4, buttonFill(option, widget), edge, primary ? 1.6 : 1);
-    if (focused(option) && enabled(option))
-        paintPanel(painter, QRectF(option.rect).adjusted(3, 3, -3, -3), 2.5, Qt::NoBrush, colour::Leaf, 1.5);
+    if (focused(option) && enabled(option)) {
+        const double inset =
+            option.rect.height() < LowButton ? 1.5 : 3; // a low one has no room for it round the caption
+        paintPanel(painter, QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 2.5, Qt::NoBrush, colour::Leaf,
+                   1.5);
+    }
 }
 
 /// Our captions are plain text. Qt's own buttons mark a short cut in theirs: "是(&Y)" is shown as "是".

@@ -116,6 +116,21 @@ TEST_F(TrayIcon, AMinimiseLeavesThePagesTableInHand) {
     EXPECT_EQ(&main().Adodc1->recordset(), &loaded);
 }
 
+TEST_F(TrayIcon, ALateReportOfTheWayDownDoesNotSendTheWindowBack) {
+    want(true);
+    rig.signIn();
+    send(513);
+    ASSERT_TRUE(main().isVisible());
+    minimise(); // as a busy window manager may report it still
+    EXPECT_TRUE(main().Visible());
+    EXPECT_EQ(main().WindowState(), 0);
+    EXPECT_EQ(added(), 1u);
+    QTest::qWait(300);
+    minimise();
+    EXPECT_FALSE(main().Visible());
+    EXPECT_EQ(added(), 2u);
+}
+
 TEST_F(TrayIcon, ThePressOnTheIconBringsTheWindowBack) {
     for (const int message : {513, 130}) {
         rig.stop();
@@ -160,6 +175,7 @@ TEST_F(TrayIcon, TwoMinimisesInARowAddTheSameIconOnceMore) {
     want(true);
     minimise();
     send(513);
+    QTest::qWait(300);
     minimise();
     ASSERT_EQ(added(), 2u);
     EXPECT_EQ(rig.tray->added[0].uID, rig.tray->added[1].uID);
