@@ -12,6 +12,8 @@
 namespace driver {
 
 Session::Session(const QString& socket, QObject* parent) : QObject(parent) {
+    m_turn.setSingleShot(true);
+    connect(&m_turn, &QTimer::timeout, this, &Session::work);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         m_test = m_server.nextPendingConnection();
         connect(m_test, &QLocalSocket::readyRead, this, &Session::read);
@@ -23,7 +25,7 @@ Session::Session(const QString& socket, QObject* parent) : QObject(parent) {
 void Session::read() {
     while (m_test->canReadLine())
         m_tasks.push_back([this, line = m_test->readLine()] { obey(line); });
-    QMetaObject::invokeMethod(this, &Session::work, Qt::QueuedConnection);
+    m_turn.start();
 }
 
 void Session::obey(const QByteArray& line) {
@@ -45,7 +47,7 @@ void Session::work() {
         return;
     const Task task = std::move(m_tasks.front());
     m_tasks.pop_front();
-    QMetaObject::invokeMethod(this, &Session::work, Qt::QueuedConnection); // first: the task may wait for its user
+    m_turn.start(); // first: the task may wait for its user
     task();
 }
 

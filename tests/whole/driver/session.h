@@ -4,6 +4,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QObject>
+#include <QTimer>
 
 #include <deque>
 #include <functional>
@@ -24,6 +25,9 @@ private:
     void work();
 
     QLocalServer m_server;
+    /// To the next task. A posted call could still be made by the loop of a box whose button has just been pressed,
+    /// with the handler that asked not yet gone on; a timer is due in a later turn.
+    QTimer m_turn;
     QLocalSocket* m_test = nullptr;
     std::deque<Task> m_tasks;
 };
