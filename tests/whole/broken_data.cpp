@@ -4,28 +4,6 @@
 
 using namespace whole;
 
-namespace {
-
-bool holdsChinese(const std::string& text) {
-    for (const QChar character : QString::fromStdString(text))
-        if (character.script() == QChar::Script_Han)
-            return true;
-    return false;
-}
-
-/// The program tells in Chinese what is wrong, and ends with 1.
-void expectErrorWindow(Program& program, const std::string& said) {
-    const Message message = program.message();
-    EXPECT_EQ(message.title, "青禾家庭记账本");
-    EXPECT_EQ(message.buttons, std::vector<std::string>{"确定"});
-    EXPECT_TRUE(holdsChinese(message.text));
-    EXPECT_NE(message.text.find(said), std::string::npos) << message.text;
-    program.answer("确定");
-    EXPECT_EQ(program.exitCode(), 1);
-}
-
-} // namespace
-
 TEST(BrokenData, AMissingFileIsTold) {
     const LedgerFolder folder;
     folder.remove("data.dll");

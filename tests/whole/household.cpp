@@ -4,6 +4,17 @@
 
 namespace whole {
 
+namespace {
+
+bool holdsChinese(const std::string& text) {
+    for (const QChar character : QString::fromStdString(text))
+        if (character.script() == QChar::Script_Han)
+            return true;
+    return false;
+}
+
+} // namespace
+
 void signIn(Program& program) {
     program.click("Form5/Label1");
     program.waitForKeyboard("Form2");
@@ -17,6 +28,86 @@ void endByCross(Program& program) {
 void answer(Program& program, const std::string& text, const std::string& button) {
     EXPECT_EQ(program.message().text, text);
     program.answer(button);
+}
+
+void enter(Program& program, const std::string& text) {
+    program.key("Ctrl+A");
+    program.type(text);
+    program.key("Return");
+}
+
+void fillCell(Program& program, const std::string& grid, int row, int col, const std::string& text) {
+    program.clickCell(grid, row, col);
+    enter(program, text);
+}
+
+void reckon(Program& program, const std::string& keys) {
+    program.waitForKeyboard("Form9");
+    program.type(keys);
+    program.key("Return");
+    program.waitForKeyboard("Form2");
+}
+
+void pickDay(Program& program, int day) {
+    program.waitFor("Form1");
+    EXPECT_EQ(program.text("Form1/Label1"), "2024 年 11月");
+    const int fridayTheFirst = 5;
+    program.doubleClick("Form1/Label3(" + std::to_string(fridayTheFirst + day - 1) + ")");
+}
+
+std::vector<std::string> rows(Program& program, const std::string& grid) {
+    const int rows = program.get(grid, "Rows").toInt(), cols = program.get(grid, "Cols").toInt();
+    std::vector<std::string> texts;
+    for (int row = 1; row < rows; ++row) {
+        std::string text = program.cell(grid, row, 1);
+        for (int col = 2; col < cols; ++col)
+            text += '|' + program.cell(grid, row, col);
+        texts.push_back(text);
+    }
+    return texts;
+}
+
+void waitForRows(Program& program, const std::string& grid, const std::vector<std::string>& expected) {
+    std::vector<std::string> shown;
+    EXPECT_NO_THROW(program.waitUntil([&] { return (shown = rows(program, grid)) == expected; }, "the rows"));
+    EXPECT_EQ(shown, expected);
+}
+
+void addInVain(Program& program, const std::string& button) {
+    program.click(button);
+    EXPECT_EQ(program.message(), (Message{"当前有一条空记录", "温馨提示", Message::Information, {"确定"}}));
+    program.answer("确定");
+}
+
+void save(Program& program, const std::string& button) {
+    program.click(button);
+    EXPECT_EQ(program.message(), (Message{"保存成功", "保存提示", Message::Information, {"确定"}}));
+    program.answer("确定");
+}
+
+void saveInVain(Program& program, const std::string& button) {
+    program.click(button);
+    EXPECT_EQ(
+        program.message(),
+        (Message{
+            "为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！", "输入提示", Message::Information, {"确定"}}));
+    program.answer("确定");
+}
+
+void remove(Program& program, const std::string& button, const std::string& reply) {
+    program.click(button);
+    EXPECT_EQ(program.message(), (Message{"是否需要删除?", "温馨提示", Message::Information, {"确定", "取消"}}));
+    program.answer(reply);
+}
+
+void expectErrorWindow(Program& program, const std::string& said) {
+    const Message message = program.message();
+    EXPECT_EQ(message.title, "青禾家庭记账本");
+    EXPECT_EQ(message.buttons, std::vector<std::string>{"确定"});
+    EXPECT_TRUE(holdsChinese(message.text));
+    EXPECT_NE(message.text.find(said), std::string::npos) << message.text;
+    program.answer("确定");
+    EXPECT_EQ(program.exitCode(), 1);
 }
 
 } // namespace whole

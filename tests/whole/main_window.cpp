@@ -6,8 +6,6 @@ using namespace whole;
 
 namespace {
 
-constexpr QPoint bareTitle{650, 20}; // between the name and the window images
-
 /// Waits until the desktop has opened so many pages, and gives the last one's file name.
 std::string openedPage(Program& program, std::size_t count) {
     program.waitUntil([&] { return program.openedPages().size() == count; }, "the browser");
