@@ -1,6 +1,7 @@
 #include "ledger/categories.h"
 
 #include "core/hover.h"
+#include "ledger/lists.h"
 
 namespace qinghe {
 
@@ -129,9 +130,9 @@ void CategoriesPage::open(const Classification& chosen, OptionButton& option) {
     Adodc1.setConnectionString(bench.connection());
     Recordset& records = Adodc1.open(QString::fromUtf16(chosen.majorsSource));
     minors.layOut(chosen.minorsCaptions);
-    minors.startRows();
+    startRows(*minors.grid);
     majors.layOut(chosen.majorsCaptions);
-    majors.startRows();
+    startRows(*majors.grid);
     majors.fill(records, loanRow());
     minors.blank();
     Frame3.place(240, 1200, 12015, 6615);
@@ -156,7 +157,7 @@ void CategoriesPage::Form2_ms3_Click() {
     Adodc2.setConnectionString(bench.connection());
     Recordset& records = Adodc2.open(QString::fromUtf16(chosen.minorsSource) + majors.editor->Text() + u"'"_s);
     // A major without minors goes on showing the first one of the major before.
-    minors.startRows();
+    startRows(*minors.grid);
     minors.fill(records);
 }
 

@@ -1,7 +1,7 @@
 #include "ledger/category_list.h"
 
 #include "core/hover.h"
-#include "ledger/fill_rows.h"
+#include "ledger/lists.h"
 
 #include <QScrollBar>
 
@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Enter = 13, Escape = 27;
-constexpr double MarkerWidth = 300, Margin = 120, GridHeight = 4215; // twips
+constexpr double Margin = 120, GridHeight = 4215; // twips
 constexpr double ButtonWidth = 1080, ButtonPitch = 1200, ButtonTop = 4695;
 
 Frame* listFrame(Frame& page, const CategoryList::Traits& traits) {
@@ -68,18 +68,9 @@ void CategoryList::setUsable(bool usable) {
 }
 
 void CategoryList::layOut(std::span<const char16_t* const> captions) {
-    grid->setCols(m_traits.columns + 1);
-    grid->setColWidth(0, MarkerWidth);
-    const double width = roundedInt16((grid->Width() - 400) / m_traits.columns);
-    for (int column = 1; column < grid->Cols(); ++column) {
-        grid->setColWidth(column, width);
+    layEvenColumns(*grid, m_traits.columns);
+    for (int column = 1; column < grid->Cols(); ++column)
         grid->setTextMatrix(0, column, QString::fromUtf16(captions[static_cast<std::size_t>(column - 1)]));
-    }
-}
-
-void CategoryList::startRows() {
-    grid->setRows(2);
-    grid->setRow(1);
 }
 
 void CategoryList::fill(Recordset& records, int rowForEmptyText) {
@@ -96,8 +87,7 @@ void CategoryList::fill(Recordset& records, int rowForEmptyText) {
 
 void CategoryList::blank() {
     for (int row = 1; row < grid->Rows(); ++row)
-        for (int column = 1; column < grid->Cols(); ++column)
-            grid->setTextMatrix(row, column, {});
+        blankRow(*grid, row);
 }
 
 // ---- the box over the cells
@@ -133,15 +123,8 @@ void CategoryList::commitBox() {
 
 // ---- rows
 
-bool CategoryList::isBlank(int row) const {
-    for (int column = 1; column < grid->Cols(); ++column)
-        if (!grid->isEmpty(row, column))
-            return false;
-    return true;
-}
-
 bool CategoryList::filledOrMarked(int row) {
-    if (!isBlank(row))
+    if (!isRowBlank(*grid, row))
         m_bench.emptyRowFlag = 1;
     return m_bench.emptyRowFlag == 1;
 }
@@ -175,26 +158,19 @@ void CategoryList::save(Recordset& records) {
     goToLastRow();
     if (!filledOrMarked(grid->Row()) && grid->Rows() >= 3)
         grid->RemoveItem(grid->Row());
-    if (records.recordCount() != 0)
-        for (records.moveFirst(); !records.eof(); records.moveNext())
-            records.deleteCurrent();
+    emptyTable(records);
     bool filledRowMet = false; // from the first one on blank rows are written as well
     for (int row = 1; row < grid->Rows(); ++row) {
         grid->setRow(row);
-        filledRowMet = filledRowMet || !isBlank(row);
-        if (filledRowMet)
-            writeCurrentRow(records);
+        filledRowMet = filledRowMet || !isRowBlank(*grid, row);
+        if (!filledRowMet)
+            continue;
+        records.addNew();
+        writeCells(*grid, row, records);
+        records.update();
     }
     m_bench.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
     hideEditor();
-}
-
-void CategoryList::writeCurrentRow(Recordset& records) const {
-    records.addNew();
-    for (int column = 1; column < grid->Cols(); ++column)
-        if (const QString text = grid->TextMatrix(grid->Row(), column); !text.isEmpty())
-            records.field(column - 1).setValue(text);
-    records.update();
 }
 
 } // namespace qinghe

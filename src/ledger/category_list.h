@@ -42,8 +42,6 @@ public:
 
     /// Columns and their captions.
     void layOut(std::span<const char16_t* const> captions);
-    /// Two rows, the first one current; what it shows stays.
-    void startRows();
     /// One grid row a record, from the current row on. NULL and empty fields leave their cells as they are; an empty
     /// one blanks the cell of `rowForEmptyText` instead, if that is not NoRow.
     void fill(Recordset& records, int rowForEmptyText = NoRow);
@@ -70,8 +68,6 @@ public:
 private:
     /// Notes in emptyRowFlag when the row holds text, and tells whether the flag is set, by this row or ever before.
     bool filledOrMarked(int row);
-    bool isBlank(int row) const;
-    void writeCurrentRow(Recordset& records) const;
 
     const Traits& m_traits;
     Workbench& m_bench;

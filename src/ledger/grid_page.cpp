@@ -1,7 +1,7 @@
 #include "ledger/grid_page.h"
 
 #include "core/hover.h"
-#include "ledger/fill_rows.h"
+#include "ledger/lists.h"
 
 namespace qinghe {
 
@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Enter = 13, Escape = 27;
-constexpr double MarkerWidth = 300; ///< column 0, twips
 
 CommandButton* button(Frame& frame, const char16_t* name, const QString& caption, double left, Glyph glyph) {
     auto* made = new CommandButton(&frame, QString::fromUtf16(name), caption);
@@ -161,13 +160,6 @@ void GridPage::writeBack() {
 
 // ---- the button triple
 
-bool GridPage::isBlank(int row) const {
-    for (int column = 1; column < grid->Cols(); ++column)
-        if (!grid->isEmpty(row, column))
-            return false;
-    return true;
-}
-
 void GridPage::addRow() {
     bench.unloadPickers();
     if (traits.addCommitsBox) {
@@ -177,7 +169,7 @@ void GridPage::addRow() {
     } else {
         grid->setRow(grid->Rows() - 1);
     }
-    if (isBlank(traits.addTests == AddTests::LastRow ? grid->Rows() - 1 : grid->Row())) {
+    if (isRowBlank(*grid, traits.addTests == AddTests::LastRow ? grid->Rows() - 1 : grid->Row())) {
         bench.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
     } else {
         grid->setRows(grid->Rows() + 1);
@@ -203,7 +195,7 @@ void GridPage::deleteRow() {
     }
     const bool blanked = traits.lastRow == LastRow::BlankedWhenFirst ? grid->Row() == 1 : grid->Rows() < 3;
     if (blanked)
-        blankRow(1);
+        blankRow(*grid, 1);
     else
         grid->RemoveItem(grid->Row());
 }
@@ -225,21 +217,10 @@ bool GridPage::refusesGap() {
     return false;
 }
 
-void GridPage::emptyTable() {
-    Recordset& records = Adodc1.recordset();
-    if (records.recordCount() == 0)
-        return;
-    for (records.moveFirst(); !records.eof(); records.moveNext())
-        records.deleteCurrent();
-}
-
 void GridPage::writeRow(Recordset& records, Field& number, int row, Int16& counter) {
     records.addNew();
     number.setValue(static_cast<int>(++counter));
-    const QStringList texts = grid->rowTexts(row);
-    for (int column = 1; column < texts.size(); ++column)
-        if (!texts[column].isEmpty())
-            records.field(column - 1).setValue(texts[column]);
+    writeCells(*grid, row, records);
     records.update();
 }
 
@@ -251,7 +232,7 @@ void GridPage::saveRows() {
         Adodc1.refresh();
     if (refusesGap())
         return;
-    emptyTable();
+    emptyTable(Adodc1.recordset());
     if (traits.refreshWhenEmptied)
         Adodc1.refresh();
     Recordset& records = Adodc1.recordset();
@@ -296,18 +277,8 @@ void GridPage::loadTable(bool blankBehindConnection) {
     Adodc1.setConnectionString(bench.connection(blankBehindConnection));
     Recordset& records = Adodc1.open(table());
     layOut();
-    startRows();
+    startRows(*grid);
     fill(records);
-}
-
-void GridPage::startRows() {
-    grid->setRows(2);
-    grid->setRow(1);
-}
-
-void GridPage::blankRow(int row) {
-    for (int column = 1; column < grid->Cols(); ++column)
-        grid->setTextMatrix(row, column, {});
 }
 
 void GridPage::fill(Recordset& records) {

@@ -96,9 +96,6 @@ protected:
     /// Loads table() into the grid as it is laid out here; the first row is not blanked, so that an empty table leaves
     /// in it what it held.
     void loadTable(bool blankBehindConnection = true);
-    /// Two rows, the first one current.
-    void startRows();
-    void blankRow(int row);
     /// One grid row a record, from the current row on; NULL fields leave their cells as they are, the last field is
     /// never shown.
     void fill(Recordset& records);
@@ -123,9 +120,7 @@ private:
     void openCalculator();
     void openTool(const char16_t* form);
     void writeBack();
-    bool isBlank(int row) const;
     bool refusesGap();
-    void emptyTable();
     void writeRow(Recordset& records, Field& number, int row, Int16& counter);
 };
 

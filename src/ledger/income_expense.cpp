@@ -1,6 +1,7 @@
 #include "ledger/income_expense.h"
 
 #include "core/hover.h"
+#include "ledger/lists.h"
 #include "runtime/number_format.h"
 #include "runtime/runtime_error.h"
 
@@ -120,8 +121,8 @@ void IncomeExpensePage::Form2_Label2_Click(int index) {
 
     grid->setUsable(true);
     frame.setCaption(QString::fromUtf16(side().frameCaption));
-    startRows();
-    blankRow(1);
+    startRows(*grid);
+    blankRow(*grid, 1);
     loadTable();
     captionPerson();
     hideEditor();
@@ -140,8 +141,7 @@ void IncomeExpensePage::refillStatistics() {
     Adodc& Adodc2 = *window.Adodc2;
     Adodc2.setConnectionString(bench.connection());
     Recordset& statistics = Adodc2.open(u"sztjlsb"_s);
-    for (; !statistics.eof(); statistics.moveNext())
-        statistics.deleteCurrent();
+    emptyTable(statistics);
     Recordset& records = Adodc1.recordset();
     const QString person = QString::fromUtf16(side().person);
     for (int counter = 1; !records.eof(); records.moveNext(), ++counter) {

@@ -1,6 +1,7 @@
 #include "ledger/loans.h"
 
 #include "core/hover.h"
+#include "ledger/lists.h"
 #include "runtime/number_format.h"
 
 namespace qinghe {
@@ -140,8 +141,8 @@ void LoansPage::choose(const List& list) {
     hideEditor();
     bench.editors.at(u"ms2"_s).box->setShown(false);
     frame.setCaption(QString::fromUtf16(list.frameCaption));
-    startRows();
-    blankRow(1);
+    startRows(*grid);
+    blankRow(*grid, 1);
     loadList(list);
     window.navigation().bringForward(PageCode);
     showTotal(list);

@@ -1,19 +1,14 @@
 #include "ledger/month_statistics.h"
 
-#include "ledger/fill_rows.h"
+#include "ledger/lists.h"
 #include "runtime/number_format.h"
 #include "runtime/number_text.h"
-
-#include <cmath>
 
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr double MarkerWidth = 300; ///< column 0, twips
-constexpr double Unshared = 400;    ///< of the grid's width, twips
 
 QString money(const Value& value) {
     return formatNumber(value, u"##.00"_s);
@@ -50,17 +45,11 @@ void MonthStatistics::query(const Report& report) {
 
 void MonthStatistics::layOut(std::initializer_list<const char16_t*> captions) {
     const int columns = static_cast<int>(captions.size());
-    ms2.setCols(columns + 1);
-    ms2.setColWidth(0, MarkerWidth);
+    layEvenColumns(ms2, columns);
     ms2.setAmountColumns({columns});
-    const double share = std::nearbyint((ms2.Width() - Unshared) / columns);
-    for (int column = 1; column <= columns; ++column) {
-        ms2.setColWidth(column, share);
-        if (m_side == 0 || m_side == 1)
-            ms2.setTextMatrix(0, column, QString::fromUtf16(captions.begin()[column - 1]));
-    }
-    ms2.setRows(2);
-    ms2.setRow(1);
+    for (int column = 1; column <= columns && hasSide(); ++column)
+        ms2.setTextMatrix(0, column, QString::fromUtf16(captions.begin()[column - 1]));
+    startRows(ms2);
 }
 
 void MonthStatistics::showItems() {
@@ -68,7 +57,7 @@ void MonthStatistics::showItems() {
         {u"select 项目,sum(金额)as 总金额 from sztjlsb where 时间= '", u"'group by 项目 ", u"本月支出总额为：", true},
         {u"select 项目,sum(金额)as 总金额 from sztjlsb where 时间= '", u"' group by 项目", u"本月收入总额为：", false},
     }};
-    if (m_side == 0 || m_side == 1)
+    if (hasSide())
         query(reports[static_cast<std::size_t>(m_side)]);
     layOut({u"项目", m_side == 1 ? u"本月收入总额" : u"本月消费总额"});
     ms2.setTextMatrix(1, 1, {});
@@ -91,7 +80,7 @@ void MonthStatistics::showPeople() {
         {u"select 人员,项目,sum(金额)as 总金额 from sztjlsb where 时间= '", u"' group by 项目,人员",
          u"本月人员收入总额为：", true},
     }};
-    if (m_side == 0 || m_side == 1)
+    if (hasSide())
         query(reports[static_cast<std::size_t>(m_side)]);
     const bool income = m_side == 1;
     layOut({income ? u"收款人" : u"付款人", u"项目", income ? u"本月收入总额" : u"本月消费总额"});

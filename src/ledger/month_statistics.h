@@ -19,6 +19,7 @@ public:
 
 private:
     struct Report;
+    bool hasSide() const { return m_side == 0 || m_side == 1; }
     /// The month's sums, and their total under the table.
     void query(const Report& report);
     void layOut(std::initializer_list<const char16_t*> captions);

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/flex_grid.h"
+#include "store/recordset.h"
+
+#include <cmath>
+
+namespace qinghe {
+
+// What every list of the ledger does, whatever its scheme.
+
+inline constexpr double MarkerWidth = 300; ///< of column 0, twips
+
+/// So many columns behind the marker column, which share the grid's width less 400 twips in whole twips.
+inline void layEvenColumns(MSFlexGrid& grid, int count) {
+    grid.setCols(count + 1);
+    grid.setColWidth(0, MarkerWidth);
+    for (int column = 1; column <= count; ++column)
+        grid.setColWidth(column, std::nearbyint((grid.Width() - 400) / count));
+}
+
+/// Two rows, the first one current; what it shows stays.
+inline void startRows(MSFlexGrid& grid) {
+    grid.setRows(2);
+    grid.setRow(1);
+}
+
+inline bool isRowBlank(const MSFlexGrid& grid, int row) {
+    for (int column = 1; column < grid.Cols(); ++column)
+        if (!grid.isEmpty(row, column))
+            return false;
+    return true;
+}
+
+inline void blankRow(MSFlexGrid& grid, int row) {
+    for (int column = 1; column < grid.Cols(); ++column)
+        grid.setTextMatrix(row, column, {});
+}
+
+/// Puts the texts of a row into the fields of the current record: column 1 into the first one, and so on; empty cells
+/// leave theirs as they are.
+inline void writeCells(const MSFlexGrid& grid, int row, Recordset& records) {
+    const QStringList texts = grid.rowTexts(row);
+    for (int column = 1; column < grid.Cols(); ++column)
+        if (!texts[column].isEmpty())
+            records.field(column - 1).setValue(texts[column]);
+}
+
+/// Deletes every record of a set.
+inline void emptyTable(Recordset& records) {
+    if (records.recordCount() == 0)
+        return;
+    for (records.moveFirst(); !records.eof(); records.moveNext())
+        records.deleteCurrent();
+}
+
+/// One grid row a record: the first into the current row, each other into a row of its own behind it. `fillRow()` puts
+/// the current record into the current row.
+template<class FillRow>
+void fillRows(MSFlexGrid& grid, Recordset& records, FillRow fillRow) {
+    while (!records.eof()) {
+        fillRow();
+        records.moveNext();
+        if (records.eof())
+            break;
+        grid.setRows(grid.Rows() + 1);
+        grid.setRow(grid.Row() + 1);
+    }
+}
+
+} // namespace qinghe
