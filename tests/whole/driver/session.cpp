@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <exception>
 #include <iterator>
 
 namespace driver {
@@ -37,6 +38,8 @@ void Session::obey(const QByteArray& line) {
                        std::make_move_iterator(outcome.steps.end()));
     } catch (const Refusal& refusal) {
         answer[QStringLiteral("refused")] = refusal.why;
+    } catch (const std::exception& error) { // what was called does not take such numbers
+        answer[QStringLiteral("refused")] = QString::fromUtf8(error.what());
     }
     m_test->write(QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n');
     m_test->flush();
