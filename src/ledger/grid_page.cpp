@@ -282,10 +282,10 @@ void GridPage::loadTable(bool blankBehindConnection) {
 }
 
 void GridPage::fill(Recordset& records) {
-    std::vector<std::optional<QString>> texts;
+    std::vector<std::optional<QString>> texts(static_cast<std::size_t>(records.fieldCount() - 1));
     fillRows(*grid, records, [&] {
         records.readTexts(texts);
-        for (int column = 1; column < static_cast<int>(texts.size()); ++column)
+        for (int column = 1; column <= static_cast<int>(texts.size()); ++column)
             if (const auto& text = texts[static_cast<std::size_t>(column - 1)])
                 grid->setTextMatrix(text->isEmpty() ? rowForEmptyText() : grid->Row(), column, *text);
     });

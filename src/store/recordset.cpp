@@ -242,16 +242,17 @@ int Recordset::fieldCount() const {
     return m->rows->columnCount();
 }
 
-void Recordset::readTexts(std::vector<std::optional<QString>>& texts) {
-    texts.resize(static_cast<size_t>(fieldCount()));
-    if (m->adding || m->edited()) {
-        for (int i = 0; i < fieldCount(); ++i)
-            texts[static_cast<size_t>(i)] = field(i).isNull() ? std::nullopt : std::optional(field(i).text());
-        return;
+void Recordset::readTexts(std::span<std::optional<QString>> texts) {
+    const int count = static_cast<int>(texts.size());
+    const bool changed = m->adding || m->edited();
+    const auto row = changed ? std::nullopt : std::optional(m->currentRow());
+    for (int i = 0; i < count; ++i) {
+        auto& text = texts[static_cast<size_t>(i)];
+        if (row ? row->isNull(i) : field(i).isNull())
+            text.reset();
+        else
+            text = row ? row->text(i) : field(i).text();
     }
-    const StoredRow row = m->currentRow();
-    for (int i = 0; i < fieldCount(); ++i)
-        texts[static_cast<size_t>(i)] = row.isNull(i) ? std::nullopt : std::optional(row.text(i));
 }
 
 Field Recordset::field(int ordinal) {

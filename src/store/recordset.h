@@ -7,7 +7,7 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
+#include <span>
 
 namespace qinghe {
 
@@ -52,9 +52,9 @@ public:
     void find(const QString& criterion);
 
     int fieldCount() const;
-    /// The texts of the current row's fields, std::nullopt for NULL; quicker than field by field. `texts` is filled
-    /// anew.
-    void readTexts(std::vector<std::optional<QString>>& texts);
+    /// The texts of the first fields of the current row, as many as `texts` has room for, std::nullopt for NULL;
+    /// quicker than field by field.
+    void readTexts(std::span<std::optional<QString>> texts);
     Field field(int ordinal);      ///< 0-based; throws RuntimeError (3265, no such item)
     Field field(QStringView name); ///< throws likewise
 

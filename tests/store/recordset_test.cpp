@@ -337,7 +337,7 @@ TEST_F(Records, FieldsAreReachedByNameAndOrdinalOnly) {
 
 TEST_F(Records, RowIsReadAsTheTextsOfItsFields) {
     Recordset& set = users(u"甲乙"_s);
-    std::vector<std::optional<QString>> texts{u"from before"_s};
+    std::vector<std::optional<QString>> texts{u"from before"_s, u"and this"_s, std::nullopt};
     set.moveNext();
     set.readTexts(texts);
     EXPECT_EQ(texts, (std::vector<std::optional<QString>>{u"乙"_s, std::nullopt, u"2"_s}));
