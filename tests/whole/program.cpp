@@ -253,8 +253,14 @@ void Program::kill() {
 
 std::string Program::whyGone() {
     m_errors += m_process.readAllStandardError().toStdString();
-    return running() ? "it runs but does not answer"
-                     : "it has ended with " + std::to_string(exitCode()) + ' ' + m_errors;
+    if (m_line.state() != QLocalSocket::ConnectedState)
+        m_process.waitForFinished(1000); // the line has gone before its program
+    if (running())
+        return "it runs but does not answer";
+    const int code = exitCode();
+    const std::string how =
+        code == -1 ? "by signal " + std::to_string(m_process.exitCode()) : "with " + std::to_string(code);
+    return "it has ended " + how + ' ' + m_errors;
 }
 
 void Program::perform(const QJsonObject& command) {
