@@ -83,9 +83,9 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
 
 void DesktopMessageBoxes::showError(int number, const QString& text) {
     QMessageBox box(windowInFront());
-    fill(box,
-         QStringLiteral("运行时错误 %1：\n\n%2\n\n程序将关闭，出错以前已经保存的内容都还在。").arg(number).arg(text),
-         productName());
+    const QString ending =
+        QStringLiteral("程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后检查这一页。");
+    fill(box, QStringLiteral("运行时错误 %1：\n\n%2\n\n%3").arg(number).arg(text, ending), productName());
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     captionButtons(box);
