@@ -4,6 +4,7 @@
 #include "core/main_window.h"
 #include "core/sign_in.h"
 #include "core/web_window.h"
+#include "journal/diary.h"
 #include "ledger/accounts.h"
 #include "ledger/budget.h"
 #include "ledger/categories.h"
@@ -30,6 +31,7 @@ Form* mainWindowWithPages(Workbench& bench) {
     new AccountsPage(*window);
     new CategoriesPage(*window);
     new ChartsPage(*window);
+    new DiaryPage(*window);
     new SettingsPage(*window);
     return window;
 }

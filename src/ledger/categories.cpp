@@ -1,7 +1,7 @@
 #include "ledger/categories.h"
 
 #include "core/hover.h"
-#include "ledger/lists.h"
+#include "core/lists.h"
 
 namespace qinghe {
 

@@ -1,7 +1,7 @@
 #include "ledger/category_list.h"
 
 #include "core/hover.h"
-#include "ledger/lists.h"
+#include "core/lists.h"
 
 #include <QScrollBar>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/workbench.h"
-#include "ledger/cell_editor.h"
+#include "platform/cell_editor.h"
 
 #include <span>
 

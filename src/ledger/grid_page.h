@@ -2,7 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/workbench.h"
-#include "ledger/cell_editor.h"
+#include "platform/cell_editor.h"
 
 #include <span>
 

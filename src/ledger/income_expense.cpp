@@ -1,7 +1,7 @@
 #include "ledger/income_expense.h"
 
 #include "core/hover.h"
-#include "ledger/lists.h"
+#include "core/lists.h"
 #include "runtime/number_format.h"
 #include "runtime/runtime_error.h"
 

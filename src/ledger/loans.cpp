@@ -1,7 +1,7 @@
 #include "ledger/loans.h"
 
 #include "core/hover.h"
-#include "ledger/lists.h"
+#include "core/lists.h"
 #include "runtime/number_format.h"
 
 namespace qinghe {

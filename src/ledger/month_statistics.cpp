@@ -1,6 +1,6 @@
 #include "ledger/month_statistics.h"
 
-#include "ledger/lists.h"
+#include "core/lists.h"
 #include "runtime/number_format.h"
 #include "runtime/number_text.h"
 

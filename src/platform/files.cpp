@@ -44,6 +44,15 @@ void writeAll(const QString& path, const QByteArray& bytes) {
         failAccess(file, QStringLiteral("文件没有写完"));
 }
 
+QByteArray readAll(const QString& path) {
+    QFile file(path);
+    if (!file.exists())
+        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到文件：%1。").arg(path));
+    if (isFolder(path) || !file.open(QIODevice::ReadOnly))
+        failAccess(file, QStringLiteral("不能读取文件"));
+    return file.readAll();
+}
+
 void deleteMatching(const QString& folder, const QString& pattern) {
     QDir dir(folder);
     const QString names = QString(pattern).replace(u'[', QStringLiteral("[[]")); // brackets are no wildcards here

@@ -12,6 +12,8 @@ bool isFolder(const QString& path);
 void makeFolder(const QString& path);
 /// Writes the whole file, replacing one of that name. DiskFull, PathFileAccess.
 void writeAll(const QString& path, const QByteArray& bytes);
+/// Reads the whole file. FileNotFound, PathFileAccess.
+QByteArray readAll(const QString& path);
 /// Deletes the files that a pattern with "*" and "?" names, hidden ones included; finding none is harmless.
 void deleteMatching(const QString& folder, const QString& pattern);
 /// Reads a picture by its content, whatever the name says, with its orientation. A larger picture than `fill` (pixels

@@ -7,16 +7,16 @@
 
 namespace qinghe {
 
-// What every list of the ledger does, whatever its scheme.
+// What every list of the main window does, whatever its scheme.
 
 inline constexpr double MarkerWidth = 300; ///< of column 0, twips
 
-/// So many columns behind the marker column, which share the grid's width less 400 twips in whole twips.
-inline void layEvenColumns(MSFlexGrid& grid, int count) {
+/// So many columns behind the marker column, which share the grid's width less `unshared` twips in whole twips.
+inline void layEvenColumns(MSFlexGrid& grid, int count, double unshared = 400) {
     grid.setCols(count + 1);
     grid.setColWidth(0, MarkerWidth);
     for (int column = 1; column <= count; ++column)
-        grid.setColWidth(column, std::nearbyint((grid.Width() - 400) / count));
+        grid.setColWidth(column, std::nearbyint((grid.Width() - unshared) / count));
 }
 
 /// Two rows, the first one current; what it shows stays.

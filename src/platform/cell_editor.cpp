@@ -1,4 +1,4 @@
-#include "ledger/cell_editor.h"
+#include "platform/cell_editor.h"
 
 #include <algorithm>
 

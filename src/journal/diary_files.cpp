@@ -1,0 +1,90 @@
+#include "journal/diary_files.h"
+
+#include "platform/files.h"
+#include "runtime/runtime_error.h"
+
+#include <QStringDecoder>
+#include <QStringEncoder>
+
+#include <algorithm>
+#include <array>
+
+namespace qinghe::diary {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto TextCodec = "GB18030";
+const QString Extension = u".dll"_s;
+constexpr qsizetype LongestName = 255; ///< bytes, the extension included
+
+constexpr char LoneEuro = '\x80'; ///< in files of the 8-bit age
+
+bool isReserved(const QString& title) {
+    static constexpr std::array<QStringView, 4> devices{u"CON", u"PRN", u"AUX", u"NUL"};
+    static constexpr std::array<QStringView, 2> ports{u"COM", u"LPT"};
+    const QString name = title.section(u'.', 0, 0).trimmed().toUpper();
+    const bool isPort = name.size() == 4 && std::ranges::find(ports, QStringView(name).first(3)) != ports.end() &&
+                        name[3] >= u'1' && name[3] <= u'9';
+    return isPort || std::ranges::find(devices, name) != devices.end();
+}
+
+/// Why a title cannot name a file; empty when it can.
+QString objection(const QString& title) {
+    const auto isKept = [](QChar c) { return c < u' ' || QStringView(u"/\\:*?\"<>|").contains(c); };
+    if (title == u"."_s || title == u".."_s)
+        return u"它是文件夹的记号"_s;
+    if (std::ranges::any_of(title, isKept) || !title.isValidUtf16())
+        return u"里面不能有 / \\ : * ? \" < > | 和控制字符"_s;
+    if (isReserved(title))
+        return u"它是系统设备的名称"_s;
+    if ((title + Extension).toUtf8().size() > LongestName)
+        return u"它太长了"_s;
+    return {};
+}
+
+/// How many bytes the character at the head of the bytes takes.
+qsizetype characterLength(QByteArrayView bytes) {
+    const auto byte = [&bytes](qsizetype at) { return at < bytes.size() ? static_cast<uchar>(bytes[at]) : 0; };
+    if (byte(0) <= 0x80 || byte(0) == 0xFF)
+        return 1;
+    return std::min<qsizetype>(byte(1) >= '0' && byte(1) <= '9' ? 4 : 2, bytes.size());
+}
+
+QString decoded(QByteArrayView bytes) {
+    QStringDecoder decode(TextCodec);
+    QString text;
+    qsizetype from = 0;
+    for (qsizetype at = 0; at < bytes.size(); at += characterLength(bytes.sliced(at))) {
+        if (bytes[at] != LoneEuro)
+            continue;
+        text += decode(bytes.sliced(from, at - from));
+        text += u'€';
+        from = at + 1;
+    }
+    return text + QString(decode(bytes.sliced(from)));
+}
+
+} // namespace
+
+QString filePath(const QString& folder, const QString& title) {
+    if (const QString why = objection(title); !why.isEmpty())
+        throw RuntimeError(
+            RuntimeError::PathFileAccess,
+            u"日记标题“%1”不能用作文件名：%2。正文没有文件可存，请换一个标题。"_s.arg(title.left(40), why));
+    return folder + u'/' + title + Extension;
+}
+
+void write(const QString& path, const QString& text) {
+    QStringEncoder encode(TextCodec);
+    files::writeAll(path, encode(text + u"\r\n"_s));
+}
+
+QString readLines(const QString& path) {
+    QString text = decoded(files::readAll(path));
+    text.removeIf([](QChar c) { return c == u'\r' || c == u'\n'; });
+    return text;
+}
+
+} // namespace qinghe::diary

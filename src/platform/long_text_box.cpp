@@ -1,0 +1,42 @@
+#include "platform/long_text_box.h"
+
+#include <QMouseEvent>
+#include <QTextBlock>
+
+#include <utility>
+
+namespace qinghe {
+
+LongTextBox::LongTextBox(QWidget* parent, const QString& name) : QPlainTextEdit(parent), Placed(this) {
+    setObjectName(name);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setTabChangesFocus(true);
+}
+
+QString LongTextBox::Text() const {
+    // toPlainText would turn no-break blanks into blanks.
+    QStringList lines;
+    for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
+        lines << block.text().replace(QChar::LineSeparator, QStringLiteral("\r\n"));
+    return lines.join(QStringLiteral("\r\n"));
+}
+
+void LongTextBox::setBoxText(const QString& text) {
+    setPlainText(text);
+}
+
+void LongTextBox::mousePressEvent(QMouseEvent* event) {
+    m_pressed = event->button() == Qt::LeftButton;
+    pressBegan();
+    QPlainTextEdit::mousePressEvent(event);
+    event->accept();
+}
+
+void LongTextBox::mouseReleaseEvent(QMouseEvent* event) {
+    QPlainTextEdit::mouseReleaseEvent(event);
+    event->accept();
+    if (std::exchange(m_pressed, false) && rect().contains(event->position().toPoint()))
+        Click.fromQt();
+}
+
+} // namespace qinghe

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/event.h"
+#include "platform/placed.h"
+
+#include <QPlainTextEdit>
+
+namespace qinghe {
+
+/// A text box of many lines, painted as writing paper. Tab leaves it.
+class LongTextBox : public QPlainTextEdit, public Placed {
+    Q_OBJECT
+    QINGHE_CONTROL
+
+public:
+    LongTextBox(QWidget* parent, const QString& name);
+
+    /// The text as it was typed, lines divided by CR LF; blanks of every kind stay what they are.
+    QString Text() const;
+    void setBoxText(const QString& text);
+
+    Event<> Click;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    bool m_pressed = false;
+};
+
+} // namespace qinghe

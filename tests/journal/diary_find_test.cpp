@@ -1,0 +1,111 @@
+#include "journal/diary_rig.h"
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class DiaryFinding : public DiaryTest {};
+
+TEST_F(DiaryFinding, EntriesAreListedInTheOrderInWhichTheyWereSaved) {
+    saveEntry(u"2024-6-3"_s, u"后来"_s);
+    saveEntry(u"2024-5-3"_s, u"先前"_s);
+    find();
+    EXPECT_EQ(ms8().Rows(), 3);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-6-3|后来"_s);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 2), u"2024-5-3|先前"_s);
+    for (CommandButton* button : {&add(), &remove(), &save()})
+        EXPECT_FALSE(button->isEnabled());
+    write();
+    for (CommandButton* button : {&add(), &remove(), &save()})
+        EXPECT_TRUE(button->isEnabled());
+    EXPECT_EQ(ms8().Rows(), 2);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"|"_s);
+}
+
+TEST_F(DiaryFinding, ThreeLinesAreShownAsOneRunOfText) {
+    saveEntry(u"2024-5-3"_s, u"插秧"_s, {u"一"_s, u"二"_s, u"三"_s});
+    find();
+    EXPECT_EQ(shown(1), u"一二三"_s);
+}
+
+TEST_F(DiaryFinding, WhatWasWrittenReadsBackRareCharactersAndEmojiIncluded) {
+    const QString text = u"饭🍚 㐀 𠮷 naïve é €\u00A0."_s;
+    tx8().setBoxText(text);
+    EXPECT_EQ(tx8().Text(), text);
+    fill(u"2024-5-3"_s, u"各种字"_s);
+    tx8().setBoxText(text);
+    rig.click(save());
+    find();
+    EXPECT_EQ(shown(1), text);
+}
+
+TEST_F(DiaryFinding, AClickOnTheDateShowsNothing) {
+    saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});
+    find();
+    shown(1);
+    rig.clickCell(ms8(), 1, 1);
+    EXPECT_EQ(tx8().Text(), QString());
+    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(tx9().Visible());
+}
+
+TEST_F(DiaryFinding, AnEmptyDiaryKeepsTheRowAsItStoodAndReadsNoFile) {
+    fill(u"2024-5-3"_s, u"not saved"_s);
+    find();
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-3|not saved"_s);
+    EXPECT_EQ(shown(1), QString());
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(DiaryFinding, AnEmptyTitleBlanksTheRowWhereTheLoanGridStands) {
+    rig.sql(u"insert into rjb values('2024-05-01','a'),('2024-05-02','b'),('2024-05-03',''),('2024-05-04',null)"_s);
+    find();
+    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms1"_s).Row(), 1);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-1|"_s);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 2), u"2024-5-2|b"_s);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 4), u"2024-5-4|"_s);
+}
+
+TEST_F(DiaryFinding, AFileThatIsGoneIsTheRunTimeError) {
+    saveEntry(u"2024-5-3"_s, u"a"_s);
+    QFile::remove(path(u"a"_s));
+    find();
+    shown(1);
+    EXPECT_EQ(rig.messages->errors.size(), 1u);
+    EXPECT_EQ(rig.exitCode(), 1);
+    EXPECT_EQ(rows(), QStringList{u"2024-05-03|a"_s});
+}
+
+TEST_F(DiaryFinding, AFolderInPlaceOfTheFileIsTheRunTimeError) {
+    saveEntry(u"2024-5-3"_s, u"a"_s);
+    QFile::remove(path(u"a"_s));
+    QDir().mkdir(path(u"a"_s));
+    find();
+    shown(1);
+    EXPECT_EQ(rig.exitCode(), 1);
+}
+
+TEST_F(DiaryFinding, EntriesAreThereAfterARestart) {
+    saveEntry(u"2024-5-3"_s, u"插秧"_s, {u"水很凉"_s});
+    rig.stop();
+    rig.signIn();
+    open();
+    find();
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-3|插秧"_s);
+    EXPECT_EQ(shown(1), u"水很凉"_s);
+}
+
+TEST_F(DiaryFinding, ComingBackToThePageIsWriteModeAgain) {
+    saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});
+    find();
+    shown(1);
+    rig.click(rig.onMain<Label>(u"Label5"_s));
+    open();
+    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option6"_s).Value());
+    EXPECT_EQ(tx8().Text(), QString());
+    EXPECT_TRUE(save().isEnabled());
+}
+
+} // namespace
+} // namespace qinghe::testing
