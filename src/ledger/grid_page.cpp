@@ -206,13 +206,11 @@ bool GridPage::refusesGap() {
     for (int row = 1; row < grid->Rows(); ++row) {
         if (traits.saveMovesRow)
             grid->setRow(row);
-        for (int column = 1; column < grid->Cols() - 1; ++column) {
-            if (!grid->isEmpty(row, column))
-                continue;
-            bench.services.say(u"为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"_s,
-                               MessageStyle::OkInformation, u"输入提示"_s);
-            return true;
-        }
+        if (grid->firstEmpty(row, 1, grid->Cols() - 1) == grid->Cols() - 1)
+            continue;
+        bench.services.say(u"为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"_s, MessageStyle::OkInformation,
+                           u"输入提示"_s);
+        return true;
     }
     return false;
 }

@@ -155,6 +155,25 @@ bool CellTexts::isEmpty(int row, int col) const {
     return !cell || !*cell || takeHead(cell).length == 0;
 }
 
+int CellTexts::firstEmpty(int row, int from, int behindLast) const {
+    int col = from;
+    if (row == m_open && !m_isPacking) {
+        while (col < behindLast && !m_openTexts[col].isEmpty())
+            ++col;
+        return col;
+    }
+    const char* cell = packedTexts(row);
+    if (!cell)
+        return col;
+    for (cell = cellAt(cell, col); col < behindLast && *cell; ++col) {
+        const Head head = takeHead(cell);
+        if (head.length == 0)
+            break;
+        cell += head.bytes();
+    }
+    return col;
+}
+
 void CellTexts::setText(int row, int col, const QString& text) {
     if (row != m_open)
         openRow(row);

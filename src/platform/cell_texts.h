@@ -25,6 +25,8 @@ public:
     QString text(int row, int col) const;
     QStringList rowTexts(int row) const; ///< one for each column
     bool isEmpty(int row, int col) const;
+    /// The first blank cell of a row from column `from` on; `behindLast` when all before that column are filled.
+    int firstEmpty(int row, int from, int behindLast) const;
     void setText(int row, int col, const QString& text);
 
     /// How much memory the texts take, in bytes.

@@ -157,6 +157,13 @@ bool MSFlexGrid::isEmpty(int row, int col) const {
     return m_model->isEmpty(row, col);
 }
 
+int MSFlexGrid::firstEmpty(int row, int from, int behindLast) const {
+    checkRow(row, Rows());
+    checkCol(from, Cols());
+    checkCol(behindLast - 1, Cols());
+    return m_model->firstEmpty(row, from, behindLast);
+}
+
 void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
     checkRow(row, Rows());
     checkCol(col, Cols());

@@ -49,6 +49,8 @@ public:
     QStringList rowTexts(int row) const;
     /// Whether the cell holds no text; quicker than asking for it.
     bool isEmpty(int row, int col) const;
+    /// The first cell without text from column `from` on; `behindLast` when all before that column have text.
+    int firstEmpty(int row, int from, int behindLast) const;
     void setTextMatrix(int row, int col, const QString& text);
     Q_INVOKABLE double ColWidth(int col) const;
     void setColWidth(int col, double twips);

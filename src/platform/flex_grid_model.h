@@ -22,6 +22,7 @@ public:
     QString cell(int row, int col) const { return m_texts.text(row, col); }
     QStringList rowTexts(int row) const { return m_texts.rowTexts(row); }
     bool isEmpty(int row, int col) const { return m_texts.isEmpty(row, col); }
+    int firstEmpty(int row, int from, int behindLast) const { return m_texts.firstEmpty(row, from, behindLast); }
     void setCell(int row, int col, const QString& text) { m_texts.setText(row, col, text); }
 
     /// Tells the view of all that has been written since.

@@ -44,14 +44,16 @@ struct Recordset::Impl {
     int goneCount = 0;
     int current = 0; ///< a row, perhaps a deleted one; rowCount() is EOF
     bool adding = false;
+    bool edited = false;
     std::vector<std::optional<Value>> edits; ///< what was set since the last update
+    std::vector<StoredValue> addedValues;    ///< of the row that was added last; kept for its room alone
 
     bool isGone(int row) const { return goneCount > 0 && gone[static_cast<size_t>(row)]; }
     bool onRow() const { return current < rows->rowCount() && !isGone(current); }
-    bool edited() const {
-        return std::ranges::any_of(edits, [](const auto& edit) { return edit.has_value(); });
+    void clearEdits() {
+        if (std::exchange(edited, false))
+            std::ranges::fill(edits, std::nullopt);
     }
-    void clearEdits() { std::ranges::fill(edits, std::nullopt); }
 
     /// The first row from `row` on that is still there, or EOF.
     int rowFrom(int row) const {
@@ -125,13 +127,13 @@ struct Recordset::Impl {
     }
 
     void storeAddedRow() {
-        std::vector<StoredValue> values(edits.size());
+        addedValues.resize(edits.size());
         for (size_t i = 0; i < edits.size(); ++i)
-            values[i] = edits[i] ? encoded(*edits[i]) : StoredValue();
-        const qint64 identity = store.insertRow(rows->shape().table, rows->shape().ordinals, values);
+            addedValues[i] = edits[i] ? encoded(*edits[i]) : StoredValue();
+        const qint64 identity = store.insertRow(rows->shape().table, rows->shape().ordinals, addedValues);
         ResultSet& mine = writableRows();
         if (!mine.isPlain())
-            std::ranges::for_each(values, [&](const StoredValue& value) { mine.appendCell(value); });
+            std::ranges::for_each(addedValues, [&](const StoredValue& value) { mine.appendCell(value); });
         mine.finishRow(identity);
         current = mine.rowCount() - 1;
         if (goneCount > 0)
@@ -200,7 +202,7 @@ void Recordset::addNew() {
 }
 
 void Recordset::update() {
-    if (!m->adding && !m->edited())
+    if (!m->adding && !m->edited)
         return;
     m->requireWritable();
     m->adding ? m->storeAddedRow() : m->storeChangedFields();
@@ -244,7 +246,7 @@ int Recordset::fieldCount() const {
 
 void Recordset::readTexts(std::span<std::optional<QString>> texts) {
     const int count = static_cast<int>(texts.size());
-    const bool changed = m->adding || m->edited();
+    const bool changed = m->adding || m->edited;
     const auto row = changed ? std::nullopt : std::optional(m->currentRow());
     for (int i = 0; i < count; ++i) {
         auto& text = texts[static_cast<size_t>(i)];
@@ -307,6 +309,7 @@ void Field::setValue(const Value& value) {
     if (!set.adding)
         set.requireRow();
     set.edits[static_cast<size_t>(m_ordinal)] = converted(column(), value);
+    set.edited = true;
 }
 
 QByteArray Field::getChunk(int count) const {

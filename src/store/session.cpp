@@ -14,6 +14,8 @@ namespace {
 constexpr size_t kCachedResults = 3;
 constexpr size_t kCachedFootprint = 8 << 20; ///< larger results, pictures mostly, are not kept
 
+constexpr qsizetype kKeptBytes = 64 * 1024; ///< of a value that may stay bound until the next row
+
 QByteArray placeholders(qsizetype count) {
     return QByteArray("?,").repeated(count).chopped(1);
 }
@@ -127,11 +129,16 @@ qint64 Session::insertRow(const QString& table, std::span<const int> ordinals, s
     flushDeletions();
     Inserter& target = inserter(table);
     const qint64 rowid = target.lastRowid + 1;
+    if (!std::ranges::equal(ordinals, target.ordinals)) {
+        target.statement.clearBindings();
+        target.ordinals.assign(ordinals.begin(), ordinals.end());
+    }
     target.statement.bind(1, rowid);
     for (size_t i = 0; i < values.size(); ++i)
         target.statement.bind(ordinals[i] + 2, values[i]);
     target.statement.execute();
-    target.statement.clearBindings();
+    if (std::ranges::any_of(values, [](const StoredValue& value) { return value.bytes.size() > kKeptBytes; }))
+        target.statement.clearBindings();
     target.lastRowid = rowid;
     return rowid;
 }
@@ -213,8 +220,17 @@ void Session::flushDeletions() {
     }
 }
 
-/// Whether no row of the table would be left.
+/// Whether no row of the table would be left. Identities without a gap, as a save leaves them, need only the ends.
 bool Session::isWholeTable(const Deletions& deletions) {
+    const qint64 first = deletions.rowids.front(), last = deletions.rowids.back();
+    const auto count = static_cast<qint64>(deletions.rowids.size());
+    if (last - first + 1 == count && std::ranges::adjacent_find(deletions.rowids) == deletions.rowids.end()) {
+        const QByteArray name = quotedName(deletions.table);
+        Statement ends =
+            m_connection.prepare("SELECT (SELECT min(rowid) FROM " + name + "), (SELECT max(rowid) FROM " + name + ')');
+        ends.step();
+        return ends.integer(0) >= first && ends.integer(1) <= last;
+    }
     Statement statement = m_connection.prepare("SELECT rowid FROM " + quotedName(deletions.table) + " ORDER BY rowid");
     auto doomed = deletions.rowids.begin();
     while (statement.step()) {

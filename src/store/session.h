@@ -38,6 +38,7 @@ private:
     struct Inserter {
         Statement statement;
         qint64 lastRowid;
+        std::vector<int> ordinals = {}; ///< of the columns that are bound; the others are NULL
     };
     struct CachedResult {
         QString source;

@@ -140,6 +140,9 @@ TEST(CellTexts, AgreesWithPlainTextsUnderAnyChanges) {
         const int otherRow = below(texts.rows()), otherCol = below(cols);
         ASSERT_EQ(texts.text(otherRow, otherCol), plain[static_cast<std::size_t>(otherRow)][otherCol]) << step;
         ASSERT_EQ(texts.isEmpty(otherRow, otherCol), plain[static_cast<std::size_t>(otherRow)][otherCol].isEmpty());
+        const auto& line = plain[static_cast<std::size_t>(otherRow)];
+        const auto blank = std::find(line.begin() + otherCol, line.end(), QString());
+        ASSERT_EQ(texts.firstEmpty(otherRow, otherCol, cols), static_cast<int>(blank - line.begin())) << step;
         ASSERT_EQ(texts.rowTexts(otherRow), plain[static_cast<std::size_t>(otherRow)]) << step;
     }
 }
