@@ -1,6 +1,7 @@
 #include "analysis/charts.h"
 
 #include "core/hover.h"
+#include "core/lists.h"
 
 namespace qinghe {
 
@@ -173,8 +174,7 @@ void ChartsPage::show(const MonthChart& chart) {
 
 void ChartsPage::gatherMonths(const MonthChart& chart) {
     Adodc2.setConnectionString(bench.connection());
-    for (Recordset& old = Adodc2.open(QString::fromUtf16(chart.work)); !old.eof(); old.moveNext())
-        old.deleteCurrent();
+    emptyTable(Adodc2.open(QString::fromUtf16(chart.work)));
     if (chart.workAgain)
         Adodc2.open(QString::fromUtf16(chart.workAgain));
     Recordset& months = Adodc2.recordset();

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "core/workbench.h"
 #include "platform/flex_grid.h"
 #include "store/recordset.h"
 
 #include <cmath>
+#include <optional>
+#include <vector>
 
 namespace qinghe {
 
@@ -37,6 +40,16 @@ inline void blankRow(MSFlexGrid& grid, int row) {
         grid.setTextMatrix(row, column, {});
 }
 
+inline void blankRows(MSFlexGrid& grid) {
+    for (int row = 1; row < grid.Rows(); ++row)
+        blankRow(grid, row);
+}
+
+/// The current row of the loan grid, which other lists borrow for their empty texts.
+inline int loanRow(const Workbench& bench) {
+    return bench.editors.at(QStringLiteral("ms1")).grid->Row();
+}
+
 /// Puts the texts of a row into the fields of the current record: column 1 into the first one, and so on; empty cells
 /// leave theirs as they are.
 inline void writeCells(const MSFlexGrid& grid, int row, Recordset& records) {
@@ -54,6 +67,15 @@ inline void emptyTable(Recordset& records) {
         records.deleteCurrent();
 }
 
+/// Deletes the record at a 1-based place; a place behind the last record has none, which is harmless.
+inline void deleteAt(Recordset& records, int position) {
+    if (position > records.recordCount())
+        return;
+    records.setAbsolutePosition(position);
+    records.deleteCurrent();
+    records.update();
+}
+
 /// One grid row a record: the first into the current row, each other into a row of its own behind it. `fillRow()` puts
 /// the current record into the current row.
 template<class FillRow>
@@ -66,6 +88,19 @@ void fillRows(MSFlexGrid& grid, Recordset& records, FillRow fillRow) {
         grid.setRows(grid.Rows() + 1);
         grid.setRow(grid.Row() + 1);
     }
+}
+
+/// The same with the first `fields` fields as the cells from column 1 on. NULL leaves its cell as it is, an empty text
+/// goes into the row that `rowForEmptyText()` tells.
+template<class RowForEmptyText>
+void fillTexts(MSFlexGrid& grid, Recordset& records, int fields, RowForEmptyText rowForEmptyText) {
+    std::vector<std::optional<QString>> texts(static_cast<std::size_t>(fields));
+    fillRows(grid, records, [&] {
+        records.readTexts(texts);
+        for (int column = 1; column <= fields; ++column)
+            if (const auto& text = texts[static_cast<std::size_t>(column - 1)])
+                grid.setTextMatrix(text->isEmpty() ? rowForEmptyText() : grid.Row(), column, *text);
+    });
 }
 
 } // namespace qinghe

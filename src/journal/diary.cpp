@@ -75,11 +75,6 @@ void DiaryPage::setSaving(bool allowed) {
         button->setUsable(allowed);
 }
 
-void DiaryPage::blankRows() {
-    for (int row = 1; row < ms8->Rows(); ++row)
-        blankRow(*ms8, row);
-}
-
 // ---- the two modes
 
 void DiaryPage::Form2_Label8_Click() {
@@ -104,7 +99,7 @@ void DiaryPage::Form2_Option6_Click() {
     diarySearchMode = 0;
     tx9->setShown(false);
     setSaving(true);
-    blankRows();
+    blankRows(*ms8);
     Adodc1.setVisible(false);
     Adodc1.setConnectionString(bench.connection());
     Adodc1.open(u"rjb"_s);
@@ -120,14 +115,7 @@ void DiaryPage::Form2_Option5_Click() {
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
     ms8->setRows(2);
     // An empty text blanks the row where the loan grid stands, and is meant to.
-    const int loanRow = bench.editors.at(u"ms1"_s).grid->Row();
-    std::vector<std::optional<QString>> texts(static_cast<std::size_t>(entries.fieldCount()));
-    fillRows(*ms8, entries, [&] {
-        entries.readTexts(texts);
-        for (int column = 1; column <= static_cast<int>(texts.size()); ++column)
-            if (const auto& text = texts[static_cast<std::size_t>(column - 1)])
-                ms8->setTextMatrix(text->isEmpty() ? loanRow : ms8->Row(), column, *text);
-    });
+    fillTexts(*ms8, entries, entries.fieldCount(), [this] { return loanRow(bench); });
 }
 
 // ---- the grid and its box
@@ -205,7 +193,7 @@ void DiaryPage::Form2_tx8_Click() {
 void DiaryPage::Form2_Command22_Click() {
     unloadPicker();
     ms8->setRows(2);
-    blankRows();
+    blankRows(*ms8);
     tx8->setBoxText({});
 }
 
@@ -214,25 +202,17 @@ void DiaryPage::Form2_Command23_Click() {
     tx9->setShown(false);
     if (bench.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
         return;
-    Recordset& entries = Adodc1.open(u"rjb"_s);
     // By place, whatever the grid shows; the file stays, so that the title is free again.
-    if (ms8->Row() <= entries.recordCount()) {
-        entries.setAbsolutePosition(ms8->Row());
-        entries.deleteCurrent();
-        entries.update();
-    }
+    deleteAt(Adodc1.open(u"rjb"_s), ms8->Row());
     if (ms8->Rows() >= 3)
         ms8->RemoveItem(ms8->Row());
 }
 
 bool DiaryPage::refusesGap() {
-    for (int column = 1; column < ms8->Cols(); ++column) {
-        if (!ms8->isEmpty(ms8->Row(), column))
-            continue;
-        bench.services.say(u"日期和标题都不能为空"_s, MessageStyle::OkInformation, u"保存提示"_s);
-        return true;
-    }
-    return false;
+    if (ms8->firstEmpty(ms8->Row(), 1, ms8->Cols()) == ms8->Cols())
+        return false;
+    bench.services.say(u"日期和标题都不能为空"_s, MessageStyle::OkInformation, u"保存提示"_s);
+    return true;
 }
 
 bool DiaryPage::refusesTitle() {

@@ -29,7 +29,6 @@ public:
 private:
     void bindEvents();
     void layOutGrid();
-    void blankRows();
     void setSaving(bool allowed);
     void unloadPicker();
     void openPicker();

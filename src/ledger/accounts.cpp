@@ -1,5 +1,6 @@
 #include "ledger/accounts.h"
 
+#include "core/lists.h"
 #include "ledger/account_balance.h"
 
 namespace qinghe {
@@ -71,7 +72,7 @@ void AccountsPage::moved() {
 
 int AccountsPage::rowForEmptyText() const {
     // The row number of the loan grid decides, and is meant to.
-    return loanRow();
+    return loanRow(bench);
 }
 
 } // namespace qinghe

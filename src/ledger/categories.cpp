@@ -133,18 +133,14 @@ void CategoriesPage::open(const Classification& chosen, OptionButton& option) {
     startRows(*minors.grid);
     majors.layOut(chosen.majorsCaptions);
     startRows(*majors.grid);
-    majors.fill(records, loanRow());
-    minors.blank();
+    // An empty name is blanked in the row where the loan grid stands, wherever it was met here; meant.
+    majors.fill(records, loanRow(bench));
+    blankRows(*minors.grid);
     Frame3.place(240, 1200, 12015, 6615);
     window.navigation().show(Frame3.objectName());
     majors.hideEditor();
     minors.hideEditor();
     option.setFocus(Qt::OtherFocusReason); // which it lost while the page was hidden
-}
-
-/// An empty name is blanked in the row where the loan grid stands, wherever it was met here; meant.
-int CategoriesPage::loanRow() const {
-    return bench.editors.at(u"ms1"_s).grid->Row();
 }
 
 // ---- cells
@@ -192,7 +188,7 @@ void CategoriesPage::Form2_Command10_Click() {
 
 void CategoriesPage::Form2_Command8_Click() {
     if (majors.isDeletionWanted() && !majors.removeRow())
-        majors.blank();
+        blankRows(*majors.grid);
 }
 
 void CategoriesPage::Form2_Command11_Click() {

@@ -39,7 +39,6 @@ private:
     void bindEvents();
     void enter();
     void open(const Classification& chosen, OptionButton& option);
-    int loanRow() const;
 
     MainWindow& window;
     Workbench& bench;

@@ -85,11 +85,6 @@ void CategoryList::fill(Recordset& records, int rowForEmptyText) {
     });
 }
 
-void CategoryList::blank() {
-    for (int row = 1; row < grid->Rows(); ++row)
-        blankRow(*grid, row);
-}
-
 // ---- the box over the cells
 
 void CategoryList::edit() {

@@ -45,7 +45,6 @@ public:
     /// One grid row a record, from the current row on. NULL and empty fields leave their cells as they are; an empty
     /// one blanks the cell of `rowForEmptyText` instead, if that is not NoRow.
     void fill(Recordset& records, int rowForEmptyText = NoRow);
-    void blank();
     static constexpr int NoRow = -1;
 
     /// Opens the box over the current cell, with the cell's text.

@@ -187,12 +187,7 @@ void GridPage::deleteRow() {
     hideEditor();
     if (bench.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
         return;
-    Recordset& records = Adodc1.open(table());
-    if (grid->Row() <= records.recordCount()) {
-        records.setAbsolutePosition(grid->Row());
-        records.deleteCurrent();
-        records.update();
-    }
+    deleteAt(Adodc1.open(table()), grid->Row());
     const bool blanked = traits.lastRow == LastRow::BlankedWhenFirst ? grid->Row() == 1 : grid->Rows() < 3;
     if (blanked)
         blankRow(*grid, 1);
@@ -280,13 +275,7 @@ void GridPage::loadTable(bool blankBehindConnection) {
 }
 
 void GridPage::fill(Recordset& records) {
-    std::vector<std::optional<QString>> texts(static_cast<std::size_t>(records.fieldCount() - 1));
-    fillRows(*grid, records, [&] {
-        records.readTexts(texts);
-        for (int column = 1; column <= static_cast<int>(texts.size()); ++column)
-            if (const auto& text = texts[static_cast<std::size_t>(column - 1)])
-                grid->setTextMatrix(text->isEmpty() ? rowForEmptyText() : grid->Row(), column, *text);
-    });
+    fillTexts(*grid, records, records.fieldCount() - 1, [this] { return rowForEmptyText(); });
 }
 
 } // namespace qinghe

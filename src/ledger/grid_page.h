@@ -100,8 +100,6 @@ protected:
     /// never shown.
     void fill(Recordset& records);
     void hideEditor();
-    /// The row of the loan grid, which other pages borrow.
-    int loanRow() const { return bench.editors.at(QStringLiteral("ms1")).grid->Row(); }
 
     const Traits& traits;
     MainWindow& window;

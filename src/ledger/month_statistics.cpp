@@ -85,8 +85,7 @@ void MonthStatistics::showPeople() {
     const bool income = m_side == 1;
     layOut({income ? u"收款人" : u"付款人", u"项目", income ? u"本月收入总额" : u"本月消费总额"});
     Recordset& rows = m_window.Adodc3->recordset();
-    const MSFlexGrid& loans = *m_window.bench().editors.at(u"ms1"_s).grid;
-    fillRows(ms2, rows, [this, &rows, &loans] {
+    fillRows(ms2, rows, [this, &rows] {
         for (int column = 1; column <= rows.fieldCount(); ++column) {
             const Field field = rows.field(column - 1);
             // A name that reads as a number is shown as money, and an empty one goes to the row number of the loan
@@ -94,7 +93,7 @@ void MonthStatistics::showPeople() {
             if (field.differsFromEmpty())
                 ms2.setTextMatrix(ms2.Row(), column, isNumeric(field.text()) ? money(field.value()) : field.text());
             else if (field.equalsEmpty())
-                ms2.setTextMatrix(loans.Row(), column, {});
+                ms2.setTextMatrix(loanRow(m_window.bench()), column, {});
         }
     });
 }
