@@ -39,3 +39,16 @@ function(qinghe_floor name)
     target_include_directories(${name} PUBLIC ${headers})
     target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE qinghe_flags)
 endfunction()
+
+# qinghe_module(<name> <folder> <library>...) makes a module of the sources in a folder: a part that is loaded only when it
+# is first needed. It lies beside the program; programs of other folders find it beside themselves as well.
+function(qinghe_module name folder)
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    add_library(${name} MODULE ${sources})
+    target_link_libraries(${name} PRIVATE ${ARGN} qinghe_flags)
+    set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/app)
+    foreach(beside tests benchmarks)
+        file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/${beside})
+        file(CREATE_LINK ../app/${name}.so ${CMAKE_BINARY_DIR}/${beside}/${name}.so SYMBOLIC)
+    endforeach()
+endfunction()

@@ -5,6 +5,9 @@
 #include "core/sign_in.h"
 #include "core/web_window.h"
 #include "journal/diary.h"
+#include "journal/reminder_window.h"
+#include "journal/reminders.h"
+#include "journal/schedule.h"
 #include "ledger/accounts.h"
 #include "ledger/budget.h"
 #include "ledger/categories.h"
@@ -32,6 +35,8 @@ Form* mainWindowWithPages(Workbench& bench) {
     new CategoriesPage(*window);
     new ChartsPage(*window);
     new DiaryPage(*window);
+    new SchedulePage(*window);
+    new Reminders(*window);
     new SettingsPage(*window);
     return window;
 }
@@ -70,6 +75,8 @@ void Program::defineForms() {
     bench.forms.define(u"Form2"_s, [&bench] { return mainWindowWithPages(bench); });
     bench.forms.define(u"Form1"_s, [&bench] { return new DatePicker(bench); });
     bench.forms.define(u"Form9"_s, [&bench] { return new Calculator(bench); });
+    bench.forms.define(
+        u"Form6"_s, [&bench] { return new ReminderWindow(static_cast<MainWindow&>(*bench.forms.loaded(u"Form2"_s))); });
     bench.forms.define(u"Form7"_s, [&bench] { return new WebWindow(bench); });
 }
 

@@ -1,13 +1,12 @@
 #include "core/main_window.h"
 
+#include "core/stored_choice.h"
 #include "core/stored_picture.h"
 #include "core/tray_icon.h"
 #include "core/window_shape.h"
 #include "platform/files.h"
 #include "store/header_toggle.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QTimer>
 
 namespace qinghe {
@@ -33,13 +32,12 @@ MainWindow::MainWindow(Workbench& bench)
       Timer1(new Timer(this, u"Timer1"_s)),
       Timer2(new Timer(this, u"Timer2"_s)),
       Timer3(new Timer(this, u"Timer3"_s)),
+      MM1(new MMControl(*bench.services.sound, u"MM1"_s, this)),
       m_bench(bench),
       m_navigation(*this, bench),
       m_titleBand(*this, bench) {
     setCaption(productName());
-    const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
-    place(centre.x() * TwipsPerPixel - FormWidth / 2, centre.y() * TwipsPerPixel - FormHeight / 2, FormWidth,
-          FormHeight);
+    placeInMiddle(FormWidth, FormHeight);
     makeSettingsBoxes();
     m_desktop = std::make_unique<Desktop>(bench, m_navigation, *Adodc1);
     bindEvents();
@@ -54,10 +52,10 @@ void MainWindow::makeSettingsBoxes() {
         made->setShown(false);
         return made;
     };
-    Check1 = box(u"Frame17", u"Check1", u"日程提醒");
-    Check5 = box(u"Frame16", u"Check5", u"");
+    Check1 = box(u"Frame17", u"Check1", u"登陆定时提醒日程");
+    Check5 = box(u"Frame16", u"Check5", u"开机启动");
     Check7 = box(u"Frame16", u"Check7", u"最小化到系统托盘");
-    Check8 = box(u"Frame16", u"Check8", u"日程提醒");
+    Check8 = box(u"Frame16", u"Check8", u"登陆自动定时提醒今日日程");
 }
 
 void MainWindow::bindEvents() {
@@ -117,8 +115,7 @@ void MainWindow::startClock() {
 }
 
 void MainWindow::readReminderSetting() {
-    Recordset& setting = Adodc1->open(u"select 日程提醒 from txb"_s);
-    if (setting.recordCount() != 1 || !setting.field(0).value().truth())
+    if (!RemindAtSignIn.isYes(*Adodc1) || Adodc1->recordset().recordCount() != 1)
         return;
     Check1->setValue(true);
     Check8->setValue(true);
@@ -127,8 +124,7 @@ void MainWindow::readReminderSetting() {
 }
 
 void MainWindow::readTraySetting() {
-    Recordset& setting = Adodc1->open(u"select 最小化到托盘 from systuopanb"_s);
-    if (setting.eof() || !setting.field(0).value().truth())
+    if (!MinimiseToTray.isYes(*Adodc1))
         return;
     Check7->setValue(true);
     toTray();
@@ -154,11 +150,8 @@ void MainWindow::Form2_Form_Resize() {
         return setWindowState(Normal);
     Adodc1->setConnectionString(m_bench.connection());
     // Pages save into the table that they last loaded: a minimised window must not leave another one in hand.
-    Adodc::Loan pages = Adodc1->borrow();
-    Recordset& setting = Adodc1->open(u"select 最小化到托盘 from systuopanb"_s);
-    const bool wanted = !setting.eof() && setting.field(0).value().truth();
-    Adodc1->giveBack(std::move(pages));
-    if (wanted && WindowState() == Minimised)
+    const Adodc::Loan loan = Adodc1->borrow();
+    if (MinimiseToTray.isYes(*Adodc1) && WindowState() == Minimised)
         toTray();
 }
 

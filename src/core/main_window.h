@@ -4,6 +4,7 @@
 #include "core/navigation.h"
 #include "core/title_band.h"
 #include "core/workbench.h"
+#include "platform/mm_control.h"
 #include "platform/timer.h"
 
 #include <QElapsedTimer>
@@ -32,6 +33,8 @@ public:
     Timer* Timer1; // the clock in the title band
     Timer* Timer2; // compares the clock with today's plans
     Timer* Timer3; // the pause of the reminders
+
+    MMControl* MM1; // the music of schedule and reminder
 
     CheckBox* Check1; // reminders, on the schedule page
     CheckBox* Check5; // hidden for good

@@ -5,9 +5,7 @@
 #include "platform/files.h"
 #include "store/header_toggle.h"
 
-#include <QGuiApplication>
 #include <QPainterPath>
-#include <QScreen>
 #include <QWindow>
 
 namespace qinghe {
@@ -37,10 +35,7 @@ SignIn::SignIn(Workbench& bench)
       Image1(new Image(this, u"Image1"_s)),
       Image2(new Image(this, u"Image2"_s)) {
     setCaption(u"青禾家庭记账本登陆"_s);
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const double width = 5325, height = 4200;
-    place((screen.center().x() * TwipsPerPixel) - width / 2, (screen.center().y() * TwipsPerPixel) - height / 2, width,
-          height);
+    placeInMiddle(5325, 4200);
     Combo1->place(1320, 1560, 3255, 300);
     Text2->place(1320, 2160, 3255, 375);
     Check1->place(2280, 2760, 255, 285);

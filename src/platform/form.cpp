@@ -25,6 +25,8 @@ Qt::WindowFlags flagsOf(Form::Kind kind) {
         return Qt::Tool | titled;
     case Form::Kind::QuietTool:
         return Qt::Tool | titled | Qt::WindowDoesNotAcceptFocus;
+    case Form::Kind::Notice:
+        return Qt::Window | titled | Qt::WindowStaysOnTopHint;
     }
     return Qt::Window;
 }
@@ -40,7 +42,7 @@ Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
     setObjectName(name);
     setMouseTracking(true);
     setShown(false);
-    setAttribute(Qt::WA_ShowWithoutActivating, kind == Kind::QuietTool);
+    setAttribute(Qt::WA_ShowWithoutActivating, kind == Kind::QuietTool || kind == Kind::Notice);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -62,6 +64,11 @@ int Form::WindowState() const {
 void Form::setWindowState(int state) {
     const auto others = windowState() & ~Qt::WindowMinimized;
     QWidget::setWindowState(state == 1 ? others | Qt::WindowMinimized : others);
+}
+
+void Form::placeInMiddle(double width, double height) {
+    const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
+    place(centre.x() * TwipsPerPixel - width / 2, centre.y() * TwipsPerPixel - height / 2, width, height);
 }
 
 void Form::showForm() {

@@ -23,6 +23,7 @@ public:
         Dialog,    ///< the desktop's title bar, no resizing
         Tool,      ///< stays above its owner, takes the keyboard
         QuietTool, ///< stays above its owner and leaves the keyboard where it is
+        Notice,    ///< comes up over all windows and leaves the keyboard where it is until it is clicked
     };
     Form(const QString& name, Kind kind, Ground ground, QWidget* owner = nullptr);
     ~Form() override;
@@ -37,6 +38,8 @@ public:
     int WindowState() const; ///< 0 normal, 1 minimised
     void setWindowState(int state);
 
+    /// Gives the form this size (twips), in the middle of the screen.
+    void placeInMiddle(double width, double height);
     /// Shows the form without blocking.
     void showForm();
     /// Gives the window the shape of a polygon, in pixels.

@@ -1,5 +1,7 @@
 #include "platform/long_text_box.h"
 
+#include "platform/key_presses.h"
+
 #include <QMouseEvent>
 #include <QTextBlock>
 
@@ -23,6 +25,19 @@ QString LongTextBox::Text() const {
 
 void LongTextBox::setBoxText(const QString& text) {
     setPlainText(text);
+}
+
+void LongTextBox::keyPressEvent(QKeyEvent* event) {
+    const int code = key_presses::codeOf(*event);
+    if (code != key_presses::None && code != key_presses::Escape)
+        KeyPress.fromQt(code);
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+void LongTextBox::inputMethodEvent(QInputMethodEvent* event) {
+    key_presses::enterOneByOne(
+        *event, [this](int code) { KeyPress.fromQt(code); },
+        [this](QInputMethodEvent& part) { QPlainTextEdit::inputMethodEvent(&part); });
 }
 
 void LongTextBox::mousePressEvent(QMouseEvent* event) {

@@ -7,7 +7,9 @@
 
 namespace qinghe {
 
-/// A text box of many lines, painted as writing paper. Tab leaves it.
+/// A text box of many lines, painted as writing paper. Tab leaves it. KeyPress comes before the box acts on the key: a
+/// character's code, 13 for Enter, 8 for Backspace; text committed by an input method comes as one key press a
+/// character, each before it enters. Pasted text presses no key.
 class LongTextBox : public QPlainTextEdit, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -20,8 +22,11 @@ public:
     void setBoxText(const QString& text);
 
     Event<> Click;
+    Event<int> KeyPress;
 
 protected:
+    void keyPressEvent(QKeyEvent*) override;
+    void inputMethodEvent(QInputMethodEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
 

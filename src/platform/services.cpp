@@ -1,5 +1,6 @@
 #include "platform/services.h"
 
+#include "platform/background_sound.h"
 #include "platform/handlers.h"
 #include "platform/instance_lock.h"
 #include "platform/message_boxes.h"
@@ -51,6 +52,7 @@ Services desktopServices() {
     services.messages = std::make_unique<DesktopMessageBoxes>();
     services.tray = std::make_unique<DesktopTray>();
     services.launcher = std::make_unique<DesktopLauncher>();
+    services.sound = backgroundSound(services.appPath);
     services.instance = folderLock(services.appPath);
     services.process = std::make_unique<DesktopProcess>();
     return services;

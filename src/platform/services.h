@@ -68,6 +68,24 @@ public:
     virtual void explore(const QUrl& page) = 0;
 };
 
+/// A piece of music in the player's hands; when it goes away it is silent. Its end is a position equal to its length.
+class Sound {
+public:
+    virtual ~Sound() = default;
+    virtual void play() = 0;          ///< on from where it stands
+    virtual void stop() = 0;          ///< it stays where it stands
+    virtual void rewind() = 0;        ///< to the beginning; one that plays plays on from there
+    virtual int position() const = 0; ///< ms
+    virtual int length() const = 0;   ///< ms; 0 as long as it is not known
+};
+
+class SoundDevice {
+public:
+    virtual ~SoundDevice() = default;
+    /// The piece of a wav file, at its beginning, or nullptr. Never fails: a file that is missing or no wav is silent.
+    virtual std::unique_ptr<Sound> open(const QString& wav) = 0;
+};
+
 /// Tells a second running copy from the first, by the folder it runs in.
 class InstanceLock {
 public:
@@ -88,6 +106,7 @@ struct Services {
     std::unique_ptr<MessageBoxes> messages;
     std::unique_ptr<Tray> tray;
     std::unique_ptr<Launcher> launcher;
+    std::unique_ptr<SoundDevice> sound;
     std::unique_ptr<InstanceLock> instance;
     std::unique_ptr<Process> process;
     QString appPath; ///< the program's folder (App.Path), without a separator at its end unless it is a root

@@ -32,13 +32,12 @@ Recordset& Adodc::open(const QString& source) {
     return recordset();
 }
 
-Adodc::Loan Adodc::borrow() {
-    return {m_source, std::move(m_recordset)};
-}
+Adodc::Loan::Loan(Adodc& control)
+    : m_control(control), m_source(control.m_source), m_set(std::move(control.m_recordset)) {}
 
-void Adodc::giveBack(Loan loan) {
-    m_source = std::move(loan.source);
-    m_recordset = std::move(loan.set);
+Adodc::Loan::~Loan() {
+    m_control.m_source = std::move(m_source);
+    m_control.m_recordset = std::move(m_set);
 }
 
 } // namespace qinghe

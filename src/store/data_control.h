@@ -40,13 +40,20 @@ public:
     bool isVisible() const { return m_visible; }
     void setVisible(bool visible) { m_visible = visible; }
 
-    /// Source and set, to be given back later: whoever borrows the control leaves it as found.
-    struct Loan {
-        QString source;
-        std::unique_ptr<Recordset> set;
+    /// The control in somebody else's hands: when the loan ends it has the source and the set that it had before.
+    class [[nodiscard]] Loan {
+    public:
+        explicit Loan(Adodc& control);
+        ~Loan();
+        Loan(const Loan&) = delete;
+        Loan& operator=(const Loan&) = delete;
+
+    private:
+        Adodc& m_control;
+        QString m_source;
+        std::unique_ptr<Recordset> m_set;
     };
-    Loan borrow();
-    void giveBack(Loan loan);
+    Loan borrow() { return Loan(*this); }
 
 private:
     Store& m_store;

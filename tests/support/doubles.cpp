@@ -1,6 +1,35 @@
 #include "support/doubles.h"
 
+#include <QFileInfo>
+
 namespace qinghe::testing {
+
+namespace {
+
+class NotingPiece : public Sound {
+public:
+    explicit NotingPiece(NotingSound& device) : m_device(device) {}
+    ~NotingPiece() override { m_device.calls << QStringLiteral("close"); }
+    void play() override { m_device.calls << QStringLiteral("play"); }
+    void stop() override { m_device.calls << QStringLiteral("stop"); }
+    void rewind() override {
+        m_device.calls << QStringLiteral("rewind");
+        m_device.position = 0;
+    }
+    int position() const override { return m_device.position; }
+    int length() const override { return m_device.length; }
+
+private:
+    NotingSound& m_device;
+};
+
+} // namespace
+
+std::unique_ptr<Sound> NotingSound::open(const QString& wav) {
+    calls << QStringLiteral("open ") + QFileInfo(wav).fileName();
+    position = 0;
+    return present ? std::make_unique<NotingPiece>(*this) : nullptr;
+}
 
 Answer AnsweringMessages::show(const QString& text, MessageStyle style, const QString& title) {
     shown.push_back({text, static_cast<int>(style), title});

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// What stands in for the desktop in tests: the clock, message boxes, the tray, the browser, the lock of the folder and
-/// the end of the process. Everything else is real.
+/// What stands in for the desktop in tests: the clock, message boxes, the tray, the browser, the sound, the lock of the
+/// folder and the end of the process. Everything else is real.
 namespace qinghe::testing {
 
 class FixedClock : public Clock {
@@ -60,6 +60,18 @@ class NotingLauncher : public Launcher {
 public:
     void explore(const QUrl& page) override { opened.push_back(page); }
     std::vector<QUrl> opened;
+};
+
+/// Notes what is asked of the sound: "open 音乐1.wav", "play", "stop", "rewind", "close". Plays nothing; a test sets
+/// how far the piece has come.
+class NotingSound : public SoundDevice {
+public:
+    std::unique_ptr<Sound> open(const QString& wav) override;
+
+    QStringList calls;
+    bool present = true; ///< else no piece can be opened
+    int position = 0;    ///< ms
+    int length = 6000;
 };
 
 class GivenLock : public InstanceLock {

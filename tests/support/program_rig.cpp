@@ -85,6 +85,7 @@ Services ProgramRig::makeServices() {
     put(services.messages, messages, std::make_unique<AnsweringMessages>());
     put(services.tray, tray, std::make_unique<NotingTray>());
     put(services.launcher, launcher, std::make_unique<NotingLauncher>());
+    put(services.sound, sound, std::make_unique<NotingSound>());
     put(services.instance, lock, std::make_unique<GivenLock>());
     put(services.process, process, std::make_unique<NotedEnd>());
     services.appPath = folder();

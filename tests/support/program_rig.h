@@ -78,6 +78,7 @@ public:
     AnsweringMessages* messages = nullptr;
     NotingTray* tray = nullptr;
     NotingLauncher* launcher = nullptr;
+    NotingSound* sound = nullptr;
     GivenLock* lock = nullptr;
     NotedEnd* process = nullptr;
 

@@ -1,0 +1,31 @@
+#include "core/stored_choice.h"
+
+#include "core/lists.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+bool StoredChoice::isYes(Adodc& control) const {
+    Recordset& rows = control.open(QString::fromUtf16(query));
+    return !rows.eof() && rows.field(0).value().truth();
+}
+
+void StoredChoice::rewrite(Adodc& control, bool yes) const {
+    Recordset& rows = control.open(QString::fromUtf16(query));
+    emptyTable(rows);
+    rows.addNew();
+    rows.field(QStringView(column)).setValue(yes);
+    rows.update();
+}
+
+void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choice, const CheckBox& box,
+               const QString& done, const QString& title) {
+    control.setConnectionString(bench.connection());
+    if (box.Value() && choice.isYes(control))
+        return;
+    choice.rewrite(control, box.Value());
+    bench.services.say(done, MessageStyle::OkInformation, title);
+}
+
+} // namespace qinghe

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/workbench.h"
+
+namespace qinghe {
+
+/// A choice of yes or no that is the one row of a table. It is rewritten whole at each change: all rows go, one comes.
+struct StoredChoice {
+    const char16_t* query; ///< of its column
+    const char16_t* column;
+
+    /// Whether the table holds a row and its first one says yes. Leaves the query open on `control`.
+    bool isYes(Adodc& control) const;
+    /// Through `control`, which keeps the query open.
+    void rewrite(Adodc& control, bool yes) const;
+};
+
+inline constexpr StoredChoice RemindAtSignIn{u"select 日程提醒 from txb", u"日程提醒"};
+inline constexpr StoredChoice MinimiseToTray{u"select 最小化到托盘 from systuopanb", u"最小化到托盘"};
+
+/// The click of a box that stands for a choice: rewrites it and says so. Ticking what is already stored is silent,
+/// because the start ticks the boxes in code and is heard here like a user.
+void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choice, const CheckBox& box,
+               const QString& done, const QString& title);
+
+} // namespace qinghe

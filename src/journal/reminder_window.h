@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/main_window.h"
+
+namespace qinghe {
+
+/// `Form6`: shows the plan that is due and plays its music over and over, until the user reacts. It has no media
+/// control of its own and moves the main window's. Closed by its window button it comes back within its minute, since
+/// only "知道了" begins the pause. It comes up over all windows and leaves the keyboard where it is: nobody who types
+/// presses its buttons by chance.
+class ReminderWindow : public Form {
+    Q_OBJECT
+
+public:
+    explicit ReminderWindow(MainWindow& window);
+
+    /// Reads plan and music from the current row of the main window's `Adodc1`.
+    void load() override;
+    void unloaded() override;
+
+    void Form6_Timer1_Timer();
+    void Form6_Command1_Click();
+    void Form6_Command2_Click();
+
+private:
+    void endMusic();
+
+    MainWindow& window;
+    MMControl& MM1;
+    Timer* Timer1;           // plays the music and begins it again
+    Label* Label1;           // the plan
+    CommandButton* Command1; // 知道了
+    CommandButton* Command2; // 停止音乐
+};
+
+} // namespace qinghe

@@ -1,0 +1,249 @@
+#include "journal/schedule.h"
+
+#include "core/hover.h"
+#include "core/stored_choice.h"
+#include "platform/key_presses.h"
+#include "runtime/number_text.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PageCode = 23;
+constexpr int DateTarget = 6;
+constexpr double PickerGap = 500; ///< twips from the sum of the tops to the picker
+constexpr int Pieces = 5, Hours = 24, Minutes = 60;
+constexpr qsizetype MostCharacters = 50;
+
+Label* words(Frame* frame, const QString& name, const QString& caption, double left, double top, double width) {
+    auto* label = new Label(frame, name, caption);
+    label->place(left, top, width, 330);
+    return label;
+}
+
+CommandButton* button(Frame* frame, const QString& name, const QString& caption, Glyph glyph) {
+    auto* made = new CommandButton(frame, name, caption);
+    made->setGlyph(glyph);
+    return made;
+}
+
+QString counted(qsizetype characters) {
+    return QString::number(characters) + u"当前字数"_s;
+}
+
+/// Blanks alone are trimmed, at both ends.
+QString trimmedBlanks(QStringView text) {
+    while (text.startsWith(' '_L1))
+        text = text.sliced(1);
+    while (text.endsWith(' '_L1))
+        text.chop(1);
+    return text.toString();
+}
+
+} // namespace
+
+SchedulePage::SchedulePage(MainWindow& form)
+    : QObject(&form),
+      window(form),
+      bench(form.bench()),
+      Adodc1(*form.Adodc1),
+      MM1(*form.MM1),
+      Frame17(form.navigation().frame(u"Frame17"_s)),
+      Frame18(new Frame(&Frame17, u"Frame18"_s, u"提醒设置"_s)),
+      Label3(new Label(&Frame17, u"Label3"_s)),
+      Text3(new LongTextBox(&Frame17, u"Text3"_s)),
+      Text4(new TextBox(Frame18, u"Text4"_s)),
+      Combo3(new ComboBox(Frame18, u"Combo3"_s, true)),
+      Combo4(new ComboBox(Frame18, u"Combo4"_s, true)),
+      Combo1(new ComboBox(Frame18, u"Combo1"_s, true)),
+      Label22(new Label(Frame18, u"Label22"_s)),
+      Command26(button(&Frame17, u"Command26"_s, u"添加新日程"_s, Glyph::Add)),
+      Command27(button(&Frame17, u"Command27"_s, u"查看今日日程"_s, Glyph::List)),
+      Command28(button(&Frame17, u"Command28"_s, u"保存日程和设置"_s, Glyph::Accept)),
+      Command29(button(Frame18, u"Command29"_s, u"确定音乐"_s, Glyph::Music)) {
+    Combo1->setText(u"音乐1"_s);
+    placeControls();
+    bench.dateFields[DateTarget] = {Text4, nullptr};
+    bindEvents();
+}
+
+void SchedulePage::placeControls() {
+    Label3->place(240, 390, 4000, 360);
+    Label3->setRole(Role::Total);
+    Text3->place(240, 840, 6240, 4140);
+    Frame18->place(6720, 840, 4695, 3300);
+    Frame18->setRole(Role::InnerFrame);
+    words(Frame18, u"Label9"_s, u"日期设置："_s, 240, 480, 1140);
+    Text4->place(1440, 480, 2280, 330);
+    words(Frame18, u"Label18"_s, u"时间设置："_s, 240, 1020, 1140);
+    Combo3->place(1440, 1020, 900, 330);
+    words(Frame18, u"Label19"_s, u"时"_s, 2400, 1020, 300);
+    Combo4->place(2820, 1020, 900, 330);
+    words(Frame18, u"Label45"_s, u"分"_s, 3780, 1020, 300);
+    words(Frame18, u"Label46"_s, u"音乐："_s, 240, 1560, 1140);
+    Combo1->place(1440, 1560, 1500, 330);
+    Command29->place(3120, 1530, 1335, 390);
+    auto* well = new Label(Frame18, {});
+    well->place(240, 2160, 4215, 900);
+    well->setRole(Role::Well);
+    Label22->place(360, 2190, 3975, 840);
+    Label22->raise();
+    window.Check1->place(6840, 4440, 3000, 330);
+    window.Check1->setShown(true);
+    Command26->place(240, 5280, 1680, 390);
+    Command27->place(2040, 5280, 1800, 390);
+    Command28->place(9195, 5280, 2220, 390);
+    Command28->setRole(Role::Primary);
+}
+
+void SchedulePage::bindEvents() {
+    Text3->KeyPress = [this](int key) { Form2_Text3_KeyPress(key); };
+    Text4->Click = [this] { Form2_Text4_Click(); };
+    Combo1->Click = [this] { Form2_Combo1_Click(); };
+    Command26->Click = [this] { Form2_Command26_Click(); };
+    Command27->Click = [this] { Form2_Command27_Click(); };
+    Command28->Click = [this] { Form2_Command28_Click(); };
+    Command29->Click = [this] { Form2_Command29_Click(); };
+    markHovered(Frame17, {Command26, Command27, Command28});
+    markHovered(*Frame18, {Command29});
+    showHandOver(window.Check1);
+    window.navigation().onOpen(PageCode, [this] { Form2_Label23_Click(); });
+}
+
+void SchedulePage::Form2_Label23_Click() {
+    window.navigation().leaveOthers(PageCode);
+    Adodc1.setConnectionString(bench.connection());
+    window.navigation().bringForward(PageCode);
+    MM1.setVisible(false);
+    Adodc1.setVisible(false);
+    fillLists();
+    scheduleNumber = 1;
+    Label3->setCaption(QString::number(scheduleNumber) + u"日程安排"_s);
+    Text3->setBoxText({});
+}
+
+void SchedulePage::fillLists() {
+    // Not emptied first: each visit adds the same entries once more, and is meant to.
+    for (int piece = 1; piece <= Pieces; ++piece)
+        Combo1->addEntry(u"音乐"_s + QString::number(piece));
+    for (int hour = 0; hour < Hours; ++hour)
+        Combo3->addEntry(QString::number(hour));
+    for (int minute = 0; minute < Minutes; ++minute)
+        Combo4->addEntry(QString::number(minute));
+}
+
+void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
+    // The key goes into the box afterwards in every case, so the text is counted as it will be.
+    const qsizetype before = key_presses::characterCount(Text3->Text());
+    Label3->setCaption(counted(before + 1));
+    if (before == MostCharacters - 1 && KeyAscii != key_presses::Backspace) {
+        bench.services.say(u"日程提醒内容不能超过50字,请重新设置内容。"_s, MessageStyle::OkInformation, u"系统提示"_s);
+        // The whole text goes, not only what is too much: that is how the limit is kept.
+        Text3->setBoxText({});
+        Label3->setCaption(counted(1));
+    }
+    if (KeyAscii == key_presses::Backspace)
+        Label3->setCaption(counted(key_presses::characterCount(trimmedBlanks(Text3->Text())) - 1));
+}
+
+void SchedulePage::Form2_Text4_Click() {
+    bench.dateTarget = DateTarget;
+    bench.openTool(u"Form1"_s, Frame17.Left() + Frame18->Left() + Text4->Left() + window.Left(),
+                   Frame17.Top() + Frame18->Top() + Text4->Top() + window.Top() + PickerGap);
+}
+
+void SchedulePage::Form2_Combo1_Click() {
+    bench.forms.unload(u"Form1"_s);
+    MM1.setCommand(u"close"_s);
+    MM1.setFileName(bench.beside(Combo1->Text() + u".wav"_s));
+    MM1.setCommand(u"open"_s);
+    MM1.setCommand(u"play"_s);
+}
+
+void SchedulePage::Form2_Command29_Click() {
+    bench.forms.unload(u"Form1"_s);
+    Label22->setCaption(u"设置为："_s + Text4->Text() + u"日"_s + Combo3->Text() + u"时 "_s + Combo4->Text() +
+                        u"分，提醒音乐为："_s + Combo1->Text());
+    MM1.setCommand(u"stop"_s);
+}
+
+// ---- writing plans
+
+bool SchedulePage::refusesGap() {
+    if (!Text3->Text().isEmpty() && !Text4->Text().isEmpty())
+        return false;
+    bench.services.say(u"日程安排和提醒日期不能为空，请输入提醒内容！"_s, MessageStyle::OkInformation, u"提示"_s);
+    return true;
+}
+
+void SchedulePage::writePlan(const DateValue& setAt) {
+    scheduleSaved = 1;
+    Recordset& plans = Adodc1.open(u"rcb"_s);
+    plans.addNew();
+    plans.field(u"设置日期"_s).setValue(setAt);
+    plans.field(u"日程号"_s).setValue(static_cast<int>(scheduleNumber));
+    plans.field(u"日程日期"_s).setValue(Text4->Text());
+    plans.field(u"提醒时间"_s).setValue(Combo3->Text() + ' '_L1 + Combo4->Text());
+    plans.field(u"日程内容"_s).setValue(Text3->Text());
+    plans.field(u"提醒音乐"_s).setValue(Combo1->Text());
+    plans.field(u"区别"_s).setValue(plans.recordCount() + 1);
+    plans.update();
+}
+
+void SchedulePage::Form2_Command28_Click() {
+    bench.forms.unload(u"Form1"_s);
+    if (refusesGap())
+        return;
+    const QDateTime now = bench.services.clock->now();
+    writePlan({now.date(), now.time()});
+    window.Timer2->setInterval(1000);
+    window.Timer2->setEnabled(true); // a plan saved now counts at once
+    Command28->setUsable(false);
+    window.Adodc2->setConnectionString(bench.connection());
+    RemindAtSignIn.rewrite(*window.Adodc2, window.Check1->Value());
+    bench.services.say(u"保存成功！"_s, MessageStyle::OkInformation, u"保存提示"_s);
+}
+
+void SchedulePage::openFreshPlan() {
+    Command28->setUsable(true);
+    ++scheduleNumber;
+    Label3->setCaption(QString::number(scheduleNumber) + u"日程"_s);
+    scheduleSaved = 0;
+    Text3->setBoxText({});
+}
+
+void SchedulePage::Form2_Command26_Click() {
+    if (scheduleSaved == 1)
+        return openFreshPlan();
+    if (Text3->Text().isEmpty()) {
+        bench.services.say(u"当前您可以在左侧添加新的日程安排！"_s, MessageStyle::OkInformation, u"操作提示"_s);
+        return;
+    }
+    if (bench.services.say(u"是否保存当前安排"_s, MessageStyle::YesNoQuestion, u"提醒"_s) != Answer::Yes) {
+        Text3->setBoxText({});
+        return;
+    }
+    if (refusesGap())
+        return;
+    // Here a plan is set on a day, without a time, and the reminders are left as they are: both are meant.
+    writePlan({bench.services.clock->today(), {}});
+    bench.services.say(u"当前记录以保存！"_s, MessageStyle::OkInformation, u"提示"_s);
+    Command28->setUsable(false);
+}
+
+void SchedulePage::Form2_Command27_Click() {
+    Recordset& plans =
+        Adodc1.open(u"select * from rcb where 日程日期= #"_s + dateText(bench.services.clock->today()) + u"# "_s);
+    QString list;
+    for (int i = 1; !plans.eof(); ++i, plans.moveNext())
+        list += u"日程"_s + spacedNumberText(i) + u"："_s + plans.field(u"日程内容"_s).text() + u"  提醒时间："_s +
+                plans.field(u"日程日期"_s).text() + u"日"_s + plans.field(u"提醒时间"_s).text() +
+                u"分，设置日期为："_s + plans.field(u"设置日期"_s).text() + u"\r\n"_s;
+    Text3->setBoxText(list.isEmpty() ? u"您还未添加今日日程！"_s : list);
+    Command28->setUsable(false);
+    scheduleSaved = 1;
+}
+
+} // namespace qinghe
