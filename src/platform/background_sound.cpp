@@ -19,7 +19,10 @@ public:
         m_thread.setMaxThreadCount(1); // in turn
         m_thread.setExpiryTimeout(ForEver);
     }
-    ~Player() { m_thread.waitForDone(); }
+    ~Player() {
+        enqueue([this] { m_device.reset(); }); // where it was made
+        m_thread.waitForDone();
+    }
 
     void enqueue(std::function<void()> call) { m_thread.start(std::move(call)); }
 
@@ -37,7 +40,7 @@ public:
 private:
     QString m_folder;
     std::unique_ptr<SoundDevice> m_device;
-    QThreadPool m_thread; // ends before what its calls hold
+    QThreadPool m_thread;
 };
 
 /// A piece that may not have been opened yet.

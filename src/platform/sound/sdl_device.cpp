@@ -13,6 +13,9 @@ namespace qinghe {
 
 namespace {
 
+/// Short enough for a stop to be heard at once.
+constexpr Uint16 BufferFrames = 1024;
+
 /// The samples of a wav file, in memory.
 struct Samples {
     SDL_AudioSpec spec{};
@@ -45,6 +48,7 @@ public:
             static_cast<Piece*>(self)->fill(out, static_cast<Uint32>(count));
         };
         wanted.userdata = this;
+        wanted.samples = BufferFrames;
         m_device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
     }
     ~Piece() override {
@@ -89,6 +93,10 @@ public:
         SDL_SetMainReady();
         SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // the program ends as it always does
         SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, QCoreApplication::applicationName().toUtf8().constData());
+    }
+    ~SdlDevice() override {
+        SDL_Quit();
+        SDL_TLSCleanup();
     }
     std::unique_ptr<Sound> open(const QString& wav) override {
         auto piece = std::make_unique<Piece>(wav);

@@ -1,0 +1,177 @@
+#include "reminder_rig.h"
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A plan rings, in the first second of its minute; its music plays from the next second on.
+class ReminderWindowTest : public ReminderTest {
+protected:
+    ReminderWindowTest() {
+        plant(u"2024-06-18"_s, u"20 37"_s, u"给爷爷打电话"_s, u"音乐2"_s);
+        setClock(u"2024-06-18T20:36:59"_s);
+        watch();
+        pass();
+        if (!rings())
+            qFatal("the plan does not ring");
+    }
+    const QStringList started{u"open 音乐2.wav"_s, u"play"_s};
+    const QStringList kept{u"play"_s};
+};
+
+TEST_F(ReminderWindowTest, ItIsCalledTodaysPlanAndHasTwoButtons) {
+    EXPECT_EQ(rig.loaded(u"Form6"_s)->Caption(), u"今日日程"_s);
+    EXPECT_EQ(rig.control<CommandButton>(u"Form6"_s, u"Command1"_s).text(), u"知道了"_s);
+    EXPECT_EQ(rig.control<CommandButton>(u"Form6"_s, u"Command2"_s).text(), u"停止音乐"_s);
+    EXPECT_TRUE(rig.control<Timer>(u"Form6"_s, u"Timer1"_s).Enabled());
+    EXPECT_EQ(rig.control<Timer>(u"Form6"_s, u"Timer1"_s).interval(), 1000);
+}
+
+TEST_F(ReminderWindowTest, ItLeavesTheKeyboardWhereItIs) {
+    const Form& popup = *rig.loaded(u"Form6"_s);
+    EXPECT_TRUE(popup.testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_TRUE(popup.windowFlags() & Qt::WindowStaysOnTopHint);
+}
+
+TEST_F(ReminderWindowTest, ItOpensThePieceOnceAndKeepsItPlaying) {
+    EXPECT_EQ(takeCalls(), started);
+    rig.sound->position = 1000;
+    pass(3);
+    EXPECT_EQ(takeCalls(), kept + kept + kept);
+}
+
+TEST_F(ReminderWindowTest, APieceAtItsEndBeginsAgain) {
+    takeCalls();
+    rig.sound->position = rig.sound->length;
+    pass();
+    EXPECT_EQ(takeCalls(), (QStringList{u"play"_s, u"rewind"_s}));
+    EXPECT_EQ(rig.mainWindow().MM1->Command(), u"prev"_s);
+    pass();
+    EXPECT_EQ(takeCalls(), kept);
+}
+
+TEST_F(ReminderWindowTest, UnderstoodEndsTheMusicAndTheWindow) {
+    takeCalls();
+    understand();
+    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_EQ(takeCalls(), (QStringList{u"stop"_s, u"close"_s}));
+    EXPECT_EQ(rig.mainWindow().MM1->Command(), u"close"_s);
+    EXPECT_TRUE(timer3().Enabled());
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(ReminderWindowTest, TheMusicCanBeEndedAlone) {
+    takeCalls();
+    endMusic();
+    EXPECT_EQ(takeCalls(), (QStringList{u"stop"_s, u"close"_s}));
+    pass(5);
+    EXPECT_TRUE(rings());
+    EXPECT_TRUE(takeCalls().isEmpty());
+    EXPECT_FALSE(timer3().Enabled());
+}
+
+TEST_F(ReminderWindowTest, EndingTheMusicAndThenUnderstoodIsHarmlessAndThePauseBegins) {
+    endMusic();
+    understand();
+    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_TRUE(timer3().Enabled());
+    pass(70);
+    EXPECT_TRUE(timer2().Enabled());
+    EXPECT_FALSE(rings());
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(ReminderWindowTest, ClosedByItsWindowButtonItComesBackWithTheMusicFromTheStart) {
+    pass(4);
+    takeCalls();
+    closePopup();
+    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_EQ(takeCalls(), (QStringList{u"stop"_s, u"close"_s}));
+    EXPECT_FALSE(timer3().Enabled());
+    pass();
+    ASSERT_TRUE(rings());
+    EXPECT_EQ(takeCalls(), started);
+}
+
+TEST_F(ReminderWindowTest, ClosedByItsWindowButtonAfterItsMinuteItStaysAway) {
+    pass(60);
+    closePopup();
+    pass(120);
+    EXPECT_FALSE(rings());
+    EXPECT_TRUE(timer2().Enabled());
+}
+
+TEST_F(ReminderWindowTest, WithoutASoundDeviceThePlanIsShownAllTheSame) {
+    closePopup();
+    rig.sound->present = false;
+    pass(3);
+    EXPECT_TRUE(rings());
+    EXPECT_EQ(shownPlan(), u"给爷爷打电话"_s);
+    understand();
+    EXPECT_TRUE(rig.messages->shown.empty());
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(ReminderWindowTest, APreviewOfTheSamePieceIsTakenOver) {
+    understand();
+    pass(70);
+    rig.press(music(), Qt::Key_Down); // 音乐1 plays
+    takeCalls();
+    plant(u"2024-06-18"_s, u"20 40"_s, u"b"_s, u"音乐1"_s);
+    setClock(u"2024-06-18T20:40:00"_s);
+    pass();
+    ASSERT_TRUE(rings());
+    EXPECT_EQ(takeCalls(), kept);
+}
+
+TEST_F(ReminderWindowTest, APreviewOfAnotherPieceGivesWay) {
+    understand();
+    pass(70);
+    rig.press(music(), Qt::Key_Down);
+    takeCalls();
+    plant(u"2024-06-18"_s, u"20 40"_s, u"b"_s, u"音乐5"_s);
+    setClock(u"2024-06-18T20:40:00"_s);
+    pass();
+    EXPECT_EQ(takeCalls(), (QStringList{u"close"_s, u"open 音乐5.wav"_s, u"play"_s}));
+}
+
+TEST_F(ReminderWindowTest, ASecondCopyThatRingsEndsWithoutAWord) {
+    closePopup();
+    rig.lock->free = false;
+    pass();
+    EXPECT_FALSE(rings());
+    EXPECT_EQ(rig.exitCode(), 0);
+    EXPECT_TRUE(rig.messages->shown.empty());
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(ReminderWindowTest, MarkUpInAPlanIsShownAsItWasTyped) {
+    understand();
+    pass(70);
+    plant(u"2024-06-18"_s, u"20 40"_s, u"<b>3 & 4</b>"_s);
+    setClock(u"2024-06-18T20:40:00"_s);
+    pass();
+    EXPECT_EQ(shownPlan(), u"<b>3 & 4</b>"_s);
+    EXPECT_EQ(rig.control<Label>(u"Form6"_s, u"Label1"_s).textFormat(), Qt::PlainText);
+}
+
+TEST_F(ReminderWindowTest, APlanOfManyThousandCharactersIsShown) {
+    understand();
+    pass(70);
+    plant(u"2024-06-18"_s, u"20 40"_s, u"长"_s.repeated(100000));
+    setClock(u"2024-06-18T20:40:00"_s);
+    pass();
+    EXPECT_EQ(shownPlan().size(), 100000);
+    rig.loaded(u"Form6"_s)->grab();
+}
+
+TEST_F(ReminderWindowTest, ThePageCanBeUsedWhileItStands) {
+    write(u"b"_s, u"2024-6-20"_s, u"8"_s, u"0"_s);
+    rig.click(save());
+    EXPECT_EQ(rig.lastMessage(), PlanSaved);
+    EXPECT_TRUE(rings());
+}
+
+} // namespace
+} // namespace qinghe::testing
