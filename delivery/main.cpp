@@ -1,4 +1,5 @@
 #include "delivery/first_data.h"
+#include "delivery/music.h"
 #include "delivery/web_pages.h"
 #include "runtime/runtime_error.h"
 
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
     try {
         qinghe::deliverFirstData(folder);
         qinghe::deliverWebPages(folder);
+        qinghe::deliverMusic(folder);
     } catch (const qinghe::RuntimeError& error) {
         std::fprintf(stderr, "qinghe_delivery: %s\n", error.what());
         return 1;

@@ -1,14 +1,12 @@
 #include "delivery/web_pages.h"
 
+#include "delivery/renew.h"
 #include "look/app_icon.h"
-#include "runtime/runtime_error.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QSaveFile>
 
 static void loadPages() {
     Q_INIT_RESOURCE(web);
@@ -16,21 +14,6 @@ static void loadPages() {
 
 namespace qinghe {
 namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void renew(const QString& path, const QByteArray& content) {
-    if (contentOf(path) == content) {
-        return;
-    }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
-        throw RuntimeError(RuntimeError::PathFileAccess, u"无法写入文件“%1”：%2。"_qs.arg(path, file.errorString()));
-    }
-}
 
 QByteArray iconPng() {
     constexpr int size = 128;
