@@ -3,16 +3,19 @@
 #include "look/look.h"
 #include "measure.h"
 #include "platform/start_ahead.h"
+#include "reminders.h"
 #include "support/program_rig.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLibraryInfo>
 #include <QProcess>
+#include <QTimer>
 #include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <string>
 
@@ -52,15 +55,6 @@ private:
 [[noreturn]] void endNow() {
     std::fflush(nullptr);
     std::_Exit(0);
-}
-
-/// Resident memory of this process, MiB.
-double residentMiB() {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmRSS:"))
-            return std::stod(line.substr(6)) / 1024;
-    return 0;
 }
 
 /// The services of the desktop for a program in `folder`.
@@ -118,15 +112,38 @@ void signIn(QApplication& application, const QString& folder, bool open) {
     QApplication::exec();
 }
 
+/// Signs in and prints how much processor time, in percent of one core, it takes to stand there.
+void rest(QApplication& application, const QString& folder) {
+    dress(application);
+    Program program(servicesIn(folder));
+    program.start();
+    QTest::mouseClick(program.bench().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
+    QTest::qWait(5000); // what the start sets off
+    const std::clock_t before = std::clock();
+    QTimer::singleShot(RestSeconds * 1000, &application, [before] {
+        std::printf("%f\n", 100.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC / RestSeconds);
+        endNow();
+    });
+    QApplication::exec();
+}
+
 QProcess* child(const QStringList& arguments) {
     auto* process = new QProcess;
     process->start(QCoreApplication::applicationFilePath(), QStringList{QString::fromLatin1(ChildMark)} + arguments);
-    if (!process->waitForFinished(60'000) || process->exitCode() != 0)
+    if (!process->waitForFinished(120'000) || process->exitCode() != 0)
         qFatal("the child %s failed", qPrintable(arguments.join(u' ')));
     return process;
 }
 
 } // namespace
+
+double residentMiB() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:"))
+            return std::stod(line.substr(6)) / 1024;
+    return 0;
+}
 
 bool runAsChild(int argc, char** argv, int& exitCode) {
     if (argc < 3 || std::string(argv[1]) != ChildMark)
@@ -144,6 +161,8 @@ bool runAsChild(int argc, char** argv, int& exitCode) {
         emptyWindow(application);
     else if (what == "start")
         startProgram(application, folder);
+    else if (what == "rest")
+        rest(application, folder);
     else
         signIn(application, folder, what == "memory");
     exitCode = 1;

@@ -11,6 +11,8 @@ bool runAsChild(int argc, char** argv, int& exitCode);
 
 /// Starts a child and gives the ms from its start to its end, which comes with the first painting.
 double startTime(const QStringList& arguments);
+/// Resident memory of this process, MiB.
+double residentMiB();
 /// Starts a child and gives the figure that it prints.
 double childFigure(const QStringList& arguments);
 

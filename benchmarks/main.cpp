@@ -4,6 +4,7 @@
 #include "ledger_pages.h"
 #include "look/look.h"
 #include "measure.h"
+#include "reminders.h"
 #include "support/program_rig.h"
 
 #include <QApplication>
@@ -102,35 +103,6 @@ void measureIncome(Report& report) {
     report.addPlain(u"growth of saving with the rows, exponent"_s, growthExponent(sizes, saves), 1.1);
 }
 
-void measureDayQuery(Report& report) {
-    qinghe::testing::ProgramRig rig;
-    fillTables(rig.dataFile(), FullTable);
-    plainCopy(rig.dataFile(), rig.file(u"plain.db"_s));
-    Bare bare(rig.file(u"plain.db"_s));
-    rig.signIn();
-    Adodc& control = *rig.mainWindow().Adodc1;
-    const auto day = [](int i) { return QDate(2016, 1, 1).addDays(i); };
-    constexpr int Queries = 500;
-    const auto ours = [&] {
-        return milliseconds([&] {
-            for (int i = 0; i < Queries; ++i) {
-                Recordset& plans = control.open(u"select 提醒时间,提醒音乐,日程内容 from rcb where 日程日期= # "_s +
-                                                dateText(day(i)) + u"#"_s);
-                for (; !plans.eof(); plans.moveNext())
-                    plans.field(u"提醒时间"_s).text();
-            }
-        });
-    };
-    const auto reference = [&] {
-        return milliseconds([&] {
-            for (int i = 0; i < Queries; ++i)
-                bare.read(u"select 提醒时间,提醒音乐,日程内容 from rcb where 日程日期='"_s +
-                          day(i).toString(Qt::ISODate) + u"'"_s);
-        });
-    };
-    report.add(u"plans of one day among 32767, 500 queries, against bare SQLite"_s, inTurn(Runs, ours, reference), 3);
-}
-
 struct Chapter {
     const char16_t* name;
     void (*measure)(Report&);
@@ -139,7 +111,7 @@ constexpr Chapter Chapters[] = {
     {u"start", measureStart},
     {u"income", measureIncome},
     {u"ledger", measureLedgerPages},
-    {u"plans", measureDayQuery},
+    {u"reminders", measureReminders},
 };
 
 } // namespace

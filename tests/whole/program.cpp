@@ -33,7 +33,8 @@ void layBrowser(const LedgerFolder& folder) {
     browser.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-/// What the program finds around it: the test's display, home, browser and clock, and the driver.
+/// What the program finds around it: the test's display, home, browser, clock and sound device, and the
+/// driver.
 QProcessEnvironment environment(const LedgerFolder& folder, const std::string& now, const QString& socket) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
@@ -46,6 +47,8 @@ QProcessEnvironment environment(const LedgerFolder& folder, const std::string& n
     environment.insert(QStringLiteral("FAKETIME"), u'@' + q(now));
     environment.insert(QStringLiteral("FAKETIME_DONT_FAKE_MONOTONIC"), QStringLiteral("1"));
     environment.insert(QStringLiteral("NO_FAKE_STAT"), QStringLiteral("1"));
+    environment.insert(QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("disk"));
+    environment.insert(QStringLiteral("SDL_DISKAUDIOFILE"), folder.beside("heard"));
     environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
     return environment;
 }
@@ -231,7 +234,24 @@ std::string Program::windowWithKeyboard() {
 }
 
 void Program::look() {
-    QThread::msleep(500);
+    wait(500);
+}
+
+void Program::wait(int ms) {
+    QThread::msleep(static_cast<unsigned long>(ms));
+}
+
+bool Program::hasHeardMusic() {
+    QFile heard(m_folder.beside("heard"));
+    if (!heard.open(QFile::ReadOnly))
+        return false;
+    const QByteArray samples = heard.readAll();
+    return std::any_of(samples.begin(), samples.end(), [](char byte) { return byte != 0; });
+}
+
+bool Program::hasLoaded(const std::string& library) {
+    QFile maps(QStringLiteral("/proc/%1/maps").arg(m_id));
+    return maps.open(QFile::ReadOnly) && maps.readAll().contains(QByteArray::fromStdString(library));
 }
 
 bool Program::running() {

@@ -68,6 +68,10 @@ public:
     void picture(const std::string& file, const std::string& window = {});
     /// What it has had opened in the desktop's browser.
     std::vector<std::string> openedPages();
+    /// Whether anything but silence has come from its sound device.
+    bool hasHeardMusic();
+    /// Whether a library of this name is in its memory.
+    bool hasLoaded(const std::string& library);
 
     /// Waits until it holds, at most ten seconds.
     void waitUntil(const std::function<bool()>& holds, const std::string& what);
@@ -77,6 +81,7 @@ public:
 
     /// As long as a person takes to look; the window manager has then caught up.
     void look();
+    void wait(int ms);
 
     // Life
     bool running();
