@@ -44,19 +44,18 @@ QString objection(const QString& title) {
     return {};
 }
 
-/// How many bytes the character at the head of the bytes takes.
-qsizetype characterLength(QByteArrayView bytes) {
-    const auto byte = [&bytes](qsizetype at) { return at < bytes.size() ? static_cast<uchar>(bytes[at]) : 0; };
-    if (byte(0) <= 0x80 || byte(0) == 0xFF)
-        return 1;
-    return std::min<qsizetype>(byte(1) >= '0' && byte(1) <= '9' ? 4 : 2, bytes.size());
+/// How many of the bytes belong together at their head: the first byte of a pair takes the second one with it. A
+/// character of four bytes is two such pairs.
+qsizetype pairLength(QByteArrayView bytes) {
+    const auto first = static_cast<uchar>(bytes.front());
+    return first > 0x80 && first < 0xFF && bytes.size() > 1 ? 2 : 1;
 }
 
 QString decoded(QByteArrayView bytes) {
     QStringDecoder decode(TextCodec);
     QString text;
     qsizetype from = 0;
-    for (qsizetype at = 0; at < bytes.size(); at += characterLength(bytes.sliced(at))) {
+    for (qsizetype at = 0; at < bytes.size(); at += pairLength(bytes.sliced(at))) {
         if (bytes[at] != LoneEuro)
             continue;
         text += decode(bytes.sliced(from, at - from));

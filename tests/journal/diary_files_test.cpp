@@ -42,11 +42,21 @@ TEST_F(DiaryFiles, ATitleNamesAFileInTheFolder) {
 }
 
 TEST_F(DiaryFiles, ATitleThatCannotNameAFileIsRefused) {
-    for (const auto& title : {u".."_s,      u"."_s,    u"a/b"_s,  u"a\\b"_s,          u"../a"_s,
-                              u"a:b"_s,     u"a*"_s,   u"a?"_s,   u"\"a\""_s,         u"a<b"_s,
-                              u"a>b"_s,     u"a|b"_s,  u"a\nb"_s, QString(QChar(0)),  u"con"_s,
-                              u"Nul.txt"_s, u"COM1"_s, u"lpt9"_s, QString(84, u'字'), QString(QChar(0xD83C))})
+    for (const auto& title :
+         {u".."_s,  u"."_s,       u"a/b"_s,  u"a\\b"_s, u"../a"_s, u"a:b"_s,           u"a*"_s,
+          u"a?"_s,  u"\"a\""_s,   u"a<b"_s,  u"a>b"_s,  u"a|b"_s,  u"a\nb"_s,          QString(QChar(0)),
+          u"con"_s, u"Nul.txt"_s, u"COM1"_s, u"aux "_s, u"lpt9"_s, QString(84, u'字'), QString(QChar(0xD83C))})
         EXPECT_EQ(refusal(title), RuntimeError::PathFileAccess) << title.toStdString();
+}
+
+TEST_F(DiaryFiles, ARefusalIsShortHoweverLongTheTitle) {
+    try {
+        diary::filePath(u"mydiary"_s, QString(10'000, u'字'));
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_TRUE(error.text().contains(u"太长"_s));
+        EXPECT_LT(error.text().size(), 120);
+    }
 }
 
 TEST_F(DiaryFiles, TextsAreBytesOfTheSystemsOldCodePage) {
@@ -74,6 +84,8 @@ TEST_F(DiaryFiles, LinesOfEverySystemRunIntoOneAnother) {
 TEST_F(DiaryFiles, ALoneByteOfTheOldPageIsTheEuroSign) {
     EXPECT_EQ(read("5\x80 \xD6\xD0\x80"), u"5€ 中€"_s);
     EXPECT_EQ(read("\x81\x80"), u"亐"_s); // a second byte is none
+    EXPECT_EQ(read("\x81\x39\xEE\x39\x80"), u"㐀€"_s);
+    EXPECT_EQ(read("\xFF\x80").back(), u'€');
 }
 
 TEST_F(DiaryFiles, BytesThatAreNoTextAreShownAsWellAsTheyCanBe) {

@@ -48,6 +48,7 @@ TEST_F(DiaryFinding, AClickOnTheDateShowsNothing) {
     EXPECT_EQ(tx8().Text(), QString());
     EXPECT_FALSE(rig.loaded(u"Form1"_s));
     EXPECT_FALSE(tx9().Visible());
+    EXPECT_FALSE(rig.ended());
 }
 
 TEST_F(DiaryFinding, AnEmptyDiaryKeepsTheRowAsItStoodAndReadsNoFile) {
@@ -65,6 +66,29 @@ TEST_F(DiaryFinding, AnEmptyTitleBlanksTheRowWhereTheLoanGridStands) {
     EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-1|"_s);
     EXPECT_EQ(ProgramRig::rowText(ms8(), 2), u"2024-5-2|b"_s);
     EXPECT_EQ(ProgramRig::rowText(ms8(), 4), u"2024-5-4|"_s);
+    EXPECT_EQ(shown(4), QString());
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(DiaryFinding, AnEmptyTitleBlanksWhateverRowTheLoanGridHas) {
+    rig.sql(u"insert into rjb values('2024-05-01','a'),('2024-05-02','b'),('2024-05-03','')"_s);
+    auto& ms1 = rig.onMain<MSFlexGrid>(u"ms1"_s);
+    ms1.setRows(3);
+    ms1.setRow(2);
+    find();
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-1|a"_s);
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 2), u"2024-5-2|"_s);
+}
+
+TEST_F(DiaryFinding, AClickInTheTextPutsTheHiddenBoxIntoTheList) {
+    saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});
+    saveEntry(u"2024-5-4"_s, u"b"_s);
+    find();
+    shown(1);
+    rig.click(*tx8().viewport());
+    EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-3|b"_s); // the box still holds the title typed last
+    EXPECT_EQ(tx8().Text(), u"text"_s);
+    EXPECT_EQ(rows(), (QStringList{u"2024-05-03|a"_s, u"2024-05-04|b"_s}));
 }
 
 TEST_F(DiaryFinding, AFileThatIsGoneIsTheRunTimeError) {

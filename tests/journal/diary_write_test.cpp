@@ -62,6 +62,11 @@ TEST_F(DiaryWriting, DateAndTitleMayNotBeEmpty) {
     rig.messages->shown.clear();
     rig.click(save());
     EXPECT_EQ(rig.lastMessage(), refused);
+    rig.click(add());
+    fill(u""_s, u"a"_s, {u"text"_s});
+    rig.messages->shown.clear();
+    rig.click(save());
+    EXPECT_EQ(rig.lastMessage(), refused);
     EXPECT_EQ(rows(), QStringList());
     EXPECT_TRUE(QDir(rig.file(u"mydiary"_s)).isEmpty());
 }
@@ -72,6 +77,14 @@ TEST_F(DiaryWriting, ATitleTypedWithoutEnterIsKeptByAClickInTheText) {
     rig.click(*tx8().viewport());
     EXPECT_EQ(ms8().TextMatrix(1, 2), u"端午"_s);
     EXPECT_FALSE(tx9().Visible());
+}
+
+TEST_F(DiaryWriting, AClickInTheTextKeepsWhatEscHasDropped) {
+    rig.clickCell(ms8(), 1, 2);
+    rig.type(tx9(), u"x"_s);
+    rig.press(tx9(), Qt::Key_Escape);
+    rig.click(*tx8().viewport());
+    EXPECT_EQ(ms8().TextMatrix(1, 2), u"x"_s);
 }
 
 TEST_F(DiaryWriting, AClickInTheGridDropsTheTextTypedBefore) {
@@ -96,9 +109,11 @@ TEST_F(DiaryWriting, EnterGoesFromTheDateToTheTitleAndClosesThere) {
 TEST_F(DiaryWriting, EscDropsWhatWasTyped) {
     rig.clickCell(ms8(), 1, 2);
     rig.type(tx9(), u"x"_s);
+    EXPECT_EQ(QApplication::focusWidget(), &tx9());
     rig.press(tx9(), Qt::Key_Escape);
     EXPECT_EQ(ms8().TextMatrix(1, 2), QString());
     EXPECT_FALSE(tx9().Visible());
+    EXPECT_EQ(QApplication::focusWidget(), &ms8());
 }
 
 TEST_F(DiaryWriting, APickedDateGoesIntoBoxAndCell) {
