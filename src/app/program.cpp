@@ -14,6 +14,7 @@
 #include "ledger/income_expense.h"
 #include "ledger/loans.h"
 #include "maintenance/settings.h"
+#include "maintenance/users.h"
 #include "platform/free_memory.h"
 #include "tools/calculator.h"
 #include "tools/date_picker.h"
@@ -37,6 +38,7 @@ Form* mainWindowWithPages(Workbench& bench) {
     new DiaryPage(*window);
     new SchedulePage(*window);
     new Reminders(*window);
+    new UsersPage(*window);
     new SettingsPage(*window);
     return window;
 }

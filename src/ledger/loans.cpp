@@ -40,7 +40,7 @@ const GridPage::Traits Loans{
     .closedColumn = 5,
     .addedBox = GridPage::AddedBox::KeepsText,
     .lastRow = GridPage::LastRow::BlankedWhenFirst,
-    .saveMovesRow = false,
+    .rowInSave = GridPage::RowInSave::Stays,
     .refreshWhenEmptied = true,
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ledger/grid_page.h"
+#include "core/grid_page.h"
 
 namespace qinghe {
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "ledger/page_rig.h"
+#include "ledger/ledger_lists.h"
+#include "support/page_rig.h"
 
 namespace qinghe::testing {
 

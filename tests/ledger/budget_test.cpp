@@ -1,4 +1,5 @@
-#include "ledger/page_rig.h"
+#include "ledger/ledger_lists.h"
+#include "support/page_rig.h"
 
 #include <QApplication>
 

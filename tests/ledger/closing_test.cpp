@@ -99,7 +99,7 @@ TEST_F(ClosingTest, DropsTheBoxOfALoanByAClickOnTheFrameOfIncome) {
 }
 
 TEST_F(ClosingTest, CommitsNeitherBudgetNorAccountWhileTheirPagesAreHidden) {
-    for (const LedgerList& other : {Budget, Accounts}) {
+    for (const GridList& other : {Budget, Accounts}) {
         store(other, 1);
         open(other);
         auto& otherGrid = rig.onMain<MSFlexGrid>(u"ms%1"_s.arg(other.number));

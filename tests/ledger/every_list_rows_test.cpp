@@ -1,4 +1,5 @@
-#include "ledger/page_rig.h"
+#include "ledger/ledger_lists.h"
+#include "support/page_rig.h"
 
 // The rows of every list: 增加 adds one to the grid, 删除 takes one out of grid and table.
 

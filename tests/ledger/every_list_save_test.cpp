@@ -1,4 +1,5 @@
-#include "ledger/page_rig.h"
+#include "ledger/ledger_lists.h"
+#include "support/page_rig.h"
 
 // 保存 of every list: a check, then the whole table anew from the grid.
 
@@ -97,11 +98,11 @@ TEST_P(EveryListSaveTest, HasCommittedWhenItSaysSo) {
 }
 
 TEST_P(EveryListSaveTest, TouchesNoOtherTable) {
-    for (const LedgerList& each : LedgerLists)
+    for (const GridList& each : LedgerLists)
         store(each, 2);
     open();
     QList<QStringList> before;
-    for (const LedgerList& each : LedgerLists)
+    for (const GridList& each : LedgerLists)
         before << stored(each);
     fillCell(1, list.text, u"改过"_s);
     press(save());

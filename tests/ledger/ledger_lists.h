@@ -1,36 +1,12 @@
 #pragma once
 
+#include "support/grid_list.h"
+
 #include <array>
-#include <ostream>
-#include <string_view>
 
 namespace qinghe::testing {
 
-/// One list of the ledger: what its page is called in the main window, and rows for its table.
-struct LedgerList {
-    const char* name;       ///< in the names of tests
-    const char16_t* label;  ///< brings its page up
-    const char16_t* option; ///< is clicked then; none when empty
-    const char16_t* frame;
-    int number;      ///< of grid and box: 2 is "ms2" with "tx2"
-    int firstButton; ///< 增加; the next numbers are 删除 and 保存
-    const char16_t* table;
-    const char16_t* values;      ///< of the stored row n, as SQL
-    const char16_t* firstRow;    ///< what the grid shows of the row 1
-    int text, amount;            ///< a column of each kind
-    int date = 0;                ///< none when 0
-    bool refusalMovesRow = true; ///< to the row with the gap
-};
-
-inline bool operator==(const LedgerList& one, const LedgerList& other) {
-    return std::string_view(one.name) == other.name;
-}
-
-inline void PrintTo(const LedgerList& list, std::ostream* out) {
-    *out << list.name;
-}
-
-inline constexpr LedgerList Income{
+inline constexpr GridList Income{
     .name = "Income",
     .label = u"Label2(0)",
     .option = u"",
@@ -46,15 +22,15 @@ inline constexpr LedgerList Income{
     .date = 2,
 };
 
-inline constexpr LedgerList Expense = [] {
-    LedgerList list = Income;
+inline constexpr GridList Expense = [] {
+    GridList list = Income;
     list.name = "Expense";
     list.label = u"Label2(1)";
     list.table = u"zcb";
     return list;
 }();
 
-inline constexpr LedgerList Lent{
+inline constexpr GridList Lent{
     .name = "Lent",
     .label = u"Label1",
     .option = u"",
@@ -70,15 +46,15 @@ inline constexpr LedgerList Lent{
     .refusalMovesRow = false,
 };
 
-inline constexpr LedgerList Borrowed = [] {
-    LedgerList list = Lent;
+inline constexpr GridList Borrowed = [] {
+    GridList list = Lent;
     list.name = "Borrowed";
     list.option = u"Option1";
     list.table = u"jrb";
     return list;
 }();
 
-inline constexpr LedgerList Budget{
+inline constexpr GridList Budget{
     .name = "Budget",
     .label = u"Label5",
     .option = u"",
@@ -93,7 +69,7 @@ inline constexpr LedgerList Budget{
     .date = 1,
 };
 
-inline constexpr LedgerList Accounts{
+inline constexpr GridList Accounts{
     .name = "Accounts",
     .label = u"Label6",
     .option = u"",
@@ -107,7 +83,7 @@ inline constexpr LedgerList Accounts{
     .amount = 2,
 };
 
-inline constexpr std::array<LedgerList, 6> LedgerLists{Income, Expense, Lent, Borrowed, Budget, Accounts};
-inline constexpr std::array<LedgerList, 5> DatedLists{Income, Expense, Lent, Borrowed, Budget};
+inline constexpr std::array<GridList, 6> LedgerLists{Income, Expense, Lent, Borrowed, Budget, Accounts};
+inline constexpr std::array<GridList, 5> DatedLists{Income, Expense, Lent, Borrowed, Budget};
 
 } // namespace qinghe::testing

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "ledger/page_rig.h"
+#include "ledger/ledger_lists.h"
+#include "support/page_rig.h"
 
 namespace qinghe::testing {
 
@@ -16,7 +17,7 @@ protected:
     QString total() { return rig.onMain<Label>(QStringLiteral("Label11")).Caption(); }
 
     /// Stores one loan with these amounts, as SQL writes them.
-    void storeLoan(const LedgerList& which, const QString& amounts) {
+    void storeLoan(const GridList& which, const QString& amounts) {
         rig.sql(QStringLiteral("insert into %1 values('户','2024-05-03',%2,'甲','乙','',1)")
                     .arg(QString::fromUtf16(which.table), amounts));
     }

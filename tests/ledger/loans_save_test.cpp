@@ -10,13 +10,13 @@ using namespace Qt::StringLiterals;
 
 class LoansSaveTest : public LoansTest {
 protected:
-    QStringList names(const LedgerList& which = Lent) { return stored(which, u"账户, 区别"_s); }
+    QStringList names(const GridList& which = Lent) { return stored(which, u"账户, 区别"_s); }
     /// Saves under a new name in the first row and tells where the name arrived.
-    void expectSavedInto(const LedgerList& which) {
+    void expectSavedInto(const GridList& which) {
         grid().setTextMatrix(1, 1, u"改过"_s);
         press(save());
         EXPECT_EQ(rig.lastMessage(), SaveDone);
-        for (const LedgerList& each : {Lent, Borrowed})
+        for (const GridList& each : {Lent, Borrowed})
             EXPECT_EQ(names(each).front() == u"改过|1", each == which);
     }
 };

@@ -12,12 +12,12 @@ protected:
     void setMonth(int month) { rig.clock->time = QDateTime(QDate(2024, month, 15), QTime(12, 0)); }
     /// Stores one record, in income unless another table is named.
     void record(const QString& date, const QString& item, const QString& person, const QString& amount,
-                const LedgerList& side = Income) {
+                const GridList& side = Income) {
         rig.sql(QStringLiteral("insert into %1 values('1','%2',%3,%4,%5,'现金','',1)")
                     .arg(QString::fromUtf16(side.table), date, item, person, amount));
     }
     /// A month of two items and two people, with other months beside it.
-    void storeHousehold(const LedgerList& side = Income) {
+    void storeHousehold(const GridList& side = Income) {
         record(QStringLiteral("2024-10-01"), QStringLiteral("'工资'"), QStringLiteral("'甲'"), QStringLiteral("8000"),
                side);
         record(QStringLiteral("2024-10-31"), QStringLiteral("'利息'"), QStringLiteral("'甲'"), QStringLiteral("0.5"),

@@ -1,4 +1,5 @@
-#include "ledger/page_rig.h"
+#include "ledger/ledger_lists.h"
+#include "support/page_rig.h"
 
 // A value that a column cannot hold stops the save after the table was emptied: the rows written so far stay, the rest
 // of the old table is gone, and the program ends with the error.

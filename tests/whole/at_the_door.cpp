@@ -9,12 +9,6 @@ namespace {
 const Message wrongPassword{"密码错误，请重新输入密码", "登陆提醒", Message::Warning, {"确定", "取消"}};
 const Message unknownName{"用户名不存在，请重新登陆！", "登陆提醒", Message::Information, {"确定", "取消"}};
 
-void signInAs(Program& program, const std::string& name, const std::string& password) {
-    program.clearAndType("Form5/Combo1", name);
-    program.clearAndType("Form5/Text2", password);
-    program.click("Form5/Label1");
-}
-
 } // namespace
 
 TEST(AtTheDoor, ThreeWrongPasswordsEndTheProgram) {

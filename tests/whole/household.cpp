@@ -20,6 +20,12 @@ void signIn(Program& program) {
     program.waitForKeyboard("Form2");
 }
 
+void signInAs(Program& program, const std::string& name, const std::string& password) {
+    program.clearAndType("Form5/Combo1", name);
+    program.clearAndType("Form5/Text2", password);
+    program.click("Form5/Label1");
+}
+
 void endByCross(Program& program) {
     program.click("Form2/Image3");
     EXPECT_EQ(program.exitCode(), 0);

@@ -12,6 +12,8 @@ inline constexpr QPoint bareTitle{450, 20};
 /// Signs in with the remembered name and password, which takes one click, and waits until the main window
 /// has the keyboard.
 void signIn(Program& program);
+/// Types name and password into the sign-in and presses its button.
+void signInAs(Program& program, const std::string& name, const std::string& password);
 /// Ends the program by the cross of the main window.
 void endByCross(Program& program);
 /// Sees the message with this text and presses the button.

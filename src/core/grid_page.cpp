@@ -1,7 +1,9 @@
-#include "ledger/grid_page.h"
+#include "core/grid_page.h"
 
 #include "core/hover.h"
 #include "core/lists.h"
+
+#include <algorithm>
 
 namespace qinghe {
 
@@ -195,19 +197,23 @@ void GridPage::deleteRow() {
         grid->RemoveItem(grid->Row());
 }
 
-bool GridPage::refusesGap() {
-    if (traits.saveMovesRow)
-        grid->setRow(1);
+bool GridPage::hasGap() {
+    const int end = grid->Cols() - (traits.endsInRemark ? 1 : 0);
     for (int row = 1; row < grid->Rows(); ++row) {
-        if (traits.saveMovesRow)
+        if (traits.rowInSave == RowInSave::Walks)
             grid->setRow(row);
-        if (grid->firstEmpty(row, 1, grid->Cols() - 1) == grid->Cols() - 1)
-            continue;
-        bench.services.say(u"为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"_s, MessageStyle::OkInformation,
-                           u"输入提示"_s);
-        return true;
+        if (grid->firstEmpty(row, 1, end) != end)
+            return true;
     }
     return false;
+}
+
+bool GridPage::refusesGap() {
+    if (!hasGap())
+        return false;
+    const QString problem = traits.endsInRemark ? u"除备注信息外记录内容不能为空！"_s : u"记录内容不能为空！"_s;
+    bench.services.say(u"为了保存信息的完整性，\r\n"_s + problem, MessageStyle::OkInformation, u"输入提示"_s);
+    return true;
 }
 
 void GridPage::writeRow(Recordset& records, Field& number, int row, Int16& counter) {
@@ -232,7 +238,7 @@ void GridPage::saveRows() {
     Field number = records.field(u"区别"_s);
     Int16 counter;
     for (int row = 1; row < grid->Rows(); ++row) { // none is blank: that would have been a gap
-        if (traits.saveMovesRow)
+        if (traits.rowInSave != RowInSave::Stays)
             grid->setRow(row);
         writeRow(records, number, row, counter);
     }
@@ -268,14 +274,15 @@ void GridPage::layOut() {
 void GridPage::loadTable(bool blankBehindConnection) {
     Adodc1.setVisible(false);
     Adodc1.setConnectionString(bench.connection(blankBehindConnection));
-    Recordset& records = Adodc1.open(table());
+    Recordset& records = Adodc1.open(source());
     layOut();
     startRows(*grid);
     fill(records);
 }
 
 void GridPage::fill(Recordset& records) {
-    fillTexts(*grid, records, records.fieldCount() - 1, [this] { return rowForEmptyText(); });
+    const int shown = std::min(static_cast<int>(traits.columns.size()), records.fieldCount());
+    fillTexts(*grid, records, shown, [this] { return rowForEmptyText(); });
 }
 
 } // namespace qinghe

@@ -1,29 +1,29 @@
 #pragma once
 
-#include "ledger/ledger_lists.h"
 #include "qt_printing.h"
+#include "support/grid_list.h"
 #include "support/program_rig.h"
 
 #include <gtest/gtest.h>
 
 namespace qinghe::testing {
 
-/// A program in whose main window one list of the ledger can be opened and worked on, as a user does.
+/// A program in whose main window one list can be opened and worked on, as a user does.
 class PageTest : public ::testing::Test {
 protected:
-    explicit PageTest(const LedgerList& worked) : list(worked) { rig.signIn(); }
+    explicit PageTest(const GridList& worked) : list(worked) { rig.signIn(); }
 
     /// Stores rows beforehand, 1 to `count`, by the list's own values.
     void store(int count) { store(list, count); }
-    void store(const LedgerList& other, int count);
+    void store(const GridList& other, int count);
     void open() { open(list); }
-    void open(const LedgerList& other);
+    void open(const GridList& other);
     void openWith(int count);
     /// Ends the program and starts it anew on the same file, with the list on view.
     void restart();
     /// The list's table as it is in the file.
     QStringList stored(const QString& columns = QStringLiteral("*")) { return stored(list, columns); }
-    QStringList stored(const LedgerList& other, const QString& columns = QStringLiteral("*"));
+    QStringList stored(const GridList& other, const QString& columns = QStringLiteral("*"));
 
     MSFlexGrid& grid() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms%1").arg(list.number)); }
     TextBox& box() { return rig.onMain<TextBox>(QStringLiteral("tx%1").arg(list.number)); }
@@ -65,7 +65,7 @@ protected:
     /// The program has ended with this run-time error.
     void expectStopped(int error);
 
-    const LedgerList& list;
+    const GridList& list;
     ProgramRig rig;
 
 private:
@@ -75,12 +75,12 @@ private:
 };
 
 /// The same for each list in turn.
-class EveryListTest : public PageTest, public ::testing::WithParamInterface<LedgerList> {
+class EveryListTest : public PageTest, public ::testing::WithParamInterface<GridList> {
 protected:
     EveryListTest() : PageTest(GetParam()) {}
 };
 
-inline std::string listName(const ::testing::TestParamInfo<LedgerList>& info) {
+inline std::string listName(const ::testing::TestParamInfo<GridList>& info) {
     return info.param.name;
 }
 

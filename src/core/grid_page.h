@@ -41,6 +41,12 @@ public:
     enum class AddTests { LastRow, CurrentRow };
     enum class AddedBox { TakesCell, KeepsText };
     enum class LastRow { BlankedBelowThreeRows, BlankedWhenFirst };
+    /// Where Row goes in a save.
+    enum class RowInSave {
+        Walks,  ///< along the check, which leaves it on a row that is refused, and along the rows as they are written
+        Writes, ///< along the rows as they are written alone
+        Stays,
+    };
     /// What a save does about the table before it reads the grid.
     enum class SaveSource {
         InHand,   ///< nothing: it works on what the page last loaded
@@ -65,7 +71,8 @@ public:
         AddedBox addedBox = AddedBox::TakesCell;
         LastRow lastRow = LastRow::BlankedBelowThreeRows;
         SaveSource saveSource = SaveSource::InHand;
-        bool saveMovesRow = true; ///< a refused save leaves Row on the failing row
+        RowInSave rowInSave = RowInSave::Walks;
+        bool endsInRemark = true; ///< which a save lets be empty
         bool refreshWhenEmptied = false;
     };
 
@@ -74,6 +81,8 @@ public:
 protected:
     /// The table that delete and save work on.
     virtual QString table() const = 0;
+    /// What the grid is filled from.
+    virtual QString source() const { return table(); }
     /// Whether a click on a cell does anything at present.
     virtual bool takesClicks() const { return true; }
     /// What follows Enter's move to another cell, before the box is laid there.
@@ -93,11 +102,11 @@ protected:
     /// Captions and widths alone.
     void layColumns();
     void captionColumn(int column, const char16_t* caption);
-    /// Loads table() into the grid as it is laid out here; the first row is not blanked, so that an empty table leaves
+    /// Loads source() into the grid as it is laid out here; the first row is not blanked, so that an empty table leaves
     /// in it what it held.
     void loadTable(bool blankBehindConnection = true);
-    /// One grid row a record, from the current row on; NULL fields leave their cells as they are, the last field is
-    /// never shown.
+    /// One grid row a record, from the current row on; NULL fields leave their cells as they are, a field behind the
+    /// last column (a table's number) is never shown.
     void fill(Recordset& records);
     void hideEditor();
 
@@ -118,6 +127,7 @@ private:
     void openCalculator();
     void openTool(const char16_t* form);
     void writeBack();
+    bool hasGap();
     bool refusesGap();
     void writeRow(Recordset& records, Field& number, int row, Int16& counter);
 };

@@ -1,16 +1,16 @@
-#include "ledger/page_rig.h"
+#include "support/page_rig.h"
 
 namespace qinghe::testing {
 
 using namespace Qt::StringLiterals;
 
-void PageTest::store(const LedgerList& other, int count) {
+void PageTest::store(const GridList& other, int count) {
     rig.sql(u"with recursive n(n) as (select 1 union all select n + 1 from n where n < %1) "
             "insert into %2 select %3 from n"_s.arg(count)
                 .arg(QString::fromUtf16(other.table), QString::fromUtf16(other.values)));
 }
 
-void PageTest::open(const LedgerList& other) {
+void PageTest::open(const GridList& other) {
     press(rig.onMain<Label>(QString::fromUtf16(other.label)));
     if (*other.option)
         choose(QString::fromUtf16(other.option));
@@ -27,7 +27,7 @@ void PageTest::restart() {
     open();
 }
 
-QStringList PageTest::stored(const LedgerList& other, const QString& columns) {
+QStringList PageTest::stored(const GridList& other, const QString& columns) {
     return rig.sql(u"select %1 from %2 order by rowid"_s.arg(columns, QString::fromUtf16(other.table)));
 }
 

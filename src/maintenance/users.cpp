@@ -1,0 +1,63 @@
+#include "maintenance/users.h"
+
+#include "core/lists.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PageCode = 4;
+constexpr double Half = 5508; ///< of the grid less 400 twips, rounded
+
+constexpr std::array<GridPage::Column, 2> Columns{{
+    {u"用户名", Half},
+    {u"用户密码", Half},
+}};
+
+const GridPage::Traits Users{
+    .frame = u"Frame7",
+    .grid = u"ms5",
+    .editor = u"tx5",
+    .add = u"Command13",
+    .remove = u"Command14",
+    .save = u"Command15",
+    .columns = Columns,
+    .addCommitsBox = true,
+    .addTests = GridPage::AddTests::CurrentRow,
+    .addedBox = GridPage::AddedBox::KeepsText,
+    .saveSource = GridPage::SaveSource::Reloaded,
+    .rowInSave = GridPage::RowInSave::Writes,
+    .endsInRemark = false,
+};
+
+} // namespace
+
+UsersPage::UsersPage(MainWindow& form) : GridPage(form, Users) {
+    // The page may stand behind the schedule's, whose date picker is none of its business.
+    frame.Click = [this] { hideEditor(); };
+    window.navigation().onOpen(PageCode, [this] { Form2_Label4_Click(); });
+}
+
+QString UsersPage::table() const {
+    return u"yhb"_s;
+}
+
+QString UsersPage::source() const {
+    return u"select 用户名,用户密码 from yhb"_s;
+}
+
+int UsersPage::rowForEmptyText() const {
+    // The row number of the loan grid decides, and is meant to.
+    return loanRow(bench);
+}
+
+void UsersPage::Form2_Label4_Click() {
+    window.navigation().leaveOthers(PageCode);
+    hideEditor();
+    window.navigation().bringForward(PageCode);
+    loadTable();
+}
+
+} // namespace qinghe

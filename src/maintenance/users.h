@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/grid_page.h"
+
+namespace qinghe {
+
+/// The page of users, `Frame7`: the people who may sign in, with their passwords in clear, kept in `yhb`. Everybody who
+/// is signed in may change or delete all of them, himself too. The name that the sign-in remembers is not touched: it
+/// may go on naming somebody who has been deleted.
+class UsersPage : public GridPage {
+    Q_OBJECT
+
+public:
+    explicit UsersPage(MainWindow& window);
+
+    void Form2_Label4_Click();
+
+protected:
+    QString table() const override;
+    QString source() const override;
+    int rowForEmptyText() const override;
+};
+
+} // namespace qinghe
