@@ -1,3 +1,4 @@
+#include "backup_copies.h"
 #include "bare_sqlite.h"
 #include "child_runs.h"
 #include "filled_store.h"
@@ -108,10 +109,8 @@ struct Chapter {
     void (*measure)(Report&);
 };
 constexpr Chapter Chapters[] = {
-    {u"start", measureStart},
-    {u"income", measureIncome},
-    {u"ledger", measureLedgerPages},
-    {u"reminders", measureReminders},
+    {u"start", measureStart},         {u"income", measureIncome},       {u"ledger", measureLedgerPages},
+    {u"reminders", measureReminders}, {u"upkeep", measureBackupCopies},
 };
 
 } // namespace

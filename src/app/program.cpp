@@ -13,6 +13,7 @@
 #include "ledger/categories.h"
 #include "ledger/income_expense.h"
 #include "ledger/loans.h"
+#include "maintenance/backup.h"
 #include "maintenance/settings.h"
 #include "maintenance/users.h"
 #include "platform/free_memory.h"
@@ -80,6 +81,7 @@ void Program::defineForms() {
     bench.forms.define(
         u"Form6"_s, [&bench] { return new ReminderWindow(static_cast<MainWindow&>(*bench.forms.loaded(u"Form2"_s))); });
     bench.forms.define(u"Form7"_s, [&bench] { return new WebWindow(bench); });
+    bench.forms.define(u"Form13"_s, [&bench] { return new BackupWindow(bench); });
 }
 
 void Program::start() {

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "core/main_window.h"
+#include "maintenance/backup.h"
 
 namespace qinghe {
 
-/// The settings page, `Frame16`: so far the way to the categories.
+/// The settings page, `Frame16`: so far the ways to the categories and to backup and restore.
 class SettingsPage : public QObject {
     Q_OBJECT
 
@@ -12,8 +13,17 @@ public:
     explicit SettingsPage(MainWindow& window);
 
 private:
+    void makeFileSettings();
+    void Form2_Option14_Click();
+    void Form2_Option16_Click();
+    void openBackup(BackupWindow::Direction direction);
+
+    Workbench& m_bench;
     Frame* Frame20;           // 系统设置
     CommandButton* Command31; // 收支分类设置
+    Frame* Frame19;           // 文件设置
+    OptionButton* Option14;   // 系统数据备份
+    OptionButton* Option16;   // 系统数据还原
 };
 
 } // namespace qinghe

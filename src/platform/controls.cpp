@@ -4,11 +4,14 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include <limits>
 #include <utility>
 
 namespace qinghe {
 
 namespace {
+
+constexpr int ShortestPaintMs = 1000 / 60;
 
 /// What every control is set up with.
 void introduce(QWidget* control, const QString& name) {
@@ -214,6 +217,20 @@ void Frame::mouseMoveEvent(QMouseEvent* event) {
 
 ProgressBar::ProgressBar(QWidget* parent, const QString& name) : QProgressBar(parent), Placed(this) {
     introduce(this, name);
+}
+
+void ProgressBar::setMax(qint64 max) {
+    m_step = max / std::numeric_limits<int>::max() + 1;
+    setMaximum(static_cast<int>(max / m_step));
+    m_sincePainted.invalidate();
+}
+
+void ProgressBar::setValue(qint64 value) {
+    const bool tooSoon = m_sincePainted.isValid() && m_sincePainted.elapsed() < ShortestPaintMs;
+    if (tooSoon && value > 0 && value / m_step < maximum())
+        return;
+    m_sincePainted.start();
+    QProgressBar::setValue(static_cast<int>(value / m_step)); // paints where it is on view
 }
 
 } // namespace qinghe

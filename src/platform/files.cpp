@@ -36,6 +36,24 @@ void makeFolder(const QString& path) {
                            QStringLiteral("不能建立文件夹：%1。请检查上级文件夹的权限。").arg(path));
 }
 
+void requirePlainFile(const QString& path) {
+    const QFileInfo info(path);
+    const QString shown = QDir::toNativeSeparators(path);
+    if (info.isDir())
+        throw RuntimeError(RuntimeError::PathFileAccess,
+                           QStringLiteral("“%1”是一个文件夹。请指定一个文件。").arg(shown));
+    if (!info.isFile())
+        throw RuntimeError(RuntimeError::PathFileAccess,
+                           QStringLiteral("“%1”不是普通文件。请指定另一个文件。").arg(shown));
+}
+
+void requireFolderOf(const QString& path) {
+    if (!QFileInfo(path).dir().exists())
+        throw RuntimeError(
+            RuntimeError::PathNotFound,
+            QStringLiteral("“%1”所在的文件夹不存在。请另选一个位置。").arg(QDir::toNativeSeparators(path)));
+}
+
 void writeAll(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))

@@ -10,6 +10,11 @@ namespace qinghe::files {
 /// Whether `path` is a folder.
 bool isFolder(const QString& path);
 void makeFolder(const QString& path);
+/// Refuses what has no bytes to give: a folder, and what is no file at all and may keep its reader waiting for ever.
+/// PathFileAccess.
+void requirePlainFile(const QString& path);
+/// Refuses a name in a folder that is not there. PathNotFound.
+void requireFolderOf(const QString& path);
 /// Writes the whole file, replacing one of that name. DiskFull, PathFileAccess.
 void writeAll(const QString& path, const QByteArray& bytes);
 /// Reads the whole file. FileNotFound, PathFileAccess.

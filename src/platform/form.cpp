@@ -83,6 +83,12 @@ void Form::setShape(const QPolygon& points) {
     setMask(QRegion(points, Qt::OddEvenFill));
 }
 
+void Form::placeOver(const Form* other, double width, double height) {
+    const double left = other ? other->Left() + (other->Width() - width) / 2 : Left();
+    const double top = other ? other->Top() + (other->Height() - height) / 2 : Top();
+    place(left, top, width, height);
+}
+
 void Form::keepOnScreen() {
     const QScreen* screen = QGuiApplication::screenAt(pos());
     if (!screen)

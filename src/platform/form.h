@@ -44,6 +44,8 @@ public:
     void showForm();
     /// Gives the window the shape of a polygon, in pixels.
     void setShape(const QPolygon& points);
+    /// Gives the window its size (twips) and a place in the middle of another one, when there is one.
+    void placeOver(const Form* other, double width, double height);
     /// Keeps a window that hangs under a field on the screen.
     void keepOnScreen();
 

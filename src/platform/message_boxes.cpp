@@ -1,7 +1,9 @@
 #include "platform/message_boxes.h"
 
+#include "platform/front_window.h"
+#include "runtime/runtime_error.h"
+
 #include <QAbstractButton>
-#include <QApplication>
 #include <QMessageBox>
 
 #include <utility>
@@ -58,11 +60,6 @@ Answer answerOf(int button) {
     }
 }
 
-QWidget* windowInFront() {
-    QWidget* active = QApplication::activeWindow();
-    return active && active->isVisible() ? active : nullptr;
-}
-
 /// A box whose texts are plain text, titled with the program's name when it has no title of its own.
 void fill(QMessageBox& box, const QString& text, const QString& title) {
     box.setTextFormat(Qt::PlainText);
@@ -83,8 +80,10 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
 
 void DesktopMessageBoxes::showError(int number, const QString& text) {
     QMessageBox box(windowInFront());
-    const QString ending =
-        QStringLiteral("程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后检查这一页。");
+    const QString ending = number == RuntimeError::StoreFailure
+                               ? QStringLiteral("程序将关闭。")
+                               : QStringLiteral("程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后"
+                                                "检查这一页。");
     fill(box, QStringLiteral("运行时错误 %1：\n\n%2\n\n%3").arg(number).arg(text, ending), productName());
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);

@@ -1,6 +1,7 @@
 #include "platform/services.h"
 
 #include "platform/background_sound.h"
+#include "platform/file_chooser.h"
 #include "platform/handlers.h"
 #include "platform/instance_lock.h"
 #include "platform/message_boxes.h"
@@ -50,6 +51,7 @@ Services desktopServices() {
     services.appPath = QCoreApplication::applicationDirPath();
     services.clock = std::make_unique<DesktopClock>();
     services.messages = std::make_unique<DesktopMessageBoxes>();
+    services.chooser = std::make_unique<DesktopFileChooser>();
     services.tray = std::make_unique<DesktopTray>();
     services.launcher = std::make_unique<DesktopLauncher>();
     services.sound = backgroundSound(services.appPath);

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 /// The desktop's services behind narrow seams: made once in main, replaced by doubles in tests, reached by everybody
 /// through one Services object.
@@ -39,6 +40,15 @@ public:
     virtual Answer show(const QString& text, MessageStyle style, const QString& title) = 0;
     /// The window of a run-time error; `text` is told whole.
     virtual void showError(int number, const QString& text) = 0;
+};
+
+class FileChooser {
+public:
+    virtual ~FileChooser() = default;
+    /// Asks for the name of one file, existing or new, and waits; nothing on Cancel. `filter` is pairs of words and
+    /// patterns joined by "|"; `name` stands in the dialog from the first. Use CommonDialog instead: it ends the unit
+    /// of work first.
+    virtual std::optional<QString> choose(const QString& filter, const QString& name) = 0;
 };
 
 /// The tray: its icon is only ever added.
@@ -104,6 +114,7 @@ public:
 struct Services {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<MessageBoxes> messages;
+    std::unique_ptr<FileChooser> chooser;
     std::unique_ptr<Tray> tray;
     std::unique_ptr<Launcher> launcher;
     std::unique_ptr<SoundDevice> sound;

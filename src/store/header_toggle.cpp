@@ -10,6 +10,7 @@ namespace qinghe {
 namespace {
 
 constexpr qint64 kMarkOffset = 1;
+const QByteArray kHealed("\x01\x00", 2), kSpoilt("\x00\x00", 2);
 
 [[noreturn]] void throwFor(int number, const QString& problem, const QString& path) {
     throw RuntimeError(number, problem.arg(QDir::toNativeSeparators(path)));
@@ -31,11 +32,17 @@ void writeMark(const QString& path, const QByteArray& mark) {
 } // namespace
 
 void healHeader(const QString& path) {
-    writeMark(path, QByteArray("\x01\x00", 2));
+    writeMark(path, kHealed);
 }
 
 void spoilHeader(const QString& path) {
-    writeMark(path, QByteArray("\x00\x00", 2));
+    writeMark(path, kSpoilt);
+}
+
+bool headerIsSpoilt(const QString& path) {
+    const QByteArray head = "S" + kSpoilt + QByteArray("ite format 3\0", 13);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(head.size()) == head;
 }
 
 } // namespace qinghe

@@ -10,5 +10,7 @@ namespace qinghe {
 /// Throw RuntimeError: FileNotFound, PathFileAccess; StoreFailure for a file too short to have these bytes.
 void healHeader(const QString& path);
 void spoilHeader(const QString& path);
+/// Whether a store lies there whose header is spoilt.
+bool headerIsSpoilt(const QString& path);
 
 } // namespace qinghe

@@ -1,6 +1,7 @@
 #include "store/sqlite_failure.h"
 
 #include "runtime/runtime_error.h"
+#include "store/header_toggle.h"
 #include "store/store_errors.h"
 
 #include <QDir>
@@ -23,8 +24,10 @@ struct FailureRow {
 constexpr std::array kFailures{
     FailureRow{SQLITE_READONLY_DBMOVED, RuntimeError::StoreFailure,
                u"账本文件“%1”在使用中被移走或换掉了，请重新启动程序。"},
-    FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure, u"“%1”不是账本文件，或者已经损坏。"},
-    FailureRow{SQLITE_CORRUPT, RuntimeError::StoreFailure, u"账本文件“%1”已经损坏，请用备份还原。"},
+    FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure,
+               u"“%1”不是账本文件，或者已经损坏。请把一份备份文件复制到这里，改成这个名字，再启动程序。"},
+    FailureRow{SQLITE_CORRUPT, RuntimeError::StoreFailure,
+               u"账本文件“%1”已经损坏。请把一份备份文件复制到这里，改成这个名字，再启动程序。"},
     FailureRow{SQLITE_FULL, RuntimeError::DiskFull, u"磁盘已满，无法保存到“%1”。请腾出空间后再试。"},
     FailureRow{SQLITE_CANTOPEN, RuntimeError::PathFileAccess, u"无法打开账本文件“%1”，请检查它和所在文件夹的权限。"},
     FailureRow{SQLITE_READONLY, RuntimeError::PathFileAccess, u"无法写入账本文件“%1”，请检查它和所在文件夹的权限。"},
@@ -35,9 +38,14 @@ constexpr std::array kFailures{
     FailureRow{SQLITE_NOMEM, store_errors::OutOfMemory, u"内存不足，无法使用账本文件“%1”。"},
 };
 
+/// A copy that was made while the program did not run, and was put here while it runs.
+constexpr FailureRow kSpoilt{SQLITE_NOTADB, RuntimeError::StoreFailure,
+                             u"账本文件“%1”是程序关闭以后的样子，现在还不能读。请重新启动程序，启动时会恢复。"};
 constexpr FailureRow kUnknown{0, RuntimeError::StoreFailure, u"使用账本文件“%1”时出错。"};
 
-const FailureRow& rowOf(int code) {
+const FailureRow& rowOf(int code, const QString& path) {
+    if ((code & 0xff) == SQLITE_NOTADB && headerIsSpoilt(path))
+        return kSpoilt;
     const auto matches = [code](const FailureRow& row) { return row.code == code || row.code == (code & 0xff); };
     const auto found = std::ranges::find_if(kFailures, matches);
     return found == kFailures.end() ? kUnknown : *found;
@@ -46,7 +54,7 @@ const FailureRow& rowOf(int code) {
 } // namespace
 
 void throwSqliteFailure(int code, const QString& path, const QString& detail) {
-    const FailureRow& row = rowOf(code);
+    const FailureRow& row = rowOf(code, path);
     throw RuntimeError(row.number, row.text.toString().arg(QDir::toNativeSeparators(path)) +
                                        QStringLiteral("（%1：%2）").arg(code).arg(detail));
 }

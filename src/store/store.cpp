@@ -18,8 +18,11 @@ void requireStoreFile(const QString& path) {
     if (!file.isFile())
         throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到账本文件“%1”。").arg(shown));
     if (file.size() < kFileHeaderSize) // to SQLite a file of a few bytes is a store without tables
-        throw RuntimeError(RuntimeError::StoreFailure,
-                           QStringLiteral("“%1”是空的，或者不完整，不是账本文件。").arg(shown));
+        throw RuntimeError(
+            RuntimeError::StoreFailure,
+            QStringLiteral(
+                "“%1”是空的，或者不完整，不是账本文件。请把一份备份文件复制到这里，改成这个名字，再启动程序。")
+                .arg(shown));
 }
 
 /// Whether an error leaves the file and the open unit of work sound.

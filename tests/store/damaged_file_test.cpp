@@ -1,9 +1,8 @@
 #include "store/header_toggle.h"
 #include "store/store_fixture.h"
+#include "support/ordinary_user.h"
 
 #include <QFile>
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -21,23 +20,6 @@ protected:
             add(set, {{u"项目"_s, u"第 %1 行，一些文字"_s.arg(i)}, {u"金额"_s, i}});
         store.close();
     }
-};
-
-/// Permissions mean nothing to the administrator's account; the tests act as somebody else while this lives.
-class AsOrdinaryUser {
-public:
-    explicit AsOrdinaryUser(const QTemporaryDir& folder) {
-        constexpr uid_t nobody = 65534;
-        if (m_before != 0)
-            return;
-        EXPECT_EQ(chown(folder.path().toLocal8Bit().constData(), nobody, nobody), 0);
-        EXPECT_EQ(chown(folder.filePath(u"data.dll"_s).toLocal8Bit().constData(), nobody, nobody), 0);
-        EXPECT_EQ(seteuid(nobody), 0);
-    }
-    ~AsOrdinaryUser() { EXPECT_EQ(seteuid(m_before), 0); }
-
-private:
-    uid_t m_before = geteuid();
 };
 
 constexpr auto kReadOnly = QFile::ReadOwner | QFile::ReadUser;
@@ -170,7 +152,7 @@ TEST_F(DamagedFile, FileCopiedOverAfterClosingIsReadAnew) {
 }
 
 TEST_F(DamagedFile, FileThatMayNotBeWrittenIsRefusedBeforeTheFirstRow) {
-    const AsOrdinaryUser user(folder);
+    const testing::AsOrdinaryUser user({folder.path(), path()});
     ASSERT_TRUE(QFile::setPermissions(path(), kReadOnly));
     EXPECT_EQ(errorOf([&] { healHeader(path()); }, u"权限"_s), RuntimeError::PathFileAccess);
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
@@ -179,13 +161,13 @@ TEST_F(DamagedFile, FileThatMayNotBeWrittenIsRefusedBeforeTheFirstRow) {
 }
 
 TEST_F(DamagedFile, FileThatMayNotBeReadIsRefused) {
-    const AsOrdinaryUser user(folder);
+    const testing::AsOrdinaryUser user({folder.path(), path()});
     ASSERT_TRUE(QFile::setPermissions(path(), QFile::Permissions()));
     EXPECT_EQ(opening(u"权限"_s), RuntimeError::PathFileAccess);
 }
 
 TEST_F(DamagedFile, FolderThatMayNotBeWrittenHoldsTheWorkBack) {
-    const AsOrdinaryUser user(folder);
+    const testing::AsOrdinaryUser user({folder.path(), path()});
     ASSERT_TRUE(QFile::setPermissions(folder.path(), kReadOnly | kEnter));
     EXPECT_EQ(errorOf(
                   [&] {

@@ -42,4 +42,15 @@ Answer AnsweringMessages::show(const QString& text, MessageStyle style, const QS
     return answer;
 }
 
+std::optional<QString> AnsweringChooser::choose(const QString& filter, const QString& name) {
+    asked.push_back({filter, name});
+    if (whileShown)
+        whileShown();
+    if (names.empty())
+        return std::nullopt;
+    const auto chosen = names.front();
+    names.erase(names.begin());
+    return chosen;
+}
+
 } // namespace qinghe::testing

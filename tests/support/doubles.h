@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// What stands in for the desktop in tests: the clock, message boxes, the tray, the browser, the sound, the lock of the
-/// folder and the end of the process. Everything else is real.
+/// What stands in for the desktop in tests: the clock, message boxes, the file chooser, the tray, the browser, the
+/// sound, the lock of the folder and the end of the process. Everything else is real.
 namespace qinghe::testing {
 
 class FixedClock : public Clock {
@@ -38,6 +38,20 @@ public:
     std::vector<std::pair<int, QString>> errors;
     std::vector<Answer> answers;                         ///< for the next boxes
     std::function<void(const ShownMessage&)> whileShown; ///< runs while a box is open
+};
+
+/// Notes what it is asked and gives the names lined up, else nothing, as on Cancel.
+class AnsweringChooser : public FileChooser {
+public:
+    struct Asked {
+        QString filter, name;
+        bool operator==(const Asked&) const = default;
+    };
+    std::optional<QString> choose(const QString& filter, const QString& name) override;
+
+    std::vector<Asked> asked;
+    std::vector<std::optional<QString>> names; ///< for the next times
+    std::function<void()> whileShown;          ///< runs while the chooser is open
 };
 
 class NotingTray : public Tray {

@@ -83,6 +83,7 @@ Services ProgramRig::makeServices() {
     put(services.clock, clock, std::make_unique<FixedClock>());
     clock->time = time;
     put(services.messages, messages, std::make_unique<AnsweringMessages>());
+    put(services.chooser, chooser, std::make_unique<AnsweringChooser>());
     put(services.tray, tray, std::make_unique<NotingTray>());
     put(services.launcher, launcher, std::make_unique<NotingLauncher>());
     put(services.sound, sound, std::make_unique<NotingSound>());

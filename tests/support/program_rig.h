@@ -76,6 +76,7 @@ public:
     // The doubles; owned by the program while it runs, renewed at each start.
     FixedClock* clock = nullptr;
     AnsweringMessages* messages = nullptr;
+    AnsweringChooser* chooser = nullptr;
     NotingTray* tray = nullptr;
     NotingLauncher* launcher = nullptr;
     NotingSound* sound = nullptr;

@@ -1,0 +1,154 @@
+#include "backup_rig.h"
+#include "support/ordinary_user.h"
+#include "support/small_disk.h"
+
+#include <QDir>
+
+#include <unistd.h>
+
+// Backup and restore that cannot be done.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class BackupFailureTest : public BackupTest {
+protected:
+    BackupFailureTest() : before(bytes(u"data.dll"_s)) {}
+
+    /// The program has told of it, has said nothing of a success, and has ended.
+    void refused(int number, const QString& said) {
+        EXPECT_EQ(errorNumber(), number);
+        EXPECT_TRUE(errorText().contains(said)) << qPrintable(errorText());
+        EXPECT_EQ(rig.exitCode(), 1);
+        for (const ShownMessage& success : {BackedUp, Restored})
+            EXPECT_EQ(std::ranges::count(rig.messages->shown, success), 0);
+    }
+    void enterBudget() { rig.click(rig.onMain<Label>(u"Label5"_s)); }
+
+    const QByteArray before;
+};
+
+TEST_F(BackupFailureTest, ABackupIntoAFolderThatMayNotBeWrittenIsRefused) {
+    ASSERT_TRUE(QDir(rig.folder()).mkdir(u"closed"_s));
+    const AsOrdinaryUser user({rig.folder(), rig.dataFile(), rig.file(u"closed"_s)});
+    ASSERT_TRUE(QFile::setPermissions(rig.file(u"closed"_s), QFile::ReadOwner | QFile::ExeOwner));
+    backUpTo(u"closed/b.dat"_s);
+    refused(RuntimeError::PathFileAccess, u"权限"_s);
+}
+
+TEST_F(BackupFailureTest, ABackupThatDoesNotFitIsToldToBeIncomplete) {
+    openFor(backup());
+    rig.chooser->names = {rig.file(u"b.dat"_s)};
+    {
+        const SmallDisk disk(static_cast<rlim_t>(before.size() / 2));
+        rig.click(start());
+    }
+    refused(RuntimeError::PathFileAccess, u"没有写完"_s);
+    EXPECT_TRUE(bytes(u"b.dat"_s) == before.first(before.size() / 2));
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, ABackupIsNeverWrittenOverTheLedgerItself) {
+    ASSERT_EQ(
+        link(QFile::encodeName(rig.dataFile()).constData(), QFile::encodeName(rig.file(u"hard.dat"_s)).constData()), 0);
+    backUpTo(u"hard.dat"_s);
+    refused(RuntimeError::PathFileAccess, u"同一个文件"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, ALedgerIsNeverRestoredFromItself) {
+    ASSERT_TRUE(QFile::link(rig.dataFile(), rig.file(u"soft.dat"_s)));
+    restoreFrom(u"soft.dat"_s);
+    refused(RuntimeError::PathFileAccess, u"同一个文件"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, ARestoreFromANameThatDoesNotExistChangesNothing) {
+    restoreFrom(u"none.dat"_s);
+    refused(RuntimeError::FileNotFound, u"none.dat"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+    EXPECT_FALSE(QFile::exists(rig.file(u"none.dat"_s)));
+}
+
+TEST_F(BackupFailureTest, ARestoreFromAnEmptyFileChangesNothing) {
+    write(u"empty.dat"_s, {});
+    restoreFrom(u"empty.dat"_s);
+    refused(RuntimeError::PathFileAccess, u"空"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, ARestoreFromAFolderChangesNothing) {
+    restoreFrom(u"."_s);
+    refused(RuntimeError::PathFileAccess, u"文件夹"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, AJournalStaysWhenNothingIsRestored) {
+    openFor(restore());
+    rig.chooser->whileShown = [this] { write(u"data.dll-journal"_s, "of the ledger"); };
+    startWith(rig.file(u"none.dat"_s));
+    EXPECT_EQ(bytes(u"data.dll-journal"_s), "of the ledger");
+}
+
+TEST_F(BackupFailureTest, ALedgerThatMayNotBeWrittenIsNotRestored) {
+    write(u"b.dat"_s, before);
+    const AsOrdinaryUser user({rig.folder(), rig.dataFile(), rig.file(u"b.dat"_s)});
+    ASSERT_TRUE(QFile::setPermissions(rig.dataFile(), QFile::ReadOwner));
+    restoreFrom(u"b.dat"_s);
+    refused(RuntimeError::PathFileAccess, u"data.dll"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, ARestoreThatBreaksOffSaysThatTheLedgerIsIncompleteAndWhatToDo) {
+    write(u"b.dat"_s, before + QByteArray(100000, 'z'));
+    openFor(restore());
+    rig.chooser->names = {rig.file(u"b.dat"_s)};
+    {
+        const SmallDisk disk(static_cast<rlim_t>(before.size() + 100));
+        rig.click(start());
+    }
+    refused(RuntimeError::StoreFailure, u"没有写完"_s);
+    EXPECT_TRUE(errorText().contains(u"改名为 data.dll"_s)) << qPrintable(errorText());
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before + QByteArray(100, 'z'));
+}
+
+TEST_F(BackupFailureTest, AForeignFileIsRestoredAsToldAndTheNextReadingSaysWhatToDo) {
+    const QByteArray letter = QByteArray("Dear aunt, ").repeated(before.size() / 5);
+    write(u"letter.txt"_s, letter);
+    restoreFrom(u"letter.txt"_s);
+    EXPECT_EQ(rig.lastMessage(), Restored);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == letter + letter.last(1));
+    EXPECT_FALSE(rig.ended());
+    enterBudget();
+    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
+    EXPECT_TRUE(errorText().contains(u"data.dll"_s) && errorText().contains(u"备份文件"_s)) << qPrintable(errorText());
+    EXPECT_EQ(rig.exitCode(), 1);
+}
+
+TEST_F(BackupFailureTest, ABackupCutShortIsRestoredAsToldAndTheNextReadingSaysWhatToDo) {
+    rig.sql(u"insert into ysb(预算项目) with recursive n(i) as (select 1 union all select i+1 from n where i<20000) "
+            u"select '第 '||i||' 项' from n"_s);
+    const QByteArray whole = bytes(u"data.dll"_s);
+    rig.sql(u"delete from ysb"_s);
+    rig.sql(u"vacuum"_s);
+    ASSERT_LT(bytes(u"data.dll"_s).size(), whole.size() / 2);
+    write(u"cut.dat"_s, whole.first(whole.size() * 2 / 3));
+    restoreFrom(u"cut.dat"_s);
+    EXPECT_EQ(rig.lastMessage(), Restored);
+    enterBudget();
+    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
+    EXPECT_TRUE(errorText().contains(u"备份文件"_s)) << qPrintable(errorText());
+}
+
+TEST_F(BackupFailureTest, AFileOfAFewBytesIsRestoredOverTheBeginningAlone) {
+    write(u"tiny.dat"_s, "ab");
+    restoreFrom(u"tiny.dat"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == "abb" + before.mid(3));
+    enterBudget();
+    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
+}
+
+} // namespace
+} // namespace qinghe::testing

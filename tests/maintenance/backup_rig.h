@@ -1,0 +1,76 @@
+#pragma once
+
+#include "maintenance/backup.h"
+#include "qt_printing.h"
+#include "support/program_rig.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace qinghe::testing {
+
+/// A program whose settings page is open.
+class BackupTest : public ::testing::Test {
+protected:
+    BackupTest() {
+        rig.signIn();
+        rig.click(rig.onMain<Label>(QStringLiteral("Label7")));
+        rig.settle();
+    }
+
+    OptionButton& backup() { return rig.onMain<OptionButton>(QStringLiteral("Option14")); }
+    OptionButton& restore() { return rig.onMain<OptionButton>(QStringLiteral("Option16")); }
+    void openFor(OptionButton& option) {
+        QTest::mouseClick(&option, Qt::LeftButton, {}, {8, option.height() / 2});
+        rig.settle();
+    }
+    Form* window() { return rig.loaded(QStringLiteral("Form13")); }
+    template<class T>
+    T& inWindow(const QString& name) {
+        return rig.control<T>(QStringLiteral("Form13"), name);
+    }
+    CommandButton& start() { return inWindow<CommandButton>(QStringLiteral("Command1")); }
+
+    /// Starts the copying and names this file when asked.
+    void startWith(const QString& path) {
+        rig.chooser->names = {path};
+        rig.click(start());
+    }
+    void backUpTo(const QString& name) {
+        openFor(backup());
+        startWith(rig.file(name));
+    }
+    void restoreFrom(const QString& name) {
+        openFor(restore());
+        startWith(rig.file(name));
+    }
+
+    QByteArray bytes(const QString& name) const {
+        QFile file(rig.file(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+    }
+    void write(const QString& name, const QByteArray& content) const {
+        QFile file(rig.file(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    int errorNumber() const { return rig.messages->errors.empty() ? 0 : rig.messages->errors.front().first; }
+    QString errorText() const { return rig.messages->errors.empty() ? QString() : rig.messages->errors.front().second; }
+    QStringList said() const {
+        QStringList texts;
+        for (const ShownMessage& message : rig.messages->shown)
+            texts << message.text;
+        return texts;
+    }
+
+    ProgramRig rig;
+};
+
+inline const ShownMessage AskedWhereTo{QStringLiteral("请指定数据库备份的位置。"), 1, QStringLiteral("备份提示")};
+inline const ShownMessage AskedWhereFrom{QStringLiteral("请指定要还原的数据库备份文件所在的位置。"), 1,
+                                         QStringLiteral("还原提示")};
+inline const ShownMessage BackedUp{QStringLiteral("备份完成。"), 0, {}};
+inline const ShownMessage Restored{QStringLiteral("还原完毕。"), 0, {}};
+
+} // namespace qinghe::testing

@@ -1,0 +1,198 @@
+#include "backup_rig.h"
+
+// The window of backup and restore: how it opens, what it says, how it asks.
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class BackupWindowTest : public BackupTest {
+protected:
+    QStringList texts() {
+        return {window()->Caption(), inWindow<Frame>(u"Frame1"_s).Caption(), inWindow<Label>(u"Label1"_s).Caption(),
+                start().text()};
+    }
+};
+
+const QStringList BackupTexts{u"数据备份"_s, u"数据备份"_s,
+                              u"备份说明：文件备份是将现有记录数据额外存储一分，当数据需要还原时，可以还原数据。"_s,
+                              u"开始备份"_s};
+const QStringList RestoreTexts{u"数据还原"_s, u"数据还原"_s,
+                               u"数据还原说明：数据还原后，备份的数据将覆盖当前数据，系统将显示备份的数据。"_s,
+                               u"开始还原"_s};
+
+TEST_F(BackupWindowTest, TheOptionsStandAmongTheSettingsOfFiles) {
+    const Frame& files = rig.frame(u"Frame19"_s);
+    EXPECT_EQ(files.Caption(), u"文件设置");
+    EXPECT_EQ(backup().text(), u"系统数据备份");
+    EXPECT_EQ(restore().text(), u"系统数据还原");
+    EXPECT_EQ(backup().parentWidget(), &files);
+    EXPECT_TRUE(backup().isVisible() && restore().isVisible());
+    EXPECT_FALSE(backup().Value() || restore().Value());
+    EXPECT_EQ(window(), nullptr);
+}
+
+TEST_F(BackupWindowTest, EachOptionOpensTheWindowWithItsOwnTexts) {
+    openFor(backup());
+    EXPECT_TRUE(window()->isVisible());
+    EXPECT_EQ(texts(), BackupTexts);
+    EXPECT_FALSE(inWindow<ProgressBar>(u"Pro1"_s).Visible());
+    rig.mainWindow().bench().forms.unload(u"Form13"_s);
+    openFor(restore());
+    EXPECT_TRUE(window()->isVisible());
+    EXPECT_EQ(texts(), RestoreTexts);
+    EXPECT_TRUE(rig.messages->shown.empty());
+}
+
+TEST_F(BackupWindowTest, TheOtherOptionChangesTheTextsOfTheOpenWindow) {
+    openFor(backup());
+    Form* first = window();
+    openFor(restore());
+    EXPECT_EQ(window(), first);
+    EXPECT_EQ(texts(), RestoreTexts);
+    openFor(backup());
+    EXPECT_EQ(texts(), BackupTexts);
+}
+
+TEST_F(BackupWindowTest, ItBlocksNothing) {
+    openFor(backup());
+    rig.click(rig.onMain<Label>(u"Label5"_s));
+    EXPECT_TRUE(rig.frame(u"Frame8"_s).isVisible());
+    EXPECT_TRUE(window()->isVisible());
+}
+
+TEST_F(BackupWindowTest, ClosedItClearsBothOptionsAndOpensNothingAnew) {
+    for (OptionButton* option : {&backup(), &restore()}) {
+        openFor(*option);
+        window()->close();
+        rig.settle();
+        EXPECT_EQ(window(), nullptr);
+        EXPECT_FALSE(backup().Value() || restore().Value());
+    }
+}
+
+TEST_F(BackupWindowTest, TheSameOptionOpensItAgain) {
+    for (int time = 0; time < 3; ++time) {
+        openFor(backup());
+        ASSERT_TRUE(window()) << time;
+        window()->close();
+        rig.settle();
+    }
+    openFor(backup());
+    openFor(restore());
+    EXPECT_FALSE(backup().Value());
+}
+
+TEST_F(BackupWindowTest, CancelAtTheFirstMessageShowsNoDialog) {
+    openFor(backup());
+    rig.messages->answers = {Answer::Cancel};
+    startWith(rig.file(u"b.dat"_s));
+    EXPECT_EQ(rig.messages->shown, std::vector{AskedWhereTo});
+    EXPECT_TRUE(rig.chooser->asked.empty());
+    EXPECT_EQ(bytes(u"b.dat"_s), "(missing)");
+
+    openFor(restore());
+    rig.messages->answers = {Answer::Cancel};
+    rig.click(start());
+    EXPECT_EQ(rig.lastMessage(), AskedWhereFrom);
+    EXPECT_TRUE(rig.chooser->asked.empty());
+}
+
+TEST_F(BackupWindowTest, TheDialogIsAskedForDataFiles) {
+    openFor(backup());
+    rig.click(start());
+    openFor(restore());
+    rig.click(start());
+    using Asked = AnsweringChooser::Asked;
+    EXPECT_EQ(rig.chooser->asked, (std::vector{Asked{u"*.dat|*.dat"_s, {}}, Asked{u"*.dat|*.dat"_s, {}}}));
+}
+
+TEST_F(BackupWindowTest, CancelInTheDialogWithoutAnEarlierNameDoesNothing) {
+    const QByteArray before = bytes(u"data.dll"_s);
+    openFor(restore());
+    rig.click(start());
+    EXPECT_EQ(rig.messages->shown, std::vector{AskedWhereFrom});
+    EXPECT_EQ(bytes(u"data.dll"_s), before);
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(BackupWindowTest, CancelInTheDialogUsesTheNameOfTheLastRunAndTheDialogShowsIt) {
+    backUpTo(u"b.dat"_s);
+    ASSERT_TRUE(QFile::remove(rig.file(u"b.dat"_s)));
+    rig.click(start());
+    EXPECT_EQ(rig.chooser->asked.back().name, rig.file(u"b.dat"_s));
+    EXPECT_EQ(rig.lastMessage(), BackedUp);
+    EXPECT_EQ(bytes(u"b.dat"_s).size(), bytes(u"data.dll"_s).size() + 1);
+    EXPECT_EQ(inWindow<CommonDialog>(u"Com1"_s).FileName(), rig.file(u"b.dat"_s));
+}
+
+TEST_F(BackupWindowTest, TheNameOfABackupServesARestoreInTheSameWindow) {
+    backUpTo(u"b.dat"_s);
+    openFor(restore());
+    rig.click(start());
+    EXPECT_EQ(rig.lastMessage(), Restored);
+}
+
+TEST_F(BackupWindowTest, ANameIsForgottenWithTheWindow) {
+    backUpTo(u"b.dat"_s);
+    window()->close();
+    rig.settle();
+    openFor(backup());
+    rig.click(start());
+    EXPECT_EQ(rig.chooser->asked.back().name, QString());
+    EXPECT_EQ(rig.lastMessage(), AskedWhereTo);
+}
+
+TEST_F(BackupWindowTest, TheNameIsTakenAsItIsGiven) {
+    backUpTo(u"我的 备份"_s);
+    EXPECT_TRUE(QFile::exists(rig.file(u"我的 备份"_s)));
+    EXPECT_FALSE(QFile::exists(rig.file(u"我的 备份.dat"_s)));
+}
+
+TEST_F(BackupWindowTest, ARunAsksThenCopiesThenTellsOfIt) {
+    backUpTo(u"b.dat"_s);
+    restoreFrom(u"b.dat"_s);
+    EXPECT_EQ(rig.messages->shown, (std::vector{AskedWhereTo, BackedUp, AskedWhereFrom, Restored}));
+}
+
+TEST_F(BackupWindowTest, TheBarIsGoneAndEmptyWhenTheEndIsTold) {
+    auto& bar = [this]() -> ProgressBar& {
+        openFor(backup());
+        return inWindow<ProgressBar>(u"Pro1"_s);
+    }();
+    rig.messages->whileShown = [&](const ShownMessage&) {
+        EXPECT_FALSE(bar.Visible());
+        EXPECT_LE(bar.value(), 0);
+    };
+    startWith(rig.file(u"b.dat"_s));
+    EXPECT_EQ(rig.lastMessage(), BackedUp);
+    EXPECT_EQ(bar.maximum(), bytes(u"data.dll"_s).size() + 5);
+}
+
+TEST_F(BackupWindowTest, TicksWaitWhileTheDialogIsOpen) {
+    openFor(backup());
+    int ticksBefore = -1;
+    rig.chooser->whileShown = [&] { ticksBefore = handlers::depth(); };
+    rig.click(start());
+    EXPECT_EQ(ticksBefore, 1);
+}
+
+TEST_F(BackupWindowTest, ItStandsInTheMiddleOfTheMainWindow) {
+    openFor(backup());
+    const MainWindow& main = rig.mainWindow();
+    EXPECT_DOUBLE_EQ(window()->Left(), main.Left() + (main.Width() - 5400) / 2);
+    EXPECT_DOUBLE_EQ(window()->Top(), main.Top() + (main.Height() - 3000) / 2);
+    EXPECT_EQ(window()->parentWidget(), &main);
+}
+
+TEST_F(BackupWindowTest, TheButtonIsGreyUnderThePointerAndWhiteBesideIt) {
+    openFor(backup());
+    rig.hover(start());
+    EXPECT_EQ(start().BackColor(), 0xE0E0E0u);
+    rig.hover(*window());
+    EXPECT_EQ(start().BackColor(), 0xFFFFFFu);
+}
+
+} // namespace
+} // namespace qinghe::testing

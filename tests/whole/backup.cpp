@@ -1,0 +1,105 @@
+#include "household.h"
+
+#include <gtest/gtest.h>
+
+using namespace whole;
+
+namespace {
+
+const Message whereTo{"请指定数据库备份的位置。", "备份提示", Message::None, {"确定", "取消"}};
+const Message whereFrom{"请指定要还原的数据库备份文件所在的位置。", "还原提示", Message::None, {"确定", "取消"}};
+
+void openWindow(Program& program, const std::string& option) {
+    program.click("Form2/Label7");
+    program.click(option);
+    program.waitForKeyboard("Form13");
+}
+
+/// Presses the window's button and gives the file when asked.
+void copy(Program& program, const Message& question, const std::string& file, const std::string& done) {
+    program.click("Form13/Command1");
+    EXPECT_EQ(program.message(), question);
+    program.answer("确定");
+    program.choose(file);
+    EXPECT_EQ(program.message(), (Message{done, "青禾家庭记账本", Message::None, {"确定"}}));
+    program.answer("确定");
+}
+
+} // namespace
+
+TEST(Backup, WhatWasBackedUpComesBack) {
+    const LedgerFolder folder;
+    folder.execute("insert into ysb values('2024-11-20','买米',120,'',1),('2024-11-21','买盐',6,'',2)");
+    const std::string file = folder.beside("十一月.dat").toStdString();
+    Program program(folder);
+    signIn(program);
+    openWindow(program, "Form2/Option14");
+    copy(program, whereTo, file, "备份完成。");
+    program.close("Form13");
+
+    program.click("Form2/Label5");
+    program.clickCell("Form2/ms6", 1, 2);
+    remove(program, "Form2/Command17");
+    waitForRows(program, "Form2/ms6", {"2024-11-21|买盐|6|"});
+
+    openWindow(program, "Form2/Option16");
+    EXPECT_EQ(program.text("Form13/Command1"), "开始还原");
+    copy(program, whereFrom, file, "还原完毕。");
+    program.click("Form2/Label5");
+    waitForRows(program, "Form2/ms6", {"2024-11-20|买米|120|", "2024-11-21|买盐|6|"});
+    endByCross(program);
+    EXPECT_EQ(folder.header(), "00 00");
+    EXPECT_EQ(folder.rows("select 预算项目 from ysb"), (std::vector<std::string>{"买米", "买盐"}));
+    EXPECT_EQ(folder.rows("pragma integrity_check")[0], "ok");
+}
+
+TEST(Backup, ABackupMadeHereOpensInAnotherFolder) {
+    const LedgerFolder folder, other;
+    folder.execute("insert into ysb values('2024-11-20','买米',120,'',1)");
+    {
+        Program program(folder);
+        signIn(program);
+        openWindow(program, "Form2/Option14");
+        copy(program, whereTo, other.file("data.dll").toStdString(), "备份完成。");
+        program.kill();
+    }
+    Program program(other);
+    signIn(program);
+    program.click("Form2/Label5");
+    waitForRows(program, "Form2/ms6", {"2024-11-20|买米|120|"});
+    endByCross(program);
+}
+
+TEST(Backup, ACopyOfTheClosedLedgerIsReadAfterTheNextStart) {
+    const LedgerFolder folder;
+    folder.execute("insert into ysb values('2024-11-20','买米',120,'',1)");
+    const QByteArray closed = folder.bytes("data.dll");
+    folder.execute("delete from ysb");
+    folder.write("closed.dat", closed);
+    {
+        Program program(folder);
+        signIn(program);
+        openWindow(program, "Form2/Option16");
+        copy(program, whereFrom, folder.file("closed.dat").toStdString(), "还原完毕。");
+        program.click("Form2/Label5");
+        expectErrorWindow(program, "请重新启动程序");
+    }
+    Program program(folder);
+    signIn(program);
+    program.click("Form2/Label5");
+    waitForRows(program, "Form2/ms6", {"2024-11-20|买米|120|"});
+    endByCross(program);
+}
+
+TEST(Backup, AFileThatIsNotThereIsTold) {
+    const LedgerFolder folder;
+    Program program(folder);
+    signIn(program);
+    openWindow(program, "Form2/Option16");
+    const QByteArray before = folder.bytes("data.dll");
+    program.click("Form13/Command1");
+    program.answer("确定");
+    program.choose(folder.beside("没有.dat").toStdString());
+    expectErrorWindow(program, "没有.dat");
+    EXPECT_EQ(folder.bytes("data.dll"), before);
+}
