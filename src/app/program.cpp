@@ -14,6 +14,7 @@
 #include "ledger/income_expense.h"
 #include "ledger/loans.h"
 #include "maintenance/backup.h"
+#include "maintenance/picture_injection.h"
 #include "maintenance/settings.h"
 #include "maintenance/users.h"
 #include "platform/free_memory.h"
@@ -82,6 +83,9 @@ void Program::defineForms() {
         u"Form6"_s, [&bench] { return new ReminderWindow(static_cast<MainWindow&>(*bench.forms.loaded(u"Form2"_s))); });
     bench.forms.define(u"Form7"_s, [&bench] { return new WebWindow(bench); });
     bench.forms.define(u"Form13"_s, [&bench] { return new BackupWindow(bench); });
+    for (const PictureTarget& target : pictureTargets())
+        bench.forms.define(QString::fromUtf16(target.form),
+                           [&bench, &target] { return new PictureInjection(bench, target); });
 }
 
 void Program::start() {

@@ -54,7 +54,7 @@ BackupWindow::BackupWindow(Workbench& bench)
     Frame1->setRole(Role::InnerFrame);
     m_disc->place(240, 420, 660, 660);
     m_disc->setRole(Role::GlyphDisc);
-    Label1->place(1080, 360, 3600, 840);
+    Label1->place(1080, 270, 3600, 960); // three lines
     Pro1->place(240, 1440, 4440, 285);
     Pro1->setShown(false);
     Command1->place(3720, 2370, 1440, 390);

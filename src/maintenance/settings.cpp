@@ -1,6 +1,7 @@
 #include "maintenance/settings.h"
 
 #include "core/hover.h"
+#include "maintenance/picture_injection.h"
 
 namespace qinghe {
 
@@ -11,6 +12,8 @@ SettingsPage::SettingsPage(MainWindow& window)
       m_bench(window.bench()),
       Frame20(new Frame(&window.navigation().frame(u"Frame16"_s), u"Frame20"_s, u"系统设置"_s)),
       Command31(new CommandButton(Frame20, u"Command31"_s, u"收支分类设置"_s)),
+      Command32(new CommandButton(Frame20, u"Command32"_s, u"更换图片"_s)),
+      m_pictures(new QMenu(Command32)),
       Frame19(new Frame(&window.navigation().frame(u"Frame16"_s), u"Frame19"_s, u"文件设置"_s)),
       Option14(new OptionButton(Frame19, u"Option14"_s, u"系统数据备份"_s)),
       Option16(new OptionButton(Frame19, u"Option16"_s, u"系统数据还原"_s)) {
@@ -18,12 +21,27 @@ SettingsPage::SettingsPage(MainWindow& window)
     Frame20->setRole(Role::InnerFrame);
     Command31->place(360, 3450, 1920, 390);
     Command31->setGlyph(Glyph::List);
-    markHovered(*Frame20, {Command31});
+    markHovered(*Frame20, {Command31, Command32});
     Command31->Click = [this] {
         unmarkHovered({Command31}); // the pointer will not be here when the page comes back
         m_bench.openCategories();
     };
+    makePictureMenu();
     makeFileSettings();
+}
+
+void SettingsPage::makePictureMenu() {
+    Command32->place(2400, 3450, 1560, 390);
+    for (const PictureTarget& target : pictureTargets()) {
+        const QAction* entry = m_pictures->addAction(QString::fromUtf16(target.entry));
+        connect(entry, &QAction::triggered, this, [this, form = QString::fromUtf16(target.form)] {
+            handlers::enter([this, form] { m_bench.forms.get(form).showForm(); });
+        });
+    }
+    Command32->Click = [this] {
+        unmarkHovered({Command32});
+        m_pictures->popup(Command32->mapToGlobal(QPoint(0, Command32->height())));
+    };
 }
 
 void SettingsPage::makeFileSettings() {

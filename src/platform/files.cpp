@@ -71,6 +71,16 @@ QByteArray readAll(const QString& path) {
     return file.readAll();
 }
 
+QByteArray readAllOrMake(const QString& path) {
+    if (path.isEmpty())
+        throw RuntimeError(RuntimeError::PathFileAccess, QStringLiteral("没有指定文件。请先选择一个文件。"));
+    requireFolderOf(path);
+    if (!QFileInfo::exists(path))
+        writeAll(path, {});
+    requirePlainFile(path);
+    return readAll(path);
+}
+
 void deleteMatching(const QString& folder, const QString& pattern) {
     QDir dir(folder);
     const QString names = QString(pattern).replace(u'[', QStringLiteral("[[]")); // brackets are no wildcards here

@@ -19,6 +19,9 @@ void requireFolderOf(const QString& path);
 void writeAll(const QString& path, const QByteArray& bytes);
 /// Reads the whole file. FileNotFound, PathFileAccess.
 QByteArray readAll(const QString& path);
+/// Opens the file as binary files are opened, which makes a missing one, empty, and is meant to; reads the whole of it.
+/// PathNotFound, PathFileAccess.
+QByteArray readAllOrMake(const QString& path);
 /// Deletes the files that a pattern with "*" and "?" names, hidden ones included; finding none is harmless.
 void deleteMatching(const QString& folder, const QString& pattern);
 /// Reads a picture by its content, whatever the name says, with its orientation. A larger picture than `fill` (pixels
