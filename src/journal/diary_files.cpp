@@ -44,18 +44,18 @@ QString objection(const QString& title) {
     return {};
 }
 
-/// How many of the bytes belong together at their head: the first byte of a pair takes the second one with it. A
-/// character of four bytes is two such pairs.
-qsizetype pairLength(QByteArrayView bytes) {
-    const auto first = static_cast<uchar>(bytes.front());
-    return first > 0x80 && first < 0xFF && bytes.size() > 1 ? 2 : 1;
+/// How many bytes stand together: the first byte of a pair takes the second one with it, and a character of four bytes
+/// is two pairs.
+qsizetype pairLength(char firstByte) {
+    const auto first = static_cast<uchar>(firstByte);
+    return first > 0x80 && first < 0xFF ? 2 : 1;
 }
 
 QString decoded(QByteArrayView bytes) {
     QStringDecoder decode(TextCodec);
     QString text;
     qsizetype from = 0;
-    for (qsizetype at = 0; at < bytes.size(); at += pairLength(bytes.sliced(at))) {
+    for (qsizetype at = 0; at < bytes.size(); at += pairLength(bytes[at])) {
         if (bytes[at] != LoneEuro)
             continue;
         text += decode(bytes.sliced(from, at - from));

@@ -6,6 +6,7 @@
 #include "look/glyphs.h"
 #include "platform/flex_grid.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -101,17 +102,16 @@ void paintWritingPaper(const QPlainTextEdit& text) {
     };
     // The lines that are written, each where its text stands, and empty ones below them.
     const QTextCursor first = text.cursorForPosition(QPoint(0, 0));
-    double foot = 0, shift = 0, spacing = QFontMetricsF(text.font()).lineSpacing();
-    bool measured = false;
-    for (QTextBlock block = first.block(); block.isValid() && foot < paper->height(); block = block.next()) {
+    const QTextBlock firstBlock = first.block();
+    int line = firstBlock.layout()->lineForTextPosition(first.positionInBlock()).lineNumber();
+    double shift = text.cursorRect(first).top() - firstBlock.layout()->lineAt(line).y();
+    double foot = 0, spacing = QFontMetricsF(text.font()).lineSpacing();
+    for (QTextBlock block = firstBlock; block.isValid() && foot < paper->height(); block = block.next(), line = 0) {
+        text.document()->documentLayout()->blockBoundingRect(block); // lays it out
         const QTextLayout* layout = block.layout();
-        if (!measured) {
-            shift = text.cursorRect(first).top() - layout->lineForTextPosition(first.positionInBlock()).y();
-            measured = true;
-        }
-        for (int i = 0; i < layout->lineCount(); ++i) {
-            spacing = layout->lineAt(i).height();
-            foot = shift + layout->lineAt(i).y() + spacing;
+        for (; line < layout->lineCount() && foot < paper->height(); ++line) {
+            spacing = layout->lineAt(line).height();
+            foot = shift + layout->lineAt(line).y() + spacing;
             rule(foot);
         }
         shift = foot;

@@ -9,6 +9,12 @@
 
 namespace qinghe {
 
+namespace {
+
+constexpr qsizetype SurelyScrolled = 10'000; ///< characters that no box can show at once
+
+} // namespace
+
 LongTextBox::LongTextBox(QWidget* parent, const QString& name) : QPlainTextEdit(parent), Placed(this) {
     setObjectName(name);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -24,7 +30,10 @@ QString LongTextBox::Text() const {
 }
 
 void LongTextBox::setBoxText(const QString& text) {
+    // A scroll bar that comes when the text is laid out makes its lines shorter: all would be laid out twice.
+    setVerticalScrollBarPolicy(text.size() > SurelyScrolled ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
     setPlainText(text);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 void LongTextBox::keyPressEvent(QKeyEvent* event) {

@@ -82,6 +82,7 @@ TEST_F(DiaryFiles, LinesOfEverySystemRunIntoOneAnother) {
 }
 
 TEST_F(DiaryFiles, ALoneByteOfTheOldPageIsTheEuroSign) {
+    EXPECT_EQ(read("\x80\x80"), u"€€"_s);
     EXPECT_EQ(read("5\x80 \xD6\xD0\x80"), u"5€ 中€"_s);
     EXPECT_EQ(read("\x81\x80"), u"亐"_s); // a second byte is none
     EXPECT_EQ(read("\x81\x39\xEE\x39\x80"), u"㐀€"_s);

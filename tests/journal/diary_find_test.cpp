@@ -91,25 +91,6 @@ TEST_F(DiaryFinding, AClickInTheTextPutsTheHiddenBoxIntoTheList) {
     EXPECT_EQ(rows(), (QStringList{u"2024-05-03|a"_s, u"2024-05-04|b"_s}));
 }
 
-TEST_F(DiaryFinding, AFileThatIsGoneIsTheRunTimeError) {
-    saveEntry(u"2024-5-3"_s, u"a"_s);
-    QFile::remove(path(u"a"_s));
-    find();
-    shown(1);
-    EXPECT_EQ(rig.messages->errors.size(), 1u);
-    EXPECT_EQ(rig.exitCode(), 1);
-    EXPECT_EQ(rows(), QStringList{u"2024-05-03|a"_s});
-}
-
-TEST_F(DiaryFinding, AFolderInPlaceOfTheFileIsTheRunTimeError) {
-    saveEntry(u"2024-5-3"_s, u"a"_s);
-    QFile::remove(path(u"a"_s));
-    QDir().mkdir(path(u"a"_s));
-    find();
-    shown(1);
-    EXPECT_EQ(rig.exitCode(), 1);
-}
-
 TEST_F(DiaryFinding, EntriesAreThereAfterARestart) {
     saveEntry(u"2024-5-3"_s, u"插秧"_s, {u"水很凉"_s});
     rig.stop();

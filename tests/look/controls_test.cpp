@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTextBlock>
@@ -148,6 +149,26 @@ TEST(WritingPaper, HasARuleBelowEveryLine) {
     for (int line = 1; line <= 5; ++line)
         EXPECT_TRUE(isNear(pixelAt(image, 250, 2 + 10 + line * spacing - 1), colour::PaperLine)) << line;
     EXPECT_TRUE(isNear(pixelAt(image, 250, 20), colour::Paper));
+}
+
+TEST(WritingPaper, HasItsRulesWhereALongTextWasScrolledTo) {
+    const QString words = u"rice and water "_s;
+    for (const QString& content : {words.repeated(200), (words.repeated(8) + u'\n').repeated(40)}) {
+        QPlainTextEdit text;
+        text.resize(320, 240);
+        text.setPlainText(content);
+        text.ensurePolished();
+        rendered(text);
+        text.verticalScrollBar()->setValue(31);
+        const QImage image = rendered(text);
+        const QRect first = text.cursorRect(text.cursorForPosition(QPoint(0, 0)));
+        const QPoint corner = text.viewport()->pos();
+        const int right = corner.x() + text.viewport()->width() - 12; // where no line reaches
+        for (int line = 1; line <= 8; ++line)
+            EXPECT_TRUE(
+                isNear(pixelAt(image, right, corner.y() + first.top() + line * first.height() - 1), colour::PaperLine))
+                << line;
+    }
 }
 
 TEST(Progress, TheBarIsAsLongAsItsValue) {

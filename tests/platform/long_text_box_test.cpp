@@ -1,62 +1,80 @@
 #include "platform/long_text_box.h"
-#include "window_fixture.h"
+#include "qt_printing.h"
 
-#include <QInputMethodEvent>
+#include <QScrollBar>
+#include <QTest>
 
-namespace qinghe::testing {
+#include <gtest/gtest.h>
+
+namespace qinghe {
 namespace {
 
-class LongTextBoxes : public WindowTest {
+using namespace Qt::StringLiterals;
+
+class LongTextBoxTest : public testing::Test {
 protected:
-    LongTextBoxes() {
-        box.KeyPress = [this](int code) { seen << u"%1:%2"_s.arg(code).arg(box.Text()); };
+    LongTextBoxTest() {
+        page.resize(500, 400);
+        box.place(150, 150, 4500, 3000);
+        page.show();
     }
 
-    LongTextBox& box = put<LongTextBox>(form, u"Text3"_s, {300, 300, 4000, 3000});
-    QStringList seen; ///< code of each key press, and the text as it was then
+    QWidget page;
+    LongTextBox box{&page, u"tx8"_s};
 };
 
-TEST_F(LongTextBoxes, AKeyIsToldBeforeItEnters) {
-    QTest::keyClicks(&box, u"a"_s);
-    QTest::keyClick(&box, Qt::Key_Return);
-    QTest::keyClick(&box, Qt::Key_Backspace);
-    EXPECT_EQ(seen, (QStringList{u"97:"_s, u"13:a"_s, u"8:a\r\n"_s}));
-    EXPECT_EQ(box.Text(), u"a"_s);
+/// Counts the times that the room of a text changes while the text is there.
+class RoomChanges : public QObject {
+public:
+    explicit RoomChanges(LongTextBox& box) : m_box(box) { box.viewport()->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += event->type() == QEvent::Resize && !m_box.document()->isEmpty();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    LongTextBox& m_box;
+};
+
+TEST_F(LongTextBoxTest, GivesItsTextAsItWasTypedWithLineEndsOfTwoCharacters) {
+    box.setBoxText(u"一\n二\u00A0三\t "_s);
+    EXPECT_EQ(box.Text(), u"一\r\n二\u00A0三\t "_s);
+    box.setBoxText({});
+    EXPECT_EQ(box.Text(), QString());
 }
 
-TEST_F(LongTextBoxes, KeysThatEnterNothingAreNotTold) {
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Up, Qt::Key_Delete, Qt::Key_Tab})
-        QTest::keyClick(&box, key);
-    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(seen, QStringList{});
+TEST_F(LongTextBoxTest, GivesALongTextWhole) {
+    const QString text = u"天没亮就出门"_s.repeated(10'000);
+    box.setBoxText(text);
+    EXPECT_TRUE(box.Text() == text);
 }
 
-TEST_F(LongTextBoxes, EachCharacterOfAnInputMethodIsToldAndEntersBeforeTheNext) {
-    QInputMethodEvent event;
-    event.setCommitString(u"买菜😀"_s);
-    QCoreApplication::sendEvent(&box, &event);
-    ASSERT_EQ(seen.size(), 3);
-    EXPECT_EQ(seen[0], u"%1:"_s.arg(u'买'));
-    EXPECT_EQ(seen[1], u"%1:买"_s.arg(u'菜'));
-    EXPECT_TRUE(seen[2].endsWith(u":买菜"_s));
-    EXPECT_EQ(box.Text(), u"买菜😀"_s);
+TEST_F(LongTextBoxTest, LaysATextOutForItsRoomAtOnce) {
+    const RoomChanges changes(box);
+    box.setBoxText(u"天没亮就出门"_s);
+    box.setBoxText({});
+    box.setBoxText(u"天没亮就出门"_s.repeated(10'000));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(box.verticalScrollBar()->isVisible());
+    EXPECT_EQ(changes.count, 0);
 }
 
-TEST_F(LongTextBoxes, AHandlerThatEmptiesTheBoxLeavesTheKeyAlone) {
-    box.setBoxText(u"full"_s);
-    box.KeyPress = [this](int) { box.setBoxText({}); };
-    QTest::keyClicks(&box, u"x"_s);
-    EXPECT_EQ(box.Text(), u"x"_s);
-}
-
-TEST_F(LongTextBoxes, ACommitThatReplacesWordsReplacesThemOnce) {
-    box.setBoxText(u"abc"_s);
-    box.moveCursor(QTextCursor::End);
-    QInputMethodEvent event;
-    event.setCommitString(u"xy"_s, -2, 2);
-    QCoreApplication::sendEvent(&box, &event);
-    EXPECT_EQ(box.Text(), u"axy"_s);
+TEST_F(LongTextBoxTest, ShowsItsScrollBarForWhatDoesNotFitAlone) {
+    for (const auto& [length, needed] : {std::pair(10, false), std::pair(60'000, true), std::pair(3000, true),
+                                         std::pair(10, false), std::pair(60'000, true), std::pair(0, false)}) {
+        box.setBoxText(QString(length, u'字'));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(box.verticalScrollBar()->isVisible(), needed) << length;
+    }
+    box.setBoxText(QString(60'000, u'字'));
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_Delete);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(box.verticalScrollBar()->isVisible());
 }
 
 } // namespace
-} // namespace qinghe::testing
+} // namespace qinghe
