@@ -15,6 +15,7 @@
 #include "ledger/loans.h"
 #include "maintenance/backup.h"
 #include "maintenance/picture_injection.h"
+#include "maintenance/purge.h"
 #include "maintenance/settings.h"
 #include "maintenance/users.h"
 #include "platform/free_memory.h"
@@ -78,6 +79,7 @@ void Program::defineForms() {
     bench.forms.define(u"Form5"_s, [&bench] { return new SignIn(bench); });
     bench.forms.define(u"Form2"_s, [&bench] { return mainWindowWithPages(bench); });
     bench.forms.define(u"Form1"_s, [&bench] { return new DatePicker(bench); });
+    bench.forms.define(u"Form3"_s, [&bench] { return new PurgeWindow(bench); });
     bench.forms.define(u"Form9"_s, [&bench] { return new Calculator(bench); });
     bench.forms.define(
         u"Form6"_s, [&bench] { return new ReminderWindow(static_cast<MainWindow&>(*bench.forms.loaded(u"Form2"_s))); });

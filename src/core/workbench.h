@@ -48,6 +48,9 @@ public:
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;
 
+    /// Empties what stands on the diary page; entered by that page.
+    std::function<void()> emptyDiaryPage;
+
     /// The connection text of the data file, with the blank at its end that most handlers leave there, or without.
     QString connection(bool blankBehind = true) const;
     /// The path of a file beside the program.

@@ -46,6 +46,11 @@ DiaryPage::DiaryPage(MainWindow& form)
     ms8->place(120, 840, 4215, 4815);
     tx8->place(4455, 840, 7080, 4815);
     bench.dateFields[DateTarget] = {tx9, ms8};
+    bench.emptyDiaryPage = [this] {
+        blankRow(*ms8, 1);
+        tx8->setBoxText({});
+        tx9->setBoxText({});
+    };
     bindEvents();
 }
 

@@ -1,34 +1,37 @@
 #pragma once
 
-#include "core/main_window.h"
-#include "maintenance/backup.h"
+#include "maintenance/file_settings.h"
+#include "maintenance/skin_choice.h"
 
 #include <QMenu>
 
 namespace qinghe {
 
-/// The settings page, `Frame16`: so far the ways to the categories, to pictures, and to backup and restore.
+/// The settings page, `Frame16`. Every box and option acts at once; nothing is to be confirmed. Here stand the options
+/// of the system (`Frame20`) and the ways to the categories and to the windows that store pictures; what belongs to a
+/// skin stands in SkinChoice, what belongs to the data in FileSettings.
 class SettingsPage : public QObject {
     Q_OBJECT
 
 public:
     explicit SettingsPage(MainWindow& window);
 
-private:
-    void makePictureMenu();
-    void makeFileSettings();
-    void Form2_Option14_Click();
-    void Form2_Option16_Click();
-    void openBackup(BackupWindow::Direction direction);
+    void Form2_Label7_Click();
+    void Form2_Check7_Click();
 
-    Workbench& m_bench;
+private:
+    void placeBoxes();
+    void makePictureMenu();
+    void bindEvents();
+
+    MainWindow& window;
+    Workbench& bench;
     Frame* Frame20;           // 系统设置
     CommandButton* Command31; // 收支分类设置
     CommandButton* Command32; // 更换图片
     QMenu* m_pictures;        ///< the windows that store pictures
-    Frame* Frame19;           // 文件设置
-    OptionButton* Option14;   // 系统数据备份
-    OptionButton* Option16;   // 系统数据还原
+    SkinChoice m_skins;
+    FileSettings m_files;
 };
 
 } // namespace qinghe

@@ -41,6 +41,11 @@ void ComboBox::addEntry(const QString& entry) {
         setEditText(before);
 }
 
+void ComboBox::clearEntries() {
+    const QSignalBlocker quiet(this);
+    clear();
+}
+
 void ComboBox::showPopup() {
     m_choosing = true;
     QComboBox::showPopup();

@@ -20,6 +20,8 @@ public:
     QString Text() const { return currentText(); }
     void setText(const QString& text);
     void addEntry(const QString& entry);
+    /// Takes the entries and the text away.
+    void clearEntries();
 
     Event<> Click;
 

@@ -24,6 +24,14 @@ constexpr int LargestPictureMiB = 512; ///< decoded; 48 megapixels need 184
                        QStringLiteral("%1：%2。请检查文件夹的权限和磁盘空间。").arg(what, file.fileName()));
 }
 
+void write(const QString& path, QIODevice::OpenMode mode, const QByteArray& bytes) {
+    QFile file(path);
+    if (!file.open(mode))
+        failAccess(file, QStringLiteral("不能写入文件"));
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        failAccess(file, QStringLiteral("文件没有写完"));
+}
+
 } // namespace
 
 bool isFolder(const QString& path) {
@@ -55,11 +63,11 @@ void requireFolderOf(const QString& path) {
 }
 
 void writeAll(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        failAccess(file, QStringLiteral("不能写入文件"));
-    if (file.write(bytes) != bytes.size() || !file.flush())
-        failAccess(file, QStringLiteral("文件没有写完"));
+    write(path, QIODevice::WriteOnly | QIODevice::Truncate, bytes);
+}
+
+void writeOver(const QString& path, const QByteArray& bytes) {
+    write(path, QIODevice::ReadWrite, bytes);
 }
 
 QByteArray readAll(const QString& path) {

@@ -17,6 +17,8 @@ void requirePlainFile(const QString& path);
 void requireFolderOf(const QString& path);
 /// Writes the whole file, replacing one of that name. DiskFull, PathFileAccess.
 void writeAll(const QString& path, const QByteArray& bytes);
+/// Writes from the file's beginning on; the tail of a longer file stays behind it. DiskFull, PathFileAccess.
+void writeOver(const QString& path, const QByteArray& bytes);
 /// Reads the whole file. FileNotFound, PathFileAccess.
 QByteArray readAll(const QString& path);
 /// Opens the file as binary files are opened, which makes a missing one, empty, and is meant to; reads the whole of it.

@@ -9,10 +9,20 @@ namespace {
 constexpr quint32 Pine = 0x2C4A1E, White = 0xFFFFFF; ///< the form's own colours
 constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
 
+/// The field that asked.
+const EditorTarget& asking(const Workbench& bench) {
+    return bench.dateFields.at(static_cast<std::size_t>(static_cast<int>(bench.dateTarget)));
+}
+
+/// The window that the picker stays above.
+QWidget* windowOf(const EditorTarget& field, const Workbench& bench) {
+    return field.box ? field.box->window() : bench.forms.loaded(u"Form2"_s);
+}
+
 } // namespace
 
 DatePicker::DatePicker(Workbench& bench)
-    : Form(u"Form1"_s, Kind::QuietTool, Ground::Pine, bench.forms.loaded(u"Form2"_s)),
+    : Form(u"Form1"_s, Kind::QuietTool, Ground::Pine, windowOf(asking(bench), bench)),
       m_bench(bench),
       m_month(bench.services.clock->today()),
       Command1(new CommandButton(this, u"Command1"_s, {})),
@@ -75,7 +85,7 @@ void DatePicker::Form1_Label3_Click(int index) {
 }
 
 void DatePicker::Form1_Label3_DblClick(int index) {
-    const EditorTarget& target = m_bench.dateFields.at(static_cast<std::size_t>(static_cast<int>(m_bench.dateTarget)));
+    const EditorTarget& target = asking(m_bench);
     if (target.box) {
         target.box->setBoxText(m_month.dateTextOf(index));
         if (target.grid)

@@ -1,0 +1,113 @@
+#include "maintenance/file_settings.h"
+
+#include "core/hover.h"
+#include "core/lists.h"
+#include "platform/files.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What initialising empties, in this order. Users, categories, the month statistics, settings and pictures stay, and
+/// so do the files of the diary.
+constexpr std::array<const char16_t*, 10> InitialisedTables{u"jcb", u"jrb", u"nsrb", u"nzcb", u"rcb",
+                                                            u"rjb", u"srb", u"ysb",  u"zcb",  u"zhb"};
+
+} // namespace
+
+FileSettings::FileSettings(MainWindow& form)
+    : QObject(&form),
+      window(form),
+      bench(form.bench()),
+      Adodc1(*form.Adodc1),
+      Frame19(new Frame(&form.navigation().frame(u"Frame16"_s), u"Frame19"_s, u"文件设置"_s)),
+      Option14(new OptionButton(Frame19, u"Option14"_s, u"系统数据备份"_s)),
+      Option16(new OptionButton(Frame19, u"Option16"_s, u"系统数据还原"_s)),
+      m_caution(new Label(Frame19, {}, u"以下操作不能恢复，请先备份"_s)),
+      Check3(new CheckBox(Frame19, u"Check3"_s, u"选择删除记录数据..."_s)),
+      Check2(new CheckBox(Frame19, u"Check2"_s, u"格式化日志"_s)),
+      Check4(new CheckBox(Frame19, u"Check4"_s, u"初始化系统数据"_s)) {
+    placeControls();
+    Option14->Click = [this] { Form2_Option14_Click(); };
+    Option16->Click = [this] { Form2_Option16_Click(); };
+    Check2->Click = [this] { Form2_Check2_Click(); };
+    Check3->Click = [this] { Form2_Check3_Click(); };
+    Check4->Click = [this] { Form2_Check4_Click(); };
+    for (OptionButton* option : {Option14, Option16})
+        showHandOver(option);
+    for (CheckBox* box : {Check2, Check3, Check4})
+        showHandOver(box);
+}
+
+void FileSettings::placeControls() {
+    Frame19->place(5895, 480, 5520, 4200);
+    Frame19->setRole(Role::InnerFrame);
+    Option14->place(360, 600, 2400, 330);
+    Option16->place(2880, 600, 2400, 330);
+    m_caution->place(240, 1320, 5040, 2640);
+    m_caution->setRole(Role::Caution);
+    Check3->place(390, 1980, 4000, 330);
+    Check2->place(390, 2580, 4000, 330);
+    Check4->place(390, 3180, 4000, 330);
+}
+
+void FileSettings::Form2_Option14_Click() {
+    openBackup(BackupWindow::Direction::Backup);
+}
+
+void FileSettings::Form2_Option16_Click() {
+    openBackup(BackupWindow::Direction::Restore);
+}
+
+/// The options are cleared when the window goes, so that the same one can be chosen again.
+void FileSettings::openBackup(BackupWindow::Direction direction) {
+    auto& backup = bench.forms.get<BackupWindow>(u"Form13"_s);
+    backup.Unloaded = [this] {
+        Option14->setValue(false);
+        Option16->setValue(false);
+    };
+    backup.turnTo(direction);
+    backup.showForm();
+}
+
+void FileSettings::Form2_Check3_Click() {
+    if (!Check3->Value())
+        return bench.forms.unload(u"Form3"_s);
+    Form& purge = bench.forms.get(u"Form3"_s);
+    purge.showForm();
+    purge.keepOnScreen();
+}
+
+void FileSettings::Form2_Check2_Click() {
+    if (!Check2->Value())
+        return;
+    if (bench.services.say(u"是否删除所有日志？"_s, MessageStyle::OkCancelInformation, u"提示"_s) != Answer::Ok)
+        return Check2->setValue(false);
+    Adodc1.setConnectionString(bench.connection());
+    Recordset& entries = Adodc1.open(u"rjb"_s);
+    // Files of which no row tells are left alone.
+    if (entries.recordCount() != 0)
+        files::deleteMatching(bench.beside(u"mydiary"_s), u"*.dll"_s);
+    emptyTable(entries);
+    if (window.navigation().frame(u"Frame10"_s).Visible())
+        bench.emptyDiaryPage();
+    bench.services.say(u"格式化完成！"_s);
+}
+
+void FileSettings::Form2_Check4_Click() {
+    if (!Check4->Value())
+        return;
+    const Answer answer = bench.services.say(u"点击此项将初始化系统内除用户信息以外的全部数据！是否继续？"_s,
+                                             MessageStyle::YesNoQuestion, u"系统提示"_s);
+    if (answer != Answer::Yes)
+        return Check4->setValue(false);
+    Adodc1.setVisible(false);
+    Adodc1.setConnectionString(bench.connection());
+    for (const char16_t* table : InitialisedTables)
+        emptyTable(Adodc1.open(QString::fromUtf16(table)));
+    bench.services.say(u"初始化完毕"_s, MessageStyle::OkInformation, u"提示"_s);
+}
+
+} // namespace qinghe
