@@ -2,6 +2,7 @@
 #include "bare_sqlite.h"
 #include "child_runs.h"
 #include "filled_store.h"
+#include "journal.h"
 #include "ledger_pages.h"
 #include "look/look.h"
 #include "measure.h"
@@ -109,8 +110,8 @@ struct Chapter {
     void (*measure)(Report&);
 };
 constexpr Chapter Chapters[] = {
-    {u"start", measureStart},         {u"income", measureIncome},       {u"ledger", measureLedgerPages},
-    {u"reminders", measureReminders}, {u"upkeep", measureBackupCopies},
+    {u"start", measureStart},     {u"income", measureIncome},       {u"ledger", measureLedgerPages},
+    {u"journal", measureJournal}, {u"reminders", measureReminders}, {u"upkeep", measureBackupCopies},
 };
 
 } // namespace

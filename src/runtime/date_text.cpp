@@ -186,7 +186,18 @@ std::optional<QString> textOfIsoDay(QByteArrayView iso) {
     const int year = digitsOf(iso.first(4)), month = digitsOf(iso.sliced(5, 2)), day = digitsOf(iso.sliced(8));
     if (year < kFirstYear || !QDate::isValid(year, month, day))
         return std::nullopt;
-    return Joiner().date(year, 1, month, day, 1).text();
+    // The same without the zeros at the head of its parts. Written where it stays: long lists ask for many.
+    QString text(iso.size(), Qt::Uninitialized);
+    QChar* end = text.data();
+    bool head = true;
+    for (const char character : iso) {
+        if (head && character == '0')
+            continue;
+        head = character == '-';
+        *end++ = QLatin1Char(character);
+    }
+    text.truncate(end - text.constData());
+    return text;
 }
 
 } // namespace qinghe
