@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 
 namespace qinghe {
@@ -32,6 +33,8 @@ QStringList nameFilters(const QString& filter) {
 }
 
 std::optional<QString> DesktopFileChooser::choose(const QString& filter, const QString& name) {
+    // Qt would keep the chooser's history in a file of its own in the home folder: it gets a place that takes none.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u":/"_s);
     QFileDialog dialog(windowInFront(), {}, firstFolder());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::AnyFile);

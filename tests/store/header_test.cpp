@@ -53,6 +53,17 @@ TEST_F(Header, OfASpoiledFileMakesItNoStore) {
     EXPECT_EQ(errorOf([&] { control.open(u"srb"_s); }, u"data.dll"_s), RuntimeError::StoreFailure);
 }
 
+TEST_F(Header, SpoiledIsToldFromAForeignFile) {
+    EXPECT_FALSE(headerIsSpoilt(path()));
+    spoilHeader(path());
+    EXPECT_TRUE(headerIsSpoilt(path()));
+    EXPECT_EQ(errorOf([&] { control.open(u"srb"_s); }, u"请重新启动程序"_s), RuntimeError::StoreFailure);
+    setFileBytes(QByteArray("S\0\0 of another kind", 19).repeated(100));
+    EXPECT_FALSE(headerIsSpoilt(path()));
+    EXPECT_EQ(errorOf([&] { control.open(u"srb"_s); }, u"备份文件"_s), RuntimeError::StoreFailure);
+    EXPECT_FALSE(headerIsSpoilt(folder.filePath(u"no.dll"_s)));
+}
+
 TEST_F(Header, HealedAfterAFailureOpensAgainWithTheSameControl) {
     addIncome(u"2024-5-3"_s, u"工资"_s, 100);
     store.close();
