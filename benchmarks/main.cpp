@@ -8,6 +8,7 @@
 #include "measure.h"
 #include "reminders.h"
 #include "support/program_rig.h"
+#include "upkeep.h"
 
 #include <QApplication>
 
@@ -112,6 +113,7 @@ struct Chapter {
 constexpr Chapter Chapters[] = {
     {u"start", measureStart},     {u"income", measureIncome},       {u"ledger", measureLedgerPages},
     {u"journal", measureJournal}, {u"reminders", measureReminders}, {u"upkeep", measureBackupCopies},
+    {u"upkeep", measureUpkeep},
 };
 
 } // namespace

@@ -14,6 +14,8 @@ namespace {
 constexpr size_t kCachedResults = 3;
 constexpr size_t kCachedFootprint = 8 << 20; ///< larger results, pictures mostly, are not kept
 
+constexpr size_t kDeletedAtOnce = 1000; ///< rows a statement: each statement costs as much as a row
+
 constexpr qsizetype kKeptBytes = 64 * 1024; ///< of a value that may stay bound until the next row
 
 QByteArray placeholders(qsizetype count) {
@@ -213,9 +215,12 @@ void Session::flushDeletions() {
     const QByteArray everything = "DELETE FROM " + quotedName(deletions.table);
     if (isWholeTable(deletions))
         return m_connection.run(everything);
-    Statement statement = m_connection.prepare(everything + " WHERE rowid=?");
-    for (const qint64 rowid : deletions.rowids) {
-        statement.bind(1, rowid);
+    const size_t count = deletions.rowids.size(), batch = std::min(count, kDeletedAtOnce);
+    Statement statement =
+        m_connection.prepare(everything + " WHERE rowid IN (" + placeholders(static_cast<qsizetype>(batch)) + ')');
+    for (size_t done = 0; done < count; done += batch) {
+        for (size_t i = 0; i < batch; ++i) // the last batch is filled up with the last row, which goes but once
+            statement.bind(static_cast<int>(i) + 1, deletions.rowids[std::min(done + i, count - 1)]);
         statement.execute();
     }
 }

@@ -118,6 +118,18 @@ TEST_F(Records, WalkOverAQueryDeletesItsRowsAlone) {
     EXPECT_EQ(column(second.open(u"srb"_s), u"时间"_s), QStringList(u"2024-9-9"_s));
 }
 
+TEST_F(Records, WalkOverAQueryDeletesItsRowsAloneHoweverManyTheyAre) {
+    constexpr int many = 5000;
+    Recordset& all = control.open(u"yhb"_s);
+    for (int i = 1; i <= many; ++i)
+        add(all, {{u"用户名"_s, i % 2 == 0 ? u"旧"_s : u"新"_s}, {u"区别"_s, i}});
+    deleteAll(control.open(u"select * from yhb where 用户名='旧'"_s));
+    const QStringList left = column(second.open(u"yhb"_s), u"区别"_s);
+    ASSERT_EQ(left.size(), many / 2);
+    for (int i = 0; i < left.size(); ++i)
+        EXPECT_EQ(left[i], QString::number(2 * i + 1));
+}
+
 TEST_F(Records, WholeTableSpareRowsOfAnotherSet) {
     Recordset& old = users(u"甲乙"_s);
     add(second.open(u"yhb"_s), {{u"用户名"_s, u"丙"_s}});

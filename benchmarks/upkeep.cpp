@@ -1,0 +1,80 @@
+#include "upkeep.h"
+
+#include "bare_sqlite.h"
+#include "filled_store.h"
+#include "support/program_rig.h"
+
+#include <array>
+
+namespace qinghe::benchmarks {
+
+using namespace Qt::StringLiterals;
+using qinghe::testing::ProgramRig;
+
+namespace {
+
+constexpr int Runs = 7;
+
+/// A kind of record with a date: its box in the purge window, table and column.
+struct Dated {
+    const char16_t* box;
+    const char16_t* table;
+    const char16_t* date;
+};
+constexpr std::array<Dated, 6> DatedKinds{{
+    {u"Check1(0)", u"srb", u"时间"},
+    {u"Check1(1)", u"zcb", u"时间"},
+    {u"Check1(2)", u"jrb", u"日期"},
+    {u"Check1(3)", u"jcb", u"日期"},
+    {u"Check1(5)", u"ysb", u"预算时间"},
+    {u"Check2", u"rcb", u"日程日期"},
+}};
+
+/// Fills full tables, then purges all six dated kinds up to a day; each kind is one durable transaction.
+double purgeTime(const QDate& last) {
+    ProgramRig rig;
+    fillTables(rig.dataFile(), FullTable);
+    rig.signIn();
+    rig.click(rig.onMain<Label>(u"Label7"_s));
+    rig.click(rig.onMain<CheckBox>(u"Check3"_s));
+    for (const Dated& kind : DatedKinds)
+        rig.click(rig.control<CheckBox>(u"Form3"_s, QString::fromUtf16(kind.box)));
+    rig.control<TextBox>(u"Form3"_s, u"Text1"_s).setBoxText(dateText(last));
+    auto& start = rig.control<CommandButton>(u"Form3"_s, u"Command1"_s);
+    const double time = milliseconds([&] { rig.click(start); });
+    if (rig.messages->shown.size() != 1 + DatedKinds.size() || rig.lastMessage().text != u"日程记录已清空"_s)
+        qFatal("the purge was not done");
+    return time;
+}
+
+double purgeTimeBare(const QDate& last) {
+    ProgramRig rig;
+    fillTables(rig.dataFile(), FullTable);
+    plainCopy(rig.dataFile(), rig.file(u"plain.db"_s));
+    Bare bare(rig.file(u"plain.db"_s));
+    bare.run(u"pragma user_version=1"_s); // brings the copy to the disk, as the other file is
+    return milliseconds([&] {
+        for (const Dated& kind : DatedKinds) {
+            bare.run(u"begin immediate"_s);
+            bare.run(u"delete from %1 where %2<='%3'"_s.arg(QString::fromUtf16(kind.table),
+                                                            QString::fromUtf16(kind.date), last.toString(Qt::ISODate)));
+            bare.run(u"commit"_s);
+        }
+    });
+}
+
+void measurePurge(Report& report, const QString& share, const QDate& last) {
+    report.add(u"purging %1 of 32767 rows in each of six tables, durable, against bare SQLite"_s.arg(share),
+               inTurn(
+                   Runs, [&] { return purgeTime(last); }, [&] { return purgeTimeBare(last); }),
+               1.6);
+}
+
+} // namespace
+
+void measureUpkeep(Report& report) {
+    measurePurge(report, u"all"_s, QDate(2030, 1, 1));
+    measurePurge(report, u"half"_s, QDate(2019, 12, 31));
+}
+
+} // namespace qinghe::benchmarks
