@@ -3,6 +3,7 @@
 #include "core/hover.h"
 #include "core/stored_choice.h"
 #include "platform/key_presses.h"
+#include "runtime/blanks.h"
 #include "runtime/number_text.h"
 
 namespace qinghe {
@@ -31,15 +32,6 @@ CommandButton* button(Frame* frame, const QString& name, const QString& caption,
 
 QString counted(qsizetype characters) {
     return QString::number(characters) + u"当前字数"_s;
-}
-
-/// Blanks alone are trimmed, at both ends.
-QString trimmedBlanks(QStringView text) {
-    while (text.startsWith(' '_L1))
-        text = text.sliced(1);
-    while (text.endsWith(' '_L1))
-        text.chop(1);
-    return text.toString();
 }
 
 } // namespace
@@ -145,7 +137,7 @@ void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
         Label3->setCaption(counted(1));
     }
     if (KeyAscii == key_presses::Backspace)
-        Label3->setCaption(counted(key_presses::characterCount(trimmedBlanks(Text3->Text())) - 1));
+        Label3->setCaption(counted(key_presses::characterCount(withoutBlanksAround(Text3->Text())) - 1));
 }
 
 void SchedulePage::Form2_Text4_Click() {

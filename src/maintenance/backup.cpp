@@ -62,7 +62,7 @@ BackupWindow::BackupWindow(Workbench& bench)
     Command1->Click = [this] { Form13_Command1_Click(); };
     markHovered(*Command1);
     MouseMove = [this](double, double) { unmarkHovered({Command1}); };
-    placeOver(bench.forms.loaded(u"Form2"_s), 5400, 3000);
+    placeInMiddle(5400, 3000, bench.forms.loaded(u"Form2"_s));
 }
 
 void BackupWindow::turnTo(Direction direction) {

@@ -2,10 +2,7 @@
 
 #include "core/hover.h"
 #include "platform/files.h"
-#include "runtime/runtime_error.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "runtime/blanks.h"
 
 namespace qinghe {
 
@@ -56,14 +53,6 @@ QString text(const char16_t* words) {
     return QString::fromUtf16(words);
 }
 
-QString withoutBlanksAround(QStringView words) {
-    while (words.startsWith(u' '))
-        words = words.sliced(1);
-    while (words.endsWith(u' '))
-        words.chop(1);
-    return words.toString();
-}
-
 } // namespace
 
 std::span<const PictureTarget> pictureTargets() {
@@ -95,7 +84,7 @@ PictureInjection::PictureInjection(Workbench& bench, const PictureTarget& target
     markHovered(*Command1);
     markHovered(*Command2);
     MouseMove = [this](double, double) { unmarkHovered({Command1, Command2}); };
-    placeOver(bench.forms.loaded(u"Form2"_s), 6000, 2400);
+    placeInMiddle(6000, 2400, bench.forms.loaded(u"Form2"_s));
 }
 
 void PictureInjection::load() {

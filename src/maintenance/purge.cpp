@@ -1,6 +1,7 @@
 #include "maintenance/purge.h"
 
 #include "core/lists.h"
+#include "runtime/blanks.h"
 
 namespace qinghe {
 
@@ -8,8 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double FormWidth = 6600, FormHeight = 4680; // twips
-constexpr int Accounts = 4, Plans = 6;                ///< places among the kinds
+constexpr int Accounts = 4, Plans = 6; ///< places among the kinds
 constexpr int DateTarget = 8;
 constexpr double PickerGap = 400; ///< twips from the foot of the box to the picker: the title bar's height
 
@@ -40,7 +40,7 @@ PurgeWindow::PurgeWindow(Workbench& bench)
       Adodc1(new Adodc(bench.store, u"Adodc1"_s, this)),
       Frame1(new Frame(this, u"Frame1"_s, u"（删除记录）项目"_s)) {
     setCaption(u"设置-删除"_s);
-    place(0, 0, FormWidth, FormHeight);
+    placeInMiddle(6600, 4680, bench.forms.loaded(u"Form2"_s));
     Frame1->place(240, 240, 6120, 2160);
     Frame1->setRole(Role::InnerFrame);
     makeBoxes();
@@ -88,8 +88,6 @@ void PurgeWindow::makeHelp() {
 }
 
 void PurgeWindow::load() {
-    if (const Form* main = m_bench.forms.loaded(u"Form2"_s))
-        moveTo(main->Left() + (main->Width() - FormWidth) / 2, main->Top() + (main->Height() - FormHeight) / 2);
     Adodc1->setVisible(false);
     Adodc1->setConnectionString(m_bench.connection());
     m_bench.dateFields[DateTarget] = {Text1, nullptr};
@@ -149,7 +147,7 @@ void PurgeWindow::purge(const Records& kind) {
         return tell(u"请选择日期！"_s);
     QString source = QString::fromUtf16(kind.source);
     if (kind.dated)
-        source += u'#' + Text1->Text().trimmed() + u'#';
+        source += u'#' + withoutBlanksAround(Text1->Text()) + u'#';
     Recordset& records = Adodc1->open(source);
     if (records.recordCount() == 0)
         return tell(QString::fromUtf16(kind.none));

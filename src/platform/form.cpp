@@ -66,9 +66,10 @@ void Form::setWindowState(int state) {
     QWidget::setWindowState(state == 1 ? others | Qt::WindowMinimized : others);
 }
 
-void Form::placeInMiddle(double width, double height) {
-    const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
-    place(centre.x() * TwipsPerPixel - width / 2, centre.y() * TwipsPerPixel - height / 2, width, height);
+void Form::placeInMiddle(double width, double height, const Form* of) {
+    const QPointF screen = QPointF(QGuiApplication::primaryScreen()->availableGeometry().center()) * TwipsPerPixel;
+    const QPointF centre = of ? QRectF(of->Left(), of->Top(), of->Width(), of->Height()).center() : screen;
+    place(centre.x() - width / 2, centre.y() - height / 2, width, height);
 }
 
 void Form::showForm() {
@@ -81,12 +82,6 @@ void Form::showForm() {
 
 void Form::setShape(const QPolygon& points) {
     setMask(QRegion(points, Qt::OddEvenFill));
-}
-
-void Form::placeOver(const Form* other, double width, double height) {
-    const double left = other ? other->Left() + (other->Width() - width) / 2 : Left();
-    const double top = other ? other->Top() + (other->Height() - height) / 2 : Top();
-    place(left, top, width, height);
 }
 
 void Form::keepOnScreen() {

@@ -38,14 +38,12 @@ public:
     int WindowState() const; ///< 0 normal, 1 minimised
     void setWindowState(int state);
 
-    /// Gives the form this size (twips), in the middle of the screen.
-    void placeInMiddle(double width, double height);
+    /// Gives the form this size (twips), in the middle of another one, or of the screen.
+    void placeInMiddle(double width, double height, const Form* of = nullptr);
     /// Shows the form without blocking.
     void showForm();
     /// Gives the window the shape of a polygon, in pixels.
     void setShape(const QPolygon& points);
-    /// Gives the window its size (twips) and a place in the middle of another one, when there is one.
-    void placeOver(const Form* other, double width, double height);
     /// Keeps a window that hangs under a field on the screen.
     void keepOnScreen();
 

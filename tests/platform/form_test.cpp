@@ -141,14 +141,20 @@ TEST_F(FormTest, AFormThatLiesOnTheScreenStaysToTheTwip) {
 TEST_F(FormTest, AFormIsPlacedInTheMiddleOfAnother) {
     form.place(1500, 3000, 6000, 4500);
     Form above(u"Form13"_s, Form::Kind::Dialog, Ground::Dialog, &form);
-    above.placeOver(&form, 3000, 1501);
+    above.placeInMiddle(3000, 1501, &form);
     EXPECT_EQ(above.Left(), 3000);
     EXPECT_EQ(above.Top(), 4499.5);
     EXPECT_EQ(above.Width(), 3000);
     EXPECT_EQ(above.Height(), 1501);
-    above.placeOver(nullptr, 4000, 2000);
-    EXPECT_EQ(above.Left(), 3000);
-    EXPECT_EQ(above.Width(), 4000);
+}
+
+TEST_F(FormTest, AFormIsPlacedInTheMiddleOfTheScreen) {
+    form.placeInMiddle(4000, 2000);
+    const QPoint centre = form.screen()->availableGeometry().center();
+    EXPECT_EQ(form.Left(), centre.x() * 15 - 2000);
+    EXPECT_EQ(form.Top(), centre.y() * 15 - 1000);
+    EXPECT_EQ(form.Width(), 4000);
+    EXPECT_EQ(form.Height(), 2000);
 }
 
 TEST_F(FormTest, AnOwnedDialogStaysAboveItsOwner) {
