@@ -18,12 +18,12 @@ constexpr Uint16 BufferFrames = 1024;
 
 /// The samples of a wav file, in memory.
 struct Samples {
-    SDL_AudioSpec spec{};
+    SDL_AudioSpec form{};
     Uint8* bytes = nullptr;
     Uint32 size = 0; ///< bytes
 
     explicit Samples(const QString& wav) {
-        if (!SDL_LoadWAV(QFile::encodeName(wav).constData(), &spec, &bytes, &size))
+        if (!SDL_LoadWAV(QFile::encodeName(wav).constData(), &form, &bytes, &size))
             bytes = nullptr;
     }
     ~Samples() { SDL_FreeWAV(bytes); }
@@ -32,8 +32,8 @@ struct Samples {
 
     /// How long so many bytes play, ms.
     int duration(Uint32 count) const {
-        const Uint32 frame = static_cast<Uint32>(SDL_AUDIO_BITSIZE(spec.format)) / 8 * spec.channels;
-        return static_cast<int>(Uint64{count} / frame * 1000 / static_cast<Uint64>(spec.freq));
+        const Uint32 frame = static_cast<Uint32>(SDL_AUDIO_BITSIZE(form.format)) / 8 * form.channels;
+        return static_cast<int>(Uint64{count} / frame * 1000 / static_cast<Uint64>(form.freq));
     }
 };
 
@@ -43,7 +43,7 @@ public:
         if (!readable() || SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
             return;
         m_audio = true;
-        SDL_AudioSpec wanted = m_samples.spec;
+        SDL_AudioSpec wanted = m_samples.form;
         wanted.callback = [](void* self, Uint8* out, int count) {
             static_cast<Piece*>(self)->fill(out, static_cast<Uint32>(count));
         };
@@ -77,7 +77,7 @@ private:
         Uint32 from = m_at;
         const Uint32 part = std::min(count, m_samples.size - from);
         std::memcpy(out, m_samples.bytes + from, part);
-        std::memset(out + part, m_samples.spec.silence, count - part);
+        std::memset(out + part, m_samples.form.silence, count - part);
         m_at.compare_exchange_strong(from, from + part); // unless it was rewound meanwhile
     }
 
