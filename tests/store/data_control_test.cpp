@@ -87,10 +87,11 @@ TEST_F(DataControl, BorrowedComesBackAsItWas) {
     addIncome(u"2024-5-3"_s, u"工资"_s, 100);
     addIncome(u"2024-5-4"_s, u"奖金"_s, 200);
     control.open(u"srb"_s).moveNext();
-    Adodc::Loan loan = control.borrow();
-    EXPECT_FALSE(control.hasRecordset());
-    control.open(u"yhb"_s);
-    control.giveBack(std::move(loan));
+    {
+        const Adodc::Loan loan = control.borrow();
+        EXPECT_FALSE(control.hasRecordset());
+        control.open(u"yhb"_s);
+    }
     EXPECT_EQ(control.recordSource(), u"srb"_s);
     EXPECT_EQ(control.recordset().field(u"项目").text(), u"奖金"_s);
     control.recordset().deleteCurrent();
@@ -98,9 +99,10 @@ TEST_F(DataControl, BorrowedComesBackAsItWas) {
 }
 
 TEST_F(DataControl, BorrowedBeforeAnyRefreshComesBackEmpty) {
-    Adodc::Loan loan = control.borrow();
-    control.open(u"yhb"_s);
-    control.giveBack(std::move(loan));
+    {
+        const Adodc::Loan loan = control.borrow();
+        control.open(u"yhb"_s);
+    }
     EXPECT_FALSE(control.hasRecordset());
     EXPECT_EQ(control.recordSource(), QString());
 }
