@@ -107,5 +107,17 @@ TEST_F(DataControl, BorrowedBeforeAnyRefreshComesBackEmpty) {
     EXPECT_EQ(control.recordSource(), QString());
 }
 
+TEST_F(DataControl, BorrowedComesBackWhenTheBorrowerFails) {
+    control.open(u"yhb"_s);
+    EXPECT_THROW(
+        {
+            const Adodc::Loan loan = control.borrow();
+            control.open(u"no such table"_s);
+        },
+        RuntimeError);
+    EXPECT_EQ(control.recordSource(), u"yhb"_s);
+    EXPECT_EQ(control.recordset().recordCount(), 0);
+}
+
 } // namespace
 } // namespace qinghe
