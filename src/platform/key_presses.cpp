@@ -18,7 +18,7 @@ int codeOf(const QKeyEvent& event) {
     }
     const QString text = event.text();
     const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    if (text.isEmpty() || command || !text.front().isPrint())
+    if (text.isEmpty() || command || !QChar::isPrint(text.toUcs4().front())) // an emoji is two units of the text
         return None;
     return text.front().unicode();
 }

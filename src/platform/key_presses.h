@@ -10,8 +10,8 @@ namespace qinghe::key_presses {
 
 inline constexpr int None = -1, Backspace = 8, Enter = 13, Escape = 27;
 
-/// The code of a key: a character's own, 13 for Enter, 8 for Backspace, 27 for Esc. Keys that enter nothing (arrows,
-/// Delete, Ctrl with a letter) have none.
+/// The code of a key: a character's own (of two units the first), 13 for Enter, 8 for Backspace, 27 for Esc. Keys that
+/// enter nothing (arrows, Delete, Ctrl with a letter) have none.
 int codeOf(const QKeyEvent& event);
 
 /// The characters of a text as a person counts them: an emoji is one, and so is a line break of CR LF.

@@ -56,7 +56,23 @@ TEST_F(ScheduleTyping, CharactersOfAnInputMethodAreCountedOneByOne) {
     EXPECT_EQ(counter(), u"3当前字数"_s);
     text().setBoxText(u"字"_s.repeated(48));
     putCursorAtEnd();
-    commit(u"甲乙丙"_s);
+    commit(u"甲乙丙"_s); // the second of them is the fiftieth
+    EXPECT_EQ(rig.messages->shown, std::vector<ShownMessage>{TooLong});
+    EXPECT_EQ(text().Text(), u"乙丙"_s);
+    EXPECT_EQ(counter(), u"2当前字数"_s);
+}
+
+TEST_F(ScheduleTyping, AnEmojiIsAFiftiethCharacterTooHoweverItIsTyped) {
+    text().setBoxText(u"😀"_s.repeated(49));
+    putCursorAtEnd();
+    commit(u"👍"_s);
+    expectWiped(u"👍"_s);
+    rig.messages->shown.clear();
+    text().setBoxText(u"😀"_s.repeated(49));
+    putCursorAtEnd();
+    QKeyEvent key(QEvent::KeyPress, 0, {}, u"👍"_s);
+    QCoreApplication::sendEvent(&text(), &key);
+    expectWiped(u"👍"_s);
 }
 
 TEST_F(ScheduleTyping, WordsThatAreStillComposedAreNotCounted) {

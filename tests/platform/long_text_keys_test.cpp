@@ -42,6 +42,13 @@ TEST_F(LongTextKeys, EachCharacterOfAnInputMethodIsToldAndEntersBeforeTheNext) {
     EXPECT_EQ(box.Text(), u"买菜😀"_s);
 }
 
+TEST_F(LongTextKeys, AnEmojiOfAKeyIsOneKeyPress) {
+    QKeyEvent event(QEvent::KeyPress, 0, {}, u"😀"_s);
+    QCoreApplication::sendEvent(&box, &event);
+    EXPECT_EQ(seen.size(), 1);
+    EXPECT_EQ(box.Text(), u"😀"_s);
+}
+
 TEST_F(LongTextKeys, AHandlerThatEmptiesTheBoxLeavesTheKeyAlone) {
     box.setBoxText(u"full"_s);
     box.KeyPress = [this](int) { box.setBoxText({}); };

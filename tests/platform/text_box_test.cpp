@@ -81,6 +81,10 @@ TEST_F(TextBoxes, AnEmojiOfTwoUnitsIsOneKeyPress) {
     commit(u"😀好"_s);
     EXPECT_EQ(takeKeys().size(), 2);
     EXPECT_EQ(box.Text(), u"😀好"_s);
+    QKeyEvent event(QEvent::KeyPress, 0, {}, u"😀"_s);
+    QCoreApplication::sendEvent(&box, &event);
+    EXPECT_EQ(takeKeys().size(), 1);
+    EXPECT_EQ(box.Text(), u"😀好😀"_s);
 }
 
 TEST_F(TextBoxes, TextThatIsStillComposedIsNoKeyPressAndNoChange) {
