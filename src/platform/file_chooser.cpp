@@ -38,6 +38,7 @@ std::optional<QString> DesktopFileChooser::choose(const QString& filter, const Q
     QFileDialog dialog(windowInFront(), {}, firstFolder());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::AnyFile);
+    bringOverNotices(dialog);
     if (const QStringList filters = nameFilters(filter); !filters.isEmpty())
         dialog.setNameFilters(filters);
     if (!name.isEmpty())

@@ -1,8 +1,11 @@
 #include "platform/front_window.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPointer>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace qinghe {
 
@@ -13,6 +16,14 @@ QWidget* windowInFront() {
         last = active;
     QWidget* const front = last;
     return front && front->isVisible() ? front : nullptr;
+}
+
+void bringOverNotices(QDialog& dialog) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    if (std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+            return window->isVisible() && window->windowFlags() & Qt::WindowStaysOnTopHint;
+        }))
+        dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
 } // namespace qinghe

@@ -60,11 +60,12 @@ Answer answerOf(int button) {
     }
 }
 
-/// A box whose texts are plain text, titled with the program's name when it has no title of its own.
+/// A box over all windows, whose texts are plain text, titled with the program's name when it has no title of its own.
 void fill(QMessageBox& box, const QString& text, const QString& title) {
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     box.setWindowTitle(title.isEmpty() ? productName() : title);
+    bringOverNotices(box);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "platform/file_chooser.h"
+#include "platform/form.h"
 #include "qt_printing.h"
 
 #include <QApplication>
@@ -53,6 +54,17 @@ TEST_F(FileChooserTest, AnExistingAndANewNameServeAlikeAndNothingIsAdded) {
     EXPECT_EQ(typed(at(u"旧.dat"_s)), at(u"旧.dat"_s));
     EXPECT_EQ(typed(at(u"新"_s)), at(u"新"_s));
     EXPECT_FALSE(QFile::exists(at(u"新"_s)));
+}
+
+TEST_F(FileChooserTest, TheChooserComesOverANotice) {
+    Form notice(u"Form6"_s, Form::Kind::Notice, Ground::Dialog);
+    for (const bool stands : {false, true}) {
+        notice.setVisible(stands);
+        choose({}, {}, [stands](QFileDialog& dialog, QLineEdit&) {
+            EXPECT_EQ(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint), stands);
+            dialog.reject();
+        });
+    }
 }
 
 TEST_F(FileChooserTest, CancelGivesNothing) {

@@ -1,4 +1,5 @@
 #include "guard_fixture.h"
+#include "platform/form.h"
 #include "platform/message_boxes.h"
 
 #include <QApplication>
@@ -158,6 +159,23 @@ TEST_F(MessageBoxTest, ABoxStandsOverTheActiveWindow) {
         EXPECT_EQ(box.parentWidget(), nullptr);
         box.accept();
     });
+}
+
+TEST_F(MessageBoxTest, ABoxComesOverANoticeThatItKeepsFromBeingUsed) {
+    const auto over = [this](bool error) {
+        bool onTop = false;
+        whenShown([&](QMessageBox& box) {
+            onTop = box.windowFlags() & Qt::WindowStaysOnTopHint;
+            box.accept();
+        });
+        error ? boxes.showError(13, u"出错了"_s) : void(boxes.show(u"正文"_s, MessageStyle::Ok, {}));
+        return onTop;
+    };
+    Form notice(u"Form6"_s, Form::Kind::Notice, Ground::Dialog);
+    EXPECT_FALSE(over(false)); // other programs' windows are left alone
+    notice.showForm();
+    EXPECT_TRUE(over(false));
+    EXPECT_TRUE(over(true));
 }
 
 TEST_F(MessageBoxTest, TicksWaitWhileABoxIsOpen) {
