@@ -166,6 +166,35 @@ TEST_F(ReminderWindowTest, APlanOfManyThousandCharactersIsShown) {
     rig.loaded(u"Form6"_s)->grab();
 }
 
+TEST_F(ReminderWindowTest, ItStandsAndPlaysOnWhileTheMainWindowGoesToTheTray) {
+    rig.sql(u"update systuopanb set 最小化到托盘=1"_s);
+    pass();
+    rig.mainWindow().setWindowState(1);
+    rig.settle();
+    ASSERT_FALSE(rig.mainWindow().Visible());
+    EXPECT_TRUE(rings());
+    takeCalls();
+    pass();
+    EXPECT_EQ(takeCalls(), kept);
+    understand();
+    EXPECT_FALSE(rig.ended());
+    pass(70);
+    EXPECT_TRUE(timer2().Enabled());
+}
+
+TEST_F(ReminderWindowTest, ItComesUpWhileTheMainWindowIsInTheTray) {
+    closePopup();
+    rig.sql(u"update systuopanb set 最小化到托盘=1"_s);
+    rig.mainWindow().setWindowState(1);
+    rig.settle();
+    pass();
+    EXPECT_TRUE(rings());
+    EXPECT_FALSE(rig.mainWindow().Visible());
+    closePopup();
+    rig.settle();
+    EXPECT_FALSE(rig.ended());
+}
+
 TEST_F(ReminderWindowTest, ThePageCanBeUsedWhileItStands) {
     write(u"b"_s, u"2024-6-20"_s, u"8"_s, u"0"_s);
     rig.click(save());
