@@ -17,7 +17,7 @@ ComboBox::ComboBox(QWidget* parent, const QString& name, bool typing) : QComboBo
     }
     // Qt tells the same of a typed text that happens to stand in the list; that is no choice.
     connect(this, &QComboBox::activated, this, [this] {
-        if (m_choosing)
+        if (m_choosing || !isEditable())
             Click.fromQt();
     });
 }

@@ -8,7 +8,8 @@
 namespace qinghe {
 
 /// A list with a text of its own. Typing never inserts or completes anything and is no click; filling leaves the text
-/// as it was; a click is a choice from the list, by mouse or by arrow keys.
+/// as it was; a click is a choice from the list, by mouse or by arrow keys, or, where nothing can be typed, by any key
+/// that finds an entry.
 class ComboBox : public QComboBox, public Placed {
     Q_OBJECT
     QINGHE_CONTROL

@@ -107,6 +107,19 @@ TEST_F(ComboBoxes, TheArrowKeysChoose) {
     EXPECT_EQ(noted(), (QStringList{u"Combo1"_s, u"Combo2"_s, u"Combo2"_s}));
 }
 
+TEST_F(ComboBoxes, WhereNothingCanBeTypedEveryKeyThatFindsAnEntryChooses) {
+    chosen.addEntry(u"Anna"_s);
+    chosen.Click = [this] { note(chosen.Text()); };
+    QTest::keyClick(&chosen, 'a');
+    QTest::keyClick(&chosen, Qt::Key_Home);
+    QTest::keyClick(&chosen, Qt::Key_End);
+    EXPECT_EQ(noted(), (QStringList{u"Anna"_s, u"张三"_s, u"Anna"_s}));
+    chosen.clearEntries();
+    EXPECT_EQ(chosen.Text(), QString());
+    QTest::keyClick(&chosen, 'a');
+    EXPECT_EQ(noted(), QStringList{});
+}
+
 TEST_F(ComboBoxes, TypingAfterAClosedListIsStillNoClick) {
     typed.showPopup();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(typed.view()->window()));
