@@ -186,6 +186,9 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
     if (element == SE_LineEditContents)
         return fieldText(option->rect, widget);
+    // The hand is over the whole of a box, so all of it can be clicked.
+    if (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect)
+        return option->rect;
     if (element == SE_ItemViewItemText)
         if (const auto* grid = qobject_cast<const MSFlexGrid*>(widget))
             if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option))

@@ -107,6 +107,16 @@ TEST_F(SettingsPageTest, TheHandIsOverEveryBoxAndOption) {
     }
 }
 
+TEST_F(SettingsPageTest, ABoxAndAnOptionAreClickedWhereverTheHandIsOverThem) {
+    const auto clickRightEnd = [](QWidget& control) {
+        QTest::mouseClick(&control, Qt::LeftButton, {}, control.rect().bottomRight());
+    };
+    clickRightEnd(box(u"Check7"_s));
+    EXPECT_TRUE(box(u"Check7"_s).Value());
+    clickRightEnd(rig.onMain<OptionButton>(u"Option14"_s));
+    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option14"_s).Value());
+}
+
 TEST_F(SettingsPageTest, EachButtonIsGreyUnderThePointerAndAllAreWhiteBesideThem) {
     const std::array buttons{&rig.onMain<CommandButton>(u"Command30"_s), &categories(),
                              &rig.onMain<CommandButton>(u"Command32"_s)};

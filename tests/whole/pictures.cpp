@@ -1,5 +1,7 @@
 #include "household.h"
 
+#include <QImage>
+
 #include <gtest/gtest.h>
 
 using namespace whole;
@@ -17,6 +19,12 @@ void openWindow(Program& program, const std::string& entry, const std::string& w
     program.click("Form2/Command32");
     program.pick(entry);
     program.waitForKeyboard(window);
+}
+
+/// The bare ground of the main window below its page, which shows nothing but the skin.
+QImage ground(Program& program, const LedgerFolder& folder) {
+    program.picture(folder.beside("window.png").toStdString(), "Form2");
+    return QImage(folder.beside("window.png")).copy(100, 524, 600, 12);
 }
 
 } // namespace
@@ -45,6 +53,69 @@ TEST(Pictures, ASkinIsAddedToThoseOnOffer) {
     endByCross(program);
     EXPECT_EQ(folder.rows("select 名称,大小,hex(皮肤) from 软件皮肤 where rowid > " + before),
               std::vector<std::string>{"春天|70|" + smallBitmap().toHex().toUpper().toStdString() + "00"});
+}
+
+TEST(Pictures, ASkinOfOnesOwnIsChosenKeptAndSeenAtTheNextStart) {
+    const LedgerFolder folder;
+    folder.write("春天.bmp", smallBitmap());
+    QImage chosen;
+    {
+        Program program(folder);
+        signIn(program);
+        openWindow(program, "添加记账本皮肤", "Form8");
+        program.clearAndType("Form8/Text1", folder.file("春天.bmp").toStdString());
+        program.clearAndType("Form8/Text2", "春天");
+        program.click("Form8/Command2");
+        answer(program, "添加成功！是否继续添加？", "否");
+        program.close("Form8");
+        program.waitForKeyboard("Form2");
+
+        const QImage delivered = ground(program, folder);
+        EXPECT_FALSE(program.shows("Form2/Combo2"));
+        program.click("Form2/Check10");
+        EXPECT_FALSE(program.shows("Form2/Command30"));
+        program.click("Form2/Combo2");
+        program.pick("春天");
+        program.waitUntil([&] { return program.shows("Form2/Command30"); }, "the button that keeps the skin");
+        chosen = ground(program, folder);
+        EXPECT_NE(chosen, delivered);
+        EXPECT_TRUE(folder.bytes("pf.jpg").startsWith(smallBitmap()));
+        program.click("Form2/Command30");
+        EXPECT_EQ(program.message(), (Message{"设置已保存", "提示", Message::Information, {"确定"}}));
+        program.answer("确定");
+        EXPECT_FALSE(program.shows("Form2/Combo2"));
+        EXPECT_FALSE(program.get("Form2/Check10", "checked").toBool());
+        endByCross(program);
+    }
+    EXPECT_FALSE(folder.has("pf.jpg"));
+    EXPECT_EQ(folder.rows("select 皮肤名,文件大小 from 皮肤选择"), std::vector<std::string>{"|70"});
+
+    Program program(folder);
+    signIn(program);
+    EXPECT_EQ(folder.bytes("pf.jpg"), smallBitmap());
+    EXPECT_EQ(ground(program, folder), chosen);
+    endByCross(program);
+}
+
+TEST(Pictures, ASkinThatWasOnlyTriedIsGoneAtTheNextStart) {
+    const LedgerFolder folder;
+    QImage delivered;
+    {
+        Program program(folder);
+        signIn(program);
+        delivered = ground(program, folder);
+        program.click("Form2/Label7");
+        program.click("Form2/Check10");
+        program.click("Form2/Combo2");
+        program.pick("水墨远山");
+        program.waitUntil([&] { return ground(program, folder) != delivered; }, "the skin");
+        program.kill();
+    }
+    EXPECT_TRUE(folder.has("pf.jpg"));
+    Program program(folder);
+    signIn(program);
+    EXPECT_EQ(ground(program, folder), delivered);
+    endByCross(program);
 }
 
 TEST(Pictures, ANewPictureOfTheSignInIsSeenAtTheNextStart) {
