@@ -171,6 +171,16 @@ TEST_F(ReminderWatch, APlanSavedForTodayStartsTheWatchAgainOneKeptByTheOtherButt
     EXPECT_TRUE(rings());
 }
 
+TEST_F(ReminderWatch, TheFirstTickConnectsTheTableItself) {
+    plant(u"2024-06-18"_s, u"20 36"_s, u"a"_s);
+    Adodc& control = *rig.mainWindow().Adodc1;
+    control.setConnectionString({});
+    watch();
+    pass();
+    EXPECT_TRUE(rings());
+    EXPECT_EQ(control.connectionString(), rig.program->bench().connection());
+}
+
 TEST_F(ReminderWatch, APlanSavedAMomentAgoCountsAtTheNextTick) {
     plant(u"2024-06-18"_s, u"1 0"_s, u"a"_s);
     watch();

@@ -1,5 +1,8 @@
 #include "reminder_rig.h"
 
+#include <QApplication>
+#include <QScreen>
+
 namespace qinghe::testing {
 namespace {
 
@@ -32,6 +35,16 @@ TEST_F(ReminderWindowTest, ItLeavesTheKeyboardWhereItIs) {
     const Form& popup = *rig.loaded(u"Form6"_s);
     EXPECT_TRUE(popup.testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_TRUE(popup.windowFlags() & Qt::WindowStaysOnTopHint);
+    EXPECT_EQ(QApplication::activeWindow(), &rig.mainWindow());
+}
+
+TEST_F(ReminderWindowTest, ItComesUpInTheMiddleOfTheScreenAndCannotBeMinimised) {
+    const Form& popup = *rig.loaded(u"Form6"_s);
+    const QRectF screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_NEAR(popup.geometry().center().x(), screen.center().x(), 1);
+    EXPECT_NEAR(popup.geometry().center().y(), screen.center().y(), 1);
+    // Out of sight it would keep every later plan from ringing.
+    EXPECT_FALSE(popup.windowFlags() & Qt::WindowMinimizeButtonHint);
 }
 
 TEST_F(ReminderWindowTest, ItOpensThePieceOnceAndKeepsItPlaying) {

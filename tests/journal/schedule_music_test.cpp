@@ -18,6 +18,18 @@ TEST_F(ScheduleMusic, APieceThatIsChosenIsPlayed) {
     EXPECT_EQ(rig.mainWindow().MM1->FileName(), rig.file(u"音乐2.wav"_s));
 }
 
+TEST_F(ScheduleMusic, ThePieceThatPlaysBeginsAgainWhenItIsChosenAgain) {
+    rig.press(music(), Qt::Key_Down);
+    open(); // the list now holds each piece twice
+    {
+        const QSignalBlocker quiet(&music());
+        music().setCurrentIndex(4);
+    }
+    takeCalls();
+    rig.press(music(), Qt::Key_Down);
+    EXPECT_EQ(takeCalls(), (QStringList{u"close"_s, u"open 音乐1.wav"_s, u"play"_s}));
+}
+
 TEST_F(ScheduleMusic, ChoosingClosesTheDatePicker) {
     rig.click(date());
     rig.press(music(), Qt::Key_Down);

@@ -32,6 +32,13 @@ TEST_F(SchedulePageTest, ItsLabelBringsThePageForward) {
     EXPECT_FALSE(rig.mainWindow().Adodc1->isVisible());
 }
 
+TEST_F(SchedulePageTest, OpeningConnectsItsTable) {
+    Adodc& control = *rig.mainWindow().Adodc1;
+    control.setConnectionString({});
+    open();
+    EXPECT_EQ(control.connectionString(), rig.program->bench().connection());
+}
+
 TEST_F(SchedulePageTest, OpeningUnloadsTheTools) {
     rig.click(date());
     ASSERT_TRUE(rig.loaded(u"Form1"_s));
@@ -97,6 +104,11 @@ TEST_F(SchedulePageTest, TheDatePickerHangsBelowTheDateAndFillsIt) {
     EXPECT_EQ(rig.program->bench().dateTarget, 6);
     rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(10)"_s)); // June 2024 begins on a Saturday
     EXPECT_EQ(date().Text(), u"2024-6-5"_s);
+}
+
+TEST_F(SchedulePageTest, OverTheBoxOfTheRemindersThePointerIsAHand) {
+    rig.hover(*rig.mainWindow().Check1);
+    EXPECT_EQ(rig.mainWindow().Check1->cursor().shape(), Qt::PointingHandCursor);
 }
 
 TEST_F(SchedulePageTest, TheButtonsUnderThePointerAreGreyUntilItIsOnTheirFrame) {

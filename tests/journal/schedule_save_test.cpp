@@ -6,6 +6,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const ShownMessage Ask{u"是否保存当前安排"_s, 36, u"提醒"_s};
+const ShownMessage WriteAtTheLeft{u"当前您可以在左侧添加新的日程安排！"_s, 64, u"操作提示"_s};
 const ShownMessage Kept{u"当前记录以保存！"_s, 64, u"提示"_s};
 
 class ScheduleSaving : public ScheduleTest {
@@ -40,6 +41,7 @@ TEST_F(ScheduleSaving, OnlyTheSaveButtonStartsTheWatchAndWritesTheSetting) {
     add(Answer::Yes);
     EXPECT_FALSE(timer2().Enabled());
     EXPECT_EQ(rig.sql(u"select * from txb"_s), QStringList{u"0"_s});
+    timer2().setInterval(5);
     rig.click(fresh());
     write(u"b"_s, u"2024-6-20"_s);
     rig.click(save());
@@ -86,12 +88,15 @@ TEST_F(ScheduleSaving, AnswerNoEmptiesTheTextAndKeepsTheRest) {
     EXPECT_EQ(counter(), u"1日程安排"_s);
     EXPECT_TRUE(save().isEnabled());
     EXPECT_TRUE(plans().isEmpty());
+    // The plan is still being written: no fresh one is opened.
+    rig.click(fresh());
+    EXPECT_EQ(counter(), u"1日程安排"_s);
+    EXPECT_EQ(rig.lastMessage(), WriteAtTheLeft);
 }
 
 TEST_F(ScheduleSaving, WithAnEmptyTextTheOtherButtonOnlyTellsWhereToWrite) {
     rig.click(fresh());
-    EXPECT_EQ(rig.messages->shown,
-              (std::vector<ShownMessage>{{u"当前您可以在左侧添加新的日程安排！"_s, 64, u"操作提示"_s}}));
+    EXPECT_EQ(rig.messages->shown, std::vector<ShownMessage>{WriteAtTheLeft});
     EXPECT_EQ(counter(), u"1日程安排"_s);
 }
 
@@ -106,6 +111,9 @@ TEST_F(ScheduleSaving, AFreshPlanNeedsOneMorePressAndHasTheNextNumber) {
     EXPECT_EQ(counter(), u"2日程"_s);
     EXPECT_EQ(text().Text(), QString());
     EXPECT_TRUE(save().isEnabled());
+    text().setBoxText(u"b"_s);
+    add(Answer::No);
+    EXPECT_EQ(rig.lastMessage(), Ask);
 }
 
 TEST_F(ScheduleSaving, TwoPlansOfOneVisitAreNumberedAndALaterVisitBeginsAtOneAgain) {
@@ -172,7 +180,21 @@ TEST_F(ScheduleSaving, TheRowNumberCountsTheRowsOfTheTableAndThisOne) {
     EXPECT_EQ(plans(u"区别"_s).back(), u"4"_s);
 }
 
-TEST_F(ScheduleSaving, SavingClosesTheDatePicker) {
+TEST_F(ScheduleSaving, SavingLeavesThePlansInTheFirstControlAndTheSettingInTheSecond) {
+    rig.mainWindow().Adodc2->setConnectionString({});
+    write(u"a"_s, u"2024-6-20"_s);
+    rig.click(save());
+    EXPECT_EQ(rig.mainWindow().Adodc1->recordSource(), u"rcb"_s);
+    EXPECT_EQ(rig.mainWindow().Adodc2->recordSource(), u"select 日程提醒 from txb"_s);
+    EXPECT_EQ(rig.mainWindow().Adodc2->connectionString(), rig.program->bench().connection());
+}
+
+TEST_F(ScheduleSaving, SavingClosesTheDatePickerAlsoWhenItIsRefused) {
+    rig.click(date());
+    ASSERT_TRUE(rig.loaded(u"Form1"_s));
+    rig.click(save());
+    EXPECT_EQ(rig.lastMessage(), PlanIncomplete);
+    EXPECT_FALSE(rig.loaded(u"Form1"_s));
     rig.click(date());
     write(u"a"_s, u"2024-6-20"_s);
     rig.click(save());

@@ -45,6 +45,14 @@ TEST_F(ScheduleTyping, TheFiftiethCharacterBringsTheMessageAndIsAllThatIsLeft) {
     expectWiped(u"末"_s);
 }
 
+TEST_F(ScheduleTyping, WhileTheMessageStandsTheTextIsStillThere) {
+    text().setBoxText(u"字"_s.repeated(49));
+    QStringList during;
+    rig.messages->whileShown = [&](const ShownMessage&) { during << text().Text() << counter(); };
+    rig.type(text(), u"末"_s);
+    EXPECT_EQ(during, (QStringList{u"字"_s.repeated(49), u"50当前字数"_s}));
+}
+
 TEST_F(ScheduleTyping, ALineBreakIsAFiftiethCharacterToo) {
     text().setBoxText(u"字"_s.repeated(49));
     rig.press(text(), Qt::Key_Return);
@@ -92,6 +100,10 @@ TEST_F(ScheduleTyping, BackspaceCountsTheTextWithoutItsOuterBlanks) {
     backspace();
     EXPECT_EQ(counter(), u"1当前字数"_s);
     EXPECT_EQ(text().Text(), u"  两个 "_s);
+    text().setBoxText(u"两个\r\n"_s); // a line break is no blank
+    putCursorAtEnd();
+    backspace();
+    EXPECT_EQ(counter(), u"2当前字数"_s);
 }
 
 TEST_F(ScheduleTyping, BackspaceAtFortyNineCharactersBringsNoMessage) {

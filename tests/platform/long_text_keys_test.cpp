@@ -2,6 +2,8 @@
 #include "window_fixture.h"
 
 #include <QInputMethodEvent>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace qinghe::testing {
 namespace {
@@ -27,7 +29,8 @@ TEST_F(LongTextKeys, AKeyIsToldBeforeItEnters) {
 TEST_F(LongTextKeys, KeysThatEnterNothingAreNotTold) {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Up, Qt::Key_Delete, Qt::Key_Tab})
         QTest::keyClick(&box, key);
-    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+    for (const Qt::KeyboardModifier command : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
+        QTest::keyClick(&box, Qt::Key_A, command);
     EXPECT_EQ(seen, QStringList{});
 }
 
@@ -54,6 +57,41 @@ TEST_F(LongTextKeys, AHandlerThatEmptiesTheBoxLeavesTheKeyAlone) {
     box.KeyPress = [this](int) { box.setBoxText({}); };
     QTest::keyClicks(&box, u"x"_s);
     EXPECT_EQ(box.Text(), u"x"_s);
+}
+
+TEST_F(LongTextKeys, WhatIsStillComposedGoesWithTheLastCharacterOfACommit) {
+    const auto composed = [this] { return box.textCursor().block().layout()->preeditAreaText(); };
+    QStringList during;
+    box.KeyPress = [&](int) { during << composed(); };
+    QInputMethodEvent event(u"mai"_s, {{QInputMethodEvent::Cursor, 1, 1, {}}});
+    event.setCommitString(u"买菜"_s);
+    QCoreApplication::sendEvent(&box, &event);
+    EXPECT_EQ(during, (QStringList{QString(), QString()}));
+    EXPECT_EQ(composed(), u"mai"_s);
+    EXPECT_EQ(box.Text(), u"买菜"_s);
+}
+
+TEST_F(LongTextKeys, APlaceThatACommitSelectsIsSelectedAfterItsLastCharacter) {
+    QInputMethodEvent event({}, {{QInputMethodEvent::Selection, 0, 1, {}}});
+    event.setCommitString(u"买菜"_s);
+    QCoreApplication::sendEvent(&box, &event);
+    EXPECT_EQ(box.Text(), u"买菜"_s);
+    EXPECT_EQ(box.textCursor().selectedText(), u"买"_s);
+}
+
+TEST_F(LongTextKeys, TabLeavesTheBoxAndEntersNothing) {
+    auto& next = put<TextBox>(form, u"Text4"_s, {300, 3600, 3000, 375});
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_Tab);
+    EXPECT_EQ(box.Text(), QString());
+    EXPECT_TRUE(next.hasFocus());
+}
+
+TEST_F(LongTextKeys, ALineBrokenWithShiftIsALineToo) {
+    QTest::keyClicks(&box, u"a"_s);
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(&box, u"b"_s);
+    EXPECT_EQ(box.Text(), u"a\r\nb"_s);
 }
 
 TEST_F(LongTextKeys, ACommitThatReplacesWordsReplacesThemOnce) {
