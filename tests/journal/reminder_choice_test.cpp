@@ -43,6 +43,19 @@ TEST_F(ReminderChoice, ATickForWhatIsAlreadyStoredIsSilent) {
     EXPECT_EQ(stored(), QStringList{u"1"_s});
 }
 
+TEST_F(ReminderChoice, OfSeveralRowsTheFirstTellsWhatIsStored) {
+    rig.sql(u"delete from txb; insert into txb values(1),(0)"_s);
+    onSettings().setValue(true);
+    EXPECT_TRUE(rig.messages->shown.empty());
+    EXPECT_EQ(stored(), (QStringList{u"1"_s, u"0"_s}));
+}
+
+TEST_F(ReminderChoice, TheClickConnectsItsTableItself) {
+    rig.mainWindow().Adodc1->setConnectionString({});
+    rig.click(onSchedule());
+    EXPECT_EQ(stored(), QStringList{u"1"_s});
+}
+
 TEST_F(ReminderChoice, UntickingRewritesAndSaysSoEvenWhenNoIsStored) {
     onSettings().setValue(true);
     rig.sql(u"update txb set 日程提醒=0"_s);

@@ -119,6 +119,7 @@ TEST_F(ReminderWatch, ThePauseBeginsAtOnceAndLastsSeventyTicks) {
     watch();
     pass();
     ASSERT_TRUE(rings());
+    timer3().setInterval(5);
     understand();
     EXPECT_FALSE(rig.loaded(u"Form6"_s));
     EXPECT_FALSE(timer2().Enabled());

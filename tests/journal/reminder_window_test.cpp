@@ -45,6 +45,15 @@ TEST_F(ReminderWindowTest, ItComesUpInTheMiddleOfTheScreenAndCannotBeMinimised) 
     EXPECT_NEAR(popup.geometry().center().y(), screen.center().y(), 1);
     // Out of sight it would keep every later plan from ringing.
     EXPECT_FALSE(popup.windowFlags() & Qt::WindowMinimizeButtonHint);
+    EXPECT_FALSE(popup.parentWidget()); // it would be hidden with the main window
+}
+
+TEST_F(ReminderWindowTest, OverItsButtonsThePointerIsAHand) {
+    for (const QString& name : {u"Command1"_s, u"Command2"_s}) {
+        auto& button = rig.control<CommandButton>(u"Form6"_s, name);
+        rig.hover(button);
+        EXPECT_EQ(button.cursor().shape(), Qt::PointingHandCursor);
+    }
 }
 
 TEST_F(ReminderWindowTest, ItOpensThePieceOnceAndKeepsItPlaying) {

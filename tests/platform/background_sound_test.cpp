@@ -15,8 +15,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A wav file of 16-bit samples of one channel, a rising ramp that a recording is compared with.
-QByteArray wav(int samples, int rate = 8000) {
+/// A wav file of 16-bit samples, a rising ramp that a recording is compared with.
+QByteArray wav(int samples, int rate = 8000, quint16 channels = 1) {
     QByteArray bytes;
     const auto number = [&](auto value) {
         value = qToLittleEndian(value);
@@ -27,10 +27,10 @@ QByteArray wav(int samples, int rate = 8000) {
     bytes += "WAVEfmt ";
     number(quint32{16});
     number(quint16{1});
-    number(quint16{1});
+    number(channels);
     number(static_cast<quint32>(rate));
-    number(static_cast<quint32>(2 * rate));
-    number(quint16{2});
+    number(static_cast<quint32>(2 * channels * rate));
+    number(static_cast<quint16>(2 * channels));
     number(quint16{16});
     bytes += "data";
     number(static_cast<quint32>(2 * samples));
@@ -84,6 +84,28 @@ TEST_F(BackgroundSoundTest, APieceIsHeardWholeAndItsEndIsItsLength) {
     EXPECT_TRUE(reaches(*sound, 250));
     EXPECT_EQ(sound->position(), sound->length());
     EXPECT_TRUE(QTest::qWaitFor([&] { return heard().contains(file.mid(44)); }, 5000));
+}
+
+TEST_F(BackgroundSoundTest, BehindItsEndThereIsSilence) {
+    const QByteArray ramp = wav(2000).mid(44);
+    const auto sound = device->open(written(u"a.wav"_s, wav(2000)));
+    sound->play();
+    const qsizetype more = 1000; // bytes
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            const QByteArray bytes = heard();
+            return bytes.contains(ramp) && bytes.size() >= bytes.indexOf(ramp) + ramp.size() + more;
+        },
+        5000));
+    const QByteArray bytes = heard();
+    ASSERT_GE(bytes.indexOf(ramp), 0);
+    EXPECT_EQ(bytes.mid(bytes.indexOf(ramp) + ramp.size(), more), QByteArray(more, '\0'));
+}
+
+TEST_F(BackgroundSoundTest, APieceOfTwoChannelsIsAsLongAsEachOfThem) {
+    const auto sound = device->open(written(u"a.wav"_s, wav(4000, 8000, 2)));
+    ASSERT_TRUE(known(*sound));
+    EXPECT_EQ(sound->length(), 250);
 }
 
 TEST_F(BackgroundSoundTest, UntilItIsPlayedAPieceStandsAtItsBeginning) {
