@@ -40,11 +40,12 @@ void SettingsPage::placeBoxes() {
     for (CheckBox* box : {window.Check7, window.Check8})
         box->setShown(true);
     auto* line = new Label(Frame20, {});
-    line->place(240, 3060, 5040, 30);
+    line->place(360, 3060, 4800, 30);
     line->setRole(Role::Hairline);
     Command31->place(360, 3450, 1920, 390);
     Command31->setGlyph(Glyph::List);
     Command32->place(2400, 3450, 1560, 390);
+    Command32->setGlyph(Glyph::Tools);
 }
 
 void SettingsPage::makePictureMenu() {
