@@ -69,15 +69,6 @@ TEST_F(TrayIcon, TheRecordIsThatOfThePlatform) {
     EXPECT_EQ(data.szTip.mid(15), QByteArray(49, ' '));
 }
 
-TEST_F(TrayIcon, MinimisingLeavesTheTableThatAPageLoadedInHand) {
-    rig.signIn();
-    Adodc& control = *main().Adodc1;
-    handlers::enter([&] { control.open(u"yhb"_s); });
-    minimise();
-    EXPECT_EQ(control.recordSource(), u"yhb"_s);
-    EXPECT_EQ(control.recordset().field(0).text(), u"管理员"_s);
-}
-
 TEST_F(TrayIcon, MinimisingHidesTheWindowWhenTheSettingIsOn) {
     rig.signIn();
     want(true);

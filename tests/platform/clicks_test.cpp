@@ -133,6 +133,18 @@ TEST_F(Clicks, TheSecondPressOfADoubleClickBegunOnAnotherControlIsNobodys) {
     EXPECT_FALSE(noted().contains(u"double"_s));
 }
 
+TEST_F(Clicks, TheSecondPressOfADoubleClickBegunElsewhereSelectsNothingInATextBox) {
+    auto& box = put<TextBox>(form, u"tx2"_s, {0, 0, 1500, 600});
+    box.setBoxText(u"100"_s);
+    box.setShown(false);
+    put<Label>(form, u"Label9"_s, {0, 0, 1500, 600}).Click = [&box] { box.setShown(true), box.raise(); };
+    pointer::doubleClick(form, box.geometry().center());
+    ASSERT_TRUE(box.isVisible());
+    EXPECT_EQ(box.selectedText(), QString());
+    pointer::doubleClick(box);
+    EXPECT_EQ(box.selectedText(), u"100"_s);
+}
+
 TEST_F(Clicks, TheSecondPressOfADoubleClickOnAFrameIsNoSecondClick) {
     pointer::doubleClick(frame);
     EXPECT_EQ(noted(), QStringList{u"Frame2"_s});
