@@ -21,7 +21,6 @@ SkinChoice::SkinChoice(MainWindow& form, Frame& place)
     Command30->place(3480, 2280, 1080, 390);
     Command30->setRole(Role::Primary);
     Command30->setGlyph(Glyph::Accept);
-    hide();
     showHandOver(Check10);
     Check10->Click = [this] { Form2_Check10_Click(); };
     Combo2->Click = [this] { Form2_Combo2_Click(); };
@@ -31,6 +30,7 @@ SkinChoice::SkinChoice(MainWindow& form, Frame& place)
 void SkinChoice::hide() {
     Combo2->setShown(false);
     Command30->setShown(false);
+    unmarkHovered({Command30}); // the pointer may be elsewhere when it comes back
 }
 
 void SkinChoice::listSkins() {

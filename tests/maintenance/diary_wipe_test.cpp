@@ -55,6 +55,13 @@ TEST_F(DiaryWipe, AsksAndDeletesEveryEntryAndEveryTextFile) {
     EXPECT_TRUE(wipe().Value());
 }
 
+TEST_F(DiaryWipe, PointsTheDataControlAtTheDataFile) {
+    pointElsewhere();
+    tick(wipe());
+    EXPECT_EQ(rig.lastMessage(), Done);
+    EXPECT_TRUE(rows().isEmpty());
+}
+
 TEST_F(DiaryWipe, CancelUnticksTheBoxAndDeletesNothing) {
     rig.messages->answers = {Answer::Cancel};
     tick(wipe());

@@ -112,10 +112,13 @@ TEST_F(InitialiseTest, NothingIsGoneWhileItAsksAndAllIsWhenItSaysSo) {
     EXPECT_EQ(rig.messages->shown.size(), 2u);
 }
 
-TEST_F(InitialiseTest, HidesTheDataControl) {
+TEST_F(InitialiseTest, HidesTheDataControlAndPointsItAtTheDataFile) {
+    pointElsewhere();
     rig.mainWindow().Adodc1->setVisible(true);
     tick(initialise());
     EXPECT_FALSE(rig.mainWindow().Adodc1->isVisible());
+    EXPECT_EQ(rig.lastMessage(), Done);
+    EXPECT_EQ(counts(Emptied), times(u"0"_s, 10));
 }
 
 TEST_F(InitialiseTest, KeepsTheDiarysFilesWhoseTitlesAreFreeForNewEntriesThatReplaceThem) {

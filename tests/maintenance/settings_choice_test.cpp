@@ -26,6 +26,12 @@ TEST_F(SettingsChoice, TickingTheTrayStoresYesAndUntickingNo) {
     EXPECT_EQ(rig.sql(u"select * from txb"_s), QStringList{u"0"_s});
 }
 
+TEST_F(SettingsChoice, TheBoxPointsTheDataControlAtTheDataFile) {
+    pointElsewhere();
+    tick(tray());
+    EXPECT_EQ(stored(), QStringList{u"1"_s});
+}
+
 TEST_F(SettingsChoice, TheChoiceOfTheTrayIsOnTheDiskWhenItIsTold) {
     QStringList then;
     rig.messages->whileShown = [&](const ShownMessage&) { then = stored(); };

@@ -29,6 +29,8 @@ protected:
         rig.settle();
     }
 
+    /// Every handler points the shared data control at the data file itself.
+    void pointElsewhere() { rig.mainWindow().Adodc1->setConnectionString(QStringLiteral("Data Source=none.dll")); }
     CheckBox& box(const QString& name) { return rig.onMain<CheckBox>(name); }
     /// As a user does, beside the caption.
     static void tick(CheckBox& box) { QTest::mouseClick(&box, Qt::LeftButton, {}, {8, box.height() / 2}); }

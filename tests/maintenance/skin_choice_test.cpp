@@ -146,6 +146,26 @@ TEST_F(SkinChoiceTest, AChoiceIsAPreviewAndStoresNothing) {
     EXPECT_TRUE(rig.messages->shown.empty());
 }
 
+TEST_F(SkinChoiceTest, BoxAndListPointTheDataControlAtTheDataFile) {
+    offerThree();
+    pointElsewhere();
+    tick(change());
+    pointElsewhere();
+    choose(u"夏"_s);
+    EXPECT_TRUE(rig.messages->errors.empty());
+    expectShown(Qt::blue);
+}
+
+TEST_F(SkinChoiceTest, TheButtonIsWhiteWhenItComesBack) {
+    offerThree();
+    openAndChoose(u"夏"_s);
+    rig.hover(keep());
+    rig.click(keep());
+    openAndChoose(u"春"_s);
+    EXPECT_TRUE(keep().isVisible());
+    EXPECT_EQ(keep().BackColor(), 0xFFFFFFu);
+}
+
 TEST_F(SkinChoiceTest, AMouseChoosesFromTheOpenListToo) {
     offerThree();
     tick(change());
