@@ -1,10 +1,12 @@
 #include "household.h"
 
 #include <algorithm>
+#include <chrono>
 #include <gtest/gtest.h>
 #include <memory>
 
 using namespace whole;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -52,10 +54,11 @@ TEST_F(Reminder, APlanOfTheNextMinuteRingsWithItsMusicAndIsQuietForThePause) {
     EXPECT_TRUE(program->hasLoaded("libSDL2"));
     program->click("Form6/Command1");
     EXPECT_FALSE(rings());
-    for (int second = 0; second < 68; ++second) {
+    const auto answered = std::chrono::steady_clock::now();
+    while (std::chrono::steady_clock::now() - answered < 64s) {
         program->wait(1000);
-        ASSERT_FALSE(rings()) << "in second " << second;
-        ASSERT_FALSE(enabled("Timer2")) << "in second " << second;
+        ASSERT_FALSE(rings());
+        ASSERT_FALSE(enabled("Timer2"));
     }
     program->waitUntil([this] { return enabled("Timer2"); }, "the pause ends");
     EXPECT_FALSE(enabled("Timer3"));
