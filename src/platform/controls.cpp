@@ -11,7 +11,7 @@ namespace qinghe {
 
 namespace {
 
-constexpr int ShortestPaintMs = 1000 / 60;
+constexpr int ShortestPaintMs = 17; ///< no more than 60 times a second
 
 /// What every control is set up with.
 void introduce(QWidget* control, const QString& name) {
