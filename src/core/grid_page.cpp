@@ -2,6 +2,7 @@
 
 #include "core/hover.h"
 #include "core/lists.h"
+#include "platform/key_presses.h"
 
 #include <algorithm>
 
@@ -11,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Enter = 13, Escape = 27;
+using key_presses::Enter, key_presses::Escape;
 
 CommandButton* button(Frame& frame, const char16_t* name, const QString& caption, double left, Glyph glyph) {
     auto* made = new CommandButton(&frame, QString::fromUtf16(name), caption);

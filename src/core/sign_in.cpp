@@ -3,6 +3,7 @@
 #include "core/hover.h"
 #include "core/stored_picture.h"
 #include "platform/files.h"
+#include "platform/key_presses.h"
 #include "store/header_toggle.h"
 
 #include <QPainterPath>
@@ -64,7 +65,7 @@ void SignIn::bindEvents() {
     Image2->Click = [this] { Form5_Image2_Click(); };
     // Enter in the password signs in, as every such window lets it.
     Text2->KeyPress = [this](int key) {
-        if (key == 13)
+        if (key == key_presses::Enter)
             Form5_Label1_Click();
     };
     Label1->MouseMove = [this] {

@@ -3,6 +3,7 @@
 #include "core/hover.h"
 #include "core/lists.h"
 #include "journal/diary_files.h"
+#include "platform/key_presses.h"
 
 namespace qinghe {
 
@@ -14,7 +15,7 @@ constexpr int PageCode = 8;
 constexpr int DateColumn = 1, TitleColumn = 2;
 constexpr int DateTarget = 5;
 constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
-constexpr int Enter = 13, Escape = 27;
+using key_presses::Enter, key_presses::Escape;
 
 CommandButton* button(Frame& frame, const QString& name, const QString& caption, double left, double width,
                       Glyph glyph) {

@@ -2,6 +2,7 @@
 
 #include "core/hover.h"
 #include "core/lists.h"
+#include "platform/key_presses.h"
 
 #include <QScrollBar>
 
@@ -11,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Enter = 13, Escape = 27;
+using key_presses::Enter, key_presses::Escape;
 constexpr double Margin = 120, GridHeight = 4215; // twips
 constexpr double ButtonWidth = 1080, ButtonPitch = 1200, ButtonTop = 4695;
 
