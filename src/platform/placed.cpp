@@ -46,20 +46,35 @@ void Placed::setBackColor(quint32 bgr) {
 
 void Placed::setShown(bool shown) {
     m_shown = shown;
-    if (!shown)
-        leaveFocus();
-    m_widget->setVisible(shown);
+    applyVisibility();
+}
+
+void Placed::setCovered(bool covered) {
+    m_covered = covered;
+    applyVisibility();
+}
+
+void Placed::applyVisibility() {
+    const bool inView = m_shown && !m_covered;
+    if (!inView)
+        giveUpKeyboard();
+    m_widget->setVisible(inView);
 }
 
 void Placed::setUsable(bool usable) {
     if (!usable)
-        leaveFocus();
+        giveUpKeyboard();
     m_widget->setEnabled(usable);
 }
 
-void Placed::leaveFocus() {
-    if (m_refuge && m_widget->hasFocus())
-        m_refuge->setFocus(Qt::OtherFocusReason);
+void Placed::giveUpKeyboard() {
+    // Asked of the window, which remembers who had the keyboard while another window has it.
+    QWidget* const window = m_widget->window();
+    QWidget* const holder = window->focusWidget();
+    if (m_widget == window || !holder || (holder != m_widget && !m_widget->isAncestorOf(holder)))
+        return;
+    const bool toRefuge = holder == m_widget && m_refuge && m_refuge->isVisible() && m_refuge->isEnabled();
+    (toRefuge ? m_refuge.data() : window)->setFocus(Qt::OtherFocusReason);
 }
 
 void Placed::setHandCursor() {

@@ -37,13 +37,18 @@ public:
     quint32 BackColor() const { return m_back; }
     void setBackColor(quint32 bgr);
 
-    /// The control's own visibility, which stays as it is while its container is hidden.
+    /// The control's own visibility, which stays as it is while its container is hidden, or while it is covered.
     bool Visible() const { return m_shown; }
     void setShown(bool shown);
+    /// A covered control is out of view, whatever its own visibility says, which it keeps.
+    void setCovered(bool covered);
 
-    /// Disabling or hiding moves the focus to the refuge first, where there is one: the next button must not get it.
+    /// What is hidden, covered or disabled has no keyboard: it goes to the refuge, where there is one that can take it,
+    /// else to the window, and never on to the next control, which the next key would press.
     void setUsable(bool usable);
     void setFocusRefuge(QWidget* refuge) { m_refuge = refuge; }
+    /// Takes the keyboard from this control, or from one inside it.
+    void giveUpKeyboard();
 
     /// Shows the hand while the pointer is over this control.
     void setHandCursor();
@@ -70,7 +75,7 @@ protected:
     void adoptPlace(double left, double top) { m_left = left, m_top = top; }
 
 private:
-    void leaveFocus();
+    void applyVisibility();
 
     static inline const Placed* s_pressed = nullptr;
 
@@ -79,6 +84,7 @@ private:
     double m_left = 0, m_top = 0, m_width = 0, m_height = 0;
     quint32 m_fore = 0, m_back = 0xFFFFFF;
     bool m_shown = true;
+    bool m_covered = false;
     Role m_role = Role::Plain;
     Glyph m_glyph = Glyph::None;
 };
