@@ -9,7 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int ChartPage = 12;
+constexpr int PageCode = 12;
+constexpr PageTab Tabs[] = {{u"Label12", u"  图表", 6480, PageCode}};
+constexpr PageTraits Charts{u"Frame15", u"图表分析", 120, 1680, 11655, 6225, Tabs};
+
 constexpr int MonthLength = 7; ///< characters of a date's text that make its month
 constexpr int Income = 1, Expense = 2;
 constexpr double PickerGap = 20; ///< twips between a date box and the picker under it
@@ -36,12 +39,12 @@ struct ChartsPage::MonthChart {
 };
 
 ChartsPage::ChartsPage(MainWindow& form)
-    : QObject(&form),
+    : Page(form.navigation(), Charts),
       window(form),
       bench(form.bench()),
       Adodc1(*form.Adodc1),
       Adodc2(*form.Adodc2),
-      Frame15(form.navigation().frame(u"Frame15"_s)),
+      Frame15(frame()),
       Frame11(new Frame(&Frame15, u"Frame11"_s)),
       Option10(new OptionButton(Frame11, u"Option10"_s, u"账户对比分析"_s)),
       Option11(new OptionButton(Frame11, u"Option11"_s, u"年度收入统计"_s)),
@@ -54,14 +57,12 @@ ChartsPage::ChartsPage(MainWindow& form)
       Command25(new CommandButton(Frame1, u"Command25"_s, u"查询"_s)),
       Frame12(new Frame(&Frame15, u"Frame12"_s)),
       MSC1(new MSChart(Frame12, u"MSC1"_s)) {
-    const Page& page = Navigation::page(ChartPage);
-    Frame15.place(page.left, page.top, page.width, page.height);
+    Frame15.place(Charts.left, Charts.top, Charts.width, Charts.height);
     makeOptions();
     makeQueryRow();
     Frame12->place(360, 1440, 11055, 4695);
     Frame12->setRole(Role::InnerFrame);
     MSC1->place(120, 240, 10815, 4335);
-    window.navigation().onOpen(ChartPage, [this] { Form2_Label12_Click(); });
 }
 
 void ChartsPage::makeOptions() {
@@ -103,10 +104,10 @@ void ChartsPage::makeQueryRow() {
 }
 
 void ChartsPage::Form2_Label12_Click() {
-    window.navigation().leaveOthers(ChartPage);
-    window.navigation().show(Frame15.objectName());
+    navigation().leaveOthers(*this, PageCode);
+    navigation().show(*this);
     Option10->setValue(true);
-    window.navigation().bringForward(ChartPage);
+    navigation().bringForward(*this);
 }
 
 void ChartsPage::Form2_Option10_Click() {

@@ -7,11 +7,13 @@ namespace qinghe {
 
 /// The page of the charts, `Frame15`: five summaries of the ledger in one chart, each read anew when its option is
 /// chosen. The two charts by item can be narrowed to a range of dates.
-class ChartsPage : public QObject {
+class ChartsPage : public Page {
     Q_OBJECT
 
 public:
     explicit ChartsPage(MainWindow& window);
+
+    void tabClicked(int) override { Form2_Label12_Click(); }
 
     void Form2_Label12_Click();
     void Form2_Option10_Click();

@@ -5,8 +5,6 @@
 #include "core/sign_in.h"
 #include "core/web_window.h"
 #include "journal/diary.h"
-#include "journal/reminder_window.h"
-#include "journal/reminders.h"
 #include "journal/schedule.h"
 #include "ledger/accounts.h"
 #include "ledger/budget.h"
@@ -32,16 +30,16 @@ constexpr std::size_t LargeWork = 1 << 20; ///< bytes that a handler read, from 
 
 Form* mainWindowWithPages(Workbench& bench) {
     auto* window = new MainWindow(bench);
-    new IncomeExpensePage(*window);
-    new LoansPage(*window);
+    // A click on the bare form reaches the pages in this order.
     new BudgetPage(*window);
     new AccountsPage(*window);
+    new UsersPage(*window);
+    new LoansPage(*window);
+    new IncomeExpensePage(*window);
     new CategoriesPage(*window);
     new ChartsPage(*window);
     new DiaryPage(*window);
     new SchedulePage(*window);
-    new Reminders(*window);
-    new UsersPage(*window);
     new SettingsPage(*window);
     return window;
 }
@@ -81,8 +79,6 @@ void Program::defineForms() {
     bench.forms.define(u"Form1"_s, [&bench] { return new DatePicker(bench); });
     bench.forms.define(u"Form3"_s, [&bench] { return new PurgeWindow(bench); });
     bench.forms.define(u"Form9"_s, [&bench] { return new Calculator(bench); });
-    bench.forms.define(
-        u"Form6"_s, [&bench] { return new ReminderWindow(static_cast<MainWindow&>(*bench.forms.loaded(u"Form2"_s))); });
     bench.forms.define(u"Form7"_s, [&bench] { return new WebWindow(bench); });
     bench.forms.define(u"Form13"_s, [&bench] { return new BackupWindow(bench); });
     for (const PictureTarget& target : pictureTargets())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/workbench.h"
+#include "platform/key_gate.h"
 
 namespace qinghe {
 
@@ -20,6 +21,7 @@ private:
     void defineForms();
     void end(int code);
 
+    KeyGate m_keyGate;
     Workbench m_bench;
 };
 

@@ -9,6 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int PageCode = 24;
+constexpr PageTab Tabs[] = {{u"Label24", u"  桌面", 0, PageCode}};
+constexpr PageTraits DesktopTraits{u"Frame13", u"桌面", 200, 1680, 11535, 6135, Tabs};
+
 struct SumColumn {
     const char16_t* column;
     const char16_t* table;
@@ -59,8 +63,9 @@ QString thisMonthKey(const QDate& today) {
 }
 
 Desktop::Desktop(Workbench& bench, Navigation& navigation, Adodc& store)
-    : m_bench(bench), m_navigation(navigation), Adodc1(store) {
-    Frame& page = navigation.frame(u"Frame13"_s);
+    : Page(navigation, DesktopTraits), m_bench(bench), Adodc1(store) {
+    Frame& page = frame();
+    page.setRole(Role::DesktopFrame);
     Image2 = new Image(&page, u"Image2"_s);
     Image2->place(60, 240, 11415, 5835);
     Image2->setRole(Role::Picture);
@@ -73,7 +78,6 @@ Desktop::Desktop(Workbench& bench, Navigation& navigation, Adodc& store)
     Label36 = new Label(&page, u"Label36"_s);
     Label36->place(8160, 1680, 2775, 3855);
     Label36->setRole(Role::PlanList);
-    navigation.onOpen(24, [this] { Form2_Label24_Click(); });
 }
 
 void Desktop::computeSums() {
@@ -107,8 +111,8 @@ void Desktop::listPlans(bool clearFirst) {
 }
 
 void Desktop::Form2_Label24_Click() {
-    m_navigation.leaveOthers(24);
-    m_navigation.bringForward(24);
+    navigation().leaveOthers(*this, PageCode);
+    navigation().bringForward(*this);
     // Not computed afresh: the sums stay those of the sign-in.
     showSums();
     Adodc1.setConnectionString(m_bench.connection());

@@ -6,9 +6,13 @@ namespace qinghe {
 
 /// The desktop page, `Frame13`: ten sums of last month and this month, computed once at the load of the main window,
 /// and today's plans, which are always current.
-class Desktop {
+class Desktop : public Page {
+    Q_OBJECT
+
 public:
     Desktop(Workbench& bench, Navigation& navigation, Adodc& Adodc1);
+
+    void tabClicked(int) override { Form2_Label24_Click(); }
 
     Image* Image2;  // the picture behind, which carries the words of the rows and columns
     Label* Label36; // today's plans
@@ -28,7 +32,6 @@ private:
     void showSums();
 
     Workbench& m_bench;
-    Navigation& m_navigation;
     Adodc& Adodc1;
     std::array<Sum, 10> m_sums;
 };

@@ -24,12 +24,12 @@ CommandButton* button(Frame& frame, const char16_t* name, const QString& caption
 } // namespace
 
 GridPage::GridPage(MainWindow& form, const Traits& differences)
-    : QObject(&form),
+    : Page(form.navigation(), differences.page),
       traits(differences),
       window(form),
       bench(form.bench()),
       Adodc1(*form.Adodc1),
-      frame(form.navigation().frame(QString::fromUtf16(differences.frame))),
+      frame(Page::frame()),
       grid(new MSFlexGrid(&frame, QString::fromUtf16(differences.grid))),
       editor(new CellEditor(&frame, QString::fromUtf16(differences.editor), *grid)),
       addButton(button(frame, differences.add, u"增加"_s, 8055, Glyph::Add)),
@@ -66,6 +66,11 @@ void GridPage::bindEvents() {
 
 void GridPage::hideEditor() {
     editor->setShown(false);
+}
+
+void GridPage::commitAndHideBox() {
+    grid->setText(editor->Text());
+    hideEditor();
 }
 
 void GridPage::openTool(const char16_t* form) {
@@ -190,7 +195,7 @@ void GridPage::deleteRow() {
     hideEditor();
     if (bench.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
         return;
-    deleteAt(Adodc1.open(table()), grid->Row());
+    deleteAt(load(table()), grid->Row());
     const bool blanked = traits.lastRow == LastRow::BlankedWhenFirst ? grid->Row() == 1 : grid->Rows() < 3;
     if (blanked)
         blankRow(*grid, 1);
@@ -226,16 +231,13 @@ void GridPage::writeRow(Recordset& records, Field& number, int row, Int16& count
 
 void GridPage::saveRows() {
     bench.unloadPickers();
-    if (traits.saveSource != SaveSource::InHand)
-        Adodc1.setRecordSource(table());
-    if (traits.saveSource == SaveSource::Reloaded)
-        Adodc1.refresh();
+    beforeSave();
     if (refusesGap())
         return;
-    emptyTable(Adodc1.recordset());
+    emptyTable(m_loaded->records());
     if (traits.refreshWhenEmptied)
-        Adodc1.refresh();
-    Recordset& records = Adodc1.recordset();
+        m_loaded->reload();
+    Recordset& records = m_loaded->records();
     Field number = records.field(u"区别"_s);
     Int16 counter;
     for (int row = 1; row < grid->Rows(); ++row) { // none is blank: that would have been a gap
@@ -275,10 +277,16 @@ void GridPage::layOut() {
 void GridPage::loadTable(bool blankBehindConnection) {
     Adodc1.setVisible(false);
     Adodc1.setConnectionString(bench.connection(blankBehindConnection));
-    Recordset& records = Adodc1.open(source());
+    Recordset& records = load(source());
     layOut();
     startRows(*grid);
     fill(records);
+}
+
+Recordset& GridPage::load(const QString& source) {
+    Recordset& records = Adodc1.open(source);
+    m_loaded = Adodc1.loaded();
+    return records;
 }
 
 void GridPage::fill(Recordset& records) {

@@ -14,7 +14,7 @@ namespace qinghe {
 /// traits; what a page does beyond it stands in the page's own file.
 ///
 /// A record has no identity but its place: grid row r is record r of the table in its own order.
-class GridPage : public QObject {
+class GridPage : public Page {
     Q_OBJECT
 
 public:
@@ -47,15 +47,9 @@ public:
         Writes, ///< along the rows as they are written alone
         Stays,
     };
-    /// What a save does about the table before it reads the grid.
-    enum class SaveSource {
-        InHand,   ///< nothing: it works on what the page last loaded
-        Named,    ///< names it without a refresh: still what the page last loaded
-        Reloaded, ///< loads it again
-    };
 
     struct Traits {
-        const char16_t* frame;
+        PageTraits page;
         const char16_t* grid;
         const char16_t* editor;
         const char16_t* add;             // 增加
@@ -70,7 +64,6 @@ public:
         AddTests addTests = AddTests::LastRow;
         AddedBox addedBox = AddedBox::TakesCell;
         LastRow lastRow = LastRow::BlankedBelowThreeRows;
-        SaveSource saveSource = SaveSource::InHand;
         RowInSave rowInSave = RowInSave::Walks;
         bool endsInRemark = true; ///< which a save lets be empty
         bool refreshWhenEmptied = false;
@@ -87,6 +80,8 @@ protected:
     virtual bool takesClicks() const { return true; }
     /// What follows Enter's move to another cell, before the box is laid there.
     virtual void moved() {}
+    /// What a save does with the table before it looks at the grid.
+    virtual void beforeSave() {}
     /// Where an empty text of the fill goes.
     virtual int rowForEmptyText() const { return grid->Row(); }
 
@@ -109,6 +104,11 @@ protected:
     /// last column (a table's number) is never shown.
     void fill(Recordset& records);
     void hideEditor();
+    /// What a click on the bare form does with the box, also with a hidden one: its text goes into the current cell.
+    void commitAndHideBox();
+    /// Opens a source on `Adodc1` and keeps its records as the page's own: they are what the page saves and deletes,
+    /// whatever others use the control for meanwhile.
+    Recordset& load(const QString& source);
 
     const Traits& traits;
     MainWindow& window;
@@ -130,6 +130,8 @@ private:
     bool hasGap();
     bool refusesGap();
     void writeRow(Recordset& records, Field& number, int row, Int16& counter);
+
+    std::shared_ptr<LoadedSet> m_loaded; ///< by load, last
 };
 
 } // namespace qinghe

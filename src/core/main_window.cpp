@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint32 Red = 255;
 constexpr double FormWidth = 12000, FormHeight = 8100; // twips
 constexpr int Minimised = 1, Normal = 0;
 constexpr int LateReportMs = 250;     ///< how long a busy window manager may still tell of the way to the tray
@@ -30,32 +29,13 @@ MainWindow::MainWindow(Workbench& bench)
       Adodc2(new Adodc(bench.store, u"Adodc2"_s, this)),
       Adodc3(new Adodc(bench.store, u"Adodc3"_s, this)),
       Timer1(new Timer(this, u"Timer1"_s)),
-      Timer2(new Timer(this, u"Timer2"_s)),
-      Timer3(new Timer(this, u"Timer3"_s)),
-      MM1(new MMControl(*bench.services.sound, u"MM1"_s, this)),
       m_bench(bench),
       m_navigation(*this, bench),
-      m_titleBand(*this, bench) {
+      m_titleBand(*this, bench),
+      m_desktop(new Desktop(bench, m_navigation, *Adodc1)) {
     setCaption(productName());
     placeInMiddle(FormWidth, FormHeight);
-    makeSettingsBoxes();
-    m_desktop = std::make_unique<Desktop>(bench, m_navigation, *Adodc1);
     bindEvents();
-}
-
-MainWindow::~MainWindow() = default;
-
-void MainWindow::makeSettingsBoxes() {
-    const auto box = [this](const char16_t* frame, const char16_t* name, const char16_t* caption) {
-        auto* made = new CheckBox(&m_navigation.frame(QString::fromUtf16(frame)), QString::fromUtf16(name),
-                                  QString::fromUtf16(caption));
-        made->setShown(false);
-        return made;
-    };
-    Check1 = box(u"Frame17", u"Check1", u"登陆定时提醒日程");
-    Check5 = box(u"Frame16", u"Check5", u"开机启动");
-    Check7 = box(u"Frame16", u"Check7", u"最小化到系统托盘");
-    Check8 = box(u"Frame16", u"Check8", u"登陆自动定时提醒今日日程");
 }
 
 void MainWindow::bindEvents() {
@@ -75,15 +55,14 @@ void MainWindow::load() {
     refuseSecondCopy();
     if (const QString diary = m_bench.beside(u"mydiary"_s); !files::isFolder(diary))
         files::makeFolder(diary);
-    Check5->setShown(false);
-    m_navigation.currentPage = 24;
     shapeMainWindow(*this);
     m_bench.store.close();
     healHeader(m_bench.beside(u"data.dll"_s));
     showForm();
     preparePages();
     startClock();
-    readReminderSetting();
+    for (Page* page : m_navigation.pages())
+        page->windowLoads();
     readTraySetting();
     setPicture(writeOut(ChosenSkin, *Adodc1, m_bench, *this));
     m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_bench, *m_desktop->Image2));
@@ -99,11 +78,7 @@ void MainWindow::refuseSecondCopy() {
 }
 
 void MainWindow::preparePages() {
-    m_navigation.label(u"Label24"_s).setForeColor(Red);
-    m_navigation.bringForward(24);
-    for (const char16_t* name : {u"Frame7", u"Frame8", u"frame9", u"Frame10", u"Frame15", u"Frame16", u"Frame6",
-                                 u"Frame3", u"Frame2", u"Frame17"})
-        m_navigation.frame(QString::fromUtf16(name)).setShown(false);
+    m_navigation.begin(*m_desktop);
     for (Adodc* control : {Adodc1, Adodc2, Adodc3})
         control->setVisible(false);
 }
@@ -114,20 +89,9 @@ void MainWindow::startClock() {
     m_titleBand.showDateAndTime();
 }
 
-void MainWindow::readReminderSetting() {
-    if (!RemindAtSignIn.isYes(*Adodc1) || Adodc1->recordset().recordCount() != 1)
-        return;
-    Check1->setValue(true);
-    Check8->setValue(true);
-    Timer2->setInterval(1000);
-    Timer2->setEnabled(true);
-}
-
 void MainWindow::readTraySetting() {
-    if (!MinimiseToTray.isYes(*Adodc1))
-        return;
-    Check7->setValue(true);
-    toTray();
+    if (MinimiseToTray.isYes(*Adodc1))
+        toTray();
 }
 
 void MainWindow::toTray() {
@@ -149,41 +113,13 @@ void MainWindow::Form2_Form_Resize() {
     if (WindowState() == Minimised && m_sinceReturn.isValid() && m_sinceReturn.elapsed() < LateReportMs)
         return setWindowState(Normal);
     Adodc1->setConnectionString(m_bench.connection());
-    // Pages save into the table that they last loaded: a minimised window must not leave another one in hand.
-    const Adodc::Loan loan = Adodc1->borrow();
     if (MinimiseToTray.isYes(*Adodc1) && WindowState() == Minimised)
         toTray();
 }
 
 void MainWindow::Form2_Form_Click() {
-    // The boxes of pages that are not in view are committed as well: the tests read the grids' own visibility.
-    struct Closing {
-        const char16_t* grid;
-        const char16_t* frame; ///< its own visibility decides; nullptr: the grid's does
-        bool focus;
-        bool onlyEnabled;
-    };
-    constexpr std::array<Closing, 5> order{{
-        {u"ms6", u"Frame8", false, false},
-        {u"ms7", u"frame9", false, false},
-        {u"ms5", u"Frame7", true, false},
-        {u"ms1", nullptr, true, false},
-        {u"ms2", nullptr, true, true},
-    }};
-    for (const Closing& entry : order) {
-        const auto found = m_bench.editors.find(QString::fromUtf16(entry.grid));
-        if (found == m_bench.editors.end())
-            continue;
-        const auto& [box, grid] = found->second;
-        const bool inView =
-            entry.frame ? m_navigation.frame(QString::fromUtf16(entry.frame)).Visible() : grid->Visible();
-        if (!inView || (entry.onlyEnabled && !grid->isEnabled()))
-            continue;
-        grid->setText(box->Text());
-        box->setShown(false);
-        if (entry.focus)
-            grid->takeFocus();
-    }
+    for (Page* page : m_navigation.pages())
+        page->formClicked();
 }
 
 void MainWindow::Form2_Form_MouseDown(double x, double y) {

@@ -1,100 +1,83 @@
 #include "core/navigation.h"
 
-#include <algorithm>
-
 namespace qinghe {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr quint32 Red = 255, Black = 0;
-constexpr int SchedulePage = 23;
-
-QString name(const char16_t* text) {
-    return QString::fromUtf16(text);
-}
+constexpr double TabTop = 1080, TabWidth = 960, TabHeight = 480; // twips
 
 } // namespace
 
-Navigation::Navigation(Form& window, Workbench& bench) : m_bench(bench) {
-    makeFrames(window);
-    makeLabels(window);
+Navigation::Navigation(Form& window, Workbench& bench) : m_window(window), m_bench(bench) {}
+
+Frame& Navigation::enter(Page& page) {
+    const PageTraits& traits = page.traits();
+    auto* frame = new Frame(&m_window, QString::fromUtf16(traits.frame), QString::fromUtf16(traits.caption));
+    frame->setRole(Role::PageFrame);
+    frame->setShown(false);
+    for (const PageTab& tab : traits.tabs)
+        makeTab(page, tab);
+    m_pages.push_back(&page);
+    return *frame;
 }
 
-void Navigation::makeFrames(Form& window) {
-    for (const PageFrame& entry : PageFrames) {
-        auto* frame = new Frame(&window, name(entry.name), name(entry.caption));
-        frame->setRole(entry.name == u"Frame13"_s ? Role::DesktopFrame : Role::PageFrame);
-        frame->setShown(false);
-        m_frames[frame->objectName()] = frame;
-    }
-    // Until it is opened the categories' frame is a small strip beside the window.
-    m_frames.at(u"Frame3"_s)->place(13200, 1440, 975, 255);
+void Navigation::makeTab(Page& page, const PageTab& tab) {
+    auto* label = new Label(&m_window, QString::fromUtf16(tab.label), QString::fromUtf16(tab.caption));
+    label->place(tab.left, TabTop, TabWidth, TabHeight);
+    label->setRole(Role::PageLabel);
+    label->MouseMove = [label] {
+        label->setForeColor(Red);
+        label->setHandCursor();
+    };
+    label->Click = [&page, code = tab.code] { page.tabClicked(code); };
+    m_tabs.push_back({label, tab.code});
 }
 
-void Navigation::makeLabels(Form& window) {
-    for (const Page& page : Pages) {
-        auto* label = new Label(&window, name(page.label), name(page.caption));
-        label->place(page.labelLeft, 1080, 960, 480);
-        label->setRole(Role::PageLabel);
-        label->MouseMove = [label] {
-            label->setForeColor(Red);
-            label->setHandCursor();
-        };
-        m_labels[label->objectName()] = label;
-        // A page without work of its own is only brought forward.
-        onOpen(page.code, [this, code = page.code] {
-            leaveOthers(code);
-            bringForward(code);
-        });
-    }
-}
-
-const Page& Navigation::page(int code) {
-    return *std::find_if(Pages.begin(), Pages.end(), [code](const Page& page) { return page.code == code; });
-}
-
-void Navigation::onOpen(int code, std::function<void()> open) {
-    label(name(page(code).label)).Click = std::move(open);
-}
-
-void Navigation::leaveOthers(int code) {
-    const Page& opened = page(code);
+void Navigation::leaveOthers(const Page& opened, int code) {
     currentPage = code;
     m_bench.unloadTools();
     markCurrent();
-    // The schedule leaves the users' page as it stands behind it, and is meant to.
-    hideOthers(name(opened.frame), code == SchedulePage ? u"Frame7"_s : QString());
+    hideOthers(opened);
 }
 
-void Navigation::hideOthers(const QString& front, const QString& leftAlone) {
-    for (auto& [frameName, frame] : m_frames) {
-        if (frameName == front || frameName == leftAlone)
+void Navigation::hideOthers(const Page& opened) {
+    const QStringView leftAlone = opened.traits().leavesAlone;
+    for (Page* page : m_pages) {
+        // Also of the page that is opened once more: what had the keyboard belonged to its last visit.
+        page->frame().giveUpKeyboard();
+        if (page == &opened || page->frame().objectName() == leftAlone)
             continue;
-        frame->setShown(false);
-        if (const auto bound = m_onHidden.find(frameName); bound != m_onHidden.end())
-            bound->second();
+        page->frame().setShown(false);
+        page->left();
     }
 }
 
-void Navigation::bringForward(int code) {
-    const Page& opened = page(code);
-    Frame& front = frame(name(opened.frame));
-    front.place(opened.left, opened.top, opened.width, opened.height);
-    show(front.objectName());
+void Navigation::bringForward(const Page& page) {
+    const PageTraits& place = page.traits();
+    page.frame().place(place.left, place.top, place.width, place.height);
+    show(page);
 }
 
-void Navigation::show(const QString& front) {
-    frame(front).setShown(true);
-    frame(front).raise();
-    for (auto& [labelName, label] : m_labels)
-        label->raise();
+void Navigation::show(const Page& shown) {
+    for (const Page* page : m_pages)
+        page->frame().setCovered(page != &shown);
+    shown.frame().setShown(true);
+    shown.frame().raise();
+    for (const Tab& tab : m_tabs)
+        tab.label->raise();
 }
 
 void Navigation::markCurrent() {
-    for (const Page& page : Pages)
-        label(name(page.label)).setForeColor(page.code == currentPage ? Red : Black);
+    for (const Tab& tab : m_tabs)
+        tab.label->setForeColor(tab.code == currentPage ? Red : Black);
+}
+
+void Navigation::begin(const Page& page) {
+    currentPage = page.traits().tabs.front().code;
+    markCurrent();
+    bringForward(page);
+    hideOthers(page);
 }
 
 } // namespace qinghe

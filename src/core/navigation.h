@@ -1,51 +1,55 @@
 #pragma once
 
-#include "core/page_table.h"
+#include "core/page.h"
 #include "core/workbench.h"
 
-#include <functional>
-#include <map>
+#include <vector>
 
 namespace qinghe {
 
-/// The page scheme of the main window: a row of labels selects one page, each page is a frame. Makes labels and frames;
-/// a page that has work of its own at its opening binds it with onOpen and calls leaveOthers and bringForward there.
+/// The page scheme of the main window: a row of labels selects one page, each page is a frame. It owns what crosses
+/// pages: which one is in front, and that nothing of the others is left with the keyboard. Nobody else shows or hides a
+/// page's frame.
 class Navigation {
 public:
     Navigation(Form& window, Workbench& bench);
 
-    Frame& frame(const QString& name) const { return *m_frames.at(name); }
-    Label& label(const QString& name) const { return *m_labels.at(name); }
-    static const Page& page(int code);
+    Form& window() const { return m_window; }
+    const std::vector<Page*>& pages() const { return m_pages; }
 
-    /// Binds the click of the page's label.
-    void onOpen(int code, std::function<void()> open);
-    /// Binds what follows when a change of page hides this frame, whether it was on view or not.
-    void onHidden(const QString& frame, std::function<void()> follow) { m_onHidden[frame] = std::move(follow); }
+    /// Takes a page in: makes its frame, out of view, and its labels. Called by Page.
+    Frame& enter(Page& page);
 
-    /// The first half of a page change: takes the number, unloads the tools, marks the label, hides the other frames.
-    void leaveOthers(int code);
-    /// The second half: moves the page's frame into its place and shows it, below the row of labels.
-    void bringForward(int code);
+    // A page change is two halves; a page does its own work between or behind them.
+    /// Takes the label's number, unloads the tools, marks the label, hides the other pages; the keyboard goes to the
+    /// window.
+    void leaveOthers(const Page& opened, int code);
+    /// Moves the page's frame into its place and shows it, below the row of labels.
+    void bringForward(const Page& page);
 
-    // The same two halves for a frame that comes to the front without its label.
-    void hideOthers(const QString& frame, const QString& leftAlone = {});
-    /// Shows a frame where it stands, before the others and below the row of labels.
-    void show(const QString& frame);
+    // The same two halves for a page that comes to the front without its label.
+    void hideOthers(const Page& opened);
+    /// Shows the page's frame where it stands, before the others and below the row of labels.
+    void show(const Page& page);
 
-    Int16 currentPage = 24;
+    Int16 currentPage; ///< the number of the label chosen last
 
     /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others.
     void markCurrent();
+    /// The page that the main window begins with.
+    void begin(const Page& page);
 
 private:
-    void makeLabels(Form& window);
-    void makeFrames(Form& window);
+    struct Tab {
+        Label* label;
+        int code;
+    };
+    void makeTab(Page& page, const PageTab& tab);
 
+    Form& m_window;
     Workbench& m_bench;
-    std::map<QString, Frame*> m_frames;
-    std::map<QString, Label*> m_labels;
-    std::map<QString, std::function<void()>> m_onHidden;
+    std::vector<Page*> m_pages;
+    std::vector<Tab> m_tabs;
 };
 
 } // namespace qinghe

@@ -19,6 +19,10 @@ void StoredChoice::rewrite(Adodc& control, bool yes) const {
     rows.update();
 }
 
+bool remindsAtSignIn(Adodc& control) {
+    return RemindAtSignIn.isYes(control) && control.recordset().recordCount() == 1;
+}
+
 void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choice, const CheckBox& box,
                const QString& done, const QString& title) {
     control.setConnectionString(bench.connection());
@@ -26,6 +30,10 @@ void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choic
         return;
     choice.rewrite(control, box.Value());
     bench.services.say(done, MessageStyle::OkInformation, title);
+}
+
+void storeReminderTick(const Workbench& bench, Adodc& control, const CheckBox& box) {
+    storeTick(bench, control, RemindAtSignIn, box, u"设置完毕！"_s, u"系统提示"_s);
 }
 
 } // namespace qinghe

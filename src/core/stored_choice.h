@@ -18,9 +18,16 @@ struct StoredChoice {
 inline constexpr StoredChoice RemindAtSignIn{u"select 日程提醒 from txb", u"日程提醒"};
 inline constexpr StoredChoice MinimiseToTray{u"select 最小化到托盘 from systuopanb", u"最小化到托盘"};
 
+/// Whether reminders begin with the sign-in: the table holds one row, which says yes. Leaves the query open.
+bool remindsAtSignIn(Adodc& control);
+
 /// The click of a box that stands for a choice: rewrites it and says so. Ticking what is already stored is silent,
 /// because the start ticks the boxes in code and is heard here like a user.
 void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choice, const CheckBox& box,
                const QString& done, const QString& title);
+
+/// The same of a box that stands for RemindAtSignIn. There are two, on two pages; they are brought into line when the
+/// main window loads and not again: the one clicked last counts.
+void storeReminderTick(const Workbench& bench, Adodc& control, const CheckBox& box);
 
 } // namespace qinghe

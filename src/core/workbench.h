@@ -48,7 +48,7 @@ public:
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;
 
-    /// Empties what stands on the diary page; entered by that page.
+    /// Empties what stands on the diary page, if that is on view; entered by that page.
     std::function<void()> emptyDiaryPage;
 
     /// The connection text of the data file, with the blank at its end that most handlers leave there, or without.

@@ -12,6 +12,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int PageCode = 8;
+constexpr PageTab Tabs[] = {{u"Label8", u"  日记", 8640, PageCode}};
+constexpr PageTraits Diary{u"Frame10", u"日记", 120, 1680, 11655, 6255, Tabs};
+
 constexpr int DateColumn = 1, TitleColumn = 2;
 constexpr int DateTarget = 5;
 constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
@@ -28,11 +31,11 @@ CommandButton* button(Frame& frame, const QString& name, const QString& caption,
 } // namespace
 
 DiaryPage::DiaryPage(MainWindow& form)
-    : QObject(&form),
+    : Page(form.navigation(), Diary),
       window(form),
       bench(form.bench()),
       Adodc1(*form.Adodc1),
-      Frame10(form.navigation().frame(u"Frame10"_s)),
+      Frame10(frame()),
       Option6(new OptionButton(&Frame10, u"Option6"_s, u"写日记"_s)),
       Option5(new OptionButton(&Frame10, u"Option5"_s, u"查找日记"_s)),
       Command22(button(Frame10, u"Command22"_s, u"添加"_s, 7755, 1080, Glyph::Add)),
@@ -48,6 +51,8 @@ DiaryPage::DiaryPage(MainWindow& form)
     tx8->place(4455, 840, 7080, 4815);
     bench.dateFields[DateTarget] = {tx9, ms8};
     bench.emptyDiaryPage = [this] {
+        if (!Frame10.Visible())
+            return;
         blankRow(*ms8, 1);
         tx8->setBoxText({});
         tx9->setBoxText({});
@@ -69,7 +74,6 @@ void DiaryPage::bindEvents() {
     tx9->Click = [this] { Form2_tx9_Click(); };
     tx9->KeyPress = [this](int key) { Form2_tx9_KeyPress(key); };
     tx8->Click = [this] { Form2_tx8_Click(); };
-    window.navigation().onOpen(PageCode, [this] { Form2_Label8_Click(); });
 }
 
 void DiaryPage::unloadPicker() {
@@ -84,10 +88,10 @@ void DiaryPage::setSaving(bool allowed) {
 // ---- the two modes
 
 void DiaryPage::Form2_Label8_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     Option6->setValue(true);
     tx9->setShown(false);
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
     layOutGrid();
 }
 
@@ -119,6 +123,7 @@ void DiaryPage::Form2_Option5_Click() {
     Adodc1.setVisible(false);
     Adodc1.setConnectionString(bench.connection());
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
+    m_entries = Adodc1.loaded();
     ms8->setRows(2);
     // An empty text blanks the row where the loan grid stands, and is meant to.
     fillTexts(*ms8, entries, entries.fieldCount(), [this] { return loanRow(bench); });
@@ -154,7 +159,7 @@ void DiaryPage::openPicker() {
 void DiaryPage::showEntry() {
     tx9->setShown(false);
     const QString title = ms8->Text();
-    if (Adodc1.recordset().recordCount() == 0 || title.isEmpty() || ms8->Col() == DateColumn)
+    if (m_entries->records().recordCount() == 0 || title.isEmpty() || ms8->Col() == DateColumn)
         return;
     // The text runs on over its line ends, and is meant to.
     tx8->setBoxText(diary::readLines(fileOf(title)));

@@ -9,11 +9,13 @@ namespace qinghe {
 /// The diary page, `Frame10`. An entry is a row of `rjb` (date and title) and a text file named after the title. In
 /// write mode the grid holds one new entry; in find mode it lists all of them, and a click on a title shows its text.
 /// An entry cannot be changed once it is saved. Deleting takes a row by its place and leaves the file: both are meant.
-class DiaryPage : public QObject {
+class DiaryPage : public Page {
     Q_OBJECT
 
 public:
     explicit DiaryPage(MainWindow& window);
+
+    void tabClicked(int) override { Form2_Label8_Click(); }
 
     void Form2_Label8_Click();
     void Form2_Option5_Click();
@@ -50,6 +52,8 @@ private:
     MSFlexGrid* ms8;          // date and title
     CellEditor* tx9;          // over its cells
     LongTextBox* tx8;         // the entry's text
+
+    std::shared_ptr<LoadedSet> m_entries; ///< that the grid lists in find mode
 
     Int16 diarySearchMode; ///< 1 in find mode
 };

@@ -1,15 +1,16 @@
 #include "journal/reminder_window.h"
 
 #include "core/hover.h"
+#include "journal/reminders.h"
 
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-ReminderWindow::ReminderWindow(MainWindow& form)
+ReminderWindow::ReminderWindow(Reminders& reminders)
     : Form(u"Form6"_s, Kind::Notice, Ground::Dialog),
-      window(form),
-      MM1(*form.MM1),
+      m_reminders(reminders),
+      MM1(*reminders.MM1),
       Timer1(new Timer(this, u"Timer1"_s)),
       Label1(new Label(this, u"Label1"_s)),
       Command1(new CommandButton(this, u"Command1"_s, u"知道了"_s)),
@@ -39,10 +40,10 @@ ReminderWindow::ReminderWindow(MainWindow& form)
 }
 
 void ReminderWindow::load() {
-    Workbench& bench = window.bench();
+    Workbench& bench = m_reminders.workbench();
     if (!bench.services.instance->tryTake())
         throw handlers::ProgramEnd{0};
-    Recordset& plan = window.Adodc1->recordset();
+    Recordset& plan = m_reminders.due();
     MM1.setFileName(bench.beside(plan.field(u"提醒音乐"_s).text() + u".wav"_s));
     Timer1->setInterval(1000);
     Timer1->setEnabled(true);
@@ -63,12 +64,9 @@ void ReminderWindow::endMusic() {
 }
 
 void ReminderWindow::Form6_Command1_Click() {
-    // The pause begins at once, not at its first tick: a comparison that waits would bring this window back.
-    window.Timer2->setEnabled(false);
-    window.Timer3->setInterval(1000);
-    window.Timer3->setEnabled(true);
+    m_reminders.pause();
     endMusic();
-    window.bench().forms.unload(objectName());
+    m_reminders.workbench().forms.unload(objectName());
 }
 
 void ReminderWindow::Form6_Command2_Click() {

@@ -1,8 +1,13 @@
 #pragma once
 
-#include "core/main_window.h"
+#include "platform/controls.h"
+#include "platform/form.h"
+#include "platform/mm_control.h"
+#include "platform/timer.h"
 
 namespace qinghe {
+
+class Reminders;
 
 /// `Form6`: shows the plan that is due and plays its music over and over, until the user reacts. It has no media
 /// control of its own and moves the main window's. Closed by its window button it comes back within its minute, since
@@ -12,9 +17,9 @@ class ReminderWindow : public Form {
     Q_OBJECT
 
 public:
-    explicit ReminderWindow(MainWindow& window);
+    explicit ReminderWindow(Reminders& reminders);
 
-    /// Reads plan and music from the current row of the main window's `Adodc1`.
+    /// Reads plan and music from the row that is due.
     void load() override;
     void unloaded() override;
 
@@ -25,7 +30,7 @@ public:
 private:
     void endMusic();
 
-    MainWindow& window;
+    Reminders& m_reminders;
     MMControl& MM1;
     Timer* Timer1;           // plays the music and begins it again
     Label* Label1;           // the plan

@@ -1,6 +1,7 @@
 #include "journal/reminders.h"
 
 #include "core/stored_choice.h"
+#include "journal/reminder_window.h"
 #include "runtime/number_text.h"
 
 namespace qinghe {
@@ -22,33 +23,38 @@ QString reminderTime(const QTime& moment) {
     return (spacedNumberText(moment.hour()) + spacedNumberText(moment.minute())).trimmed();
 }
 
-Reminders::Reminders(MainWindow& form) : QObject(&form), window(form), bench(form.bench()), Adodc1(*form.Adodc1) {
-    window.Check1->Click = [this] { Form2_Check1_Click(); };
-    window.Check8->Click = [this] { Form2_Check8_Click(); };
-    window.Timer2->Tick = [this] { Form2_Timer2_Timer(); };
-    window.Timer3->Tick = [this] { Form2_Timer3_Timer(); };
+Reminders::Reminders(MainWindow& form)
+    : QObject(&form),
+      MM1(new MMControl(*form.bench().services.sound, u"MM1"_s, &form)),
+      bench(form.bench()),
+      Adodc1(*form.Adodc1),
+      Timer2(new Timer(&form, u"Timer2"_s)),
+      Timer3(new Timer(&form, u"Timer3"_s)) {
+    Timer2->Tick = [this] { Form2_Timer2_Timer(); };
+    Timer3->Tick = [this] { Form2_Timer3_Timer(); };
+    bench.forms.define(u"Form6"_s, [this] { return new ReminderWindow(*this); });
 }
 
-// The two boxes stand for one choice and are brought into line by the start alone: the one clicked last counts.
-
-void Reminders::Form2_Check1_Click() {
-    storeTick(*window.Check1);
+void Reminders::windowLoads() {
+    if (remindsAtSignIn(Adodc1))
+        watch();
 }
 
-void Reminders::Form2_Check8_Click() {
-    storeTick(*window.Check8);
+void Reminders::watch() {
+    Timer2->setInterval(1000);
+    Timer2->setEnabled(true);
 }
 
-void Reminders::storeTick(const CheckBox& box) {
-    qinghe::storeTick(bench, Adodc1, RemindAtSignIn, box, u"设置完毕！"_s, u"系统提示"_s);
+void Reminders::pause() {
+    Timer2->setEnabled(false);
+    Timer3->setInterval(1000);
+    Timer3->setEnabled(true);
 }
 
 void Reminders::Form2_Timer2_Timer() {
-    // A page may rely on the table that it loaded last: the tick leaves the control as it found it.
-    const Adodc::Loan loan = Adodc1.borrow();
     if (remindersChecked != 1) {
         if (!anyPlanToday())
-            return window.Timer2->setEnabled(false);
+            return Timer2->setEnabled(false);
         remindersChecked = 1;
     }
     ringDue();
@@ -71,13 +77,13 @@ void Reminders::ringDue() {
 }
 
 void Reminders::Form2_Timer3_Timer() {
-    window.Timer2->setEnabled(false);
+    Timer2->setEnabled(false);
     ++reminderPauseTicks;
     if (reminderPauseTicks != PauseTicks)
         return;
-    window.Timer2->setEnabled(true);
+    Timer2->setEnabled(true);
     reminderPauseTicks = 0;
-    window.Timer3->setEnabled(false);
+    Timer3->setEnabled(false);
 }
 
 } // namespace qinghe

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/main_window.h"
+#include "platform/mm_control.h"
 
 namespace qinghe {
 
@@ -18,19 +19,30 @@ class Reminders : public QObject {
 public:
     explicit Reminders(MainWindow& window);
 
-    void Form2_Check1_Click();
-    void Form2_Check8_Click();
+    /// Begins to watch at the main window's load, when that is what is stored.
+    void windowLoads();
+    /// Watches from now on: a plan saved now counts at once.
+    void watch();
+    /// The pause after "知道了". It begins at once, not at its first tick: a comparison that waits would bring the
+    /// reminder back.
+    void pause();
+
+    /// The row that is due while the reminder's window loads: `提醒音乐` and `日程内容` of the current one.
+    Recordset& due() { return Adodc1.recordset(); }
+    Workbench& workbench() { return bench; }
+    MMControl* const MM1; // the music of schedule and reminder
+
     void Form2_Timer2_Timer();
     void Form2_Timer3_Timer();
 
 private:
-    void storeTick(const CheckBox& box);
     bool anyPlanToday();
     void ringDue();
 
-    MainWindow& window;
     Workbench& bench;
     Adodc& Adodc1;
+    Timer* const Timer2; // compares the clock with today's plans
+    Timer* const Timer3; // the pause
 
     Int16 remindersChecked;   ///< 1 once a day with plans was met; from then on an empty day stops no watch
     Int16 reminderPauseTicks; ///< of Timer3, up to 70

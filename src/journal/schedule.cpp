@@ -13,6 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int PageCode = 23;
+constexpr PageTab Tabs[] = {{u"Label23", u"  日程", 9720, PageCode}};
+/// The users' page stays as it stands behind this one, and is meant to.
+constexpr PageTraits Schedule{u"Frame17", u"日程提醒", 120, 1680, 11655, 6015, Tabs, u"Frame7"};
+
 constexpr int DateTarget = 6;
 constexpr double PickerGap = 500; ///< twips from the sum of the tops to the picker
 constexpr int Pieces = 5, Hours = 24, Minutes = 60;
@@ -37,12 +41,13 @@ QString counted(qsizetype characters) {
 } // namespace
 
 SchedulePage::SchedulePage(MainWindow& form)
-    : QObject(&form),
+    : Page(form.navigation(), Schedule),
       window(form),
       bench(form.bench()),
       Adodc1(*form.Adodc1),
-      MM1(*form.MM1),
-      Frame17(form.navigation().frame(u"Frame17"_s)),
+      m_reminders(form),
+      MM1(*m_reminders.MM1),
+      Frame17(frame()),
       Frame18(new Frame(&Frame17, u"Frame18"_s, u"提醒设置"_s)),
       Label3(new Label(&Frame17, u"Label3"_s)),
       Text3(new LongTextBox(&Frame17, u"Text3"_s)),
@@ -51,6 +56,7 @@ SchedulePage::SchedulePage(MainWindow& form)
       Combo4(new ComboBox(Frame18, u"Combo4"_s, true)),
       Combo1(new ComboBox(Frame18, u"Combo1"_s, true)),
       Label22(new Label(Frame18, u"Label22"_s)),
+      Check1(new CheckBox(&Frame17, u"Check1"_s, u"登陆定时提醒日程"_s)),
       Command26(button(&Frame17, u"Command26"_s, u"添加新日程"_s, Glyph::Add)),
       Command27(button(&Frame17, u"Command27"_s, u"查看今日日程"_s, Glyph::List)),
       Command28(button(&Frame17, u"Command28"_s, u"保存日程和设置"_s, Glyph::Accept)),
@@ -82,8 +88,7 @@ void SchedulePage::placeControls() {
     well->setRole(Role::Well);
     Label22->place(360, 2190, 3975, 840);
     Label22->raise();
-    window.Check1->place(6840, 4440, 3000, 330);
-    window.Check1->setShown(true);
+    Check1->place(6840, 4440, 3000, 330);
     Command26->place(240, 5280, 1680, 390);
     Command27->place(2040, 5280, 1800, 390);
     Command28->place(9195, 5280, 2220, 390);
@@ -100,14 +105,24 @@ void SchedulePage::bindEvents() {
     Command29->Click = [this] { Form2_Command29_Click(); };
     markHovered(Frame17, {Command26, Command27, Command28});
     markHovered(*Frame18, {Command29});
-    showHandOver(window.Check1);
-    window.navigation().onOpen(PageCode, [this] { Form2_Label23_Click(); });
+    Check1->Click = [this] { Form2_Check1_Click(); };
+    showHandOver(Check1);
+}
+
+void SchedulePage::windowLoads() {
+    if (remindsAtSignIn(Adodc1))
+        Check1->setValue(true);
+    m_reminders.windowLoads();
+}
+
+void SchedulePage::Form2_Check1_Click() {
+    storeReminderTick(bench, Adodc1, *Check1);
 }
 
 void SchedulePage::Form2_Label23_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     Adodc1.setConnectionString(bench.connection());
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
     MM1.setVisible(false);
     Adodc1.setVisible(false);
     fillLists();
@@ -190,11 +205,10 @@ void SchedulePage::Form2_Command28_Click() {
         return;
     const QDateTime now = bench.services.clock->now();
     writePlan({now.date(), now.time()});
-    window.Timer2->setInterval(1000);
-    window.Timer2->setEnabled(true); // a plan saved now counts at once
+    m_reminders.watch();
     Command28->setUsable(false);
     window.Adodc2->setConnectionString(bench.connection());
-    RemindAtSignIn.rewrite(*window.Adodc2, window.Check1->Value());
+    RemindAtSignIn.rewrite(*window.Adodc2, Check1->Value());
     bench.services.say(u"保存成功！"_s, MessageStyle::OkInformation, u"保存提示"_s);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/main_window.h"
+#include "journal/reminders.h"
 #include "platform/combo_box.h"
 #include "platform/long_text_box.h"
 
@@ -8,13 +8,17 @@ namespace qinghe {
 
 /// The schedule page, `Frame17`: writes a plan for a day with its hour, minute and music into `rcb`, and lists the
 /// plans of today. It tests nothing but that text and date are there; when a plan rings is told in reminders.h.
-class SchedulePage : public QObject {
+class SchedulePage : public Page {
     Q_OBJECT
 
 public:
     explicit SchedulePage(MainWindow& window);
 
+    void tabClicked(int) override { Form2_Label23_Click(); }
+    void windowLoads() override;
+
     void Form2_Label23_Click();
+    void Form2_Check1_Click();
     void Form2_Text3_KeyPress(int KeyAscii);
     void Form2_Text4_Click();
     void Form2_Combo1_Click();
@@ -34,6 +38,7 @@ private:
     MainWindow& window;
     Workbench& bench;
     Adodc& Adodc1;
+    Reminders m_reminders;
     MMControl& MM1;
     Frame& Frame17;
     Frame* Frame18;           // 提醒设置
@@ -44,6 +49,7 @@ private:
     ComboBox* Combo4;         // minute
     ComboBox* Combo1;         // music
     Label* Label22;           // what was chosen
+    CheckBox* Check1;         // 登陆定时提醒日程
     CommandButton* Command26; // 添加新日程
     CommandButton* Command27; // 查看今日日程
     CommandButton* Command28; // 保存日程和设置

@@ -12,6 +12,8 @@ namespace {
 constexpr int PageCode = 6;
 constexpr int BalanceColumn = static_cast<int>(AccountColumn::Balance);
 
+constexpr PageTab Tabs[] = {{u"Label6", u"  储蓄", 4320, PageCode}};
+
 // Shares of the grid less 400 twips, rounded: an eighth, thirteenths, a quarter.
 constexpr double NameWidth = 1377, AmountWidth = 847, NoteWidth = 2754;
 
@@ -29,7 +31,7 @@ constexpr std::array<GridPage::Column, 10> Columns{{
 }};
 
 const GridPage::Traits Accounts{
-    .frame = u"frame9",
+    .page = {u"frame9", u"账户", 120, 1680, 11655, 6255, Tabs},
     .grid = u"ms7",
     .editor = u"tx7",
     .add = u"Command19",
@@ -42,24 +44,26 @@ const GridPage::Traits Accounts{
     .addCommitsBox = true,
     .addTests = GridPage::AddTests::CurrentRow,
     .addedBox = GridPage::AddedBox::KeepsText,
-    .saveSource = GridPage::SaveSource::Named,
 };
 
 } // namespace
 
-AccountsPage::AccountsPage(MainWindow& form) : GridPage(form, Accounts) {
-    window.navigation().onOpen(PageCode, [this] { Form2_Label6_Click(); });
-}
+AccountsPage::AccountsPage(MainWindow& form) : GridPage(form, Accounts) {}
 
 QString AccountsPage::table() const {
     return u"zhb"_s;
 }
 
 void AccountsPage::Form2_Label6_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     hideEditor();
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
     loadTable(false);
+}
+
+void AccountsPage::formClicked() {
+    if (frame.Visible())
+        commitAndHideBox();
 }
 
 /// Enter has just left the column before the current one.
@@ -68,6 +72,10 @@ void AccountsPage::moved() {
     if (const auto balance = balanceAfterLeaving(static_cast<AccountColumn>(left), grid->TextMatrix(grid->Row(), left),
                                                  grid->TextMatrix(grid->Row(), BalanceColumn)))
         grid->setTextMatrix(grid->Row(), BalanceColumn, *balance);
+}
+
+void AccountsPage::beforeSave() {
+    Adodc1.setRecordSource(table()); // named only
 }
 
 int AccountsPage::rowForEmptyText() const {

@@ -12,10 +12,14 @@ class AccountsPage : public GridPage {
 public:
     explicit AccountsPage(MainWindow& window);
 
+    void tabClicked(int) override { Form2_Label6_Click(); }
+    void formClicked() override;
+
     void Form2_Label6_Click();
 
 protected:
     QString table() const override;
+    void beforeSave() override;
     void moved() override;
     int rowForEmptyText() const override;
 };

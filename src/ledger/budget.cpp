@@ -9,6 +9,8 @@ namespace {
 constexpr int PageCode = 5;
 constexpr double Share = 2754; ///< a quarter of the grid less 400 twips, rounded
 
+constexpr PageTab Tabs[] = {{u"Label5", u"  预算", 5400, PageCode}};
+
 constexpr std::array<GridPage::Column, 4> Columns{{
     {u"预算日期", Share},
     {u"预算项目", Share},
@@ -17,7 +19,7 @@ constexpr std::array<GridPage::Column, 4> Columns{{
 }};
 
 const GridPage::Traits Budget{
-    .frame = u"Frame8",
+    .page = {u"Frame8", u"支出预算", 120, 1680, 11655, 6255, Tabs},
     .grid = u"ms6",
     .editor = u"tx6",
     .add = u"Command16",
@@ -32,19 +34,22 @@ const GridPage::Traits Budget{
 
 } // namespace
 
-BudgetPage::BudgetPage(MainWindow& form) : GridPage(form, Budget) {
-    window.navigation().onOpen(PageCode, [this] { Form2_Label5_Click(); });
-}
+BudgetPage::BudgetPage(MainWindow& form) : GridPage(form, Budget) {}
 
 QString BudgetPage::table() const {
     return u"ysb"_s;
 }
 
 void BudgetPage::Form2_Label5_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     hideEditor();
     loadTable();
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
+}
+
+void BudgetPage::formClicked() {
+    if (frame.Visible())
+        commitAndHideBox();
 }
 
 } // namespace qinghe

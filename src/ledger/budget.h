@@ -12,6 +12,9 @@ class BudgetPage : public GridPage {
 public:
     explicit BudgetPage(MainWindow& window);
 
+    void tabClicked(int) override { Form2_Label5_Click(); }
+    void formClicked() override;
+
     void Form2_Label5_Click();
 
 protected:

@@ -11,6 +11,8 @@ namespace {
 
 constexpr double MinorsLeft = 120; ///< twips
 
+constexpr PageTraits Categories{u"Frame3", u"分类设置", 240, 1200, 12015, 6615};
+
 constexpr CategoryList::Traits Majors{
     .frame = u"Frame4",
     .caption = u"项目大类",
@@ -69,16 +71,17 @@ const CategoriesPage::Classification& CategoriesPage::expense() {
 }
 
 CategoriesPage::CategoriesPage(MainWindow& form)
-    : QObject(&form),
-      window(form),
+    : Page(form.navigation(), Categories),
       bench(form.bench()),
       Adodc1(*form.Adodc1),
       Adodc2(*form.Adodc2),
-      Frame3(form.navigation().frame(u"Frame3"_s)),
+      Frame3(frame()),
       Option3(new OptionButton(&Frame3, u"Option3"_s, u"收入分类"_s)),
       Option4(new OptionButton(&Frame3, u"Option4"_s, u"支出分类"_s)),
       majors(Frame3, bench, Majors),
       minors(Frame3, bench, Minors) {
+    // Until it is opened the page is a small strip beside the window.
+    Frame3.place(13200, 1440, 975, 255);
     Option3->place(240, 870, 1320, 300);
     Option4->place(1680, 870, 1320, 300);
     for (OptionButton* option : {Option3, Option4})
@@ -100,11 +103,14 @@ void CategoriesPage::bindEvents() {
     minors.removeButton->Click = [this] { Form2_Command11_Click(); };
     minors.saveButton->Click = [this] { Form2_Command12_Click(); };
     bench.openCategories = [this] { enter(); };
-    window.navigation().onHidden(Frame3.objectName(), [this] { minors.setUsable(false); });
+}
+
+void CategoriesPage::left() {
+    minors.setUsable(false);
 }
 
 void CategoriesPage::enter() {
-    window.navigation().hideOthers(Frame3.objectName());
+    navigation().hideOthers(*this);
     if (Option3->Value())
         Form2_Option3_Click();
     else
@@ -114,21 +120,20 @@ void CategoriesPage::enter() {
 // ---- opening
 
 void CategoriesPage::Form2_Option3_Click() {
-    open(income(), *Option3);
+    open(income());
 }
 
 void CategoriesPage::Form2_Option4_Click() {
     minors.grid->setLeft(MinorsLeft);
-    open(expense(), *Option4);
+    open(expense());
 }
 
-void CategoriesPage::open(const Classification& chosen, OptionButton& option) {
-    for (const char16_t* name : {u"Frame6", u"Frame2", u"Frame3"})
-        window.navigation().frame(QString::fromUtf16(name)).setShown(false);
+void CategoriesPage::open(const Classification& chosen) {
     minors.setUsable(false);
     Adodc1.setVisible(false);
     Adodc1.setConnectionString(bench.connection());
     Recordset& records = Adodc1.open(QString::fromUtf16(chosen.majorsSource));
+    m_majors = Adodc1.loaded();
     minors.layOut(chosen.minorsCaptions);
     startRows(*minors.grid);
     majors.layOut(chosen.majorsCaptions);
@@ -136,11 +141,9 @@ void CategoriesPage::open(const Classification& chosen, OptionButton& option) {
     // An empty name is blanked in the row where the loan grid stands, wherever it was met here; meant.
     majors.fill(records, loanRow(bench));
     blankRows(*minors.grid);
-    Frame3.place(240, 1200, 12015, 6615);
-    window.navigation().show(Frame3.objectName());
+    navigation().bringForward(*this);
     majors.hideEditor();
     minors.hideEditor();
-    option.setFocus(Qt::OtherFocusReason); // which it lost while the page was hidden
 }
 
 // ---- cells
@@ -152,6 +155,7 @@ void CategoriesPage::Form2_ms3_Click() {
     const Classification& chosen = Option4->Value() ? expense() : income();
     Adodc2.setConnectionString(bench.connection());
     Recordset& records = Adodc2.open(QString::fromUtf16(chosen.minorsSource) + majors.editor->Text() + u"'"_s);
+    m_minors = Adodc2.loaded();
     // A major without minors goes on showing the first one of the major before.
     startRows(*minors.grid);
     minors.fill(records);
@@ -197,12 +201,12 @@ void CategoriesPage::Form2_Command11_Click() {
 }
 
 void CategoriesPage::Form2_Command9_Click() {
-    Adodc1.setRecordSource(u"ysb"_s); // named only: the save works on the majors in hand
-    majors.save(Adodc1.recordset());
+    Adodc1.setRecordSource(u"ysb"_s); // named only: the save works on the majors that the page loaded
+    majors.save(m_majors->records());
 }
 
 void CategoriesPage::Form2_Command12_Click() {
-    minors.save(Adodc2.recordset());
+    minors.save(m_minors->records());
 }
 
 } // namespace qinghe

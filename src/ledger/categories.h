@@ -11,11 +11,13 @@ namespace qinghe {
 ///
 /// The two lists share a table and know nothing of each other. Saving the majors leaves no minor; saving minors writes
 /// them one column to the left, so that they are majors when the page is opened again. Both are meant.
-class CategoriesPage : public QObject {
+class CategoriesPage : public Page {
     Q_OBJECT
 
 public:
     explicit CategoriesPage(MainWindow& window);
+
+    void left() override;
 
     void Form2_Option3_Click();
     void Form2_Option4_Click();
@@ -38,9 +40,8 @@ private:
 
     void bindEvents();
     void enter();
-    void open(const Classification& chosen, OptionButton& option);
+    void open(const Classification& chosen);
 
-    MainWindow& window;
     Workbench& bench;
     Adodc& Adodc1; // the majors
     Adodc& Adodc2; // the rows of the major clicked
@@ -49,6 +50,10 @@ private:
     OptionButton* Option4; // 支出分类
     CategoryList majors;   // ms3, tx3, Command7 to Command9
     CategoryList minors;   // ms4, tx4, Command10 to Command12
+
+    // What the saves work on, whatever others use the controls for meanwhile.
+    std::shared_ptr<LoadedSet> m_majors;
+    std::shared_ptr<LoadedSet> m_minors;
 };
 
 } // namespace qinghe

@@ -18,6 +18,11 @@ constexpr int IncomePage = 20, ExpensePage = 21;
 constexpr int PersonColumn = 4;
 constexpr int MonthLength = 7; ///< characters of a date's text that make its month
 
+constexpr PageTab Tabs[] = {
+    {u"Label2(0)", u"  收入", 1080, IncomePage},
+    {u"Label2(1)", u"  支出", 2160, ExpensePage},
+};
+
 constexpr std::array<GridPage::Column, 7> Columns{{
     {u"编号", 1150},
     {u"时间", 1150},
@@ -29,7 +34,7 @@ constexpr std::array<GridPage::Column, 7> Columns{{
 }};
 
 const GridPage::Traits IncomeExpense{
-    .frame = u"Frame2",
+    .page = {u"Frame2", u"收入—支出", 120, 1680, 11655, 6255, Tabs},
     .grid = u"ms2",
     .editor = u"tx2",
     .add = u"Command4",
@@ -39,7 +44,6 @@ const GridPage::Traits IncomeExpense{
     .date = {.column = 2, .target = 3, .opensOnEnter = true},
     .amounts = {.onClick = {5, 5}, .onEnter = {5, 5}, .target = 1},
     .shownAsAmounts = {5, 5},
-    .saveSource = GridPage::SaveSource::Reloaded,
 };
 
 float single(double total) {
@@ -80,8 +84,6 @@ IncomeExpensePage::IncomeExpensePage(MainWindow& form)
     for (OptionButton* option : {Option7, Option8, Option9})
         showHandOver(option);
     frame.Click = [this] { Form2_Frame2_Click(); };
-    window.navigation().onOpen(IncomePage, [this] { Form2_Label2_Click(0); });
-    window.navigation().onOpen(ExpensePage, [this] { Form2_Label2_Click(1); });
 }
 
 const IncomeExpensePage::Side& IncomeExpensePage::side() const {
@@ -108,13 +110,21 @@ QString IncomeExpensePage::table() const {
     return QString::fromUtf16(side().table);
 }
 
+void IncomeExpensePage::beforeSave() {
+    load(table());
+}
+
 bool IncomeExpensePage::takesClicks() const {
     return !Option8->Value() && !Option9->Value();
 }
 
+void IncomeExpensePage::tabClicked(int code) {
+    Form2_Label2_Click(code == IncomePage ? 0 : 1);
+}
+
 void IncomeExpensePage::Form2_Label2_Click(int index) {
     ledgerSide = index == 0 ? 1 : 0;
-    window.navigation().leaveOthers(side().page);
+    navigation().leaveOthers(*this, side().page);
     Adodc1.setConnectionString(bench.connection());
     Adodc1.open(QString::fromUtf16(side().statisticsSource));
     refillStatistics();
@@ -128,9 +138,9 @@ void IncomeExpensePage::Form2_Label2_Click(int index) {
     hideEditor();
     Option7->setValue(true);
     showTotal();
-    // Delete and save rely on the bare table, not on the sum.
-    Adodc1.open(table());
-    window.navigation().bringForward(side().page);
+    // Whoever asks the control finds the bare table there, not the sum.
+    load(table());
+    navigation().bringForward(*this);
 }
 
 void IncomeExpensePage::captionPerson() {
@@ -170,16 +180,22 @@ void IncomeExpensePage::showTotal() {
 
 void IncomeExpensePage::Form2_Option7_Click() {
     bench.unloadPickers();
-    for (const char16_t* other : {u"Frame6", u"Frame7", u"Frame8", u"frame9", u"Frame10", u"Frame3"})
-        window.navigation().frame(QString::fromUtf16(other)).setShown(false);
     setEditing(true);
     // An empty table leaves the first row as it is.
     loadTable();
     captionPerson();
     // No sum is computed here: the total is that of the last opening.
     Label10->setCaption(QString::fromUtf16(side().totalCaption) + formatNumber(this->*side().total, u"0.00元"_s));
-    window.navigation().bringForward(side().page);
+    navigation().bringForward(*this);
     hideEditor();
+}
+
+void IncomeExpensePage::formClicked() {
+    // The list's own visibility decides, which stays while the page is hidden: its box is committed then as well.
+    if (!grid->isEnabled() || !grid->Visible())
+        return;
+    commitAndHideBox();
+    grid->takeFocus();
 }
 
 void IncomeExpensePage::setEditing(bool allowed) {

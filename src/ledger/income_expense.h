@@ -14,6 +14,9 @@ class IncomeExpensePage : public GridPage {
 public:
     explicit IncomeExpensePage(MainWindow& window);
 
+    void tabClicked(int code) override;
+    void formClicked() override;
+
     void Form2_Label2_Click(int index); ///< 0 income, 1 expense
     void Form2_Option7_Click();
     void Form2_Option8_Click();
@@ -22,6 +25,7 @@ public:
 
 protected:
     QString table() const override;
+    void beforeSave() override;
     bool takesClicks() const override;
 
 private:

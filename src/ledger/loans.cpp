@@ -15,6 +15,8 @@ constexpr int AmountColumn = 3, NoteColumn = 8;
 // When the picture brings the page up; twips.
 constexpr double WideNoteWidth = 3200, RaisedTop = 1560;
 
+constexpr PageTab Tabs[] = {{u"Label1", u"  暂借", 3240, PageCode}};
+
 constexpr std::array<GridPage::Column, 8> Columns{{
     {u"账户", 1150},
     {u"日期", 1150},
@@ -27,7 +29,7 @@ constexpr std::array<GridPage::Column, 8> Columns{{
 }};
 
 const GridPage::Traits Loans{
-    .frame = u"Frame6",
+    .page = {u"Frame6", u"借入—借出", 120, 1680, 11655, 6255, Tabs},
     .grid = u"ms1",
     .editor = u"tx1",
     .add = u"Command1",
@@ -87,7 +89,6 @@ LoansPage::LoansPage(MainWindow& form)
     for (OptionButton* option : {Option1, Option2})
         showHandOver(option);
     makeImage1();
-    window.navigation().onOpen(PageCode, [this] { Form2_Label1_Click(); });
 }
 
 void LoansPage::makeImage1() {
@@ -104,19 +105,19 @@ QString LoansPage::table() const {
 }
 
 void LoansPage::Form2_Label1_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     hideEditor();
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
     bringUp(*Option2, lent());
 }
 
 void LoansPage::Form2_Image1_Click() {
     // Tools stay open, and neither the labels nor currentPage follow: the page is laid over the one that is chosen.
-    window.navigation().hideOthers(frame.objectName());
+    navigation().hideOthers(*this);
     hideEditor();
-    const Page& page = Navigation::page(PageCode);
-    frame.place(page.left, RaisedTop, page.width, page.height);
-    window.navigation().show(frame.objectName());
+    const PageTraits& place = traits.page;
+    frame.place(place.left, RaisedTop, place.width, place.height);
+    navigation().show(*this);
     bringUp(*Option1, borrowed());
     grid->setColWidth(NoteColumn, WideNoteWidth);
 }
@@ -137,18 +138,25 @@ void LoansPage::Form2_Option2_Click() {
 
 void LoansPage::choose(const List& list) {
     bench.unloadPickers();
-    window.navigation().frame(u"Frame2"_s).setShown(false);
     hideEditor();
     bench.editors.at(u"ms2"_s).box->setShown(false);
     frame.setCaption(QString::fromUtf16(list.frameCaption));
     startRows(*grid);
     blankRow(*grid, 1);
     loadList(list);
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
     showTotal(list);
-    // Delete and save rely on the bare table, not on the sum.
+    // Whoever asks the control finds the bare table there, not the sum.
     Adodc1.setConnectionString(bench.connection());
-    Adodc1.open(QString::fromUtf16(list.table));
+    load(QString::fromUtf16(list.table));
+}
+
+void LoansPage::formClicked() {
+    // The list's own visibility decides, which stays while the page is hidden: its box is committed then as well.
+    if (!grid->Visible())
+        return;
+    commitAndHideBox();
+    grid->takeFocus();
 }
 
 void LoansPage::loadList(const List& list) {

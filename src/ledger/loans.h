@@ -12,6 +12,9 @@ class LoansPage : public GridPage {
 public:
     explicit LoansPage(MainWindow& window);
 
+    void tabClicked(int) override { Form2_Label1_Click(); }
+    void formClicked() override;
+
     void Form2_Label1_Click(); ///< brings up the lent list
     void Form2_Image1_Click(); ///< brings up the borrowed list, over whatever page is chosen
     void Form2_Option1_Click();

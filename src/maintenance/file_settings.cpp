@@ -17,12 +17,11 @@ constexpr std::array<const char16_t*, 10> InitialisedTables{u"jcb", u"jrb", u"ns
 
 } // namespace
 
-FileSettings::FileSettings(MainWindow& form)
+FileSettings::FileSettings(MainWindow& form, Frame& page)
     : QObject(&form),
-      window(form),
       bench(form.bench()),
       Adodc1(*form.Adodc1),
-      Frame19(new Frame(&form.navigation().frame(u"Frame16"_s), u"Frame19"_s, u"文件设置"_s)),
+      Frame19(new Frame(&page, u"Frame19"_s, u"文件设置"_s)),
       Option14(new OptionButton(Frame19, u"Option14"_s, u"系统数据备份"_s)),
       Option16(new OptionButton(Frame19, u"Option16"_s, u"系统数据还原"_s)),
       m_caution(new Label(Frame19, {}, u"以下操作不能恢复，请先备份"_s)),
@@ -91,8 +90,7 @@ void FileSettings::Form2_Check2_Click() {
     if (entries.recordCount() != 0)
         files::deleteMatching(bench.beside(u"mydiary"_s), u"*.dll"_s);
     emptyTable(entries);
-    if (window.navigation().frame(u"Frame10"_s).Visible())
-        bench.emptyDiaryPage();
+    bench.emptyDiaryPage();
     bench.services.say(u"格式化完成！"_s);
 }
 

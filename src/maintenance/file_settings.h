@@ -11,7 +11,7 @@ class FileSettings : public QObject {
     Q_OBJECT
 
 public:
-    explicit FileSettings(MainWindow& window);
+    FileSettings(MainWindow& window, Frame& page);
 
     void Form2_Option14_Click();
     void Form2_Option16_Click();
@@ -23,7 +23,6 @@ private:
     void placeControls();
     void openBackup(BackupWindow::Direction direction);
 
-    MainWindow& window;
     Workbench& bench;
     Adodc& Adodc1;
     Frame* Frame19;         // 文件设置

@@ -9,19 +9,26 @@ namespace qinghe {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr int PageCode = 7;
-}
+constexpr PageTab Tabs[] = {{u"Label7", u" 设置", 10920, PageCode}};
+constexpr PageTraits Settings{u"Frame16", u"设置", 120, 1680, 11655, 6135, Tabs};
+
+} // namespace
 
 SettingsPage::SettingsPage(MainWindow& form)
-    : QObject(&form),
-      window(form),
+    : Page(form.navigation(), Settings),
       bench(form.bench()),
-      Frame20(new Frame(&form.navigation().frame(u"Frame16"_s), u"Frame20"_s, u"系统设置"_s)),
+      Adodc1(*form.Adodc1),
+      Frame20(new Frame(&frame(), u"Frame20"_s, u"系统设置"_s)),
+      Check8(new CheckBox(Frame20, u"Check8"_s, u"登陆自动定时提醒今日日程"_s)),
+      Check7(new CheckBox(Frame20, u"Check7"_s, u"最小化到系统托盘"_s)),
+      Check5(new CheckBox(Frame20, u"Check5"_s, u"开机启动"_s)),
       Command31(new CommandButton(Frame20, u"Command31"_s, u"收支分类设置"_s)),
       Command32(new CommandButton(Frame20, u"Command32"_s, u"更换图片"_s)),
       m_pictures(new QMenu(Command32)),
       m_skins(form, *Frame20),
-      m_files(form) {
+      m_files(form, frame()) {
     Frame20->place(240, 480, 5520, 4200);
     Frame20->setRole(Role::InnerFrame);
     placeBoxes();
@@ -30,15 +37,10 @@ SettingsPage::SettingsPage(MainWindow& form)
 }
 
 void SettingsPage::placeBoxes() {
-    // The three boxes are the main window's, which ticks them as it starts; Check5 is a reserved place, hidden for
-    // good.
-    for (CheckBox* box : {window.Check5, window.Check7, window.Check8})
-        box->setParent(Frame20);
-    window.Check8->place(360, 600, 4000, 330);
-    window.Check7->place(360, 1200, 4000, 330);
-    window.Check5->place(2880, 1200, 2400, 330);
-    for (CheckBox* box : {window.Check7, window.Check8})
-        box->setShown(true);
+    Check8->place(360, 600, 4000, 330);
+    Check7->place(360, 1200, 4000, 330);
+    Check5->place(2880, 1200, 2400, 330);
+    Check5->setShown(false);
     auto* line = new Label(Frame20, {});
     line->place(360, 3060, 4800, 30);
     line->setRole(Role::Hairline);
@@ -58,8 +60,9 @@ void SettingsPage::makePictureMenu() {
 }
 
 void SettingsPage::bindEvents() {
-    window.Check7->Click = [this] { Form2_Check7_Click(); };
-    for (CheckBox* box : {window.Check5, window.Check7, window.Check8})
+    Check7->Click = [this] { Form2_Check7_Click(); };
+    Check8->Click = [this] { Form2_Check8_Click(); };
+    for (CheckBox* box : {Check5, Check7, Check8})
         showHandOver(box);
     markHovered(*Frame20, {m_skins.Command30, Command31, Command32});
     // The pointer will not be here when the page comes back, or when the menu goes.
@@ -71,17 +74,27 @@ void SettingsPage::bindEvents() {
         unmarkHovered({Command32});
         m_pictures->popup(Command32->mapToGlobal(QPoint(0, Command32->height())));
     };
-    window.navigation().onOpen(PageCode, [this] { Form2_Label7_Click(); });
 }
 
 void SettingsPage::Form2_Label7_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     m_skins.hide();
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
+}
+
+void SettingsPage::windowLoads() {
+    if (remindsAtSignIn(Adodc1))
+        Check8->setValue(true);
+    if (MinimiseToTray.isYes(Adodc1))
+        Check7->setValue(true);
 }
 
 void SettingsPage::Form2_Check7_Click() {
-    storeTick(bench, *window.Adodc1, MinimiseToTray, *window.Check7, u"设置完毕"_s, u"提示"_s);
+    storeTick(bench, Adodc1, MinimiseToTray, *Check7, u"设置完毕"_s, u"提示"_s);
+}
+
+void SettingsPage::Form2_Check8_Click() {
+    storeReminderTick(bench, Adodc1, *Check8);
 }
 
 } // namespace qinghe

@@ -11,13 +11,15 @@ namespace {
 constexpr int PageCode = 4;
 constexpr double Half = 5508; ///< of the grid less 400 twips, rounded
 
+constexpr PageTab Tabs[] = {{u"Label4", u" 用户", 7680, PageCode}};
+
 constexpr std::array<GridPage::Column, 2> Columns{{
     {u"用户名", Half},
     {u"用户密码", Half},
 }};
 
 const GridPage::Traits Users{
-    .frame = u"Frame7",
+    .page = {u"Frame7", u"用户设置", 120, 1680, 11655, 6255, Tabs},
     .grid = u"ms5",
     .editor = u"tx5",
     .add = u"Command13",
@@ -27,7 +29,6 @@ const GridPage::Traits Users{
     .addCommitsBox = true,
     .addTests = GridPage::AddTests::CurrentRow,
     .addedBox = GridPage::AddedBox::KeepsText,
-    .saveSource = GridPage::SaveSource::Reloaded,
     .rowInSave = GridPage::RowInSave::Writes,
     .endsInRemark = false,
 };
@@ -37,7 +38,6 @@ const GridPage::Traits Users{
 UsersPage::UsersPage(MainWindow& form) : GridPage(form, Users) {
     // The page may stand behind the schedule's, whose date picker is none of its business.
     frame.Click = [this] { hideEditor(); };
-    window.navigation().onOpen(PageCode, [this] { Form2_Label4_Click(); });
 }
 
 QString UsersPage::table() const {
@@ -48,16 +48,27 @@ QString UsersPage::source() const {
     return u"select 用户名,用户密码 from yhb"_s;
 }
 
+void UsersPage::beforeSave() {
+    load(table()); // all its columns, of which the grid was filled from two
+}
+
 int UsersPage::rowForEmptyText() const {
     // The row number of the loan grid decides, and is meant to.
     return loanRow(bench);
 }
 
 void UsersPage::Form2_Label4_Click() {
-    window.navigation().leaveOthers(PageCode);
+    navigation().leaveOthers(*this, PageCode);
     hideEditor();
-    window.navigation().bringForward(PageCode);
+    navigation().bringForward(*this);
     loadTable();
+}
+
+void UsersPage::formClicked() {
+    if (!frame.Visible())
+        return;
+    commitAndHideBox();
+    grid->takeFocus();
 }
 
 } // namespace qinghe

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/recordset.h"
+#include "store/loaded_set.h"
 #include "store/store.h"
 
 #include <QObject>
@@ -32,7 +32,10 @@ public:
     void refresh();
     /// The recordset of the last refresh. Throws RuntimeError (91) before the first one.
     Recordset& recordset();
-    bool hasRecordset() const { return m_recordset != nullptr; }
+    bool hasRecordset() const { return m_loaded != nullptr; }
+    /// The set of the last refresh, for somebody who goes on with it in a later handler, whatever the control is used
+    /// for in between; nothing before the first one.
+    std::shared_ptr<LoadedSet> loaded() const { return m_loaded; }
 
     /// setRecordSource and refresh in one breath.
     Recordset& open(const QString& source);
@@ -40,26 +43,11 @@ public:
     bool isVisible() const { return m_visible; }
     void setVisible(bool visible) { m_visible = visible; }
 
-    /// The control in somebody else's hands: when the loan ends it has the source and the set that it had before.
-    class [[nodiscard]] Loan {
-    public:
-        explicit Loan(Adodc& control);
-        ~Loan();
-        Loan(const Loan&) = delete;
-        Loan& operator=(const Loan&) = delete;
-
-    private:
-        Adodc& m_control;
-        QString m_source;
-        std::unique_ptr<Recordset> m_set;
-    };
-    Loan borrow() { return Loan(*this); }
-
 private:
     Store& m_store;
     QString m_connection;
     QString m_source;
-    std::unique_ptr<Recordset> m_recordset;
+    std::shared_ptr<LoadedSet> m_loaded;
     bool m_visible = true;
 };
 

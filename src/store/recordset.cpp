@@ -168,6 +168,10 @@ Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 
+bool Recordset::isVoid() const {
+    return !m->store.isCurrent(m->generation);
+}
+
 int Recordset::recordCount() const {
     return m->rows->rowCount() - m->goneCount;
 }

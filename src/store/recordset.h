@@ -34,6 +34,9 @@ public:
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
+    /// Whether the file has been closed or replaced since the rows were read.
+    bool isVoid() const;
+
     int recordCount() const;
     bool eof() const;
     void moveFirst();

@@ -122,9 +122,13 @@ int Store::generation() const {
     return m->generation;
 }
 
-void Store::requireGeneration(int generation) {
+bool Store::isCurrent(int generation) {
     m->dropIfMoved();
-    if (generation != m->generation)
+    return generation == m->generation;
+}
+
+void Store::requireGeneration(int generation) {
+    if (!isCurrent(generation))
         throw RuntimeError(RuntimeError::StoreFailure,
                            QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再用。"));
 }

@@ -59,6 +59,8 @@ public:
     const TableColumns& columns(const QString& table);
 
     // For recordsets only.
+    /// Whether the file is still the one that was open under that number.
+    bool isCurrent(int generation);
     /// Throws RuntimeError (StoreFailure) unless the file is still the one that was open under that number.
     void requireGeneration(int generation);
     /// The stored rows between two identities, in the shape of a plain result.

@@ -106,16 +106,6 @@ TEST_F(TrayIcon, ASizeEventOfAWindowThatIsNotMinimisedLeavesItWhereItIs) {
     EXPECT_TRUE(main().Visible());
 }
 
-TEST_F(TrayIcon, AMinimiseLeavesThePagesTableInHand) {
-    rig.signIn();
-    want(true);
-    const Recordset& loaded = main().Adodc1->open(u"txb"_s);
-    minimise();
-    EXPECT_EQ(added(), 1u);
-    EXPECT_EQ(main().Adodc1->recordSource(), u"txb"_s);
-    EXPECT_EQ(&main().Adodc1->recordset(), &loaded);
-}
-
 TEST_F(TrayIcon, ALateReportOfTheWayDownDoesNotSendTheWindowBack) {
     want(true);
     rig.signIn();

@@ -67,7 +67,7 @@ TEST_F(ReminderWindowTest, APieceAtItsEndBeginsAgain) {
     rig.sound->position = rig.sound->length;
     pass();
     EXPECT_EQ(takeCalls(), (QStringList{u"play"_s, u"rewind"_s}));
-    EXPECT_EQ(rig.mainWindow().MM1->Command(), u"prev"_s);
+    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).Command(), u"prev"_s);
     pass();
     EXPECT_EQ(takeCalls(), kept);
 }
@@ -77,7 +77,7 @@ TEST_F(ReminderWindowTest, UnderstoodEndsTheMusicAndTheWindow) {
     understand();
     EXPECT_FALSE(rig.loaded(u"Form6"_s));
     EXPECT_EQ(takeCalls(), (QStringList{u"stop"_s, u"close"_s}));
-    EXPECT_EQ(rig.mainWindow().MM1->Command(), u"close"_s);
+    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).Command(), u"close"_s);
     EXPECT_TRUE(timer3().Enabled());
     EXPECT_FALSE(rig.ended());
 }

@@ -15,7 +15,7 @@ TEST_F(ScheduleMusic, APieceThatIsChosenIsPlayed) {
     rig.press(music(), Qt::Key_Down);
     EXPECT_EQ(music().Text(), u"音乐2"_s);
     EXPECT_EQ(takeCalls(), (QStringList{u"open 音乐1.wav"_s, u"play"_s, u"close"_s, u"open 音乐2.wav"_s, u"play"_s}));
-    EXPECT_EQ(rig.mainWindow().MM1->FileName(), rig.file(u"音乐2.wav"_s));
+    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).FileName(), rig.file(u"音乐2.wav"_s));
 }
 
 TEST_F(ScheduleMusic, ThePieceThatPlaysBeginsAgainWhenItIsChosenAgain) {

@@ -28,7 +28,7 @@ TEST_F(SchedulePageTest, ItsLabelBringsThePageForward) {
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ(QRectF(page.Left(), page.Top(), page.Width(), page.Height()), QRectF(120, 1680, 11655, 6015));
     EXPECT_FALSE(rig.frame(u"Frame13"_s).Visible());
-    EXPECT_FALSE(rig.mainWindow().MM1->isVisible());
+    EXPECT_FALSE(rig.onMain<MMControl>(u"MM1"_s).isVisible());
     EXPECT_FALSE(rig.mainWindow().Adodc1->isVisible());
 }
 
@@ -60,8 +60,8 @@ TEST_F(SchedulePageTest, ItsControlsBearTheirCaptions) {
     EXPECT_EQ(today().text(), u"查看今日日程"_s);
     EXPECT_EQ(save().text(), u"保存日程和设置"_s);
     EXPECT_EQ(rig.onMain<CommandButton>(u"Command29"_s).text(), u"确定音乐"_s);
-    EXPECT_EQ(rig.mainWindow().Check1->text(), u"登陆定时提醒日程"_s);
-    EXPECT_TRUE(rig.mainWindow().Check1->isVisible());
+    EXPECT_EQ(rig.onMain<CheckBox>(u"Check1"_s).text(), u"登陆定时提醒日程"_s);
+    EXPECT_TRUE(rig.onMain<CheckBox>(u"Check1"_s).isVisible());
 }
 
 TEST_F(SchedulePageTest, TheListsHoldFivePiecesAndTheHoursAndMinutesOfADay) {
@@ -107,8 +107,8 @@ TEST_F(SchedulePageTest, TheDatePickerHangsBelowTheDateAndFillsIt) {
 }
 
 TEST_F(SchedulePageTest, OverTheBoxOfTheRemindersThePointerIsAHand) {
-    rig.hover(*rig.mainWindow().Check1);
-    EXPECT_EQ(rig.mainWindow().Check1->cursor().shape(), Qt::PointingHandCursor);
+    rig.hover(rig.onMain<CheckBox>(u"Check1"_s));
+    EXPECT_EQ(rig.onMain<CheckBox>(u"Check1"_s).cursor().shape(), Qt::PointingHandCursor);
 }
 
 TEST_F(SchedulePageTest, TheButtonsUnderThePointerAreGreyUntilItIsOnTheirFrame) {

@@ -27,8 +27,8 @@ protected:
     CommandButton& today() { return rig.onMain<CommandButton>(QStringLiteral("Command27")); }
     CommandButton& save() { return rig.onMain<CommandButton>(QStringLiteral("Command28")); }
     QString counter() { return rig.onMain<Label>(QStringLiteral("Label3")).Caption(); }
-    Timer& timer2() { return *rig.mainWindow().Timer2; }
-    Timer& timer3() { return *rig.mainWindow().Timer3; }
+    Timer& timer2() { return rig.onMain<Timer>(QStringLiteral("Timer2")); }
+    Timer& timer3() { return rig.onMain<Timer>(QStringLiteral("Timer3")); }
 
     /// Puts a plan on the page, without saving it.
     void write(const QString& plan, const QString& day, const QString& atHour = {}, const QString& atMinute = {}) {

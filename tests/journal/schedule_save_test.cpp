@@ -35,7 +35,7 @@ TEST_F(ScheduleSaving, SavingByTheOtherButtonStoresTheDayAlone) {
 }
 
 TEST_F(ScheduleSaving, OnlyTheSaveButtonStartsTheWatchAndWritesTheSetting) {
-    rig.mainWindow().Check1->setValue(true);
+    rig.onMain<CheckBox>(u"Check1"_s).setValue(true);
     rig.sql(u"update txb set 日程提醒=0"_s);
     write(u"a"_s, u"2024-6-20"_s);
     add(Answer::Yes);
@@ -207,7 +207,7 @@ TEST_F(ScheduleSaving, WhatTheMessageSaysHasHappened) {
         if (message == PlanSaved)
             during = plans(u"日程内容"_s) + rig.sql(u"select * from txb"_s);
     };
-    rig.mainWindow().Check1->setValue(true);
+    rig.onMain<CheckBox>(u"Check1"_s).setValue(true);
     write(u"a"_s, u"2024-6-20"_s);
     rig.click(save());
     EXPECT_EQ(during, (QStringList{u"a"_s, u"1"_s}));

@@ -15,9 +15,9 @@ protected:
     MSFlexGrid& ms1() { return rig.onMain<MSFlexGrid>(u"ms1"_s); }
     QStringList framesOnView() {
         QStringList shown;
-        for (const PageFrame& entry : PageFrames)
-            if (const QString name = QString::fromUtf16(entry.name); rig.frame(name).Visible())
-                shown << name;
+        for (const Page* page : rig.mainWindow().navigation().pages())
+            if (page->frame().Visible())
+                shown << page->frame().objectName();
         return shown;
     }
     static QString place(const Placed& control) {
@@ -50,9 +50,9 @@ TEST_F(CategoriesOpeningTest, TheSettingsStayTheChosenPage) {
 
 TEST_F(CategoriesOpeningTest, ThePageLabelsStayInFrontSoThatItCanBeLeft) {
     open();
-    for (const Page& page : Pages) {
-        auto& label = rig.onMain<Label>(QString::fromUtf16(page.label));
-        EXPECT_EQ(rig.mainWindow().childAt(label.geometry().center()), &label) << label.objectName().toStdString();
+    for (const QString& name : PageLabels) {
+        auto& label = rig.onMain<Label>(name);
+        EXPECT_EQ(rig.mainWindow().childAt(label.geometry().center()), &label) << name.toStdString();
     }
 }
 
@@ -194,14 +194,14 @@ TEST_F(CategoriesOpeningTest, ASecondClickOnTheSameOptionChangesNothing) {
 
 TEST_F(CategoriesOpeningTest, APageLabelHidesItAndClosesTheMinors) {
     openWith({u"甲|1|a"_s});
-    for (const Page& page : Pages) {
+    for (const QString& label : PageLabels) {
         open();
         clickMajor(1);
         ASSERT_TRUE(minorsUsable());
-        clickLabel(QString::fromUtf16(page.label));
-        EXPECT_FALSE(frame3().Visible()) << page.code;
-        EXPECT_FALSE(minorsUsable()) << page.code;
-        EXPECT_TRUE(ms3().isEnabled()) << page.code;
+        clickLabel(label);
+        EXPECT_FALSE(frame3().Visible()) << label.toStdString();
+        EXPECT_FALSE(minorsUsable()) << label.toStdString();
+        EXPECT_TRUE(ms3().isEnabled()) << label.toStdString();
     }
 }
 
@@ -236,9 +236,11 @@ TEST_F(CategoriesOpeningTest, TheSettingsOpenItOnIncomeWheneverItIsOpened) {
     }
 }
 
-TEST_F(CategoriesOpeningTest, TheOptionInForceHasTheKeyboardAndTheArrowsChangeSides) {
+TEST_F(CategoriesOpeningTest, TabComesToTheOptionInForceAndTheArrowsChangeSides) {
     store({u"日常生活|买菜|mc"_s}, Expense);
     openWith({u"甲|1|a"_s});
+    EXPECT_EQ(QApplication::focusWidget(), &rig.mainWindow());
+    rig.press(rig.mainWindow(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &option(Income));
     rig.press(option(Income), Qt::Key_Right);
     EXPECT_EQ(majors(), QStringList{u"日常生活"_s});

@@ -115,14 +115,15 @@ TEST_F(LoansSaveTest, GoesIntoTheListOfAnOptionAfterTheWindowWasMinimised) {
     expectSavedInto(Borrowed);
 }
 
-TEST_F(LoansSaveTest, NamesNoTableOfItsOwn) {
+TEST_F(LoansSaveTest, GoesIntoTheListThatThePageLoadedWhateverTheControlHoldsMeanwhile) {
     store(Borrowed, 2);
     openWith(3);
-    adodc1().open(u"jrb"_s);
+    fillCell(1, list.text, u"改过"_s);
+    handlers::enter([this] { adodc1().open(u"jrb"_s); });
     press(save());
-    EXPECT_EQ(names(Borrowed).size(), 3);
-    EXPECT_EQ(names().size(), 3);
-    EXPECT_EQ(adodc1().recordSource(), u"jrb");
+    EXPECT_EQ(names(Borrowed).size(), 2);
+    EXPECT_EQ(names().front(), u"改过|1"_s);
+    EXPECT_EQ(adodc1().recordSource(), u"jrb"); // it names no table of its own
 }
 
 TEST_F(LoansSaveTest, LooksAtTheTableAnewWhenItHasEmptiedIt) {

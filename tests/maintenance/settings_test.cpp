@@ -30,10 +30,8 @@ TEST_F(SettingsPageTest, OpensInItsPlaceInFrontOfAllOthers) {
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ((std::array{page.Left(), page.Top(), page.Width(), page.Height()}),
               (std::array{120., 1680., 11655., 6135.}));
-    for (const PageFrame& other : PageFrames) {
-        const Frame& frame = rig.frame(QString::fromUtf16(other.name));
-        EXPECT_EQ(frame.Visible(), &frame == &page) << frame.objectName().toStdString();
-    }
+    for (const Page* other : rig.mainWindow().navigation().pages())
+        EXPECT_EQ(other->frame().Visible(), &other->frame() == &page) << other->frame().objectName().toStdString();
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 7);
     EXPECT_EQ(rig.onMain<Label>(u"Label7"_s).ForeColor(), 255u);
     EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), 0u);

@@ -83,40 +83,39 @@ TEST_F(DataControl, AnotherFileIsOpenedWhenTheConnectionNamesIt) {
     EXPECT_EQ(second.open(u"srb"_s).recordCount(), 1); // written before the file was left
 }
 
-TEST_F(DataControl, BorrowedComesBackAsItWas) {
+TEST_F(DataControl, ASetThatIsKeptOutlivesOtherRefreshes) {
     addIncome(u"2024-5-3"_s, u"工资"_s, 100);
     addIncome(u"2024-5-4"_s, u"奖金"_s, 200);
     control.open(u"srb"_s).moveNext();
-    {
-        const Adodc::Loan loan = control.borrow();
-        EXPECT_FALSE(control.hasRecordset());
-        control.open(u"yhb"_s);
-    }
-    EXPECT_EQ(control.recordSource(), u"srb"_s);
-    EXPECT_EQ(control.recordset().field(u"项目").text(), u"奖金"_s);
-    control.recordset().deleteCurrent();
+    const auto kept = control.loaded();
+    control.open(u"yhb"_s);
+    EXPECT_EQ(kept->records().field(u"项目").text(), u"奖金"_s);
+    kept->records().deleteCurrent();
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 1);
 }
 
-TEST_F(DataControl, BorrowedBeforeAnyRefreshComesBackEmpty) {
-    {
-        const Adodc::Loan loan = control.borrow();
-        control.open(u"yhb"_s);
-    }
-    EXPECT_FALSE(control.hasRecordset());
-    EXPECT_EQ(control.recordSource(), QString());
+TEST_F(DataControl, ASetIsReadAgainFromItsOwnSourceWhenTheFileWasClosed) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    control.open(u"srb"_s);
+    const auto kept = control.loaded();
+    control.setRecordSource(u"yhb"_s);
+    addIncome(u"2024-5-4"_s, u"奖金"_s, 200); // into a set of its own
+    EXPECT_EQ(kept->records().recordCount(), 1);
+    store.close();
+    EXPECT_EQ(kept->records().recordCount(), 2);
+    EXPECT_EQ(kept->records().field(u"项目").text(), u"工资"_s);
+    for (Recordset& again = kept->records(); !again.eof(); again.moveNext())
+        again.deleteCurrent();
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
 }
 
-TEST_F(DataControl, BorrowedComesBackWhenTheBorrowerFails) {
-    control.open(u"yhb"_s);
-    EXPECT_THROW(
-        {
-            const Adodc::Loan loan = control.borrow();
-            control.open(u"no such table"_s);
-        },
-        RuntimeError);
-    EXPECT_EQ(control.recordSource(), u"yhb"_s);
-    EXPECT_EQ(control.recordset().recordCount(), 0);
+TEST_F(DataControl, ReloadingASetRunsItsSourceOnceMore) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 100);
+    control.open(u"srb"_s);
+    const auto kept = control.loaded();
+    addIncome(u"2024-5-4"_s, u"奖金"_s, 200);
+    kept->reload();
+    EXPECT_EQ(kept->records().recordCount(), 2);
 }
 
 } // namespace

@@ -92,6 +92,12 @@ private:
     Services m_spare;
 };
 
+/// The labels in the row across the top of the main window, from left to right.
+inline const QStringList PageLabels{QStringLiteral("Label24"), QStringLiteral("Label2(0)"), QStringLiteral("Label2(1)"),
+                                    QStringLiteral("Label1"),  QStringLiteral("Label6"),    QStringLiteral("Label5"),
+                                    QStringLiteral("Label12"), QStringLiteral("Label4"),    QStringLiteral("Label8"),
+                                    QStringLiteral("Label23"), QStringLiteral("Label7")};
+
 /// Writes a data file as delivered, header spoilt, at `path`.
 void writeDeliveredData(const QString& path);
 

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/controls.h"
+
+#include <span>
+
+namespace qinghe {
+
+class Navigation;
+
+/// A label in the row across the top of the main window.
+struct PageTab {
+    const char16_t* label;
+    const char16_t* caption;
+    double left; ///< twips
+    int code;    ///< currentPage while the page is in front by this label
+};
+
+/// A page as the navigation knows it. Twips.
+struct PageTraits {
+    const char16_t* frame;
+    const char16_t* caption; ///< of the frame at first
+    double left, top, width, height;
+    std::span<const PageTab> tabs = {};    ///< none for a page that is entered in another way
+    const char16_t* leavesAlone = nullptr; ///< the frame that stays as it stands behind this page
+};
+
+/// A page of the main window: a frame, what brings it to the front, and what it does when others do something that
+/// concerns it. It enters itself with the navigation, which makes frame and labels and alone shows and hides frames.
+class Page : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both outlive the page; the frame's window owns it.
+    Page(Navigation& navigation, const PageTraits& traits);
+
+    const PageTraits& traits() const { return m_traits; }
+    Frame& frame() const { return m_frame; }
+
+    /// The click of one of the page's labels, by its code.
+    virtual void tabClicked(int code) { Q_UNUSED(code) }
+    /// Another page has been chosen, whether this one was on view or not.
+    virtual void left() {}
+    /// A click on the bare ground of the main window, whatever page is on view.
+    virtual void formClicked() {}
+    /// The main window loads: what is stored of the page's settings is to be shown, and to take effect.
+    virtual void windowLoads() {}
+
+protected:
+    Navigation& navigation() const { return m_navigation; }
+
+private:
+    Navigation& m_navigation;
+    const PageTraits& m_traits;
+    Frame& m_frame;
+};
+
+} // namespace qinghe
