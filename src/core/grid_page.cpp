@@ -94,7 +94,6 @@ void GridPage::cellClick() {
         return;
     editor->lay();
     editor->setShown(true);
-    editor->raise();
     editor->takeFocus();
     const int column = grid->Col();
     if (traits.date.column && column == traits.date.column)

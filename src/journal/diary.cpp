@@ -142,7 +142,6 @@ void DiaryPage::Form2_ms8_Click() {
 void DiaryPage::editCell() {
     tx9->lay();
     tx9->setShown(true);
-    tx9->raise();
     tx9->takeFocus();
     if (ms8->Col() == DateColumn)
         openPicker();

@@ -112,5 +112,16 @@ TEST_F(DiaryFinding, ComingBackToThePageIsWriteModeAgain) {
     EXPECT_TRUE(save().isEnabled());
 }
 
+TEST_F(DiaryFinding, AnEntryIsShownAlsoWhenTheFileWasClosedOrTheControlUsedMeanwhile) {
+    saveEntry(u"2024-5-3"_s, u"插秧"_s, {u"一"_s});
+    find();
+    handlers::enter([this] {
+        rig.mainWindow().Adodc1->open(u"srb"_s); // empty, as what a tick asks for may be
+        rig.program->bench().store.close();
+    });
+    EXPECT_EQ(shown(1), u"一"_s);
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -267,5 +267,38 @@ TEST_F(ReminderWatch, ATickAsksOnTheControlThatThePagesUseToo) {
     EXPECT_EQ(control.recordSource(), u"select * from rcb where 日程日期= # 2024-6-18 # ");
 }
 
+TEST_F(ReminderWatch, APopupThatStandsIsNotShownAnewAtEveryTick) {
+    plant(u"2024-06-18"_s, u"20 36"_s, u"a"_s);
+    watch();
+    pass();
+    ASSERT_TRUE(rings());
+    // One that has gone behind another window is left there.
+    struct Risings : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::ZOrderChange;
+            return false;
+        }
+        int count = 0;
+    } risings;
+    rig.loaded(u"Form6"_s)->installEventFilter(&risings);
+    pass(10);
+    EXPECT_EQ(risings.count, 0);
+}
+
+TEST_F(ReminderWatch, APauseEndsAWatchThatASaveHasBegunMeanwhile) {
+    plant(u"2024-06-18"_s, u"20 36"_s, u"a"_s);
+    watch();
+    pass();
+    understand();
+    rig.click(fresh());
+    write(u"b"_s, u"2024-6-18"_s, u"20"_s, u"36"_s);
+    rig.click(save());
+    ASSERT_TRUE(timer2().Enabled());
+    tick(timer3());
+    EXPECT_FALSE(timer2().Enabled());
+    pass(5);
+    EXPECT_FALSE(rings());
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -1,5 +1,7 @@
 #include "ledger/categories_rig.h"
 
+#include <QFile>
+
 // The save buttons of the two lists. They share a table and know nothing of each other: the majors' save leaves no
 // minor, the minors' save writes one column too far left. Both are meant.
 
@@ -15,6 +17,12 @@ protected:
         rig.messages->shown.clear();
         press(number);
         EXPECT_EQ(rig.messages->shown, std::vector{SaveDone});
+    }
+    /// Closes the store and puts this file in its place.
+    void restore(const QString& name) {
+        handlers::enter([this] { bench().store.close(); });
+        QFile::remove(rig.dataFile());
+        ASSERT_TRUE(QFile::copy(rig.file(name), rig.dataFile()));
     }
 };
 
@@ -252,6 +260,41 @@ TEST_F(CategoriesSaveTest, FiveThousandMajorsAndMinorsAreOpenedAndSaved) {
     save(12);
     EXPECT_EQ(rig.sql(u"select count(distinct 支出大类), count(支出细类), count(快速代码) from zcflb"_s),
               QStringList{u"5000|5000|0"_s});
+}
+
+TEST_F(CategoriesSaveTest, MajorsGoIntoAFileThatWasRestoredMeanwhile) {
+    openWith({u"甲|1|a"_s});
+    QFile::copy(rig.dataFile(), rig.file(u"b"_s));
+    rig.sql(u"insert into srflb values('丙','3','c')"_s);
+    fillMajor(1, u"乙"_s);
+    restore(u"b"_s);
+    save(9);
+    EXPECT_EQ(stored(), QStringList{u"乙|NULL|NULL"_s});
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(CategoriesSaveTest, MinorsGoIntoAFileThatWasRestoredMeanwhile) {
+    openWith({u"甲|1|a"_s});
+    QFile::copy(rig.dataFile(), rig.file(u"b"_s));
+    clickMajor(1);
+    fillMinor(1, u"2"_s, u"b"_s);
+    restore(u"b"_s);
+    save(12);
+    EXPECT_EQ(stored(), QStringList{u"2|b|NULL"_s});
+    EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(CategoriesSaveTest, GoIntoTheirOwnTableWhateverTheControlsHoldMeanwhile) {
+    openWith({u"甲|1|a"_s});
+    clickMajor(1);
+    fillMajor(1, u"乙"_s);
+    handlers::enter([this] {
+        adodc1().open(u"yhb"_s);
+        adodc2().open(u"yhb"_s);
+    });
+    save(9);
+    EXPECT_EQ(stored(), QStringList{u"乙|NULL|NULL"_s});
+    EXPECT_EQ(rig.sql(u"select count(*) from yhb"_s), QStringList{u"1"_s});
 }
 
 } // namespace

@@ -176,5 +176,15 @@ TEST_F(UsersCellsTest, LoseTheEditorWhenThePageIsOpenedAgain) {
     EXPECT_EQ(rows(), QStringList{u"人1|密码1"_s});
 }
 
+TEST_F(UsersCellsTest, AClickOnTheBareFormKeepsTheBoxAndGivesTheListTheKeyboard) {
+    openWith(2);
+    clickCell(1, 2);
+    write(u"新密码"_s);
+    clickForm();
+    EXPECT_EQ(grid().TextMatrix(1, 2), u"新密码");
+    EXPECT_FALSE(box().Visible());
+    EXPECT_EQ(rig.mainWindow().focusWidget(), &grid());
+}
+
 } // namespace
 } // namespace qinghe::testing
