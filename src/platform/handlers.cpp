@@ -26,6 +26,16 @@ State& state() {
     return s;
 }
 
+bool waits(const std::vector<Waiting>& list, const void* key) {
+    return std::any_of(list.begin(), list.end(), [key](const Waiting& w) { return w.key == key; });
+}
+
+/// A key that waits already keeps its place and its call.
+void queueOnce(std::vector<Waiting>& list, const void* key, std::function<void()> call) {
+    if (!waits(list, key))
+        list.push_back({key, std::move(call)});
+}
+
 void drop(std::vector<Waiting>& list, const void* key) {
     std::erase_if(list, [key](const Waiting& w) { return w.key == key; });
 }
@@ -48,7 +58,7 @@ void endProgram(int code) {
 void commitQuietly() {
     try {
         boundary();
-    } catch (const RuntimeError&) {
+    } catch (...) {
     }
 }
 
@@ -58,6 +68,15 @@ void fail(const RuntimeError& error) {
     if (state().hooks.report)
         state().hooks.report(error);
     endProgram(1);
+}
+
+/// A fault of the program itself; `trace` says which, to whoever is asked for help.
+RuntimeError internalError(const char* trace) {
+    return RuntimeError(
+        RuntimeError::InternalError,
+        QStringLiteral("程序内部出错，无法继续。出错以前的改动已经保存。请重新启动程序，核对刚才的记录；"
+                       "如果再次出现，请先备份账本（复制 data.dll），再把下面这行文字告诉维护程序的人。\r\n%1")
+            .arg(QString::fromUtf8(trace)));
 }
 
 /// The body of a guard: whatever leaves `call` ends here. Returns whether the program goes on.
@@ -73,6 +92,10 @@ bool guarded(const std::function<void()>& call) {
         endProgram(end.code);
     } catch (const std::bad_alloc&) {
         fail(RuntimeError(7, QStringLiteral("内存不足，程序无法继续。已经保存的记录不受影响。")));
+    } catch (const std::exception& error) {
+        fail(internalError(error.what()));
+    } catch (...) {
+        fail(internalError("unknown exception"));
     }
     return false;
 }
@@ -132,9 +155,7 @@ void boundary() {
 }
 
 void atBoundary(const void* key, std::function<void()> call) {
-    auto& list = state().boundary;
-    if (std::none_of(list.begin(), list.end(), [key](const Waiting& w) { return w.key == key; }))
-        list.push_back({key, std::move(call)});
+    queueOnce(state().boundary, key, std::move(call));
 }
 
 void forget(const void* key) {
@@ -146,8 +167,7 @@ void tick(const void* key, std::function<void()> call) {
         enter(call);
         return;
     }
-    forgetTick(key);
-    state().ticks.push_back({key, std::move(call)});
+    queueOnce(state().ticks, key, std::move(call));
 }
 
 void forgetTick(const void* key) {

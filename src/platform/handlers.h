@@ -8,8 +8,9 @@
 /// comes in while a message box is open).
 ///
 /// A handler is a unit of work: when the outermost one returns, what waits for a boundary is done (grids brought up to
-/// date, the store committed), then ticks that came in meanwhile run. A run-time error ends the program at the
-/// innermost guard: what was done is kept, the error is shown, the process ends with code 1.
+/// date, the store committed), then ticks that came in meanwhile run, in the order in which they came. A run-time error
+/// ends the program at the innermost guard: what was done is kept, the error is shown, the process ends with code 1.
+/// Any other exception goes the same road as RuntimeError::InternalError.
 namespace qinghe::handlers {
 
 /// Thrown by a handler that ends the program itself; takes the same road as a run-time error, without a message.
@@ -21,7 +22,7 @@ struct ProgramEnd {
 struct Hooks {
     std::function<void()> commit;                    ///< ends the store's unit of work; may throw RuntimeError
     std::function<void(const RuntimeError&)> report; ///< shows the error window
-    std::function<void(int code)> end;               ///< closes the store and ends the process; returns in tests only
+    std::function<void(int code)> end;               ///< ends the process; returns in tests only
     std::function<void()> returned;                  ///< the outermost handler has returned and its work is kept
 };
 void install(Hooks hooks);
@@ -46,7 +47,8 @@ void boundary();
 void atBoundary(const void* key, std::function<void()> call);
 void forget(const void* key);
 
-/// Runs a tick now, or when the outermost handler has returned. A key waits once at most; forgetTick drops it.
+/// Runs a tick now, or when the outermost handler has returned. A key waits once at most, in the place of its first
+/// tick; forgetTick drops it.
 void tick(const void* key, std::function<void()> call);
 void forgetTick(const void* key);
 

@@ -6,9 +6,9 @@
 
 namespace qinghe {
 
-/// A run-time error: stops the handler in which it is thrown and ends the program (see HandlerScope in platform).
+/// A run-time error: stops the handler in which it is thrown and ends the program at the guard around it.
 /// `number` is the runtime's own error number, `text` says in Chinese what happened and names the value at fault, in
-/// words that a user can act on. No other exception leaves a handler.
+/// words that a user can act on. Every other exception that leaves a handler becomes InternalError.
 class RuntimeError : public std::exception {
 public:
     RuntimeError(int number, QString text);
@@ -23,12 +23,13 @@ public:
     static constexpr int SubscriptOutOfRange = 9;
     static constexpr int DivisionByZero = 11;
     static constexpr int TypeMismatch = 13;
+    static constexpr int InternalError = 51; ///< a fault of the program itself
     static constexpr int FileNotFound = 53;
     static constexpr int DiskFull = 61;
     static constexpr int PathFileAccess = 75;
     static constexpr int PathNotFound = 76;
     static constexpr int InvalidPicture = 481;
-    static constexpr int NoCurrentRecord = 3021; ///< a value read at EOF, MoveFirst on an empty set
+    static constexpr int NoCurrentRecord = 3021; ///< a value read at EOF, moveFirst on an empty set
     static constexpr int StoreFailure = 3343;    ///< what is in the file is no readable store
     static constexpr int QueryFailure = 3075;    ///< the store refuses a query text
 

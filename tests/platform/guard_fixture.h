@@ -21,7 +21,11 @@ protected:
         handlers::reset();
         handlers::install({
             .commit = [this] { onCommit(); },
-            .report = [this](const RuntimeError& error) { log << u"report %1"_s.arg(error.number()); },
+            .report =
+                [this](const RuntimeError& error) {
+                    log << u"report %1"_s.arg(error.number());
+                    told = error.text();
+                },
             .end = [this](int code) { log << u"end %1"_s.arg(code); },
             .returned = [this] { log << u"returned"_s; },
         });
@@ -34,6 +38,7 @@ protected:
     }
 
     QStringList log;
+    QString told; ///< the text of the error last reported
     std::function<void()> onCommit = [this] { log << u"commit"_s; };
 };
 

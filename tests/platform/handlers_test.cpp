@@ -2,7 +2,11 @@
 #include "platform/event.h"
 #include "support/doubles.h"
 
+#include <QRegularExpression>
+
 #include <new>
+#include <stdexcept>
+#include <vector>
 
 namespace qinghe::testing {
 namespace {
@@ -48,6 +52,27 @@ TEST_F(Handlers, ATickWaitsOnceAtMostForEachKey) {
     });
     EXPECT_EQ(log.count(u"one"_s), 1);
     EXPECT_EQ(log.count(u"other"_s), 1);
+}
+
+TEST_F(Handlers, WaitingTicksRunInTheOrderInWhichTheyCame) {
+    const int keys[4] = {};
+    handlers::enter([&] {
+        for (const int& key : keys)
+            handlers::tick(&key, [this, number = &key - keys] { log << QString::number(number); });
+    });
+    log.removeAll(u"commit"_s);
+    log.removeAll(u"returned"_s);
+    EXPECT_EQ(log, (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
+}
+
+TEST_F(Handlers, ATickThatWaitsKeepsItsPlaceWhenItsTimerTicksAgain) {
+    const int one = 0, other = 0;
+    handlers::enter([&] {
+        handlers::tick(&one, [this] { log << u"one"_s; });
+        handlers::tick(&other, [this] { log << u"other"_s; });
+        handlers::tick(&one, [this] { log << u"one again"_s; });
+    });
+    EXPECT_EQ(log.filter(QRegularExpression(u"^o"_s)), (QStringList{u"one"_s, u"other"_s}));
 }
 
 TEST_F(Handlers, AWaitingTickCanBeDropped) {
@@ -101,6 +126,36 @@ TEST_F(Handlers, AProgramThatEndsItselfGoesTheSameRoadWithoutAMessage) {
 TEST_F(Handlers, LackOfMemoryIsToldLikeARunTimeError) {
     handlers::enter([] { throw std::bad_alloc(); });
     EXPECT_EQ(log, (QStringList{u"commit"_s, u"report 7"_s, u"end 1"_s}));
+}
+
+TEST_F(Handlers, AnyOtherExceptionIsToldAsAnInternalErrorAndItsWorkIsKept) {
+    const std::function<void()> throwing[] = {
+        [] { std::vector<int>().at(3); },
+        [] { throw std::runtime_error("no words for a user"); },
+        [] { throw 7; },
+    };
+    for (const auto& call : throwing) {
+        SetUp();
+        log.clear();
+        handlers::enter([&] {
+            log << u"work"_s;
+            call();
+        });
+        EXPECT_EQ(log, (QStringList{u"work"_s, u"commit"_s, u"report 51"_s, u"end 1"_s}));
+        EXPECT_TRUE(handlers::ending());
+        EXPECT_TRUE(told.contains(u"备份"_s)) << told.toStdString();
+    }
+}
+
+TEST_F(Handlers, WhatWentWrongInsideIsNamedForWhoeverIsAskedForHelp) {
+    handlers::enter([] { throw std::out_of_range("no such place"); });
+    EXPECT_TRUE(told.contains(u"no such place"_s)) << told.toStdString();
+}
+
+TEST_F(Handlers, AForeignExceptionWhileTheWorkIsKeptDoesNotGetOut) {
+    onCommit = [] { throw std::out_of_range("in the commit"); };
+    handlers::enter([this] { log << u"work"_s; });
+    EXPECT_EQ(log, (QStringList{u"work"_s, u"report 51"_s, u"end 1"_s}));
 }
 
 TEST_F(Handlers, NothingRunsOnceTheProgramIsEnding) {
