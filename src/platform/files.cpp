@@ -39,6 +39,12 @@ bool isFolder(const QString& path) {
 }
 
 void makeFolder(const QString& path) {
+    if (QFileInfo(path).isFile())
+        throw RuntimeError(
+            RuntimeError::PathFileAccess,
+            QStringLiteral(
+                "“%1”是一个文件，程序却要在这个名字的文件夹里存放内容。请把这个文件改名或移到别处，再启动程序。")
+                .arg(path));
     if (!QDir().mkdir(path))
         throw RuntimeError(RuntimeError::PathFileAccess,
                            QStringLiteral("不能建立文件夹：%1。请检查上级文件夹的权限。").arg(path));

@@ -9,6 +9,7 @@ namespace qinghe::files {
 
 /// Whether `path` is a folder.
 bool isFolder(const QString& path);
+/// Throws PathFileAccess, which says so when a file of that name is in the way.
 void makeFolder(const QString& path);
 /// Refuses what has no bytes to give: a folder, and what is no file at all and may keep its reader waiting for ever.
 /// PathFileAccess.

@@ -48,7 +48,14 @@ QString systemPath(const QString& path) {
     const qsizetype last = path.lastIndexOf(u'\\');
     if (QDir::separator() == u'\\' || last <= path.lastIndexOf(u'/') || QFileInfo::exists(path))
         return path;
-    return path.first(last) + u'/' + path.sliced(last + 1);
+    const QString name = u'/' + path.sliced(last + 1);
+    const QString outside = path.first(last) + name, inside = path.first(last + 1) + name;
+    return !QFileInfo::exists(outside) && QFileInfo::exists(inside) ? inside : outside;
+}
+
+QString systemPath(const QString& path, const QString& inUse) {
+    const QFileInfo used(inUse);
+    return !inUse.isEmpty() && programFile(used.path(), used.fileName()) == path ? inUse : systemPath(path);
 }
 
 } // namespace qinghe

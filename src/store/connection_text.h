@@ -16,7 +16,10 @@ QString connectionText(const QString& appPath, bool trailingBlank);
 QString dataSource(const QString& connectionText);
 
 /// A path as the system takes it. Where "\" is no separator, the last "\" before the file's name stands for "/", unless
-/// the file exists under the literal name; other "\" are part of folder names.
+/// the file exists under the literal name; other "\" are part of folder names. It may be the end of the folder's own
+/// name as well, to which none was added then: the file is sought in that folder too.
 QString systemPath(const QString& path);
+/// The same for a program that has a file in use: the path names this one wherever it can.
+QString systemPath(const QString& path, const QString& inUse);
 
 } // namespace qinghe

@@ -143,7 +143,8 @@ TEST_F(BrokenStart, APictureOfTheMainWindowThatCannotBeWrittenIsTold) {
 TEST_F(BrokenStart, AFileInPlaceOfTheDiaryFolderIsToldAndKept) {
     write(u"mydiary"_s, "something of the user's");
     rig.signIn();
-    expectError(RuntimeError::PathFileAccess, u"mydiary"_s);
+    expectError(RuntimeError::PathFileAccess, u"/mydiary”是一个文件"_s);
+    EXPECT_TRUE(rig.messages->errors.front().second.contains(u"改名或移到别处"_s));
     EXPECT_EQ(bytes(u"mydiary"_s), "something of the user's");
     QFile::remove(rig.file(u"mydiary"_s));
     expectNextStartGood();

@@ -54,7 +54,7 @@ TEST(SystemPath, LeavesTheNameOfAnExistingFileAlone) {
 
 TEST(ConnectionText, LeadsToTheFileInFoldersWithOddNames) {
     const QTemporaryDir parent;
-    for (const auto& name : {u"青禾家庭记账本"_s, u"a;b"_s, u"it's"_s, u"a\\b"_s, u"两 个 blanks "_s,
+    for (const auto& name : {u"青禾家庭记账本"_s, u"a;b"_s, u"it's"_s, u"a\\b"_s, u"末尾\\"_s, u"两 个 blanks "_s,
                              u"data source=x"_s, u"100%#?&file:"_s, u"\"quoted\""_s}) {
         const QString folder = parent.filePath(name);
         ASSERT_TRUE(QDir().mkpath(folder));
@@ -66,6 +66,33 @@ TEST(ConnectionText, LeadsToTheFileInFoldersWithOddNames) {
             EXPECT_EQ(control.open(u"yhb"_s).recordCount(), 0) << name;
             EXPECT_EQ(store.path(), folder + u"/data.dll"_s);
         }
+    }
+}
+
+TEST(SystemPath, FindsTheFileInAFolderWhoseNameEndsInTheSeparator) {
+    const QTemporaryDir parent;
+    const QString folder = parent.filePath(u"账本\\"_s);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString named = programFile(folder, u"data.dll"_s);
+    EXPECT_EQ(systemPath(named), parent.filePath(u"账本/data.dll"_s)) << "none is there";
+    ASSERT_TRUE(QFile(folder + u"/data.dll"_s).open(QIODevice::WriteOnly));
+    EXPECT_EQ(systemPath(named), folder + u"/data.dll"_s);
+}
+
+TEST(SystemPath, MeansTheFileInUseWhereTwoFoldersWouldDo) {
+    const QTemporaryDir parent;
+    const QString plain = parent.filePath(u"账本"_s), odd = plain + u'\\';
+    for (const QString& folder : {plain, odd}) {
+        ASSERT_TRUE(QDir().mkpath(folder));
+        createStore(folder + u"/data.dll"_s);
+    }
+    for (const QString& folder : {plain, odd}) {
+        Store store;
+        store.use(folder + u"/data.dll"_s);
+        Adodc control(store, u"Adodc1"_s);
+        control.setConnectionString(connectionText(folder, true));
+        control.open(u"yhb"_s);
+        EXPECT_EQ(store.path(), folder + u"/data.dll"_s);
     }
 }
 

@@ -64,7 +64,10 @@ void writeDeliveredData(const QString& path) {
     spoilHeader(path);
 }
 
-ProgramRig::ProgramRig() : m_dir(std::make_unique<QTemporaryDir>()) {
+ProgramRig::ProgramRig(const QString& folderName)
+    : m_dir(std::make_unique<QTemporaryDir>()),
+      m_folder(folderName.isEmpty() ? m_dir->path() : m_dir->filePath(folderName)) {
+    QDir().mkpath(m_folder);
     writeDeliveredData(dataFile());
     m_spare = makeServices();
 }

@@ -16,7 +16,8 @@ namespace qinghe::testing {
 /// false, small pictures; the ledgers are empty.
 class ProgramRig {
 public:
-    ProgramRig();
+    /// In a folder of this name inside the temporary one, or in that itself.
+    explicit ProgramRig(const QString& folderName = {});
     ~ProgramRig();
 
     /// Makes the program and shows the sign-in. Called by signIn; call it yourself to test what comes before.
@@ -60,7 +61,7 @@ public:
     static QString rowText(const MSFlexGrid& grid, int row);
 
     QString file(const QString& name) const { return QDir(folder()).filePath(name); }
-    QString folder() const { return m_dir->path(); }
+    QString folder() const { return m_folder; }
     QString dataFile() const { return file(QStringLiteral("data.dll")); }
 
     /// Runs SQL on the data file through a connection of its own (rows as texts joined with "|"; NULL reads "NULL"),
@@ -89,6 +90,7 @@ private:
     Services makeServices();
 
     std::unique_ptr<QTemporaryDir> m_dir;
+    QString m_folder;
     Services m_spare;
 };
 
