@@ -7,6 +7,12 @@
 
 namespace qinghe {
 
+/// What the labels of a chart are.
+enum class ChartLabels {
+    Words,
+    Months, ///< keys of months, "2024-5-" or "2024-10"
+};
+
 /// What a chart shows: a row is a place on the axis with its label, a column is a series of one value a row.
 struct ChartMatrix {
     static constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();

@@ -155,7 +155,7 @@ void ChartsPage::show(const QueryChart& chart) {
     Recordset& records = Adodc1.open(QString::fromUtf16(chart.query));
     if (refuseEmpty(records, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
         return;
-    draw(records);
+    draw(records, ChartLabels::Words);
     Frame12->setCaption((this->*chart.option)->text());
 }
 
@@ -167,7 +167,7 @@ void ChartsPage::show(const MonthChart& chart) {
     Recordset& sums = Adodc2.open(QString::fromUtf16(chart.sums));
     if (refuseEmpty(sums, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
         return;
-    draw(sums);
+    draw(sums, ChartLabels::Months);
     if (chart.refreshesBehind)
         Adodc2.refresh();
     Frame12->setCaption((this->*chart.option)->text());
@@ -199,14 +199,14 @@ bool ChartsPage::refuseEmpty(const Recordset& records, const QString& message, c
     return true;
 }
 
-void ChartsPage::draw(Recordset& records) {
+void ChartsPage::draw(Recordset& records, ChartLabels labels) {
     QVariantList points;
     points.reserve(records.recordCount());
     for (; !records.eof(); records.moveNext()) {
         const Value value = records.field(1).value();
         points << QVariant(QVariantList{records.field(0).text(), value.isNull() ? QVariant() : value.number()});
     }
-    MSC1->setChartData(points);
+    MSC1->setChartData(points, labels);
     records.moveFirst();
 }
 
@@ -238,7 +238,7 @@ void ChartsPage::Form2_Command25_Click() {
                                               : head.arg(u"zcb"_s) + from + u"# and # "_s + to + u"# group by 项目"_s;
     Recordset& records = Adodc1.open(query);
     if (!refuseEmpty(records, u"当前日期范围内不存在记录"_s, u"查询提示"_s))
-        draw(records);
+        draw(records, ChartLabels::Words);
 }
 
 void ChartsPage::Form2_Frame1_Click() {

@@ -34,7 +34,7 @@ private:
     void show(const MonthChart& chart);
     void gatherMonths(const MonthChart& chart);
     /// Draws field 1 over field 0; the set stands on its first row behind it.
-    void draw(Recordset& records);
+    void draw(Recordset& records, ChartLabels labels);
     bool refuseEmpty(const Recordset& records, const QString& message, const QString& title);
     void pickDate(int target, const TextBox& box);
 

@@ -51,10 +51,11 @@ qsizetype fullLine(const QString& words, double room, const Ruler& ruler) {
 } // namespace
 
 QString drawnLabel(const QString& label) {
-    QString words = label.left(2 * LongestMeasured).simplified();
-    if (words.endsWith(u'-'))
-        words.chop(1);
-    return words;
+    return label.left(2 * LongestMeasured).simplified();
+}
+
+QString monthLabel(const QString& key) {
+    return key.endsWith(u'-') ? key.chopped(1) : key;
 }
 
 LabelLines breakLabel(const QString& words, double room, int mostLines, const Ruler& ruler) {

@@ -26,7 +26,7 @@ ChartFonts fontsFor(const ChartMatrix& matrix) {
     return {sans(type::Small), label};
 }
 
-ChartMatrix matrixOf(const QVariantList& data) {
+ChartMatrix matrixOf(const QVariantList& data, ChartLabels labels) {
     ChartMatrix matrix;
     std::vector<double> values;
     values.reserve(static_cast<size_t>(data.size()));
@@ -34,7 +34,8 @@ ChartMatrix matrixOf(const QVariantList& data) {
         const QVariantList row = entry.toList();
         bool isNumber = false;
         const double value = row.value(1).toDouble(&isNumber);
-        matrix.rows << row.value(0).toString();
+        const QString label = row.value(0).toString();
+        matrix.rows << (labels == ChartLabels::Months ? monthLabel(label) : label);
         values.push_back(isNumber ? value : ChartMatrix::NoValue);
     }
     matrix.values.push_back(std::move(values));
@@ -82,9 +83,9 @@ MSChart::MSChart(QWidget* parent, const QString& name, const QString& moduleFold
 
 MSChart::~MSChart() = default;
 
-void MSChart::setChartData(const QVariantList& rows) {
+void MSChart::setChartData(const QVariantList& rows, ChartLabels labels) {
     m_data = rows;
-    m_matrix = rows.isEmpty() ? sampleMatrix() : matrixOf(rows);
+    m_matrix = rows.isEmpty() ? sampleMatrix() : matrixOf(rows, labels);
     m_places.reset();
     m_rulers.reset();
     if (m_drawing)

@@ -29,9 +29,9 @@ public:
     ~MSChart() override;
 
     /// Rows of [label, value]; a value that is no number (an invalid QVariant) has no column. Empty before the first
-    /// data.
+    /// data. What the labels are decides only how they are drawn.
     const QVariantList& ChartData() const { return m_data; }
-    void setChartData(const QVariantList& rows);
+    void setChartData(const QVariantList& rows, ChartLabels labels = ChartLabels::Words);
 
     /// Where everything is drawn, and how far the rows are scrolled to the left, in pixels.
     const ChartLayout& places();

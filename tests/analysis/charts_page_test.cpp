@@ -185,6 +185,24 @@ TEST_F(ChartsTest, TakesAnyTextForALabel) {
     EXPECT_FALSE(rig.mainWindow().grab().isNull());
 }
 
+TEST_F(ChartsTest, LeavesTheDashAtTheEndOfAnyLabelThatIsNoMonth) {
+    storeAccount(u"'备用-'"_s, u"1"_s);
+    store(u"srb"_s, u"'2024-05-03'"_s, u"'奖金-'"_s, 2);
+    store(u"zcb"_s, u"'2024-05-03'"_s, u"'杂项-'"_s, 3);
+    const auto label = [this] { return chart().places().label(0).lines.join(u'/'); };
+    open();
+    EXPECT_EQ(label(), u"备用-");
+    click(u"Option13"_s);
+    EXPECT_EQ(label(), u"奖金-");
+    query(u"2024-5-1"_s, u"2024-5-9"_s);
+    EXPECT_EQ(label(), u"奖金-");
+    click(u"Option11"_s);
+    EXPECT_EQ(label(), u"2024-5");
+    EXPECT_EQ(points(), u"2024-5-=2");
+    click(u"Option15"_s);
+    EXPECT_EQ(label(), u"杂项-");
+}
+
 TEST_F(ChartsTest, HidesTheQueryRowUnderChartsThatHaveNoRange) {
     storeOneEach();
     open();

@@ -67,11 +67,15 @@ TEST_F(LabelLinesTest, TakeALabelOfTenThousandCharacters) {
     EXPECT_TRUE(breakLabel(drawnLabel(endless), 1e9, 2, ruler).cut);
 }
 
-TEST_F(LabelLinesTest, DropTheDashThatAMonthsKeyEndsIn) {
-    EXPECT_EQ(drawnLabel(u"2024-5-"_s), u"2024-5");
-    EXPECT_EQ(drawnLabel(u"2024-10"_s), u"2024-10");
-    EXPECT_EQ(drawnLabel(u"-"_s), u"");
-    EXPECT_EQ(drawnLabel(u"a--"_s), u"a-");
+TEST_F(LabelLinesTest, KeepTheDashThatALabelEndsIn) {
+    for (const QString& words : {u"备用-"_s, u"-"_s, u"a--"_s, u"2024-5-"_s})
+        EXPECT_EQ(drawnLabel(words), words);
+}
+
+TEST(MonthLabelTest, DropsTheDashThatAMonthsKeyEndsIn) {
+    EXPECT_EQ(monthLabel(u"2024-5-"_s), u"2024-5");
+    EXPECT_EQ(monthLabel(u"2024-10"_s), u"2024-10");
+    EXPECT_EQ(monthLabel({}), u"");
 }
 
 TEST_F(LabelLinesTest, PutLineBreaksOnOneLine) {
