@@ -27,7 +27,7 @@ public:
 private:
     struct Sum {
         Label* label;
-        Value total; ///< lastMonthIncome to thisMonthLent
+        Value total; ///< of the sign-in, NULL where nothing was summed
     };
     void showSums();
 

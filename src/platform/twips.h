@@ -6,8 +6,7 @@
 
 namespace qinghe {
 
-/// Twips to a pixel of the desktop's own unit (at 100 %); what Screen.TwipsPerPixelX and -Y give. Scaling to a denser
-/// screen is the desktop's.
+/// Twips to a pixel of the desktop's own unit (at 100 %), across and down. Scaling to a denser screen is the desktop's.
 inline constexpr double TwipsPerPixel = 15.0;
 
 /// The pixel edge that lies at `twips`. Edges are rounded, never widths, so that neighbours meet without gap.

@@ -7,7 +7,7 @@
 namespace qinghe {
 
 /// An open data file, through the header shim, set up for durable commits with a rollback journal. Never makes a file.
-/// All failures are RuntimeErrors.
+/// Every failure is a RuntimeError.
 class Connection {
 public:
     explicit Connection(const QString& path);

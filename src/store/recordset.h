@@ -19,12 +19,12 @@ class ResultSet;
 
 /// The rows of one Refresh: identities and values, no open statement. When the store has rested (Store::rest), and for
 /// rows added, values are read again as they are then; a row that has been deleted meanwhile has none. Stands on its
-/// first row, or at EOF when there is none. Rows added join it at the end; a row between AddNew and Update is not
+/// first row, or at EOF when there is none. Rows added join it at the end; a row between addNew and update is not
 /// counted.
 ///
 /// A set of a table, or of a select over one table without grouping, can be written; in a `select distinct` a deletion
 /// takes every stored row behind the value. Others refuse writing (RuntimeError, QueryFailure). Moving on, searching
-/// and AddNew store what is pending first, as update() would. Throws RuntimeError: NoCurrentRecord where a row is
+/// and addNew store what is pending first, as update() would. Throws RuntimeError: NoCurrentRecord where a row is
 /// needed and none is current, or it was deleted before its values were read again; StoreFailure when the file was
 /// closed or replaced since, for writing and for values that are to be read again; and what the store throws.
 class Recordset {

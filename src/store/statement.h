@@ -10,7 +10,7 @@ struct sqlite3_stmt;
 
 namespace qinghe {
 
-/// A prepared statement of SQLite. All failures are RuntimeErrors; after one the statement is reset and can be used
+/// A prepared statement of SQLite. Every failure is a RuntimeError; after one the statement is reset and can be used
 /// again.
 class Statement {
 public:
