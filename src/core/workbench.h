@@ -27,7 +27,7 @@ public:
     explicit Workbench(Services desktop) : services(std::move(desktop)) {}
 
     Services services;
-    Store store;
+    Store store{[this] { return services.clock->today().year(); }};
     Forms forms;
 
     /// Which field asked for the date picker (1 to 8) and which for the calculator (1 to 4); 0 before the first use.

@@ -10,7 +10,33 @@ namespace {
 
 constexpr int kFirstYear = 100;
 
-/// Reads a text from left to right, one piece at a time; a piece that does not stand there leaves the place unmoved.
+/// A number as it was written, with the count of its digits; 0 digits when there is none.
+struct Written {
+    int value = 0;
+    int digits = 0;
+};
+
+/// What a Chinese keyboard writes for the digits and marks of a date, as the plain one.
+QChar plain(QChar c) {
+    constexpr char16_t fullWidthFirst = 0xFF01, fullWidthLast = 0xFF5E, fullWidthOffset = 0xFEE0;
+    constexpr char16_t fullWidthBlank = 0x3000;
+    const char16_t code = c.unicode();
+    if (code >= fullWidthFirst && code <= fullWidthLast)
+        return QChar(static_cast<char16_t>(code - fullWidthOffset));
+    switch (code) {
+    case fullWidthBlank:
+        return u' ';
+    case u'。':
+        return u'.';
+    case u'号':
+        return u'日';
+    default:
+        return c;
+    }
+}
+
+/// Reads a text from left to right as plain characters, one piece at a time; a piece that does not stand there leaves
+/// the place unmoved.
 class Scanner {
 public:
     explicit Scanner(QStringView text) : m_text(text) {}
@@ -18,32 +44,37 @@ public:
     bool atEnd() const { return m_at == m_text.size(); }
 
     bool take(QChar c) {
-        const bool found = !atEnd() && m_text[m_at] == c;
+        const bool found = !atEnd() && plain(m_text[m_at]) == c;
         m_at += found ? 1 : 0;
         return found;
     }
 
     /// The separator that stands there, if it is one of those given.
     std::optional<QChar> takeAny(QStringView choices) {
-        if (atEnd() || !choices.contains(m_text[m_at]))
+        if (atEnd() || !choices.contains(plain(m_text[m_at])))
             return std::nullopt;
-        return m_text[m_at++];
+        return plain(m_text[m_at++]);
     }
 
-    /// A number of `least` to `most` digits; -1 when there is none.
-    int number(qsizetype least, qsizetype most) {
-        qsizetype length = 0;
-        int value = 0;
-        for (; length < most && m_at + length < m_text.size(); ++length) {
-            const char16_t c = m_text[m_at + length].unicode();
+    /// A number of `least` to `most` digits.
+    Written written(int least, int most) {
+        Written number;
+        for (; number.digits < most && m_at + number.digits < m_text.size(); ++number.digits) {
+            const char16_t c = plain(m_text[m_at + number.digits]).unicode();
             if (c < u'0' || c > u'9')
                 break;
-            value = value * 10 + (c - u'0');
+            number.value = number.value * 10 + (c - u'0');
         }
-        if (length < least)
-            return -1;
-        m_at += length;
-        return value;
+        if (number.digits < least)
+            return {};
+        m_at += number.digits;
+        return number;
+    }
+
+    /// The same where none counts as -1.
+    int number(int least, int most) {
+        const Written found = written(least, most);
+        return found.digits > 0 ? found.value : -1;
     }
 
 private:
@@ -57,30 +88,93 @@ struct ReadDay {
     bool monthAlone = false;
 };
 
-std::optional<ReadDay> readDay(Scanner& scanner) {
-    const int year = scanner.number(3, 4);
-    const auto separator = scanner.takeAny(u"-/.年");
-    const int month = scanner.number(1, 2);
-    if (!separator || year < kFirstYear)
-        return std::nullopt;
-    const bool words = *separator == u'年';
-    const bool monthClosed = scanner.take(words ? u'月' : *separator);
-    const int day = monthClosed ? scanner.number(1, 2) : -1;
-    const bool monthAlone = day < 0;
-    const bool complete = monthAlone ? words == monthClosed : !words || scanner.take(u'日');
-    const QDate date(year, month, monthAlone ? 1 : day);
-    return complete && date.isValid() ? std::optional(ReadDay{date, monthAlone}) : std::nullopt;
+/// The year that is meant by one of three or four digits, or of two: 00 to 29 are 2000 to 2029, the others before
+/// 2000. 0 when it is none.
+int yearOf(const Written& year) {
+    constexpr int century = 100, lastOfTwoDigits = 29;
+    if (year.digits == 2)
+        return year.value + (year.value <= lastOfTwoDigits ? 20 : 19) * century;
+    return year.digits > 2 && year.value >= kFirstYear ? year.value : 0;
 }
 
-/// The number of a few characters that are to be digits; -1 when one of them is none.
-int digitsOf(QByteArrayView text) {
+std::optional<ReadDay> validDay(int year, int month, int day, bool monthAlone = false) {
+    const QDate date(year, month, day);
+    return year > 0 && date.isValid() ? std::optional(ReadDay{date, monthAlone}) : std::nullopt;
+}
+
+/// Year, month and day, or month and day, or year and month with "-", "/" or "." between them; the first has been read.
+std::optional<ReadDay> readMarked(Scanner& scanner, const Written& first, QChar mark, const ThisYear& thisYear) {
+    const Written second = scanner.written(1, 2);
+    if (scanner.take(mark))
+        return validDay(yearOf(first), second.value, scanner.written(1, 2).value);
+    if (first.digits > 2)
+        return validDay(yearOf(first), second.value, 1, true);
+    return thisYear ? validDay(thisYear(), first.value, second.value) : std::nullopt;
+}
+
+/// 2024年5月3日, 2024年5月, 5月3日; the first number and its word have been read.
+std::optional<ReadDay> readWords(Scanner& scanner, const Written& first, bool isYear, const ThisYear& thisYear) {
+    const Written month = isYear ? scanner.written(1, 2) : first;
+    if (isYear && !scanner.take(u'月'))
+        return std::nullopt;
+    const Written day = scanner.written(1, 2);
+    if (day.digits == 0)
+        return isYear && first.digits > 2 ? validDay(yearOf(first), month.value, 1, true) : std::nullopt;
+    if (!scanner.take(u'日') || (!isYear && (first.digits > 2 || !thisYear)))
+        return std::nullopt;
+    return validDay(isYear ? yearOf(first) : thisYear(), month.value, day.value);
+}
+
+std::optional<ReadDay> readDay(Scanner& scanner, const ThisYear& thisYear) {
+    constexpr int allDigits = 8; // 20240503
+    const Written first = scanner.written(1, allDigits);
+    if (first.digits == allDigits && first.value / 10000 >= kFirstYear)
+        return validDay(first.value / 10000, first.value / 100 % 100, first.value % 100);
+    const auto separator = scanner.takeAny(u"-/.年月");
+    if (!separator || first.digits > 4)
+        return std::nullopt;
+    if (*separator == u'年' || *separator == u'月')
+        return readWords(scanner, first, *separator == u'年', thisYear);
+    return readMarked(scanner, first, *separator, thisYear);
+}
+
+/// The number of a few characters that are to be digits; -1 when one of them is none. Takes bytes and 16-bit texts.
+template<typename View>
+int digitsOf(View text) {
     int value = 0;
-    for (const char c : text) {
-        if (c < '0' || c > '9')
+    for (const auto character : text) {
+        const QChar c(character);
+        if (c < u'0' || c > u'9')
             return -1;
-        value = value * 10 + (c - '0');
+        value = value * 10 + (c.unicode() - u'0');
     }
     return value;
+}
+
+template<typename View>
+bool hasMark(View text, qsizetype at, char16_t mark) {
+    return QChar(text[at]) == mark;
+}
+
+struct DayNumbers {
+    int year, month, day;
+};
+
+/// The day of a text of ten characters, "2024-05-03".
+template<typename View>
+std::optional<DayNumbers> isoDay(View text) {
+    if (text.size() != 10 || !hasMark(text, 4, u'-') || !hasMark(text, 7, u'-'))
+        return std::nullopt;
+    const DayNumbers read{digitsOf(text.first(4)), digitsOf(text.sliced(5, 2)), digitsOf(text.sliced(8))};
+    const bool valid = read.year >= kFirstYear && QDate::isValid(read.year, read.month, read.day);
+    return valid ? std::optional(read) : std::nullopt;
+}
+
+/// The time of a text of nine characters, " 08:05:09"; an invalid one when it is none.
+QTime isoTime(QStringView text) {
+    if (text.size() != 9 || !hasMark(text, 0, u' ') || !hasMark(text, 3, u':') || !hasMark(text, 6, u':'))
+        return {};
+    return QTime(digitsOf(text.sliced(1, 2)), digitsOf(text.sliced(4, 2)), digitsOf(text.sliced(7)));
 }
 
 /// Hours and minutes, and seconds if they stand there; an invalid time when it is none.
@@ -160,10 +254,10 @@ QString DateValue::iso() const {
     return joiner.text();
 }
 
-std::optional<DateValue> parseDate(const QString& text) {
+std::optional<DateValue> parseDate(const QString& text, const ThisYear& thisYear) {
     const QString trimmed = text.trimmed();
     Scanner scanner(trimmed);
-    const auto read = readDay(scanner);
+    const auto read = readDay(scanner, thisYear);
     if (!read)
         return std::nullopt;
     DateValue value{read->day, {}};
@@ -176,15 +270,19 @@ std::optional<DateValue> parseDate(const QString& text) {
 }
 
 std::optional<DateValue> parseIsoDate(const QString& iso) {
-    const auto value = parseDate(iso);
-    return value && value->iso() == iso ? value : std::nullopt; // no other spelling of the same moment
+    constexpr qsizetype dayLength = 10;
+    const QStringView text = iso;
+    const auto read = isoDay(text.left(dayLength));
+    if (!read)
+        return std::nullopt;
+    const QTime time = isoTime(text.mid(dayLength));
+    if (text.size() > dayLength && !time.isValid())
+        return std::nullopt;
+    return DateValue{QDate(read->year, read->month, read->day), time};
 }
 
 std::optional<QString> textOfIsoDay(QByteArrayView iso) {
-    if (iso.size() != 10 || iso[4] != '-' || iso[7] != '-')
-        return std::nullopt;
-    const int year = digitsOf(iso.first(4)), month = digitsOf(iso.sliced(5, 2)), day = digitsOf(iso.sliced(8));
-    if (year < kFirstYear || !QDate::isValid(year, month, day))
+    if (!isoDay(iso))
         return std::nullopt;
     // The same without the zeros at the head of its parts. Written where it stays: long lists ask for many.
     QString text(iso.size(), Qt::Uninitialized);

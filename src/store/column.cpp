@@ -55,9 +55,12 @@ double numberOf(const Column& column, const Value& value) {
 }
 
 /// A time of midnight is no time: such a moment reads, compares and sorts as its day.
-Value dateOf(const Column& column, const Value& value) {
-    const auto* given = std::get_if<DateValue>(&value.data());
-    auto date = given ? std::optional(*given) : parseDate(value.text());
+Value dateOf(const Column& column, const Value& value, const ThisYear& thisYear) {
+    std::optional<DateValue> date;
+    if (const auto* given = std::get_if<DateValue>(&value.data()))
+        date = *given;
+    else if (const auto* text = std::get_if<QString>(&value.data())) // a number is no day, though its text may read so
+        date = parseDate(*text, thisYear);
     if (!date || !date->day.isValid())
         throwRefusal(column, value);
     if (date->time == QTime(0, 0))
@@ -65,7 +68,7 @@ Value dateOf(const Column& column, const Value& value) {
     return *date;
 }
 
-Value convertedTo(const Column& column, const Value& value) {
+Value convertedTo(const Column& column, const Value& value, const ThisYear& thisYear) {
     switch (column.kind) {
     case ColumnKind::Text:
         return value.text();
@@ -76,7 +79,7 @@ Value convertedTo(const Column& column, const Value& value) {
     case ColumnKind::Boolean:
         return value.truth();
     case ColumnKind::Date:
-        return dateOf(column, value);
+        return dateOf(column, value, thisYear);
     case ColumnKind::Binary:
         return value.bytes();
     }
@@ -98,11 +101,11 @@ ColumnKind kindOfDeclaredType(const QString& type) {
                        QStringLiteral("账本文件的格式不对：不认识的列类型“%1”。").arg(type));
 }
 
-Value converted(const Column& column, const Value& value) {
+Value converted(const Column& column, const Value& value, const ThisYear& thisYear) {
     if (value.isNull())
         return value;
     try {
-        return convertedTo(column, value);
+        return convertedTo(column, value, thisYear);
     } catch (const RuntimeError& error) {
         if (error.number() != RuntimeError::TypeMismatch)
             throw;

@@ -29,9 +29,9 @@ using TableColumns = std::vector<Column>; ///< in ordinal order
 QString declaredType(ColumnKind kind);
 ColumnKind kindOfDeclaredType(const QString& type);
 
-/// Brings a value into the kind of its column: a date column takes the picker's text and the usual Chinese date forms,
-/// a number column what the full number conversion takes. NULL passes. Throws RuntimeError (type mismatch) that names
-/// the column and the value.
-Value converted(const Column& column, const Value& value);
+/// Brings a value into the kind of its column: a date column takes dates and every text that parseDate reads, a day
+/// without its year being of `thisYear`; a number column what the full number conversion takes. NULL passes. Throws
+/// RuntimeError (type mismatch) that names the column and the value.
+Value converted(const Column& column, const Value& value, const ThisYear& thisYear = {});
 
 } // namespace qinghe

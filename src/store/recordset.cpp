@@ -312,7 +312,7 @@ void Field::setValue(const Value& value) {
     set.requireWritable();
     if (!set.adding)
         set.requireRow();
-    set.edits[static_cast<size_t>(m_ordinal)] = converted(column(), value);
+    set.edits[static_cast<size_t>(m_ordinal)] = converted(column(), value, set.store.thisYear());
     set.edited = true;
 }
 

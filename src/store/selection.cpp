@@ -15,7 +15,8 @@ namespace {
 
 class Translator {
 public:
-    Translator(const Query& query, const TableColumns& columns) : m_query(query), m_columns(columns) {}
+    Translator(const Query& query, const TableColumns& columns, const ThisYear& thisYear)
+        : m_query(query), m_columns(columns), m_thisYear(thisYear) {}
 
     Selection selection() {
         const bool summed = std::ranges::any_of(m_query.items, &SelectItem::isSum);
@@ -91,17 +92,17 @@ private:
         return operand + ' ' + comparison.sign.toLatin1() + (comparison.literals.size() > 1 ? " ? AND ?" : " ?");
     }
 
-    static QString boundText(const Column& column, bool cut, const Literal& literal) {
+    QString boundText(const Column& column, bool cut, const Literal& literal) const {
         const bool dated = column.kind == ColumnKind::Date;
         if ((!dated && column.kind != ColumnKind::Text) || literal.isDate != (dated && !cut))
             throwRefusal(QStringLiteral("“%1”一栏不能与“%2”比较，类型不符。").arg(column.name, literal.text));
         return literal.isDate ? dateText(column, literal.text) : literal.text;
     }
 
-    static QString dateText(const Column& column, const QString& text) {
-        if (!parseDate(text))
+    QString dateText(const Column& column, const QString& text) const {
+        if (!parseDate(text, m_thisYear))
             throwRefusal(QStringLiteral("“%1”不是日期，日期应写成 2024-5-3 的样子。").arg(text));
-        return std::get<DateValue>(converted(column, text).data()).iso();
+        return std::get<DateValue>(converted(column, text, m_thisYear).data()).iso();
     }
 
     const Column& columnNamed(const QString& name) const {
@@ -113,14 +114,15 @@ private:
 
     const Query& m_query;
     const TableColumns& m_columns;
+    const ThisYear& m_thisYear;
     Selection m_result;
     QByteArrayList m_sqlItems;
 };
 
 } // namespace
 
-Selection selectionOf(const Query& query, const TableColumns& columns) {
-    return Translator(query, columns).selection();
+Selection selectionOf(const Query& query, const TableColumns& columns, const ThisYear& thisYear) {
+    return Translator(query, columns, thisYear).selection();
 }
 
 } // namespace qinghe

@@ -17,8 +17,8 @@ struct Selection {
 };
 
 /// `columns` are those of the query's table. Throws RuntimeError (QueryFailure) for a column that the table does not
-/// have, a comparison that does not fit its kind, a text that is no date, and for selections that mean nothing (a
-/// column beside a sum without a group, distinct on more than one column).
-Selection selectionOf(const Query& query, const TableColumns& columns);
+/// have, a comparison that does not fit its kind, a text that is no date (one without its year is of `thisYear`), and
+/// for selections that mean nothing (a column beside a sum without a group, distinct on more than one column).
+Selection selectionOf(const Query& query, const TableColumns& columns, const ThisYear& thisYear = {});
 
 } // namespace qinghe

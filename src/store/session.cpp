@@ -24,7 +24,8 @@ QByteArray placeholders(qsizetype count) {
 
 } // namespace
 
-Session::Session(const QString& path) : m_connection(path), m_dataVersion(m_connection.dataVersion()) {}
+Session::Session(const QString& path, const ThisYear& thisYear)
+    : m_thisYear(thisYear), m_connection(path), m_dataVersion(m_connection.dataVersion()) {}
 
 std::shared_ptr<const ResultSet> Session::fetch(const QString& source) {
     flushDeletions();
@@ -40,7 +41,7 @@ std::shared_ptr<const ResultSet> Session::fetch(const QString& source) {
 
 std::shared_ptr<const ResultSet> Session::read(const QString& source) {
     const Query query = parsedQuery(source);
-    const Selection selection = selectionOf(query, columns(query.table));
+    const Selection selection = selectionOf(query, columns(query.table), m_thisYear);
     Statement statement = m_connection.prepare(selection.sql);
     for (int place = 1; const QString& text : selection.bound)
         statement.bind(place++, encoded(text));

@@ -12,11 +12,12 @@
 namespace qinghe {
 
 /// The store's work on one opened file: fetching with a small cache, writing rows, collecting deletions. Dies with the
-/// connection; whatever it remembers of the file is good only as long. All failures are RuntimeErrors; what to do after
-/// one is decided by Store.
+/// connection; whatever it remembers of the file is good only as long. Every failure is a RuntimeError; what to do
+/// after one is decided by Store.
 class Session {
 public:
-    explicit Session(const QString& path);
+    /// `thisYear` is the store's, which outlives its sessions.
+    Session(const QString& path, const ThisYear& thisYear);
 
     std::shared_ptr<const ResultSet> fetch(const QString& source);
     std::shared_ptr<const ResultSet> fetchAgain(const ResultShape& shape, qint64 first, qint64 last);
@@ -59,6 +60,7 @@ private:
     void flushDeletions();
     bool isWholeTable(const Deletions& deletions);
 
+    const ThisYear& m_thisYear;
     Connection m_connection;
     qint64 m_dataVersion = 0;
     std::deque<CachedResult> m_cache;

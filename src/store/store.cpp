@@ -33,6 +33,9 @@ bool isRefusal(const RuntimeError& error) {
 } // namespace
 
 struct Store::Impl {
+    explicit Impl(ThisYear year) : thisYear(std::move(year)) {}
+
+    const ThisYear thisYear;
     QString path;
     std::unique_ptr<Session> open;
     int generation = 0;
@@ -42,7 +45,7 @@ struct Store::Impl {
         dropIfMoved();
         if (!open) {
             requireStoreFile(path);
-            open = std::make_unique<Session>(path);
+            open = std::make_unique<Session>(path, thisYear);
         }
         return *open;
     }
@@ -77,7 +80,7 @@ struct Store::Impl {
     }
 };
 
-Store::Store() : m(std::make_unique<Impl>()) {}
+Store::Store(ThisYear thisYear) : m(std::make_unique<Impl>(std::move(thisYear))) {}
 Store::~Store() = default;
 
 void Store::use(const QString& path) {
@@ -120,6 +123,10 @@ void Store::close() {
 
 int Store::generation() const {
     return m->generation;
+}
+
+const ThisYear& Store::thisYear() const {
+    return m->thisYear;
 }
 
 bool Store::isCurrent(int generation) {

@@ -27,7 +27,9 @@ struct StoredValue;
 /// as it is. After StoreFailure the file is opened anew by the next use.
 class Store {
 public:
-    Store();
+    /// `thisYear` tells the year that a day without one belongs to, in what is written and in queries; a store that is
+    /// not told takes no such day.
+    explicit Store(ThisYear thisYear = {});
     ~Store();
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
@@ -61,6 +63,7 @@ public:
     // For recordsets only.
     /// Whether the file is still the one that was open under that number.
     bool isCurrent(int generation);
+    const ThisYear& thisYear() const;
     /// Throws RuntimeError (StoreFailure) unless the file is still the one that was open under that number.
     void requireGeneration(int generation);
     /// The stored rows between two identities, in the shape of a plain result.

@@ -57,6 +57,15 @@ TEST_F(ChartRangeTest, NarrowsTheExpenseToTypedDates) {
               u"select 项目,sum(金额) as 总金额 from zcb where 时间 between #2024-5-1# and # 2024-6-17# group by 项目");
 }
 
+TEST_F(ChartRangeTest, NarrowsToDatesAsAHouseholdWritesThem) {
+    choose(u"Option13"_s);
+    query(u"5-4"_s, u"6月17日"_s);
+    EXPECT_EQ(points(), u"甲=2");
+    query(u"24-5-3"_s, u"２０２４０６０１"_s);
+    EXPECT_EQ(points(), u"甲=3");
+    EXPECT_FALSE(rig.ended());
+}
+
 TEST_F(ChartRangeTest, NarrowsToPickedDates) {
     choose(u"Option13"_s);
     pick(Text1(), 6);  // June 2024 begins in cell 6

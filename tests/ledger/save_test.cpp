@@ -22,6 +22,27 @@ TEST_F(SaveTest, StoresTheBlankRowOnceItIsFilled) {
     EXPECT_EQ(rows(), QStringList{u"001|2024-6-18|工资|我|8000.5|现金|"_s});
 }
 
+TEST_F(SaveTest, TakesADateAsAHouseholdWritesItAndShowsItAsThePickerDoes) {
+    openWith(5);
+    int line = 0;
+    for (const auto& text : {u"5-3"_s, u"24-5-3"_s, u"5月3日"_s, u"２０２４。５。３"_s, u"20240503"_s})
+        fillCell(++line, 2, text);
+    press(save());
+    EXPECT_EQ(rig.messages->shown, std::vector{SaveDone});
+    EXPECT_EQ(stored(u"时间"_s), QStringList(5, u"2024-05-03"_s));
+    open();
+    for (int shown = 1; shown <= line; ++shown)
+        EXPECT_EQ(grid().TextMatrix(shown, 2), u"2024-5-3") << shown;
+}
+
+TEST_F(SaveTest, TakesADayWithoutItsYearAsOneOfTheClocksYear) {
+    openWith(1);
+    rig.clock->time = QDateTime(QDate(2031, 1, 1), QTime(0, 0));
+    fillCell(1, 2, u"5-3"_s);
+    press(save());
+    EXPECT_EQ(stored(u"时间"_s), QStringList(u"2031-05-03"_s));
+}
+
 TEST_F(SaveTest, StoresTheExpenseSideInItsOwnTable) {
     store(1);
     open(1);

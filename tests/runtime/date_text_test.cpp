@@ -60,18 +60,76 @@ TEST(ParseDate, KnowsLeapYearsAndTheEdgesOfTheRange) {
     for (const QString& text : {u"2024-2-29"_qs, u"2000-2-29"_qs, u"1900-2-28"_qs, u"100-1-1"_qs, u"9999-12-31"_qs})
         EXPECT_TRUE(parseDate(text)) << text.toStdString();
     for (const QString& text :
-         {u"2023-2-29"_qs, u"1900-2-29"_qs, u"99-12-31"_qs, u"0099-12-31"_qs, u"10000-1-1"_qs, u"24-5-3"_qs})
+         {u"2023-2-29"_qs, u"1900-2-29"_qs, u"0099-12-31"_qs, u"099-12-31"_qs, u"10000-1-1"_qs, u"00991231"_qs})
         EXPECT_FALSE(parseDate(text)) << text.toStdString();
 }
 
 TEST(ParseDate, RefusesWhatIsNoDate) {
     for (const QString& text :
-         {u""_qs,           u" "_qs,          u"2024"_qs,         u"2024-"_qs,       u"2024-5-"_qs,   u"2024-13-1"_qs,
-          u"2024-0-1"_qs,   u"2024-5-0"_qs,   u"2024-5-32"_qs,    u"2024-4-31"_qs,   u"2024-5/3"_qs,  u"2024-5-3-"_qs,
-          u"2024-5-3日"_qs, u"2024年5"_qs,    u"2024年5月3"_qs,   u"2024年5月日"_qs, u"2024年5-3"_qs, u"2024 -5-3"_qs,
-          u"2024-5-003"_qs, u"2024-005-3"_qs, u"２０２４-5-3"_qs, u"-2024-5-3"_qs,   u"5-3"_qs,       u"5-3-2024"_qs,
-          u"20240503"_qs,   u"12"_qs,         u"明天"_qs,         u"2024-5-3x"_qs,   u"x2024-5-3"_qs})
+         {u""_qs,           u" "_qs,          u"2024"_qs,       u"2024-"_qs,       u"2024-5-"_qs,   u"2024-13-1"_qs,
+          u"2024-0-1"_qs,   u"2024-5-0"_qs,   u"2024-5-32"_qs,  u"2024-4-31"_qs,   u"2024-5/3"_qs,  u"2024-5-3-"_qs,
+          u"2024-5-3日"_qs, u"2024年5"_qs,    u"2024年5月3"_qs, u"2024年5月日"_qs, u"2024年5-3"_qs, u"2024 -5-3"_qs,
+          u"2024-5-003"_qs, u"2024-005-3"_qs, u"-2024-5-3"_qs,  u"5-3"_qs,         u"5-3-2024"_qs,  u"2024053"_qs,
+          u"12"_qs,         u"明天"_qs,       u"2024-5-3x"_qs,  u"x2024-5-3"_qs})
         EXPECT_FALSE(parseDate(text)) << text.toStdString();
+}
+
+int in2026() {
+    return 2026;
+}
+
+TEST(ParseDate, ReadsYearsOfTwoDigits) {
+    for (const QString& text : {u"24-5-3"_qs, u"24/5/3"_qs, u"24.05.03"_qs, u"24年5月3日"_qs, u"24年5月3号"_qs})
+        EXPECT_EQ(parseDate(text), (DateValue{kThirdOfMay, {}})) << text.toStdString();
+    const std::pair<QString, int> years[]{{u"00"_qs, 2000}, {u"29"_qs, 2029}, {u"30"_qs, 1930}, {u"99"_qs, 1999}};
+    for (const auto& [digits, year] : years)
+        EXPECT_EQ(parseDate(digits + u"-12-31"_qs), (DateValue{QDate(year, 12, 31), {}})) << year;
+}
+
+TEST(ParseDate, ReadsADayWithoutAYearAsOneOfThisYear) {
+    for (const QString& text :
+         {u"5-3"_qs, u"05-03"_qs, u"5/3"_qs, u"5.3"_qs, u"5月3日"_qs, u"5月3号"_qs, u"05月03日"_qs})
+        EXPECT_EQ(parseDate(text, in2026), (DateValue{QDate(2026, 5, 3), {}})) << text.toStdString();
+    EXPECT_EQ(parseDate(u"12-31 8:05"_qs, in2026), (DateValue{QDate(2026, 12, 31), QTime(8, 5)}));
+    EXPECT_FALSE(parseDate(u"2-29"_qs, in2026));
+    EXPECT_EQ(parseDate(u"2-29"_qs, [] { return 2024; }), (DateValue{QDate(2024, 2, 29), {}}));
+}
+
+TEST(ParseDate, AsksForTheYearOnlyWhereNoneStands) {
+    int asked = 0;
+    const auto year = [&asked] { return ++asked, 2026; };
+    for (const QString& text : {u"2024-5-3"_qs, u"24-5-3"_qs, u"20240503"_qs, u"2024年5月"_qs})
+        EXPECT_TRUE(parseDate(text, year)) << text.toStdString();
+    EXPECT_EQ(asked, 0);
+    parseDate(u"5-3"_qs, year);
+    EXPECT_EQ(asked, 1);
+    for (const QString& text : {u"5-3"_qs, u"5月3日"_qs})
+        EXPECT_FALSE(parseDate(text)) << "nobody tells the year";
+}
+
+TEST(ParseDate, ReadsEightDigitsInARow) {
+    EXPECT_EQ(parseDate(u"20240503"_qs), (DateValue{kThirdOfMay, {}}));
+    EXPECT_EQ(parseDate(u"20240503 8:05:09"_qs), (DateValue{kThirdOfMay, QTime(8, 5, 9)}));
+    for (const QString& text : {u"20241301"_qs, u"20240532"_qs, u"240503"_qs, u"202405030"_qs, u"20240503-"_qs})
+        EXPECT_FALSE(parseDate(text, in2026)) << text.toStdString();
+}
+
+TEST(ParseDate, ReadsFullWidthDigitsAndMarks) {
+    for (const QString& text : {u"２０２４-5-3"_qs, u"２０２４－５－３"_qs, u"２０２４／０５／０３"_qs,
+                                u"２０２４．５．３"_qs, u"2024。5。3"_qs, u"2024.5。3"_qs, u"２４－５－３"_qs,
+                                u"２０２４０５０３"_qs, u"２０２４年５月３号"_qs, u"　2024-5-3　"_qs})
+        EXPECT_EQ(parseDate(text), (DateValue{kThirdOfMay, {}})) << text.toStdString();
+    EXPECT_EQ(parseDate(u"２０２４－５－３　８：０５：０９"_qs), (DateValue{kThirdOfMay, QTime(8, 5, 9)}));
+    EXPECT_EQ(parseDate(u"５－３"_qs, in2026), (DateValue{QDate(2026, 5, 3), {}}));
+}
+
+TEST(ParseDate, RefusesWhatIsNoDayOfThisYearOrAYearOfTwoDigits) {
+    for (const QString& text :
+         {u"24-13-1"_qs,   u"5-32"_qs,      u"24-5"_qs,    u"2-30"_qs,  u"24年5月"_qs,  u"24-5-"_qs,   u"5-"_qs,
+          u"5月"_qs,       u"5月3"_qs,      u"5月3日-"_qs, u"5-3-"_qs,  u"5/3-4"_qs,    u"4-24-5"_qs,  u"5-3-2024"_qs,
+          u"2024月3日"_qs, u"2024-2-30"_qs, u"12元"_qs,    u"1.250"_qs, u"13.5"_qs,     u"0.5"_qs,     u"5日"_qs,
+          u"-5-3"_qs,      u"5--3"_qs,      u"5"_qs,       u"5.3元"_qs, u"５－３２"_qs, u"3.14.15"_qs, u"号"_qs})
+        EXPECT_FALSE(parseDate(text, in2026)) << text.toStdString();
 }
 
 TEST(ParseDate, RefusesWhatIsNoTime) {
@@ -86,9 +144,26 @@ TEST(ParseIsoDate, ReadsItsOwnSpellingAlone) {
     EXPECT_EQ(parseIsoDate(u"2024-05-03"_qs), (DateValue{kThirdOfMay, {}}));
     EXPECT_EQ(parseIsoDate(u"2024-05-03 08:05:09"_qs), (DateValue{kThirdOfMay, QTime(8, 5, 9)}));
     EXPECT_EQ(parseIsoDate(u"2024-05-03 00:00:00"_qs), (DateValue{kThirdOfMay, QTime(0, 0)}));
-    for (const QString& text :
-         {u""_qs, u"2024-5-3"_qs, u"2024/05/03"_qs, u" 2024-05-03"_qs, u"2024-05"_qs, u"2024-05-03 8:05:09"_qs,
-          u"2024-05-03 08:05"_qs, u"2024-05-03T08:05:09"_qs, u"2024-13-01"_qs})
+    for (const QString& text : {u""_qs,
+                                u"2024-5-3"_qs,
+                                u"2024/05/03"_qs,
+                                u" 2024-05-03"_qs,
+                                u"2024-05"_qs,
+                                u"2024-05-03 8:05:09"_qs,
+                                u"2024-05-03 08:05"_qs,
+                                u"2024-05-03T08:05:09"_qs,
+                                u"2024-13-01"_qs,
+                                u"20240503"_qs,
+                                u"2024-05-03 "_qs,
+                                u"24-05-03"_qs,
+                                u"05-03"_qs,
+                                u"2024-05-03 24:00:00"_qs,
+                                u"2024-05-03 08:05:09 "_qs,
+                                u"2024-05-03 08:05:0x"_qs,
+                                u"２０２４-05-03"_qs,
+                                u"2024－05－03"_qs,
+                                u"2024-05-03　08:05:09"_qs,
+                                u"0099-05-03"_qs})
         EXPECT_FALSE(parseIsoDate(text)) << text.toStdString();
 }
 

@@ -42,6 +42,22 @@ TEST(DateColumn, ReadsAMonthAloneAsItsFirstDay) {
     EXPECT_EQ(textOf(ColumnKind::Date, u"2024-5"_s), u"2024-5-1"_s);
 }
 
+TEST(DateColumn, TakesADayWithoutItsYearAsOneOfThisYear) {
+    const auto in2026 = [] { return 2026; };
+    for (const auto& text : {u"5-3"_s, u"5月3日"_s, u"５月３号"_s})
+        EXPECT_EQ(converted(column(ColumnKind::Date), text, in2026).text(), u"2026-5-3"_s) << text;
+    EXPECT_EQ(textOf(ColumnKind::Date, u"24-5-3"_s), u"2024-5-3"_s);
+    EXPECT_EQ(refusal(ColumnKind::Date, u"5-3"_s, u"“5-3”"_s), RuntimeError::TypeMismatch) << "without a year";
+}
+
+TEST(DateColumn, TakesNoNumberForADay) {
+    const auto in2026 = [] { return 2026; };
+    for (const Value& number : {Value(5.3), Value(20240503), Value(20240503.0)})
+        EXPECT_EQ(errorOf([&] { converted(column(ColumnKind::Date), number, in2026); }, u"某栏"_s),
+                  RuntimeError::TypeMismatch)
+            << number.text();
+}
+
 TEST(DateColumn, KeepsATimeOfDayButNotMidnight) {
     EXPECT_EQ(textOf(ColumnKind::Date, u"2024-5-3 8:05:09"_s), u"2024-5-3 8:05:09"_s);
     EXPECT_EQ(textOf(ColumnKind::Date, u"2024-5-3 0:00:00"_s), u"2024-5-3"_s);

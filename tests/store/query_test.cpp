@@ -107,6 +107,18 @@ TEST_F(Queries, DatesAreComparedAsDays) {
     EXPECT_EQ(column(u"select 项目 from srb where 时间 > #2024-9# "_s, u"项目"_s).size(), 3);
 }
 
+TEST_F(Queries, DatesAreTakenAsAHouseholdWritesThem) {
+    for (const auto& date : {u"2024-5-3"_s, u"2024-5-4"_s, u"2023-5-3"_s})
+        addIncome(date, date, 1);
+    for (const auto& text :
+         {u"5-3"_s, u" 5月3日 "_s, u"24-5-3"_s, u"20240503"_s, u"２０２４。５。３"_s, u"2024年5月3号"_s})
+        EXPECT_EQ(column(u"select * from srb where 时间=#"_s + text + u'#', u"项目"_s), QStringList(u"2024-5-3"_s))
+            << text;
+    for (const auto& text : {u"24-5"_s, u"5-32"_s, u"2-30"_s})
+        EXPECT_EQ(failure(u"select * from srb where 时间=#"_s + text + u'#', u'“' + text + u'”'),
+                  RuntimeError::QueryFailure);
+}
+
 TEST_F(Queries, ADayHoldsOnlyWhatHasNoTime) {
     addIncome(u"2024-5-3 8:05:09"_s, u"早"_s, 1);
     addIncome(u"2024-5-3 0:00:00"_s, u"零点"_s, 1);

@@ -31,7 +31,7 @@ private:
     sqlite3* m_database = nullptr;
 };
 
-/// A program folder with a fresh data file, a store and two data controls on it.
+/// A program folder with a fresh data file, a store in the year 2024 and two data controls on it.
 class StoreTest : public testing::Test {
 protected:
     StoreTest();
@@ -47,7 +47,7 @@ protected:
     void addIncome(const QString& date, const QString& item, double amount);
 
     QTemporaryDir folder;
-    Store store;
+    Store store{[] { return 2024; }};
     Adodc control{store, QStringLiteral("Adodc1")};
     Adodc second{store, QStringLiteral("Adodc2")};
 };
