@@ -1,14 +1,20 @@
 #include "app/program.h"
 #include "look/look.h"
+#include "platform/display.h"
 #include "platform/start_ahead.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include <optional>
+
 int main(int argc, char** argv) {
     std::thread fonts = qinghe::readFontsAhead();
-    QApplication application(argc, argv);
+    qinghe::ApplicationArguments arguments(argc, argv);
+    std::optional<qinghe::DisplayWatch> watch(std::in_place);
+    QApplication application(arguments.count(), arguments.values());
+    watch.reset();
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator chinese;
     if (chinese.load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
