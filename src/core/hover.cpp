@@ -19,6 +19,14 @@ void unmarkHovered(const std::vector<CommandButton*>& buttons) {
             button->setBackColor(White);
 }
 
+void markHovered(Form& form, const std::vector<CommandButton*>& buttons, const std::vector<Frame*>& frames) {
+    for (CommandButton* button : buttons)
+        markHovered(*button);
+    form.MouseMove = [buttons](double, double) { unmarkHovered(buttons); };
+    for (Frame* frame : frames)
+        frame->MouseMove = [buttons] { unmarkHovered(buttons); };
+}
+
 void markHovered(Frame& frame, const std::vector<CommandButton*>& buttons) {
     for (CommandButton* button : buttons)
         markHovered(*button);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls.h"
+#include "platform/form.h"
 
 #include <vector>
 
@@ -18,5 +19,7 @@ void markHovered(CommandButton& button);
 void unmarkHovered(const std::vector<CommandButton*>& buttons);
 /// Both for the buttons of a frame: grey under the pointer, white when it is on the bare frame.
 void markHovered(Frame& frame, const std::vector<CommandButton*>& buttons);
+/// Both for the buttons that stand on a form itself: white when the pointer is on the bare form or one of these frames.
+void markHovered(Form& form, const std::vector<CommandButton*>& buttons, const std::vector<Frame*>& frames = {});
 
 } // namespace qinghe

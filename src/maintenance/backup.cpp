@@ -60,8 +60,7 @@ BackupWindow::BackupWindow(Workbench& bench)
     Command1->place(3720, 2370, 1440, 390);
     Command1->setRole(Role::Primary);
     Command1->Click = [this] { Form13_Command1_Click(); };
-    markHovered(*Command1);
-    MouseMove = [this](double, double) { unmarkHovered({Command1}); };
+    markHovered(*this, {Command1}, {Frame1});
     placeInMiddle(5400, 3000, bench.forms.loaded(u"Form2"_s));
 }
 

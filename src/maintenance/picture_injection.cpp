@@ -81,9 +81,7 @@ PictureInjection::PictureInjection(Workbench& bench, const PictureTarget& target
     Command2->setRole(Role::Primary);
     Command1->Click = [this] { choosePicture(); };
     Command2->Click = [this] { storePicture(); };
-    markHovered(*Command1);
-    markHovered(*Command2);
-    MouseMove = [this](double, double) { unmarkHovered({Command1, Command2}); };
+    markHovered(*this, {Command1, Command2});
     placeInMiddle(6000, 2400, bench.forms.loaded(u"Form2"_s));
 }
 

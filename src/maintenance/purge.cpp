@@ -1,5 +1,6 @@
 #include "maintenance/purge.h"
 
+#include "core/hover.h"
 #include "core/lists.h"
 #include "runtime/blanks.h"
 
@@ -51,6 +52,7 @@ PurgeWindow::PurgeWindow(Workbench& bench)
     Command1->setGlyph(Glyph::Remove);
     Command1->setRole(Role::Primary);
     Command1->Click = [this] { Form3_Command1_Click(); };
+    markHovered(*this, {Command1}, {Frame1, Frame2});
 }
 
 void PurgeWindow::makeBoxes() {
