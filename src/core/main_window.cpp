@@ -64,7 +64,7 @@ void MainWindow::load() {
     for (Page* page : m_navigation.pages())
         page->windowLoads();
     readTraySetting();
-    setPicture(writeOut(ChosenSkin, *Adodc1, m_bench, *this));
+    setPicture(writeOutSkin(*Adodc1, m_bench, *this));
     m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_bench, *m_desktop->Image2));
     m_desktop->computeSums();
     m_desktop->listPlans(false);

@@ -8,13 +8,14 @@ namespace qinghe {
 
 /// Where a picture lies in the store, and the file beside the program that it is written to while the program runs.
 struct StoredPicture {
-    const char16_t* source; ///< the query, or its beginning; the first row counts
+    const char16_t* source; ///< the query, or its beginning
     const char16_t* sizeColumn;
     const char16_t* bytesColumn;
     const char16_t* file;
 };
 
 inline constexpr StoredPicture ChosenSkin{u"select * from 皮肤选择 ", u"文件大小", u"皮肤文件", u"pf.jpg"};
+inline constexpr StoredPicture OfferedSkins{u"select * from 软件皮肤", u"大小", u"皮肤", u"pf.jpg"};
 /// Of the skins on offer the one whose name, and a quote behind it, follow.
 inline constexpr StoredPicture NamedSkin{u"select * from 软件皮肤 where 名称='", u"大小", u"皮肤", u"pf.jpg"};
 inline constexpr StoredPicture DesktopPicture{u"select * from 主界面", u"大小", u"文件", u"zjm.jpg"};
@@ -25,12 +26,18 @@ struct PictureBytes {
     QByteArray bytes;
 };
 
-/// Reads a picture through `control`. Throws RuntimeError: no row, and what the store throws.
+/// Reads the picture of the first row through `control`; it may have no bytes, which is none. Throws RuntimeError: no
+/// row, a size that no picture has (InvalidPicture), and what the store throws.
 PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QString& endOfSource = {});
 /// Writes the picture's file, over one that was left, whose tail stays when it is longer; then loads it, to be shown on
-/// `place`. Throws RuntimeError: not writable, no picture.
+/// `place`. A picture of no bytes is none: nothing is written, and the image is null. Throws RuntimeError: not
+/// writable, no picture.
 QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Workbench& bench, const QWidget& place);
-/// Both.
+/// Both, for the first row with bytes; the image is null where none has any. Throws RuntimeError: no row at all, and
+/// what the others throw.
 QImage writeOut(const StoredPicture& picture, Adodc& control, const Workbench& bench, const QWidget& place);
+/// The main window's picture: the chosen skin; where that has no bytes the first of the skins on offer that can be
+/// shown, so that nobody is locked out by a choice; else a null image. Throws likewise for the chosen skin.
+QImage writeOutSkin(Adodc& control, const Workbench& bench, const QWidget& place);
 
 } // namespace qinghe

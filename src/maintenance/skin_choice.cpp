@@ -59,7 +59,8 @@ void SkinChoice::Form2_Combo2_Click() {
     const PictureBytes skin = readPicture(NamedSkin, Adodc1, Combo2->Text() + '\''_L1);
     skinSize = skin.size;
     skinBytes = skin.bytes;
-    window.setPicture(writeOut(NamedSkin, skinBytes, bench, window));
+    if (const QImage picture = writeOut(NamedSkin, skinBytes, bench, window); !picture.isNull())
+        window.setPicture(picture);
 }
 
 void SkinChoice::Form2_Command30_Click() {
