@@ -91,11 +91,7 @@ void Program::start() {
 }
 
 void Program::end(int code) {
-    try {
-        m_bench.store.close();
-    } catch (const RuntimeError&) {
-        // The work that could be kept has been; the file is released by the end of the process.
-    }
+    // The guard has ended the unit of work; the file is released by the end of the process.
     m_bench.services.process->end(code);
 }
 

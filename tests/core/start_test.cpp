@@ -53,6 +53,20 @@ TEST_F(Start, TheMainWindowHealsTheHeaderOnceMore) {
     EXPECT_TRUE(rig.messages->errors.empty());
 }
 
+TEST_F(Start, TheHeaderIsHealedWhileNoWorkIsOpenInTheFile) {
+    rig.sql(u"update systuopanb set 最小化到托盘=1"_s); // the icon comes right behind the healing, in the same handler
+    rig.sql(u"insert into yhb values('李四','abc',2)"_s);
+    rig.start();
+    QStringList pair, files;
+    rig.tray->whenAdded = [&] {
+        pair = rig.sql(u"select 用户名, 密码 from 登陆用户记录表"_s);
+        files = folder();
+    };
+    trySignIn(u"李四"_s, u"abc"_s);
+    EXPECT_EQ(pair, QStringList{u"李四|abc"_s});
+    EXPECT_FALSE(files.isEmpty() || files.contains(u"data.dll-journal"_s)) << files.join(u' ').toStdString();
+}
+
 TEST_F(Start, TheDesktopStandsInFront) {
     rig.signIn();
     EXPECT_EQ(main().navigation().currentPage, 24);
