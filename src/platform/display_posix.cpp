@@ -6,7 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
+#include <utility>
 
 namespace qinghe {
 
@@ -24,15 +24,19 @@ QString whatIsMissing() {
     return QStringLiteral("连不上 X 显示 %1。").arg(display);
 }
 
+void passOnNoted() {
+    for (const QString& line : std::exchange(noted, {}))
+        std::fputs((QStringLiteral("    ") + line + u'\n').toUtf8().constData(), stderr);
+    std::fflush(stderr);
+}
+
 [[noreturn]] void endWithoutDisplay() {
     const QString text =
         QStringLiteral("青禾家庭记账本不能启动：%1\n"
                        "请在图形桌面里启动程序。Wayland 桌面要安装并启用 XWayland；用 SSH 登录时请用 ssh -X。"
                        "没有显示器的机器可以另开一个虚拟屏幕（例如 VNC 服务器）。\n");
     std::fputs(text.arg(whatIsMissing()).toUtf8().constData(), stderr);
-    for (const QString& line : noted)
-        std::fputs((QStringLiteral("    ") + line + u'\n').toUtf8().constData(), stderr);
-    std::fflush(stderr);
+    passOnNoted();
     std::_Exit(1);
 }
 
@@ -46,16 +50,14 @@ void listen(QtMsgType type, const QMessageLogContext& context, const QString& te
         usual(type, context, text);
 }
 
-/// As an argument and not as a variable, which the browser and other programs started from here would inherit.
-constexpr char kPlatform[] = "-platform", kX[] = "xcb";
-
 } // namespace
 
 ApplicationArguments::ApplicationArguments(int argc, char** argv) : m_values(argv, argv + argc) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && argc > 0) {
-        // Before the user's own, of which the last one counts.
-        static std::string platform = kPlatform, x = kX;
-        m_values.insert(m_values.begin() + 1, {platform.data(), x.data()});
+        // Before the user's own, of which the last one counts. A variable would go on to the browser that is started
+        // from here.
+        static char platform[] = "-platform", x[] = "xcb";
+        m_values.insert(m_values.begin() + 1, {platform, x});
     }
     m_count = static_cast<int>(m_values.size());
     m_values.push_back(nullptr);
@@ -67,7 +69,7 @@ DisplayWatch::DisplayWatch() {
 
 DisplayWatch::~DisplayWatch() {
     qInstallMessageHandler(usual);
-    noted.clear();
+    passOnNoted();
 }
 
 } // namespace qinghe

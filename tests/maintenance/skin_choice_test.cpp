@@ -302,11 +302,15 @@ TEST_F(SkinChoiceTest, JpegPngAndBmpAreShownAndKept) {
 TEST_F(SkinChoiceTest, ASkinOfNoBytesLeavesThePictureAsItIs) {
     offerThree();
     offer(u"空"_s, {});
-    openAndChoose(u"夏"_s);
+    QFile::remove(rig.file(u"pf.jpg"_s));
+    openAndChoose(u"空"_s);
+    ASSERT_FALSE(rig.ended());
+    expectShown(delivered);
+    EXPECT_FALSE(QFile::exists(rig.file(u"pf.jpg"_s)));
+    choose(u"秋"_s);
     choose(u"空"_s);
     ASSERT_FALSE(rig.ended());
-    expectShown(Qt::blue);
-    EXPECT_EQ(bytes(u"pf.jpg"_s), picture(Qt::blue));
+    expectShown(Qt::white);
     rig.click(keep());
     EXPECT_EQ(chosen(), QStringList{u"|0|"_s});
     startAgain();
