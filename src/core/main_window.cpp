@@ -21,6 +21,10 @@ constexpr int LateReportMs = 250;     ///< how long a busy window manager may st
 constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
 constexpr int OtherTrayMessage = 130; ///< compared as well, and meant
 
+bool bringsBack(double message) {
+    return message == OtherTrayMessage || message == LeftButtonDown;
+}
+
 } // namespace
 
 MainWindow::MainWindow(Workbench& bench)
@@ -101,10 +105,17 @@ void MainWindow::toTray() {
             setWindowState(Minimised);
         return;
     }
-    m_bench.services.tray->add(trayDataFor(*this),
-                               [this](int message) { Form2_Form_MouseMove(message * TwipsPerPixel, 0); });
+    m_bench.services.tray->add(trayDataFor(*this), [this](int message) { onTrayMessage(message); });
     // Hidden at the next turn: the window system is still at work on the change of state that brought us here.
     QTimer::singleShot(0, this, [this] { handlers::enter([this] { setShown(false); }); });
+}
+
+void MainWindow::onTrayMessage(int message) {
+    Form2_Form_MouseMove(message * TwipsPerPixel, 0);
+    // A window on view may be covered. The pointer on its way over the window gives the same numbers, and must not pull
+    // it over others.
+    if (bringsBack(message))
+        showForm();
 }
 
 void MainWindow::Form2_Form_Resize() {
@@ -132,8 +143,7 @@ void MainWindow::Form2_Form_MouseDown(double x, double y) {
 
 void MainWindow::Form2_Form_MouseMove(double x, double y) {
     // Tray events arrive here too, as a place that is the event's number in pixels.
-    const double message = x / TwipsPerPixel;
-    if (message == OtherTrayMessage || message == LeftButtonDown) {
+    if (bringsBack(x / TwipsPerPixel)) {
         if (WindowState() != Normal)
             setWindowState(Normal);
         if (!Visible()) {

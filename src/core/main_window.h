@@ -35,6 +35,7 @@ private:
     void startClock();
     void readTraySetting();
     void toTray();
+    void onTrayMessage(int message);
 
     void Form2_Form_Click();
     void Form2_Form_MouseDown(double x, double y);

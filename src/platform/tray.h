@@ -6,7 +6,11 @@
 
 namespace qinghe {
 
-/// The desktop's tray. Its icon stays until the process ends; a press on it arrives as message 513.
+/// The number of the message by which a press on the icon arrives: 513 for the left button, 515 for the second press of
+/// two, 516 for the right and 519 for the middle button, 0 where the desktop does not say which.
+int trayMessage(QSystemTrayIcon::ActivationReason reason);
+
+/// The desktop's tray. Its icon stays until the process ends.
 class DesktopTray : public Tray {
 public:
     bool available() const override { return QSystemTrayIcon::isSystemTrayAvailable(); }

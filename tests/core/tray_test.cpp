@@ -1,4 +1,5 @@
 #include "core_fixture.h"
+#include "support/pointer.h"
 
 #include <QStringDecoder>
 
@@ -78,6 +79,26 @@ TEST_F(TrayIcon, MinimisingHidesTheWindowWhenTheSettingIsOn) {
     EXPECT_FALSE(rig.ended());
 }
 
+TEST_F(TrayIcon, TheWindowIsHiddenOnlyWhenItsChangeOfStateIsOver) {
+    rig.signIn();
+    want(true);
+    main().setWindowState(1);
+    EXPECT_EQ(added(), 1u);
+    EXPECT_TRUE(main().Visible());
+    rig.settle();
+    EXPECT_FALSE(main().Visible());
+}
+
+TEST_F(TrayIcon, AMinimiseLooksIntoTheProgramsOwnFileWhateverTheControlWasPointedAt) {
+    rig.signIn();
+    want(true);
+    main().Adodc1->setConnectionString(u"provider = microsoft.jet.oledb.4.0;data source=/elsewhere/data.dll"_s);
+    minimise();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_EQ(added(), 1u);
+    EXPECT_EQ(main().Adodc1->connectionString(), rig.program->bench().connection());
+}
+
 TEST_F(TrayIcon, TheMinimiseImageGoesToTheTrayToo) {
     rig.signIn();
     want(true);
@@ -136,10 +157,43 @@ TEST_F(TrayIcon, ThePressOnTheIconBringsTheWindowBack) {
 TEST_F(TrayIcon, OtherEventsOfTheIconBringNothing) {
     want(true);
     rig.signIn();
-    for (const int message : {512, 514, 515, 516, 129, 131, 0}) {
+    for (const int message : {512, 514, 515, 516, 519, 129, 131, 0}) {
         send(message);
         EXPECT_FALSE(main().isVisible()) << message;
     }
+}
+
+TEST_F(TrayIcon, ThePressOnTheIconBringsACoveredWindowToTheFront) {
+    want(true);
+    rig.signIn();
+    for (const int message : {513, 130}) {
+        send(message);
+        click(u"Image5"_s);
+        Form& tools = *rig.loaded(u"Form7"_s);
+        ASSERT_TRUE(tools.isActiveWindow());
+        send(message);
+        EXPECT_TRUE(main().isActiveWindow()) << message;
+        EXPECT_TRUE(tools.isVisible());
+    }
+}
+
+TEST_F(TrayIcon, OtherEventsOfTheIconLeaveACoveredWindowWhereItIs) {
+    want(true);
+    rig.signIn();
+    send(513);
+    click(u"Image5"_s);
+    for (const int message : {512, 514, 515, 516, 519, 0}) {
+        send(message);
+        EXPECT_FALSE(main().isActiveWindow()) << message;
+    }
+}
+
+TEST_F(TrayIcon, ThePointerOnItsWayOverTheWindowDoesNotPullItToTheFront) {
+    rig.signIn();
+    click(u"Image5"_s);
+    for (const int x : {130, 513})
+        pointer::move(main(), {x, 20});
+    EXPECT_TRUE(rig.loaded(u"Form7"_s)->isActiveWindow());
 }
 
 TEST_F(TrayIcon, AMinimisedWindowComesBackUpright) {

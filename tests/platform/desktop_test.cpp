@@ -54,6 +54,14 @@ TEST(DesktopTray, AddingTheIconOnceMoreDoesNoHarm) {
     EXPECT_EQ(TrayData{}.uCallbackMessage, 512u);
 }
 
+TEST(DesktopTray, OnlyALeftPressOnTheIconIsTheLeftButtonsMessage) {
+    EXPECT_EQ(trayMessage(QSystemTrayIcon::Trigger), 513);
+    EXPECT_EQ(trayMessage(QSystemTrayIcon::DoubleClick), 515);
+    EXPECT_EQ(trayMessage(QSystemTrayIcon::Context), 516);
+    EXPECT_EQ(trayMessage(QSystemTrayIcon::MiddleClick), 519);
+    EXPECT_EQ(trayMessage(QSystemTrayIcon::Unknown), 0);
+}
+
 class WebBrowserTest : public GuardTest {
 protected:
     WebBrowserTest() {

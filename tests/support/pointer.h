@@ -25,6 +25,14 @@ inline void move(QWidget& widget) {
     move(widget, widget.rect().center());
 }
 
+/// A move that was under way while the window moved: told at a place inside the window that is no longer the pointer's.
+inline void moveUnderWay(QWidget& window, QPoint told, QPoint onScreen) {
+    static int now = 1 << 20; // ms, the pointer's own clock
+    qt_handleMouseEvent(window.windowHandle(), told, onScreen, Qt::LeftButton, Qt::NoButton, QEvent::MouseMove, {},
+                        ++now);
+    QCoreApplication::processEvents();
+}
+
 inline void release(QWidget& widget, QPoint at) {
     QTest::mouseRelease(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow(widget, at));
 }
