@@ -31,10 +31,6 @@ Qt::WindowFlags flagsOf(Form::Kind kind, bool owned) {
     return Qt::Window;
 }
 
-QPointF twipsAt(const QMouseEvent* event) {
-    return event->position() * TwipsPerPixel;
-}
-
 } // namespace
 
 Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
@@ -110,6 +106,14 @@ void Form::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_FormGround), &option, &painter, this);
 }
 
+QPointF Form::twipsAt(const QMouseEvent* event) const {
+    // The event's own place inside the window is the window system's, which did not know yet of moves that we have
+    // asked for meanwhile: a window dragged by it would run ahead of the pointer. The pointer's place on the screen is
+    // certain.
+    const QPoint inside = pixelRect(Left(), Top(), Width(), Height()).topLeft() + geometry().topLeft() - pos();
+    return (event->globalPosition() - inside) * TwipsPerPixel;
+}
+
 void Form::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() != Qt::LeftButton)
@@ -152,9 +156,14 @@ void Form::resizeEvent(QResizeEvent*) {
 
 void Form::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    // A form has one size. Some window managers take that, on a denser screen, for the wish to fill the screen.
+    constexpr auto filling = Qt::WindowFullScreen | Qt::WindowMaximized;
+    if (windowState() & filling)
+        QWidget::setWindowState(windowState() & ~filling);
     // Minimising gives a change of state and no resize.
-    if (event->type() == QEvent::WindowStateChange)
-        Resize.fromQt();
+    Resize.fromQt();
 }
 
 void Form::closeEvent(QCloseEvent* event) {

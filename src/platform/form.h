@@ -11,8 +11,9 @@ namespace qinghe {
 
 class Forms;
 
-/// A window. Left and Top are the desktop's, in twips, and follow real moves. A form is made and loaded by its first
-/// use (see Forms) and forgets everything when it is unloaded.
+/// A window. Left and Top are the desktop's, in twips, and follow real moves; the size is the form's own, and no
+/// desktop has it fill the screen. A form is made and loaded by its first use (see Forms) and forgets everything when
+/// it is unloaded.
 class Form : public QWidget, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -72,6 +73,9 @@ protected:
 
 private:
     friend class Forms;
+    /// Where the pointer is inside the form, by its place on the screen.
+    QPointF twipsAt(const QMouseEvent* event) const;
+
     Forms* m_forms = nullptr;
     Ground m_ground;
     QImage m_picture;

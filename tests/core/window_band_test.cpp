@@ -130,6 +130,31 @@ TEST_F(WindowBand, ADragMovesTheWindowByTheWayOfThePointer) {
     EXPECT_EQ(main().Top(), 904 + 75);
 }
 
+TEST_F(WindowBand, AFastDragStaysUnderThePointer) {
+    main().moveTo(1507, 904);
+    rig.settle();
+    const QPoint start = main().pos() + BareBand;
+    pointer::press(main(), BareBand);
+    // The window system has not yet moved the window when it tells of these moves.
+    for (const int way : {20, 40, 60})
+        pointer::moveUnderWay(main(), BareBand + QPoint(way, way / 2), start + QPoint(way, way / 2));
+    EXPECT_EQ(main().Left(), 1507 + 60 * 15);
+    EXPECT_EQ(main().Top(), 904 + 30 * 15);
+    pointer::release(main(), BareBand);
+}
+
+TEST_F(WindowBand, ADragThatTheDesktopReportsLateStaysUnderThePointer) {
+    main().moveTo(1500, 900);
+    rig.settle();
+    const QPoint start = main().pos() + BareBand;
+    pointer::press(main(), BareBand);
+    pointer::moveUnderWay(main(), BareBand + QPoint(20, 0), start + QPoint(20, 0));
+    main().move(start - BareBand + QPoint(5, 0)); // where the window stood a while ago
+    pointer::moveUnderWay(main(), BareBand + QPoint(40, 0), start + QPoint(40, 0));
+    EXPECT_EQ(main().Left(), 1500 + 40 * 15);
+    pointer::release(main(), BareBand);
+}
+
 TEST_F(WindowBand, ADragCanLeaveTheScreenOnTheLeft) {
     main().moveTo(150, 150);
     pointer::press(main(), BareBand);

@@ -82,6 +82,16 @@ TEST_F(FormTest, MouseEventsTellTheirPlaceInTwips) {
     EXPECT_EQ(noted(), (QStringList{u"down 150 300"_s, u"move 180 315"_s, u"up 180 315"_s, u"Form2"_s}));
 }
 
+TEST_F(FormTest, AMoveThatWasUnderWayTellsWhereThePointerIsInTheFormNow) {
+    pointer::press(form, {10, 20});
+    form.moveTo(600, 900);
+    turnLoop();
+    QStringList moves;
+    form.MouseMove = [&](double x, double y) { moves << u"%1 %2"_s.arg(x).arg(y); };
+    pointer::moveUnderWay(form, {52, 83}, {52, 83}); // told while the form stood at 0, 0
+    EXPECT_EQ(moves, QStringList{u"180 345"_s});
+}
+
 TEST_F(FormTest, TheReleaseThatEndsAMoveOfTheWindowIsNoClick) {
     form.MouseMove = [this](double x, double) {
         if (x > 300)
@@ -118,6 +128,16 @@ TEST_F(FormTest, ResizeIsRaisedForANewSizeAndForMinimising) {
     EXPECT_TRUE(noted().contains(u"resize 1"_s));
     form.setWindowState(0);
     EXPECT_EQ(form.WindowState(), 0);
+}
+
+TEST_F(FormTest, KeepsItsSizeWhenTheDesktopWouldHaveItFillTheScreen) {
+    const QRect before = form.geometry();
+    for (const Qt::WindowState state : {Qt::WindowFullScreen, Qt::WindowMaximized}) {
+        form.windowHandle()->setWindowState(state);
+        turnLoop();
+        EXPECT_EQ(form.windowHandle()->windowState(), Qt::WindowNoState);
+        EXPECT_EQ(form.geometry(), before);
+    }
 }
 
 TEST_F(FormTest, IsKeptOnTheScreen) {
