@@ -4,8 +4,9 @@
 
 namespace whole {
 
-Display::Display() {
-    m_server.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", "2560x1440x24", "-nolisten", "tcp"});
+Display::Display(const QString& pixels) : m_before(qgetenv("DISPLAY")) {
+    m_server.start(QStringLiteral("Xvfb"),
+                   {"-displayfd", "1", "-screen", "0", pixels + QStringLiteral("x24"), "-nolisten", "tcp"});
     while (!m_server.canReadLine())
         if (!m_server.waitForReadyRead(10000))
             throw std::runtime_error("Xvfb does not start: " + m_server.readAllStandardError().toStdString());
@@ -20,6 +21,7 @@ Display::~Display() {
         process->terminate();
         process->waitForFinished();
     }
+    qputenv("DISPLAY", m_before);
 }
 
 } // namespace whole

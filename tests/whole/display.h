@@ -4,13 +4,16 @@
 
 namespace whole {
 
-/// A display without a screen, with window frames and a tray, for all programs of this run.
+/// A display without a screen, with window frames and a tray, for all programs that are started while it stands.
 class Display {
 public:
-    Display();
+    explicit Display(const QString& pixels = QStringLiteral("2560x1440"));
     ~Display();
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
 
 private:
+    const QByteArray m_before; ///< the display of the environment
     QProcess m_server, m_desktop;
 };
 

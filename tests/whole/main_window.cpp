@@ -1,3 +1,4 @@
+#include "display_pointer.h"
 #include "household.h"
 
 #include <gtest/gtest.h>
@@ -31,6 +32,44 @@ TEST(MainWindow, FollowsADragOfItsBackgroundAndPutsTheDatePickerAway) {
                       "the way to the right");
     EXPECT_EQ(program.get("Form2", "Top").toDouble(), top + 24 * 15);
     EXPECT_FALSE(program.shows("Form1"));
+}
+
+TEST(MainWindow, StaysUnderThePointerInAFastDrag) {
+    const LedgerFolder folder;
+    Program program(folder);
+    signIn(program);
+    program.look(); // the window has found its place
+    const double left = program.get("Form2", "Left").toDouble(), top = program.get("Form2", "Top").toDouble();
+
+    display_pointer::drag(program.place("Form2").topLeft() + bareTitle, {9, 4}, 60);
+
+    program.look();
+    EXPECT_EQ(program.get("Form2", "Left").toDouble(), left + 60 * 9 * 15);
+    EXPECT_EQ(program.get("Form2", "Top").toDouble(), top + 60 * 4 * 15);
+    endByCross(program);
+}
+
+TEST(MainWindow, APickerAskedForAgainComesOverTheWindowThatWasLaidOverIt) {
+    const LedgerFolder folder;
+    Program program(folder);
+    signIn(program);
+    program.click("Form2/Label7");
+    program.click("Form2/Option16");
+    program.waitForKeyboard("Form13");
+    program.click("Form2/Label2(0)");
+    program.clickCell("Form2/ms2", 1, 2);
+    program.waitFor("Form1");
+    program.look(); // the windows have found their places
+    const QPoint fifteenth = program.place("Form1/Label3(19)").center();
+    const QRect other = program.place("Form13");
+    ASSERT_TRUE(other.contains(fifteenth));
+
+    display_pointer::click(QPoint(other.center().x(), other.top() - 8)); // its title, which brings it to the front
+    program.waitForKeyboard("Form13");
+    display_pointer::click(program.place("Form2/tx2").center());
+    program.look();
+    display_pointer::doubleClick(fifteenth);
+    program.waitUntil([&] { return program.text("Form2/tx2") == "2024-11-15"; }, "the day");
 }
 
 TEST(MainWindow, LinksOpenPagesThatLieBesideTheProgram) {

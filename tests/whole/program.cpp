@@ -24,6 +24,10 @@ QJsonArray pair(QPoint point) {
     return {point.x(), point.y()};
 }
 
+QRect rect(const QJsonValue& sides) {
+    return {sides[0].toInt(), sides[1].toInt(), sides[2].toInt(), sides[3].toInt()};
+}
+
 /// A browser that only notes what it is asked to open.
 void layBrowser(const LedgerFolder& folder) {
     QDir().mkpath(folder.beside("desktop"));
@@ -104,10 +108,12 @@ void Program::doubleClick(const std::string& at) {
 }
 
 void Program::clickCell(const std::string& grid, int row, int col) {
+    click(grid, cellRect(grid, row, col).center());
+}
+
+QRect Program::cellRect(const std::string& grid, int row, int col) {
     ask({{"do", "call"}, {"at", q(grid)}, {"method", "ensureVisible"}, {"arguments", QJsonArray{row, col}}});
-    const QJsonArray cell =
-        ask({{"do", "call"}, {"at", q(grid)}, {"method", "cellRect"}, {"arguments", QJsonArray{row, col}}}).toArray();
-    click(grid, QRect(cell[0].toInt(), cell[1].toInt(), cell[2].toInt(), cell[3].toInt()).center());
+    return rect(ask({{"do", "call"}, {"at", q(grid)}, {"method", "cellRect"}, {"arguments", QJsonArray{row, col}}}));
 }
 
 void Program::moveTo(const std::string& at) {
@@ -151,6 +157,17 @@ void Program::answer(const std::string& button) {
 
 bool Program::shows(const std::string& at) {
     return ask({{"do", "visible"}, {"at", q(at)}}).toBool();
+}
+
+QRect Program::place(const std::string& at) {
+    return rect(ask({{"do", "place"}, {"at", q(at)}}));
+}
+
+QRect Program::cellPlace(const std::string& grid, int row, int col) {
+    const QRect cell = cellRect(grid, row, col);
+    const QRect whole = place(grid);
+    const double scale = double(whole.width()) / get(grid, "geometry")[2].toInt();
+    return {whole.topLeft() + cell.topLeft() * scale, cell.size() * scale};
 }
 
 std::string Program::text(const std::string& at) {

@@ -58,6 +58,8 @@ public:
 
     // Eyes
     bool shows(const std::string& at);
+    QRect place(const std::string& at);                         ///< on the screen, in its own pixels
+    QRect cellPlace(const std::string& grid, int row, int col); ///< the same of a cell, scrolled into view
     std::string text(const std::string& at);
     std::string caption(const std::string& frame);
     QJsonValue get(const std::string& at, const std::string& property);
@@ -94,6 +96,7 @@ private:
     struct Refused : std::runtime_error {
         using std::runtime_error::runtime_error;
     };
+    QRect cellRect(const std::string& grid, int row, int col);
     void perform(const QJsonObject& command);
     QJsonValue ask(const QJsonObject& command);
     void connect(const QString& socket);

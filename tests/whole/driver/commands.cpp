@@ -94,6 +94,14 @@ Outcome visible(const QJsonObject& command) {
     return {widget && widget->isVisible(), {}};
 }
 
+/// Where the widget lies on the screen, in the screen's own pixels.
+Outcome place(const QJsonObject& command) {
+    const QWidget& widget = widgetIn(command);
+    const qreal scale = widget.devicePixelRatio();
+    const QPointF corner = widget.mapToGlobal(QPointF(0, 0)) * scale;
+    return {jsonOf(QRect(corner.toPoint(), (QSizeF(widget.size()) * scale).toSize())), {}};
+}
+
 Outcome windows(const QJsonObject&) {
     QJsonArray names;
     for (const QWidget* window : QApplication::topLevelWidgets())
@@ -208,7 +216,7 @@ const std::map<QString, Command>& commands() {
         {QStringLiteral("drag"), dragBy},     {QStringLiteral("key"), keyStroke},
         {QStringLiteral("type"), typing},     {QStringLiteral("choose"), choose},
         {QStringLiteral("pick"), pick},       {QStringLiteral("close"), close},
-        {QStringLiteral("picture"), picture},
+        {QStringLiteral("picture"), picture}, {QStringLiteral("place"), place},
     };
     return table;
 }

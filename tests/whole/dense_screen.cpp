@@ -1,0 +1,52 @@
+#include "display.h"
+#include "display_pointer.h"
+#include "household.h"
+
+#include <gtest/gtest.h>
+
+using namespace whole;
+
+namespace {
+
+/// A screen on which every unit of the desktop is two pixels wide and high, and which the main window fills for the
+/// most part.
+class DenseScreen : public ::testing::Test {
+protected:
+    DenseScreen() { qputenv("QT_SCALE_FACTOR", "2"); }
+    ~DenseScreen() override { qunsetenv("QT_SCALE_FACTOR"); }
+
+    const Display display{QStringLiteral("2600x2000")};
+    const LedgerFolder folder;
+};
+
+} // namespace
+
+TEST_F(DenseScreen, TheMainWindowStandsInTheMiddleInItsOwnSize) {
+    Program program(folder);
+    EXPECT_EQ(program.place("Form5").size(), QSize(710, 560));
+    signIn(program);
+    program.look(); // the window manager has done with it
+    const QRect window = program.place("Form2");
+    EXPECT_EQ(window.size(), QSize(1600, 1080));
+    EXPECT_LT((window.center() - QPoint(1300, 1000)).manhattanLength(), 40); // the bar at the foot of the screen apart
+
+    // Its far corner is there for the pointer.
+    display_pointer::click(program.place("Form2/Label7").center());
+    program.waitUntil([&] { return program.shows("Form2/Frame16"); }, "the settings");
+    program.click("Form2/Image5");
+    program.waitForKeyboard("Form7");
+    program.look();
+    EXPECT_EQ(program.place("Form7").size(), QSize(1600, 1080));
+    endByCross(program);
+}
+
+TEST_F(DenseScreen, ADragMovesByTheWayOfThePointer) {
+    Program program(folder);
+    signIn(program);
+    program.look(); // the window has found its place
+    const QRect before = program.place("Form2");
+    display_pointer::drag(before.topLeft() + 2 * bareTitle, {-5, 4}, 60);
+    program.look();
+    EXPECT_EQ(program.place("Form2"), before.translated(-300, 240));
+    endByCross(program);
+}
