@@ -1,3 +1,4 @@
+#include "display_pointer.h"
 #include "household.h"
 
 #include <gtest/gtest.h>
@@ -23,6 +24,48 @@ void copy(Program& program, const Message& question, const std::string& file, co
     program.choose(file);
     EXPECT_EQ(program.message(), (Message{done, "青禾家庭记账本", Message::None, {"确定"}}));
     program.answer("确定");
+}
+
+/// The ledger as it was when the diary had an entry more, in a file that can be restored.
+std::string storeOlder(const LedgerFolder& folder) {
+    folder.execute("delete from srflb; insert into srflb values('工资','奖金','jj');"
+                   "insert into jcb values('现金','2024-11-02',800,795,5,'王青','李禾','买书',1);"
+                   "insert into ysb values('2024-11-20','买米',120,'两袋',1);"
+                   "insert into zhb values('工资卡',1000,300,100,0,0,60,10,1250,'每月发',1);"
+                   "insert into rjb values('2024-11-17','秋收')");
+    QByteArray open = folder.bytes("data.dll");
+    open.replace(1, 2, QByteArray("\x01\x00", 2)); // as the running program has it
+    folder.write("older.dat", open);
+    folder.execute("delete from rjb");
+    return folder.file("older.dat").toStdString();
+}
+
+struct PageInFront {
+    std::vector<std::string> opening; ///< the clicks that bring it up
+    std::string grid;
+    int column; ///< of the cell that is written over
+    std::string saving;
+};
+
+/// Restores while the page is in front, then writes a cell over and saves; the restored file has it.
+void expectEditedAfterARestore(const PageInFront& page, const std::string& query) {
+    const LedgerFolder folder;
+    const std::string older = storeOlder(folder);
+    Program program(folder);
+    signIn(program);
+    openWindow(program, "Form2/Option16");
+    for (const std::string& control : page.opening)
+        program.click(control);
+    copy(program, whereFrom, older, "还原完毕。");
+    display_pointer::click(program.cellPlace(page.grid, 1, page.column).center());
+    program.waitForKeyboard("Form2"); // which the other window had
+    enter(program, "还原以后");
+    save(program, page.saving);
+    program.close("Form13");
+    endByCross(program);
+    EXPECT_EQ(folder.rows(query), std::vector<std::string>{"还原以后"});
+    EXPECT_EQ(folder.rows("select 日记标题 from rjb"), std::vector<std::string>{"秋收"});
+    EXPECT_EQ(folder.rows("pragma integrity_check")[0], "ok");
 }
 
 } // namespace
@@ -102,4 +145,21 @@ TEST(Backup, AFileThatIsNotThereIsTold) {
     program.choose(folder.beside("没有.dat").toStdString());
     expectErrorWindow(program, "没有.dat");
     EXPECT_EQ(folder.bytes("data.dll"), before);
+}
+
+TEST(Backup, LoansInFrontAreSavedIntoTheRestoredFile) {
+    expectEditedAfterARestore({{"Form2/Label1"}, "Form2/ms1", 8, "Form2/Command3"}, "select 备注 from jcb");
+}
+
+TEST(Backup, TheBudgetInFrontIsSavedIntoTheRestoredFile) {
+    expectEditedAfterARestore({{"Form2/Label5"}, "Form2/ms6", 4, "Form2/Command18"}, "select 备注 from ysb");
+}
+
+TEST(Backup, AccountsInFrontAreSavedIntoTheRestoredFile) {
+    expectEditedAfterARestore({{"Form2/Label6"}, "Form2/ms7", 10, "Form2/Command21"}, "select 备注信息 from zhb");
+}
+
+TEST(Backup, CategoriesInFrontAreSavedIntoTheRestoredFile) {
+    expectEditedAfterARestore({{"Form2/Label7", "Form2/Command31"}, "Form2/ms3", 1, "Form2/Command9"},
+                              "select 收入大类 from srflb");
 }
