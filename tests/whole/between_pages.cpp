@@ -156,16 +156,17 @@ TEST_F(BetweenPages, LongTextsThatWereLeftTakeNoLetters) {
     click("Label5");
     save("Command18");
     struct Text {
-        const char *label, *opening, *box;
+        std::vector<std::string> opening;
+        std::string box;
     };
-    for (const Text& text : {Text{"Label8", "Command22", "tx8"}, Text{"Label23", "Command26", "Text3"}}) {
-        click(text.label);
-        click(text.opening);
+    for (const Text& text : {Text{{"Label8", "Command22"}, "tx8"}, Text{{"Label23"}, "Text3"}}) {
+        for (const std::string& control : text.opening)
+            click(control);
         click(text.box);
         program->type("abc");
         leaveFor("Label24", {"D", "E", "Return"});
         expectOnly("Frame13");
-        EXPECT_EQ(program->get(std::string("Form2/") + text.box, "plainText").toString(), QStringLiteral("abc"));
+        EXPECT_EQ(program->get("Form2/" + text.box, "plainText").toString(), QStringLiteral("abc"));
     }
     endByCross(*program);
 }
