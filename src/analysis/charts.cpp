@@ -94,8 +94,6 @@ void ChartsPage::makeQueryRow() {
     Command25->place(5040, 240, 615, 255);
     Text1->setBoxText(FirstDate.toString());
     Text2->setBoxText(SecondDate.toString());
-    bench.dateFields[1] = {Text1, nullptr};
-    bench.dateFields[2] = {Text2, nullptr};
     Text1->Click = [this] { Form2_Text1_Click(); };
     Text2->Click = [this] { Form2_Text2_Click(); };
     Command25->Click = [this] { Form2_Command25_Click(); };
@@ -210,10 +208,9 @@ void ChartsPage::draw(Recordset& records, ChartLabels labels) {
     records.moveFirst();
 }
 
-void ChartsPage::pickDate(int target, const TextBox& box) {
-    bench.dateTarget = target;
-    bench.openTool(u"Form1"_s, window.Left() + Frame15.Left() + Frame1->Left() + box.Left(),
-                   window.Top() + Frame15.Top() + Frame1->Top() + box.Top() + box.Height() + PickerGap);
+void ChartsPage::pickDate(int target, TextBox& box) {
+    bench.openDatePicker({target, &box}, window.Left() + Frame15.Left() + Frame1->Left() + box.Left(),
+                         window.Top() + Frame15.Top() + Frame1->Top() + box.Top() + box.Height() + PickerGap);
 }
 
 void ChartsPage::Form2_Text1_Click() {

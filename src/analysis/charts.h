@@ -36,7 +36,7 @@ private:
     /// Draws field 1 over field 0; the set stands on its first row behind it.
     void draw(Recordset& records, ChartLabels labels);
     bool refuseEmpty(const Recordset& records, const QString& message, const QString& title);
-    void pickDate(int target, const TextBox& box);
+    void pickDate(int target, TextBox& box);
 
     void makeOptions();
     void makeQueryRow();

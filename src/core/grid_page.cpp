@@ -38,11 +38,6 @@ GridPage::GridPage(MainWindow& form, const Traits& differences)
     grid->place(120, 840, 11415, 4815);
     saveButton->setRole(Role::Primary);
     bench.editors[grid->objectName()] = {editor, grid};
-    const EditorTarget target{editor, grid};
-    if (traits.date.target)
-        bench.dateFields.at(static_cast<std::size_t>(traits.date.target)) = target;
-    if (traits.amounts.target)
-        bench.calcFields.at(static_cast<std::size_t>(traits.amounts.target)) = target;
     bindEvents();
 }
 
@@ -73,20 +68,21 @@ void GridPage::commitAndHideBox() {
     hideEditor();
 }
 
-void GridPage::openTool(const char16_t* form) {
-    bench.openTool(QString::fromUtf16(form), frame.Left() + editor->Left() + window.Left(),
-                   frame.Top() + editor->Top() + editor->Height() + window.Top());
+/// Under the box, on the screen.
+QPointF GridPage::toolPlace() const {
+    return {frame.Left() + editor->Left() + window.Left(),
+            frame.Top() + editor->Top() + editor->Height() + window.Top()};
 }
 
 void GridPage::openDatePicker() {
-    bench.dateTarget = traits.date.target;
-    openTool(u"Form1");
+    const QPointF place = toolPlace();
+    bench.openDatePicker({traits.date.target, editor, grid}, place.x(), place.y());
 }
 
 void GridPage::openCalculator() {
     editor->setUsable(false);
-    bench.calcTarget = traits.amounts.target;
-    openTool(u"Form9");
+    const QPointF place = toolPlace();
+    bench.openCalculator({traits.amounts.target, editor, grid}, place.x(), place.y());
 }
 
 void GridPage::cellClick() {

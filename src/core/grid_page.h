@@ -125,7 +125,7 @@ private:
     void bindEvents();
     void openDatePicker();
     void openCalculator();
-    void openTool(const char16_t* form);
+    QPointF toolPlace() const;
     void writeBack();
     bool hasGap();
     bool refusesGap();

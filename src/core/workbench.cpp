@@ -25,11 +25,22 @@ void Workbench::unloadPickers() {
     forms.unload(u"Form9"_s);
 }
 
-void Workbench::openTool(const QString& name, double left, double top) {
-    Form& form = forms.get(name);
-    form.moveTo(left, top);
-    form.showForm();
-    form.keepOnScreen();
+void Workbench::openDatePicker(const FieldTarget& field, double left, double top) {
+    dateTarget = field.number;
+    openTool(u"Form1"_s, field, left, top);
+}
+
+void Workbench::openCalculator(const FieldTarget& field, double left, double top) {
+    calcTarget = field.number;
+    openTool(u"Form9"_s, field, left, top);
+}
+
+void Workbench::openTool(const QString& name, const FieldTarget& field, double left, double top) {
+    auto& tool = forms.get<FieldTool>(name);
+    tool.serve(field);
+    tool.moveTo(left, top);
+    tool.showForm();
+    tool.keepOnScreen();
 }
 
 } // namespace qinghe

@@ -1,20 +1,18 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/flex_grid.h"
+#include "core/field_tool.h"
 #include "platform/forms.h"
 #include "platform/services.h"
 #include "runtime/integers.h"
 #include "store/data_control.h"
 #include "store/store.h"
 
-#include <array>
 #include <functional>
 #include <map>
 
 namespace qinghe {
 
-/// A text box that the date picker or the calculator fills, and the grid behind it where there is one.
+/// A floating editor and the grid that it lies on.
 struct EditorTarget {
     TextBox* box = nullptr;
     MSFlexGrid* grid = nullptr;
@@ -30,12 +28,9 @@ public:
     Store store{[this] { return services.clock->today().year(); }};
     Forms forms;
 
-    /// Which field asked for the date picker (1 to 8) and which for the calculator (1 to 4); 0 before the first use.
+    /// Which field asked last for the date picker (1 to 8) and which for the calculator (1 to 4); 0 before the first.
     Int16 dateTarget;
     Int16 calcTarget;
-    /// The fields by these numbers, entered by their owners.
-    std::array<EditorTarget, 9> dateFields;
-    std::array<EditorTarget, 5> calcFields;
 
     /// The floating editors by the names of their grids ("ms2"), entered by the pages. A click on one page's frame
     /// closes another page's editor, and one page borrows the row number of another's grid.
@@ -60,8 +55,12 @@ public:
     void unloadTools();
     /// Unloads the date picker and the calculator.
     void unloadPickers();
-    /// Shows a tool window at a place on the screen (twips), without blocking.
-    void openTool(const QString& form, double left, double top);
+    /// Shows the date picker or the calculator for a field, at a place on the screen (twips), without blocking.
+    void openDatePicker(const FieldTarget& field, double left, double top);
+    void openCalculator(const FieldTarget& field, double left, double top);
+
+private:
+    void openTool(const QString& form, const FieldTarget& field, double left, double top);
 };
 
 } // namespace qinghe

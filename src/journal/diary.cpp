@@ -49,7 +49,6 @@ DiaryPage::DiaryPage(MainWindow& form)
     Command24->setRole(Role::Primary);
     ms8->place(120, 840, 4215, 4815);
     tx8->place(4455, 840, 7080, 4815);
-    bench.dateFields[DateTarget] = {tx9, ms8};
     bench.emptyDiaryPage = [this] {
         if (!Frame10.Visible())
             return;
@@ -150,9 +149,8 @@ void DiaryPage::editCell() {
 }
 
 void DiaryPage::openPicker() {
-    bench.dateTarget = DateTarget;
-    bench.openTool(u"Form1"_s, Frame10.Left() + tx9->Left() + window.Left(),
-                   Frame10.Top() + tx9->Top() + window.Top() + PickerGap);
+    bench.openDatePicker({DateTarget, tx9, ms8}, Frame10.Left() + tx9->Left() + window.Left(),
+                         Frame10.Top() + tx9->Top() + window.Top() + PickerGap);
 }
 
 void DiaryPage::showEntry() {

@@ -63,7 +63,6 @@ SchedulePage::SchedulePage(MainWindow& form)
       Command29(button(Frame18, u"Command29"_s, u"确定音乐"_s, Glyph::Music)) {
     Combo1->setText(u"音乐1"_s);
     placeControls();
-    bench.dateFields[DateTarget] = {Text4, nullptr};
     bindEvents();
 }
 
@@ -156,9 +155,8 @@ void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
 }
 
 void SchedulePage::Form2_Text4_Click() {
-    bench.dateTarget = DateTarget;
-    bench.openTool(u"Form1"_s, Frame17.Left() + Frame18->Left() + Text4->Left() + window.Left(),
-                   Frame17.Top() + Frame18->Top() + Text4->Top() + window.Top() + PickerGap);
+    bench.openDatePicker({DateTarget, Text4}, Frame17.Left() + Frame18->Left() + Text4->Left() + window.Left(),
+                         Frame17.Top() + Frame18->Top() + Text4->Top() + window.Top() + PickerGap);
 }
 
 void SchedulePage::Form2_Combo1_Click() {

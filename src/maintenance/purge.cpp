@@ -92,12 +92,10 @@ void PurgeWindow::makeHelp() {
 void PurgeWindow::load() {
     Adodc1->setVisible(false);
     Adodc1->setConnectionString(m_bench.connection());
-    m_bench.dateFields[DateTarget] = {Text1, nullptr};
 }
 
 void PurgeWindow::unloaded() {
     m_bench.forms.unload(u"Form1"_s);
-    m_bench.dateFields[DateTarget] = {};
     // The tick that opened the window goes; its click finds nothing more to unload.
     if (const Form* main = m_bench.forms.loaded(u"Form2"_s))
         if (auto* tick = main->findChild<CheckBox*>(u"Check3"_s))
@@ -105,9 +103,8 @@ void PurgeWindow::unloaded() {
 }
 
 void PurgeWindow::Form3_Text1_Click() {
-    m_bench.dateTarget = DateTarget;
-    m_bench.openTool(u"Form1"_s, Frame1->Left() + Text1->Left() + Left(),
-                     Frame1->Top() + Text1->Top() + Top() + Text1->Height() + PickerGap);
+    m_bench.openDatePicker({DateTarget, Text1}, Frame1->Left() + Text1->Left() + Left(),
+                           Frame1->Top() + Text1->Top() + Top() + Text1->Height() + PickerGap);
 }
 
 void PurgeWindow::setDateShown(bool shown) {

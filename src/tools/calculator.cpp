@@ -27,7 +27,7 @@ constexpr std::array<Operator, 6> Operators{{
 } // namespace
 
 Calculator::Calculator(Workbench& bench)
-    : Form(u"Form9"_s, Kind::Tool, Ground::Calculator, bench.forms.loaded(u"Form2"_s)),
+    : FieldTool(u"Form9"_s, Kind::Tool, Ground::Calculator, bench.forms.loaded(u"Form2"_s)),
       m_bench(bench),
       Text1(new TextBox(this, u"Text1"_s)) {
     setCaption(u"数值输入-计算器"_s);
@@ -86,6 +86,10 @@ void Calculator::makeKeys() {
     Command4->setRole(Role::CalcOperator);
     Command3->Click = [this] { Form9_Command3_Click(); };
     Command4->Click = [this] { Form9_Command4_Click(); };
+}
+
+void Calculator::serve(const FieldTarget& field) {
+    m_field = field;
 }
 
 void Calculator::Form9_Command1_Click(int index) {
@@ -152,10 +156,10 @@ void Calculator::confirm() {
 }
 
 void Calculator::handBack() {
-    const EditorTarget& target = m_bench.calcFields.at(static_cast<std::size_t>(static_cast<int>(m_bench.calcTarget)));
+    const FieldTarget target = m_field;
     const QString number = Text1->Text();
     m_bench.forms.unload(objectName());
-    if (!target.box)
+    if (!target.box || !target.grid)
         return;
     target.box->setBoxText(number);
     target.grid->setText(target.box->Text());

@@ -7,14 +7,16 @@
 
 namespace qinghe {
 
-/// `Form9`: a keypad that hangs under an amount cell. Its number goes into the box that `calcTarget` names and into the
+/// `Form9`: a keypad that hangs under an amount cell. Its number goes into the box that asked and into the
 /// grid cell behind it when the window is closed by its own button or confirmed with Enter, and any key was pressed;
 /// Esc closes it without, and so does an unload from code.
-class Calculator : public Form {
+class Calculator : public FieldTool {
     Q_OBJECT
 
 public:
     explicit Calculator(Workbench& bench);
+
+    void serve(const FieldTarget& field) override;
 
     void Form9_Command1_Click(int index); ///< a digit, or 10 for the point
     void Form9_Command2_Click(int index); ///< an operator
@@ -34,6 +36,7 @@ private:
 
     Workbench& m_bench;
     CalculatorMachine m_machine;
+    FieldTarget m_field;
     TextBox* Text1;
     std::array<CommandButton*, 11> Command1{}; // digits and the point
     std::array<CommandButton*, 6> Command2{};  // + - * / x^y sqrt

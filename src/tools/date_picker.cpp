@@ -9,20 +9,10 @@ namespace {
 constexpr quint32 Pine = 0x2C4A1E, White = 0xFFFFFF; ///< the form's own colours
 constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
 
-/// The field that asked.
-const EditorTarget& asking(const Workbench& bench) {
-    return bench.dateFields.at(static_cast<std::size_t>(static_cast<int>(bench.dateTarget)));
-}
-
-/// The window that the picker stays above.
-QWidget* windowOf(const EditorTarget& field, const Workbench& bench) {
-    return field.box ? field.box->window() : bench.forms.loaded(u"Form2"_s);
-}
-
 } // namespace
 
 DatePicker::DatePicker(Workbench& bench)
-    : Form(u"Form1"_s, Kind::QuietTool, Ground::Pine, windowOf(asking(bench), bench)),
+    : FieldTool(u"Form1"_s, Kind::QuietTool, Ground::Pine, bench.forms.loaded(u"Form2"_s)),
       m_bench(bench),
       m_month(bench.services.clock->today()),
       Command1(new CommandButton(this, u"Command1"_s, {})),
@@ -58,6 +48,13 @@ DatePicker::DatePicker(Workbench& bench)
     showMonth();
 }
 
+void DatePicker::serve(const FieldTarget& field) {
+    m_field = field;
+    // It stays above the window that it was asked from.
+    if (field.box && field.box->window() != parentWidget())
+        setParent(field.box->window(), windowFlags());
+}
+
 void DatePicker::showMonth() {
     Label1->setCaption(m_month.labelText());
     for (int i = 0; i < MonthGrid::CellCount; ++i) {
@@ -85,11 +82,10 @@ void DatePicker::Form1_Label3_Click(int index) {
 }
 
 void DatePicker::Form1_Label3_DblClick(int index) {
-    const EditorTarget& target = asking(m_bench);
-    if (target.box) {
-        target.box->setBoxText(m_month.dateTextOf(index));
-        if (target.grid)
-            target.grid->setText(target.box->Text());
+    if (m_field.box) {
+        m_field.box->setBoxText(m_month.dateTextOf(index));
+        if (m_field.grid)
+            m_field.grid->setText(m_field.box->Text());
     }
     m_bench.forms.unload(objectName());
 }

@@ -8,13 +8,15 @@
 namespace qinghe {
 
 /// `Form1`: a month that hangs under a date field. A double click on a day puts its text into the field that asked and
-/// into the grid cell behind it. It leaves the keyboard to the field, so that a date can be picked or typed.
-class DatePicker : public Form {
+/// into the current cell of the grid behind it. It leaves the keyboard to the field, so that a date can be picked or
+/// typed.
+class DatePicker : public FieldTool {
     Q_OBJECT
 
 public:
     explicit DatePicker(Workbench& bench);
 
+    void serve(const FieldTarget& field) override;
     void unloaded() override;
 
     void Form1_Command1_Click(); ///< one month forward
@@ -27,6 +29,7 @@ private:
 
     Workbench& m_bench;
     MonthGrid m_month;
+    FieldTarget m_field;
     CommandButton* Command1; // forward
     CommandButton* Command2; // back
     Label* Label1;           // year and month

@@ -83,7 +83,7 @@ TEST_F(ChartsTest, OpensOnTheAccountsByItsLabel) {
 TEST_F(ChartsTest, LeavesOtherPagesAndToolsBehind) {
     storeOneEach();
     rig.click(rig.onMain<Label>(u"Label2(0)"_s));
-    rig.program->bench().openTool(u"Form1"_s, 0, 0);
+    rig.program->bench().openDatePicker({}, 0, 0);
     open();
     EXPECT_FALSE(rig.frame(u"Frame2"_s).Visible());
     EXPECT_FALSE(rig.loaded(u"Form1"_s));

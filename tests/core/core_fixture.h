@@ -38,8 +38,8 @@ protected:
     /// Opens the date picker and the calculator.
     void openTools() {
         handlers::enter([this] {
-            rig.program->bench().openTool(u"Form1"_s, 3000, 3000);
-            rig.program->bench().openTool(u"Form9"_s, 6000, 3000);
+            rig.program->bench().openDatePicker({}, 3000, 3000);
+            rig.program->bench().openCalculator({}, 6000, 3000);
         });
         ASSERT_TRUE(rig.loaded(u"Form1"_s) && rig.loaded(u"Form9"_s));
     }

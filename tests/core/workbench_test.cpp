@@ -33,12 +33,12 @@ TEST_F(WorkbenchTest, UnloadingToolsThatAreNotOpenIsHarmless) {
 
 TEST_F(WorkbenchTest, AToolIsShownWhereItWasAskedForAndKeptOnTheScreen) {
     rig.signIn();
-    handlers::enter([this] { rig.program->bench().openTool(u"Form1"_s, 1500, 1200); });
+    handlers::enter([this] { rig.program->bench().openDatePicker({}, 1500, 1200); });
     const Form& picker = *rig.loaded(u"Form1"_s);
     EXPECT_TRUE(picker.isVisible());
     EXPECT_EQ(picker.Left(), 1500);
     EXPECT_EQ(picker.Top(), 1200);
-    handlers::enter([this] { rig.program->bench().openTool(u"Form1"_s, 900000, 900000); });
+    handlers::enter([this] { rig.program->bench().openDatePicker({}, 900000, 900000); });
     EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(picker.frameGeometry()));
 }
 

@@ -58,7 +58,7 @@ TEST_F(DiaryModes, FindModePutsPickerAndBoxAway) {
 
 TEST_F(DiaryModes, WriteModePutsPickerAndBoxAway) {
     find();
-    rig.program->bench().openTool(u"Form1"_s, 0, 0);
+    rig.program->bench().openDatePicker({}, 0, 0);
     tx9().setShown(true);
     write();
     EXPECT_TRUE(pickerIsGone());

@@ -40,8 +40,8 @@ TEST_F(SettingsPageTest, OpensInItsPlaceInFrontOfAllOthers) {
 
 TEST_F(SettingsPageTest, UnloadsTheToolsOfOtherPages) {
     handlers::enter([this] {
-        rig.program->bench().openTool(u"Form1"_s, 3000, 3000);
-        rig.program->bench().openTool(u"Form9"_s, 6000, 3000);
+        rig.program->bench().openDatePicker({}, 3000, 3000);
+        rig.program->bench().openCalculator({}, 6000, 3000);
         rig.program->bench().forms.get(u"Form3"_s).showForm();
     });
     open();

@@ -28,8 +28,7 @@ protected:
 TEST_F(DateFieldsTest, FillABoxWithoutGridAlone) {
     openDatePicker();
     TextBox box(&rig.mainWindow(), u"other"_s);
-    bench().dateFields[6] = {&box, nullptr};
-    bench().dateTarget = 6;
+    handlers::enter([&] { bench().openDatePicker({6, &box}, 0, 0); });
     pick(6);
     EXPECT_EQ(box.Text(), u"2024-6-1");
     EXPECT_EQ(tx2().Text(), u"2024-5-3");
@@ -40,8 +39,7 @@ TEST_F(DateFieldsTest, FillTheCurrentCellOfTheGridBehindTheBox) {
     openDatePicker();
     TextBox box(&rig.mainWindow(), u"other"_s);
     MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
-    bench().dateFields[7] = {&box, &grid};
-    bench().dateTarget = 7;
+    handlers::enter([&] { bench().openDatePicker({7, &box, &grid}, 0, 0); });
     pick(6);
     EXPECT_EQ(box.Text(), u"2024-6-1");
     EXPECT_EQ(grid.TextMatrix(1, 1), u"2024-6-1");
@@ -79,6 +77,29 @@ TEST_F(DateFieldsTest, StayAboveTheMainWindow) {
     const Form& picker = openDatePicker();
     EXPECT_EQ(picker.windowType(), Qt::Tool);
     EXPECT_EQ(picker.parentWidget(), &rig.mainWindow());
+}
+
+TEST_F(DateFieldsTest, StayAboveTheWindowOfTheFieldThatAskedLast) {
+    const Form& picker = openDatePicker();
+    Form& purge = openPurge();
+    handlers::enter([&] { bench().openDatePicker({8, purge.findChild<TextBox*>(u"Text1"_s)}, 0, 0); });
+    EXPECT_EQ(picker.parentWidget(), &purge);
+    EXPECT_TRUE(picker.isVisible());
+    EXPECT_TRUE(picker.windowFlags() & Qt::WindowDoesNotAcceptFocus);
+    pick(6);
+    EXPECT_EQ(purge.findChild<TextBox*>(u"Text1"_s)->Text(), u"2024-6-1");
+    EXPECT_EQ(tx2().Text(), u"2024-5-3");
+}
+
+TEST_F(DateFieldsTest, MayBeGoneBeforeADayIsPicked) {
+    openDatePicker();
+    auto box = std::make_unique<TextBox>(&rig.mainWindow(), u"other"_s);
+    handlers::enter([&] { bench().openDatePicker({6, box.get()}, 0, 0); });
+    EXPECT_EQ(bench().dateTarget, 6);
+    box.reset();
+    pick(6);
+    EXPECT_FALSE(isOpen(u"Form1"_s));
+    EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
 }
 
 TEST_F(DateFieldsTest, AreNotTouchedByTheReleaseOfTheDoubleClick) {

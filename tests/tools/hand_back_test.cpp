@@ -148,11 +148,11 @@ TEST_F(HandBackTest, GivesTheKeyboardToABoxThatItsChangeOpens) {
     EXPECT_EQ(rig.mainWindow().focusWidget(), &tx2());
 }
 
-TEST_F(HandBackTest, GoesToTheFieldThatTheTargetNames) {
+TEST_F(HandBackTest, GoesToTheFieldThatAskedLast) {
     TextBox box(&rig.mainWindow(), u"other"_s);
     MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
-    bench().calcFields[4] = {&box, &grid};
-    bench().calcTarget = 4;
+    handlers::enter([&] { bench().openCalculator({4, &box, &grid}, 0, 0); });
+    EXPECT_EQ(bench().calcTarget, 4);
     type(u"80"_s);
     press(Qt::Key_Return);
     EXPECT_EQ(box.Text(), u"80");

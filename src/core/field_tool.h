@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+
+#include <QPointer>
+
+namespace qinghe {
+
+/// What a tool window fills: a box by itself, or a box over a cell of a grid. Box and grid may be gone before the tool
+/// is. Made without either it names nothing.
+struct FieldTarget {
+    FieldTarget() = default;
+    FieldTarget(int target, TextBox* asking) : number(target), box(asking) {}
+    /// The cell is the current one of the grid.
+    FieldTarget(int target, TextBox* asking, MSFlexGrid* behind)
+        : number(target), box(asking), grid(behind), row(behind->Row()), col(behind->Col()) {}
+
+    int number = 0; ///< what dateTarget or calcTarget is while the tool serves this field
+    QPointer<TextBox> box;
+    QPointer<MSFlexGrid> grid;
+    int row = 0, col = 0; ///< where the box stood when the tool was opened
+};
+
+/// A window that hangs under a field and fills it. Asked for anew while it is open it serves the new field.
+class FieldTool : public Form {
+    Q_OBJECT
+
+public:
+    using Form::Form;
+
+    virtual void serve(const FieldTarget& field) = 0;
+};
+
+} // namespace qinghe
