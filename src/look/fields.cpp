@@ -24,9 +24,46 @@ constexpr int BoxMargin = 2;
 constexpr int FieldMargin = 6;
 constexpr double NarrowTwips = 900;
 
-bool isEditor(const QWidget* widget) {
+bool hasRole(const QWidget* widget, Role role) {
     const Placed* placed = Placed::of(widget);
-    return placed && placed->role() == Role::CellEditor;
+    return placed && placed->role() == role;
+}
+
+bool isEditor(const QWidget* widget) {
+    return hasRole(widget, Role::CellEditor);
+}
+
+/// The calculator's display when it shows no more than the end of its text; else nullptr.
+const QLineEdit* cutDisplay(const QWidget* widget) {
+    const auto* box = qobject_cast<const QLineEdit*>(widget);
+    return box && hasRole(widget, Role::CalcDisplay) && !showsWhole(*box) ? box : nullptr;
+}
+
+constexpr QChar Ellipsis(0x2026);
+constexpr int CutGap = 3;
+constexpr int CursorRoom = 2; ///< what a one-line text box adds to the width of a text that it scrolls
+
+int ellipsisWidth(const QFont& font) {
+    return QFontMetrics(font).horizontalAdvance(Ellipsis);
+}
+
+/// What a display that is cut leaves free at its left: room for the sign, and so much that a whole character follows.
+/// Half an 8 would read as a 3.
+int roomOfCut(const QLineEdit& display, int width) {
+    const QFontMetrics metrics(display.font());
+    const QString text = display.text();
+    const int room = width - 2 * FieldMargin - CursorRoom, most = room - ellipsisWidth(display.font()) - CutGap;
+    qsizetype from = text.size();
+    while (from > 0 && metrics.horizontalAdvance(text.mid(from - 1)) <= most)
+        --from;
+    return room - metrics.horizontalAdvance(text.mid(from));
+}
+
+/// The sign that a text began further left.
+void paintCut(const QStyleOption& option, QPainter& painter, const QLineEdit& box) {
+    const QRect room(option.rect.left() + FieldMargin, option.rect.top() + 1, ellipsisWidth(box.font()),
+                     option.rect.height() - 2);
+    paintLine(painter, room, Qt::AlignLeft, Ellipsis, box.font(), colour::Ink2);
 }
 
 /// The grid beneath an editor: the sibling that its middle lies on.
@@ -81,13 +118,24 @@ void paintField(const QStyleOption& option, QPainter& painter, const QWidget* wi
     if (widget && qobject_cast<const QComboBox*>(widget->parentWidget()))
         return; // the list paints the box
     isEditor(widget) ? paintEditor(option, painter) : paintBox(option, painter);
+    if (const QLineEdit* display = cutDisplay(widget))
+        paintCut(option, painter, *display);
+}
+
+bool showsWhole(const QLineEdit& box) {
+    const Placed* placed = Placed::of(&box);
+    const QFont font = placed ? fontFor(placed->role()) : box.font();
+    return QFontMetrics(font).horizontalAdvance(box.text()) <= box.width() - 2 * FieldMargin - CursorRoom;
 }
 
 QRect fieldText(const QRect& field, const QWidget* widget) {
     if (widget && qobject_cast<const QComboBox*>(widget->parentWidget()))
         return field;
-    if (!isEditor(widget))
-        return field.adjusted(FieldMargin - BoxMargin, 1, BoxMargin - FieldMargin, -1);
+    if (!isEditor(widget)) {
+        const QLineEdit* display = cutDisplay(widget);
+        const int cut = display ? roomOfCut(*display, field.width()) : 0;
+        return field.adjusted(FieldMargin + cut - BoxMargin, 1, BoxMargin - FieldMargin, -1);
+    }
     const MSFlexGrid* grid = gridUnder(*widget);
     const CellMargins margins = grid ? cellMargins(*grid, grid->Col()) : CellMargins{4, 4, type::Body};
     return field.adjusted(margins.left - BoxMargin, 0, BoxMargin - margins.right, 0);

@@ -29,6 +29,9 @@ void fitEditor(QLineEdit& editor);
 void paintField(const QStyleOption& option, QPainter& painter, const QWidget* widget);
 QRect fieldText(const QRect& field, const QWidget* widget);
 
+/// Whether a one-line box has the room for its text. The calculator's display shows the end of a longer one behind "…".
+bool showsWhole(const QLineEdit& box);
+
 /// The writing paper behind a long text: a rule below every line. To be painted before the text.
 void paintWritingPaper(const QPlainTextEdit& text);
 

@@ -1,6 +1,7 @@
 #include "tools/calculator.h"
 
 #include "core/hover.h"
+#include "look/fields.h"
 
 #include <QKeyEvent>
 
@@ -24,6 +25,22 @@ constexpr std::array<Operator, 6> Operators{{
     {u"sqrt", 3000, 1560, 495, 960},
 }};
 
+/// Whether the cell that the field's box stood over takes a number at present.
+bool takesInput(const FieldTarget& field) {
+    const MSFlexGrid* grid = field.grid;
+    return field.box && grid && grid->isEnabled() && grid->isVisible() && field.row < grid->Rows() &&
+           field.col < grid->Cols();
+}
+
+void fill(const FieldTarget& field, const QString& number) {
+    field.box->setBoxText(number);
+    field.grid->setTextMatrix(field.row, field.col, field.box->Text());
+    if (field.box->isEnabled())
+        field.box->takeFocus();
+    else
+        field.grid->takeFocus();
+}
+
 } // namespace
 
 Calculator::Calculator(Workbench& bench)
@@ -37,15 +54,10 @@ Calculator::Calculator(Workbench& bench)
     Text1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     Text1->setReadOnly(true);
     Text1->setFocusPolicy(Qt::NoFocus);
-    Text1->setBoxText(m_machine.display());
+    showDisplay();
     makeKeys();
     MouseMove = [this](double, double) { unmarkHovered(m_keys); };
-    CloseAsked = [this] {
-        if (m_machine.touched())
-            handBack();
-        else
-            m_bench.forms.unload(objectName());
-    };
+    CloseAsked = [this] { handBack(); };
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -92,25 +104,30 @@ void Calculator::serve(const FieldTarget& field) {
     m_field = field;
 }
 
+void Calculator::showDisplay() {
+    Text1->setBoxText(m_machine.display());
+    Text1->setToolTip(showsWhole(*Text1) ? QString() : Text1->Text());
+}
+
 void Calculator::Form9_Command1_Click(int index) {
     m_machine.pressKey(index);
-    Text1->setBoxText(m_machine.display());
+    showDisplay();
 }
 
 void Calculator::Form9_Command2_Click(int index) {
     if (m_machine.pressOperator(index) == CalculatorMachine::Outcome::DivisionRefused)
         m_bench.services.say(u"被除数不能等于零!"_s, MessageStyle::OkInformation, u"温馨提示"_s);
-    Text1->setBoxText(m_machine.display());
+    showDisplay();
 }
 
 void Calculator::Form9_Command3_Click() {
     m_machine.pressEquals();
-    Text1->setBoxText(m_machine.display());
+    showDisplay();
 }
 
 void Calculator::Form9_Command4_Click() {
     m_machine.pressClear();
-    Text1->setBoxText(m_machine.display());
+    showDisplay();
 }
 
 bool Calculator::typed(QChar character) {
@@ -133,7 +150,7 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
             // The Enter that opened the calculator may still be held.
             if (!event->isAutoRepeat())
-                confirm();
+                handBack();
             break;
         case Qt::Key_Escape:
             m_bench.forms.unload(objectName());
@@ -145,28 +162,12 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
     });
 }
 
-void Calculator::confirm() {
-    if (!m_machine.touched()) {
-        m_bench.forms.unload(objectName());
-        return;
-    }
-    if (m_machine.operationPending())
-        Form9_Command3_Click();
-    handBack();
-}
-
+/// Goes away; what was reckoned goes into the field that asked. A glance hands nothing back.
 void Calculator::handBack() {
-    const FieldTarget target = m_field;
-    const QString number = Text1->Text();
+    const auto number = m_machine.touched() ? m_machine.handOver() : std::nullopt;
     m_bench.forms.unload(objectName());
-    if (!target.box || !target.grid)
-        return;
-    target.box->setBoxText(number);
-    target.grid->setText(target.box->Text());
-    if (target.box->isEnabled())
-        target.box->takeFocus();
-    else
-        target.grid->takeFocus();
+    if (number && takesInput(m_field))
+        fill(m_field, *number);
 }
 
 } // namespace qinghe

@@ -8,8 +8,9 @@
 namespace qinghe {
 
 /// `Form9`: a keypad that hangs under an amount cell. Its number goes into the box that asked and into the
-/// grid cell behind it when the window is closed by its own button or confirmed with Enter, and any key was pressed;
-/// Esc closes it without, and so does an unload from code.
+/// grid cell over which it was opened when the window is closed by its own button or confirmed with Enter, and any key
+/// was pressed; Esc closes it without, and so does an unload from code. What is no number goes nowhere, and neither
+/// does a number whose cell has gone or stands in a grid that takes none at present.
 class Calculator : public FieldTool {
     Q_OBJECT
 
@@ -30,7 +31,7 @@ private:
     CommandButton* key(const QString& name, const QString& caption, double left, double top, double width,
                        double height);
     void makeKeys();
-    void confirm();
+    void showDisplay();
     void handBack();
     bool typed(QChar character);
 

@@ -135,8 +135,25 @@ void CalculatorMachine::pressEquals() {
     keyPressed(true);
     if (m_state.pendingOperator != None)
         answer();
+    m_answer = m_display;
     if (leadingNumber(m_display) < 1) // ".5" becomes "0.5"; "0" and "-3" become "00" and "0-3", which is meant
         m_display.prepend(u'0');
+}
+
+/// Whether "=" has anything to do since it was last pressed. A root works on the one operand that it has; before
+/// another operator a first operand may be missing, which counts as 0.
+bool CalculatorMachine::unanswered() const {
+    if (m_answered || m_state.pendingOperator == None)
+        return false;
+    return m_state.pendingOperator == Root ? !m_state.firstOperand.isEmpty() : !m_state.secondOperand.isEmpty();
+}
+
+std::optional<QString> CalculatorMachine::handOver() {
+    if (unanswered())
+        pressEquals();
+    if (isNumeric(m_display))
+        return m_display;
+    return m_answered && isNumeric(m_answer) ? std::optional(m_answer) : std::nullopt;
 }
 
 void CalculatorMachine::answer() {

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace qinghe {
 
 /// The arithmetic behind the calculator's keys. It knows no window: the calculator passes each key on and then shows
@@ -42,8 +44,10 @@ public:
     const State& state() const { return m_state; }
     /// Whether any key was pressed since the machine was made.
     bool touched() const { return m_touched; }
-    /// Whether "=" would work on something entered since the last "=".
-    bool operationPending() const { return m_state.pendingOperator != None && !m_answered; }
+    /// The number to hand over, as a column takes it: a reckoning that has all its operands and no "=" yet is answered
+    /// first. It is the display where that is a number, else the answer without the display's zero before it ("-3" for
+    /// "0-3", " .5" for "0 .5"). Nothing where neither is one: "12+" lacks an operand, "1.2.3" is none.
+    std::optional<QString> handOver();
 
 private:
     void keyPressed(bool equals = false);
@@ -51,9 +55,11 @@ private:
     void chain(QStringView mark);
     void takeRoot(QStringView mark);
     void answer();
+    bool unanswered() const;
 
     State m_state;
     QString m_display = QStringLiteral("0");
+    QString m_answer; ///< the display as "=" left it, less the zero that it puts before small numbers
     bool m_touched = false;
     bool m_answered = false; ///< the last key was "="
 };

@@ -287,16 +287,62 @@ TEST(CalculatorMachine, TellsWhetherAnyKeyWasPressed) {
     }
 }
 
-TEST(CalculatorMachine, HasAnOperationPendingUntilEqualsOrClear) {
-    for (const QStringView keys : {u"1+", u"1+2", u"9r", u"1+2+", u"1+2=5", u"1+2=*"}) {
+void expectHandedOver(std::initializer_list<Shown> table) {
+    for (const auto& [keys, number] : table) {
         Machine machine;
         press(machine, keys);
-        EXPECT_TRUE(machine.operationPending()) << keys;
+        EXPECT_EQ(machine.handOver(), number) << keys;
     }
-    for (const QStringView keys : {u"", u"1", u"=", u"1+2=", u"3*4=", u"2^3=", u"1+c", u"7/0+"}) {
+}
+
+TEST(CalculatorMachine, HandsOverTheDisplayWhereItIsANumber) {
+    expectHandedOver({{u"", u"0"},
+                      {u"12", u"12"},
+                      {u".5", u".5"},
+                      {u"12.", u"12."},
+                      {u"1+2=", u"3"},
+                      {u"3*4=", u" 12"},
+                      {u"1/2=", u"0.5"},
+                      {u"1-1=", u"00"},
+                      {u"=", u"00"},
+                      {u"10^38=", u"1E+38"},
+                      {u"7/0+", u"0"},
+                      {u"5c", u"0"}});
+}
+
+TEST(CalculatorMachine, HandsOverTheAnswerWhereItsDisplayIsNoNumber) {
+    expectHandedOver({{u".5*1=", u" .5"}, {u"2-5=", u"-3"}, {u"2-5==", u"-3"}, {u"1-4=*3=", u"-9"}, {u"0*5=", u" 0"}});
+}
+
+TEST(CalculatorMachine, AnswersFirstWhatHasAllItsOperands) {
+    expectHandedOver({{u"80+20", u"100"},
+                      {u"2-5", u"-3"},
+                      {u".5*1", u" .5"},
+                      {u"1+2+4", u"7"},
+                      {u"9r", u"3"},
+                      {u"1+2=5", u"8"},
+                      {u"2^3", u"8"},
+                      {u"+5", u"5"}});
+}
+
+TEST(CalculatorMachine, AnswersNothingASecondTimeForTheHandOver) {
+    expectHandedOver({{u"2^3=", u"8"}, {u"6/2=", u"3"}, {u"16r=", u"4"}});
+}
+
+TEST(CalculatorMachine, HandsNothingOverThatIsNoNumber) {
+    for (const QStringView keys : {u"12+", u"12*", u"7/", u"1+2+", u"1+2=*", u"9r-", u"r", u"+", u"1.2.3", u".",
+                                   u"1.2.3=", u"2-5=+", u"16r+5"}) {
         Machine machine;
         press(machine, keys);
-        EXPECT_FALSE(machine.operationPending()) << keys;
+        EXPECT_EQ(machine.handOver(), std::nullopt) << keys;
+    }
+}
+
+TEST(CalculatorMachine, RaisesTheErrorsOfEqualsAtTheHandOver) {
+    for (const QStringView keys : {u"7/0", u"0/0"}) {
+        Machine machine;
+        press(machine, keys);
+        EXPECT_THROW(machine.handOver(), RuntimeError) << keys;
     }
 }
 

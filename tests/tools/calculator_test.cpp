@@ -158,6 +158,31 @@ TEST_F(CalculatorTest, HasTheKeyboardWhenItOpensAndKeepsItThroughClicks) {
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"6"); // Enter confirms, whatever was clicked last
 }
 
+TEST_F(CalculatorTest, ShowsTheEndOfALongExpressionBehindAnEllipsisAndAllOfItAsToolTip) {
+    auto& shown = rig.control<TextBox>(u"Form9"_s, u"Text1"_s);
+    const auto headOf = [&shown] { return shown.grab().toImage().copy(5, 3, 14, shown.height() - 6); };
+    const auto darkAt = [](const QImage& image, int from, int to) {
+        for (int y = from; y < to; ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (qGray(image.pixel(x, y)) < 128)
+                    return true;
+        return false;
+    };
+    rig.type(calculator(), u"12345678+1"_s);
+    EXPECT_EQ(shown.toolTip(), u"");
+    EXPECT_FALSE(darkAt(headOf(), 0, headOf().height()));
+    const QString expression = u"12345678901234567890+12345678901234567890"_s;
+    rig.click(key(u"Command4"));
+    rig.type(calculator(), expression);
+    EXPECT_EQ(shown.Text(), expression);
+    EXPECT_EQ(shown.toolTip(), expression);
+    // Dots on the line and nothing above them.
+    EXPECT_TRUE(darkAt(headOf(), headOf().height() / 2, headOf().height()));
+    EXPECT_FALSE(darkAt(headOf(), 0, headOf().height() / 3));
+    rig.click(key(u"Command4"));
+    EXPECT_EQ(shown.toolTip(), u"");
+}
+
 TEST_F(CalculatorTest, TakesTheKeyboardAgainWhenItIsShownAgain) {
     rig.settle();
     rig.mainWindow().activateWindow(); // as a click into the main window does

@@ -63,10 +63,88 @@ TEST_F(HandBackTest, ComputesNothingASecondTimeOnEnter) {
     expectHandedBack(u"8"_s); // a further "=" would give 512
 }
 
-TEST_F(HandBackTest, GivesTheExpressionAsItStandsByTheCloseButton) {
+TEST_F(HandBackTest, ComputesWhatIsPendingAlsoBeforeTheCloseButtonGivesIt) {
     type(u"80+20"_s);
     closeWindow();
-    expectHandedBack(u"80+20"_s);
+    expectHandedBack(u"100"_s);
+}
+
+TEST_F(HandBackTest, GivesTheResultWhereItsDisplayIsNoNumber) {
+    type(u"2-5"_s);
+    clickKey(u"Command3"_s);
+    EXPECT_EQ(rig.control<TextBox>(u"Form9"_s, u"Text1"_s).Text(), u"0-3");
+    closeWindow();
+    expectHandedBack(u"-3"_s);
+    openCalculator();
+    type(u".5*1"_s);
+    press(Qt::Key_Return);
+    expectHandedBack(u" .5"_s);
+    rig.click(rig.onMain<CommandButton>(u"Command6"_s));
+    EXPECT_EQ(rig.sql(u"select 金额 from srb"_s), QStringList{u"0.5"_s});
+}
+
+TEST_F(HandBackTest, GivesNothingThatIsNoNumber) {
+    for (const QString& keys : {u"12+"_s, u"1.2.3"_s}) {
+        type(keys);
+        closeWindow();
+        expectNothingHandedBack();
+        openCalculator();
+        type(keys);
+        press(Qt::Key_Return);
+        expectNothingHandedBack();
+        openCalculator();
+    }
+}
+
+TEST_F(HandBackTest, GivesNothingIntoAReport) {
+    type(u"80"_s);
+    rig.click(rig.onMain<OptionButton>(u"Option9"_s)); // leaves the calculator open
+    const QString report = rig.rowText(ms2(), 1);
+    ms2().setRow(1);
+    closeWindow();
+    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_EQ(rig.rowText(ms2(), 1), report);
+    EXPECT_EQ(tx2().Text(), u"");
+    rig.settle();
+    EXPECT_FALSE(ms2().hasFocus());
+}
+
+TEST_F(HandBackTest, GivesNothingWhereTheRowHasGone) {
+    press(Qt::Key_Escape);
+    ms2().setRows(3);
+    rig.clickCell(ms2(), 2, 5);
+    type(u"80"_s);
+    ms2().setRows(2);
+    closeWindow();
+    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_EQ(tx2().Text(), u"");
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
+}
+
+TEST_F(HandBackTest, GivesNothingWhereTheColumnHasGone) {
+    type(u"80"_s);
+    ms2().setCols(5);
+    closeWindow();
+    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_EQ(tx2().Text(), u"12.5");
+    EXPECT_FALSE(rig.rowText(ms2(), 1).contains(u"80"_s));
+}
+
+TEST_F(HandBackTest, GivesNothingIntoAGridOutOfView) {
+    type(u"80"_s);
+    rig.frame(u"Frame2"_s).setShown(false);
+    closeWindow();
+    expectNothingHandedBack();
+}
+
+TEST_F(HandBackTest, FillsTheCellThatItWasOpenedForWhereverTheGridStandsNow) {
+    ms2().setRows(3);
+    type(u"80"_s);
+    ms2().setRow(2);
+    ms2().setCol(7);
+    closeWindow();
+    EXPECT_EQ(ms2().TextMatrix(1, 5), u"80");
+    EXPECT_EQ(ms2().TextMatrix(2, 7), u"");
 }
 
 TEST_F(HandBackTest, GivesAProductWithItsBlankWhichTheSaveTakes) {
@@ -151,6 +229,7 @@ TEST_F(HandBackTest, GivesTheKeyboardToABoxThatItsChangeOpens) {
 TEST_F(HandBackTest, GoesToTheFieldThatAskedLast) {
     TextBox box(&rig.mainWindow(), u"other"_s);
     MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
+    grid.show();
     handlers::enter([&] { bench().openCalculator({4, &box, &grid}, 0, 0); });
     EXPECT_EQ(bench().calcTarget, 4);
     type(u"80"_s);
