@@ -1,5 +1,6 @@
 #include "core/desktop.h"
 
+#include "look/fonts.h"
 #include "runtime/number_format.h"
 #include "runtime/number_text.h"
 
@@ -47,6 +48,14 @@ constexpr std::array<SumLabel, 10> Labels{{
     {u"Label35", 6000, 4920}, // thisMonthLent
 }};
 
+/// A figure ends where all do; one that is longer has the rest of its card as well. What that cannot hold either, the
+/// style sets in smaller type.
+constexpr double FigureWidth = 1560, WidestFigure = 1680; // twips
+
+double widthOf(const QString& figure) {
+    return figureWidth(figure) * TwipsPerPixel > FigureWidth ? WidestFigure : FigureWidth;
+}
+
 QString sumQuery(const SumColumn& row, const QString& month) {
     return u"select sum(%1)as 总金额 from %2 where left(%3,7)='%4'"_s.arg(
         QString::fromUtf16(row.column), QString::fromUtf16(row.table), QString::fromUtf16(row.dateColumn), month);
@@ -71,7 +80,7 @@ Desktop::Desktop(Workbench& bench, Navigation& navigation, Adodc& store)
     Image2->setRole(Role::Picture);
     for (std::size_t i = 0; i < Labels.size(); ++i) {
         auto* label = new Label(&page, QString::fromUtf16(Labels[i].name));
-        label->place(Labels[i].left, Labels[i].top, 1560, 300);
+        label->place(Labels[i].left, Labels[i].top, FigureWidth, 300);
         label->setRole(Role::Figure);
         m_sums[i].label = label;
     }
@@ -93,7 +102,9 @@ void Desktop::computeSums() {
 void Desktop::showSums() {
     for (const Sum& sum : m_sums) {
         const double total = sum.total.isNull() ? 0 : sum.total.number();
-        sum.label->setCaption(total != 0 ? formatNumber(total, u"##.00元"_s) : u"0.00元"_s);
+        const QString figure = total != 0 ? formatNumber(total, u"##.00元"_s) : u"0.00元"_s;
+        sum.label->setCaption(figure);
+        sum.label->setWidth(widthOf(figure));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -81,6 +82,10 @@ QFont fontFor(Role role) {
         return figureFont();
     const auto face = std::find_if(std::begin(faces), std::end(faces), [=](const Face& f) { return f.role == role; });
     return face == std::end(faces) ? sans(type::Body) : sans(face->points, face->bold);
+}
+
+double figureWidth(const QString& text) {
+    return QFontMetricsF(figureFont()).horizontalAdvance(text);
 }
 
 void drawFigure(QPainter& painter, const QPointF& baseline, const QString& text) {

@@ -23,6 +23,9 @@ QFont figureFont();
 /// The font of a control's text.
 QFont fontFor(Role role);
 
+/// How wide a figure is in that font, in pixels.
+double figureWidth(const QString& text);
+
 /// Draws a text in the figures' font at a baseline. Where the serif has no bold face, its strokes are thickened.
 void drawFigure(QPainter& painter, const QPointF& baseline, const QString& text);
 

@@ -92,10 +92,20 @@ void paintLink(const QStyleOption& option, QPainter& painter, const Label& label
               wordsColour(option, label, colour::LeafLink));
 }
 
+/// The figures' font, smaller where a figure has more digits than the room has for them: none is ever cut.
+QFont figureFontIn(const QString& figure, double width) {
+    QFont font = figureFont();
+    // Hinted digits do not shrink evenly.
+    for (double size = font.pointSizeF(); size > 1 && qRound(QFontMetricsF(font).horizontalAdvance(figure)) > width;
+         size -= 0.25)
+        font.setPointSizeF(size);
+    return font;
+}
+
 void paintFigure(const QStyleOption& option, QPainter& painter, const Label& label) {
-    const QFont font = figureFont();
-    const QFontMetricsF metrics(font);
     const QRectF room = option.rect;
+    const QFont font = figureFontIn(label.Caption(), room.width());
+    const QFontMetricsF metrics(font);
     const double x = room.right() - qRound(metrics.horizontalAdvance(label.Caption()));
     const double y = room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
     painter.setFont(font);

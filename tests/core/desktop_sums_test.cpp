@@ -111,6 +111,20 @@ TEST_F(DesktopSums, HalfAYuanHasNoDigitBeforeThePoint) {
     EXPECT_EQ(caption(u"Label31"_s), u".50元"_s);
 }
 
+TEST_F(DesktopSums, ALongFigureHasTheRestOfItsCardAndAnyOtherItsUsualWidth) {
+    const auto widthWith = [this](const QString& amount) {
+        bookIncome(u"2024-10-01"_s, amount);
+        startOn({2024, 10, 18});
+        return label(u"Label31"_s).Width();
+    };
+    EXPECT_EQ(widthWith(u"12345.5"_s), 1560);
+    EXPECT_EQ(widthWith(u"1234567890123456"_s), 1680);
+    EXPECT_EQ(label(u"Label31"_s).Left(), 6000);
+    EXPECT_EQ(label(u"Label32"_s).Width(), 1560);
+    rig.sql(u"delete from srb"_s);
+    EXPECT_EQ(widthWith(u"1"_s), 1560);
+}
+
 TEST_F(DesktopSums, ASumBelowNoughtKeepsItsSign) {
     bookIncome(u"2024-10-01"_s, u"-12.5"_s);
     startOn({2024, 10, 18});

@@ -110,6 +110,26 @@ TEST(Figure, StandsOnTheRight) {
     }
 }
 
+TEST(Figure, IsNeverCutHoweverLongItIs) {
+    for (const QString& sum :
+         {u"-123456789.12元"_s, u"123456789012.34元"_s, u"-1234567890123456.00元"_s, u"100000000000000000000.00元"_s}) {
+        for (const double ratio : {1.0, 2.0}) {
+            OnWhite at(Role::Figure, sum, 1680, 300);
+            const QRect ink = extent(at.picture(ratio), isDarkInk);
+            EXPECT_GT(ink.left(), 0) << sum.toStdString();
+            EXPECT_GE(ink.right(), qRound(108 * ratio)) << sum.toStdString();
+            EXPECT_GT(ink.width(), qRound(95 * ratio)) << sum.toStdString();
+        }
+    }
+}
+
+TEST(Figure, ThatFitsKeepsItsSizeAndItsPlace) {
+    OnWhite one(Role::Figure, u"16116.85元"_s, 1560, 300), other(Role::Figure, u"16116.85元"_s, 3000, 300);
+    const QImage narrow = one.picture(), wide = other.picture();
+    EXPECT_EQ(extent(narrow, isDarkInk).size(), extent(wide, isDarkInk).size());
+    EXPECT_EQ(extent(narrow, isDarkInk).left() + 96, extent(wide, isDarkInk).left());
+}
+
 TEST(RunningText, BreaksLinesAtEveryKindOfLineEnd) {
     const QFont font = sans(type::Body);
     const double pitch = linePitch(font);
