@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 /// How text boxes tell their key presses.
 namespace qinghe::key_presses {
@@ -19,19 +20,21 @@ QStringList characters(const QString& text);
 qsizetype characterCount(const QString& text);
 
 /// A text that an input method commits enters one character at a time: `press(code)`, then `enter(event)` with that
-/// character alone. What is still being composed goes with the last one.
+/// character alone. What is still being composed goes with the last one. Either may close the box, which takes nothing
+/// more then.
 template<class Press, class Enter>
-void enterOneByOne(QInputMethodEvent& event, Press press, Enter enter) {
+void enterOneByOne(const QWidget& box, QInputMethodEvent& event, Press press, Enter enter) {
     const QStringList parts = characters(event.commitString());
     if (parts.isEmpty())
         return enter(event);
-    for (qsizetype i = 0; i < parts.size(); ++i) {
+    for (qsizetype i = 0; i < parts.size() && box.isEnabled(); ++i) {
         const bool first = i == 0, last = i == parts.size() - 1;
         QInputMethodEvent one(last ? event.preeditString() : QString(),
                               last ? event.attributes() : QList<QInputMethodEvent::Attribute>());
         one.setCommitString(parts[i], first ? event.replacementStart() : 0, first ? event.replacementLength() : 0);
         press(parts[i].front().unicode());
-        enter(one);
+        if (box.isEnabled())
+            enter(one);
     }
 }
 

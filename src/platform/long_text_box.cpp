@@ -45,7 +45,7 @@ void LongTextBox::keyPressEvent(QKeyEvent* event) {
 
 void LongTextBox::inputMethodEvent(QInputMethodEvent* event) {
     key_presses::enterOneByOne(
-        *event, [this](int code) { KeyPress.fromQt(code); },
+        *this, *event, [this](int code) { KeyPress.fromQt(code); },
         [this](QInputMethodEvent& part) { QPlainTextEdit::inputMethodEvent(&part); });
 }
 

@@ -61,7 +61,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     key_presses::enterOneByOne(
-        *event, [this](int code) { KeyPress.fromQt(code); },
+        *this, *event, [this](int code) { KeyPress.fromQt(code); },
         [this](QInputMethodEvent& part) { QLineEdit::inputMethodEvent(&part); });
 }
 

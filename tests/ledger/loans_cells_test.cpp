@@ -1,6 +1,7 @@
 #include "ledger/loans_rig.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 
 // The columns of a loan: amounts that are keyed by moving along with Enter, a balance that is closed to keys, a date.
 
@@ -39,6 +40,16 @@ TEST_F(LoansCellsTest, TakeAmountsFromTheKeyboardAfterEnter) {
     enter();
     EXPECT_EQ(row(1), u"户1|2024-5-1|200|五十|90|甲|乙|备1");
     EXPECT_EQ(current(), u"1,5");
+}
+
+TEST_F(LoansCellsTest, TakeOneCharacterForTheBalanceAlsoFromAnInputMethod) {
+    clickCell(1, 5);
+    box().selectAll();
+    QInputMethodEvent event;
+    event.setCommitString(u"余额"_s);
+    QApplication::sendEvent(&box(), &event);
+    EXPECT_EQ(box().Text(), u"余");
+    EXPECT_FALSE(box().isEnabled());
 }
 
 TEST_F(LoansCellsTest, OpenThePickerByEnterAndByClick) {

@@ -35,6 +35,19 @@ TEST_F(TextBoxes, ACharacterIsAKeyPressWithItsCode) {
     EXPECT_EQ(box.Text(), u"a5."_s);
 }
 
+TEST_F(TextBoxes, ACommitEndsAtTheCharacterWhoseChangeClosesTheBox) {
+    box.Change = [this] { box.setUsable(false); };
+    commit(u"余额"_s);
+    EXPECT_EQ(box.Text(), u"余"_s);
+    EXPECT_EQ(takeKeys(), QList<int>{u'余'});
+}
+
+TEST_F(TextBoxes, ACommitEndsBeforeTheCharacterWhoseKeyPressClosesTheBox) {
+    box.KeyPress = [this](int code) { box.setUsable(code != u'额'); };
+    commit(u"余额表"_s);
+    EXPECT_EQ(box.Text(), u"余"_s);
+}
+
 TEST_F(TextBoxes, EnterBackspaceAndEscHaveTheirCodes) {
     box.setBoxText(u"12"_s);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Backspace, Qt::Key_Escape})
