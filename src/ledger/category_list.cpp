@@ -4,8 +4,6 @@
 #include "core/lists.h"
 #include "platform/key_presses.h"
 
-#include <QScrollBar>
-
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -23,18 +21,9 @@ Frame* listFrame(Frame& page, const CategoryList::Traits& traits) {
     return frame;
 }
 
-/// The columns leave less room beside them than a scroll bar takes. A few pixels of the last one may lie under it; the
-/// list does not move sideways for them.
-void keepFromMovingSideways(MSFlexGrid* grid) {
-    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QScrollBar* bar = grid->horizontalScrollBar();
-    QObject::connect(bar, &QScrollBar::rangeChanged, grid, [bar] { bar->setRange(0, 0); });
-}
-
 MSFlexGrid* listGrid(Frame* frame, const CategoryList::Traits& traits) {
     auto* grid = new MSFlexGrid(frame, QString::fromUtf16(traits.grid));
     grid->place(Margin, 360, traits.gridWidth, GridHeight);
-    keepFromMovingSideways(grid);
     return grid;
 }
 

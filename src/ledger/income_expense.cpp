@@ -201,6 +201,7 @@ void IncomeExpensePage::formClicked() {
 void IncomeExpensePage::setEditing(bool allowed) {
     for (CommandButton* button : {addButton, removeButton, saveButton})
         button->setUsable(allowed);
+    grid->setRole(allowed ? Role::Plain : Role::Report);
     grid->setUsable(allowed);
 }
 

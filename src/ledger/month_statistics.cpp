@@ -71,6 +71,7 @@ void MonthStatistics::showItems() {
         ms2.setTextMatrix(ms2.Row(), 1, rows.field(u"项目"_s).text());
         ms2.setTextMatrix(ms2.Row(), 2, money(rows.field(u"总金额"_s).value()));
     });
+    ms2.showTop();
 }
 
 void MonthStatistics::showPeople() {
@@ -96,6 +97,7 @@ void MonthStatistics::showPeople() {
                 ms2.setTextMatrix(loanRow(m_window.bench()), column, {});
         }
     });
+    ms2.showTop();
 }
 
 } // namespace qinghe

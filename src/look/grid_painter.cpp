@@ -28,6 +28,11 @@ bool isCurrentRow(const MSFlexGrid& grid, int row) {
     return grid.marksCurrent() && row == grid.Row();
 }
 
+/// A report takes no clicks and is there to be read.
+bool isReadable(const MSFlexGrid& grid) {
+    return grid.isEnabled() || grid.role() == Role::Report;
+}
+
 /// The ground of a data row: the current one is marked, every second one is tinted.
 QColor bandOf(const MSFlexGrid& grid, int row) {
     if (isCurrentRow(grid, row))
@@ -56,7 +61,7 @@ void paintCaption(const QStyleOptionHeader& option, QPainter& painter, const MSF
     paintUpright(painter, option.rect.right(), option.rect.top() + 4, option.rect.bottom() - 3, CaptionMark);
     paintLine(painter, cellTextRoom(option.rect, grid, col), grid.isAmountColumn(col) ? Qt::AlignRight : Qt::AlignLeft,
               option.text, sans(std::min(cellMargins(grid, col).points, type::Caption), true),
-              grid.isEnabled() ? colour::LeafDark : colour::Ink2);
+              isReadable(grid) ? colour::LeafDark : colour::Ink2);
 }
 
 void paintMarker(const QStyleOptionHeader& option, QPainter& painter, const QWidget& header, const MSFlexGrid& grid) {
@@ -132,7 +137,7 @@ void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFl
     if (isCurrentRow(grid, row) && col == grid.Col())
         paintPanel(painter, cell, 0, colour::LeafSel, colour::LeafDeep, 1.6);
     paintLine(painter, cellTextRoom(cell, grid, col), grid.isAmountColumn(col) ? Qt::AlignRight : Qt::AlignLeft,
-              option.text, sans(cellMargins(grid, col).points), grid.isEnabled() ? colour::Ink : colour::Ink2);
+              option.text, sans(cellMargins(grid, col).points), isReadable(grid) ? colour::Ink : colour::Ink2);
 }
 
 void paintGridEdge(QPainter& painter, const QRect& grid) {

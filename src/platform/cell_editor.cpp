@@ -8,6 +8,7 @@ CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : 
     setRole(Role::CellEditor);
     setShown(false);
     setFocusRefuge(&grid);
+    grid.setCover(this);
     connect(&grid, &MSFlexGrid::scrolled, this, [this] {
         if (Visible())
             followCell();

@@ -2,6 +2,7 @@
 
 #include "platform/flex_grid_model.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -12,6 +13,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace qinghe {
@@ -56,6 +58,35 @@ protected:
     }
 };
 
+/// The upright bar, which moves a list that is disabled as well.
+class ReadingBar : public QScrollBar {
+public:
+    explicit ReadingBar(QWidget* list) : QScrollBar(Qt::Vertical, list) {}
+
+protected:
+    bool event(QEvent* event) override {
+        if (isEnabled())
+            return QScrollBar::event(event);
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            mousePressEvent(static_cast<QMouseEvent*>(event));
+            return true;
+        case QEvent::MouseMove:
+            mouseMoveEvent(static_cast<QMouseEvent*>(event));
+            return true;
+        case QEvent::MouseButtonRelease:
+            mouseReleaseEvent(static_cast<QMouseEvent*>(event));
+            return true;
+        case QEvent::Wheel:
+            wheelEvent(static_cast<QWheelEvent*>(event));
+            return true;
+        default:
+            return QScrollBar::event(event);
+        }
+    }
+};
+
 } // namespace
 
 MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
@@ -74,6 +105,7 @@ MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
     setCornerButtonEnabled(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
+    setVerticalScrollBar(new ReadingBar(this));
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setMouseTracking(true);
@@ -121,14 +153,14 @@ void MSFlexGrid::setCols(int cols) {
 void MSFlexGrid::setRow(int row) {
     checkRow(row, Rows());
     m_row = row;
-    m_scrollDue = true;
+    m_due = Scroll::ToCurrent;
     changed();
 }
 
 void MSFlexGrid::setCol(int col) {
     checkCol(col, Cols());
     m_col = col;
-    m_scrollDue = true;
+    m_due = Scroll::ToCurrent;
     changed();
 }
 
@@ -233,6 +265,11 @@ bool MSFlexGrid::isAmountColumn(int col) const {
     return std::find(m_amounts.begin(), m_amounts.end(), col) != m_amounts.end();
 }
 
+void MSFlexGrid::showTop() {
+    m_due = Scroll::ToTop;
+    changed();
+}
+
 void MSFlexGrid::takeFocus() {
     if (isVisible())
         setFocus(Qt::OtherFocusReason);
@@ -240,7 +277,8 @@ void MSFlexGrid::takeFocus() {
 
 QRect MSFlexGrid::cellRect(int row, int col) {
     const int x = pixelEdge(ColPos(col)), y = pixelEdge(RowPos(row));
-    return {QPoint(x, y), QPoint(pixelEdge(ColPos(col) + ColWidth(col)) - 1, y + pixelEdge(RowHeight(row)) - 1)};
+    const int width = col > 0 ? columnWidth(col - 1) : pixelEdge(ColWidth(col));
+    return {x, y, width, pixelEdge(RowHeight(row))};
 }
 
 void MSFlexGrid::ensureVisible(int row, int col) {
@@ -284,7 +322,10 @@ void MSFlexGrid::bringUpToDate() {
         layColumns();
         updateGeometries();
     }
-    if (std::exchange(m_scrollDue, false) && m_row > 0 && m_col > 0)
+    const Scroll due = std::exchange(m_due, Scroll::None);
+    if (due == Scroll::ToTop)
+        verticalScrollBar()->setValue(0);
+    else if (due == Scroll::ToCurrent && m_row > 0 && m_col > 0)
         scrollTo(m_model->index(m_row - 1, m_col - 1));
     viewport()->update();
     horizontalHeader()->viewport()->update();
@@ -301,6 +342,23 @@ void MSFlexGrid::layColumns() {
         horizontalHeader()->resizeSection(col - 1, pixelEdge(right) - pixelEdge(left));
         left = right;
     }
+}
+
+void MSFlexGrid::updateGeometries() {
+    fitLastColumn();
+    QTableView::updateGeometries();
+}
+
+/// Takes from the last column what it has too much, up to a quarter of it.
+void MSFlexGrid::fitLastColumn() {
+    const int last = Cols() - 2;
+    if (last < 0 || horizontalHeader()->count() != last + 1)
+        return; // the view has yet to hear of its columns
+    const double width = m_widths.back(), right = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
+    const bool barShown = verticalHeader()->length() > height() - horizontalHeader()->height();
+    const int room = this->width() - (barShown ? verticalScrollBar()->sizeHint().width() : 0);
+    const int told = pixelEdge(right) - pixelEdge(right - width), excess = std::max(0, pixelEdge(right) - room);
+    horizontalHeader()->resizeSection(last, excess <= told / 4 ? told - excess : told);
 }
 
 void MSFlexGrid::mousePressEvent(QMouseEvent* event) {
@@ -332,7 +390,10 @@ void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
-    const auto move = [this](int row, int col) {
+    const bool held = m_cover && m_cover->isVisible();
+    const auto move = [this, held](int row, int col) {
+        if (held)
+            return;
         handlers::enter([&] {
             setRow(std::clamp(row, 1, std::max(1, Rows() - 1)));
             setCol(std::clamp(col, 1, std::max(1, Cols() - 1)));
@@ -383,6 +444,10 @@ bool MSFlexGrid::fits(const QModelIndex& index) const {
 }
 
 bool MSFlexGrid::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Wheel && !isEnabled()) {
+        QCoreApplication::sendEvent(verticalScrollBar(), event);
+        return true;
+    }
     if (event->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(event);
     // A text that does not fit is told whole.
@@ -410,8 +475,24 @@ void MSFlexGrid::resizeEvent(QResizeEvent* event) {
 
 void MSFlexGrid::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        viewport()->update();
+    if (event->type() != QEvent::EnabledChange)
+        return;
+    viewport()->update();
+    parentWidget()->removeEventFilter(this);
+    if (!isEnabled())
+        parentWidget()->installEventFilter(this);
+}
+
+/// A disabled list cannot have the keyboard; its container hands it the Page keys that nobody wanted.
+bool MSFlexGrid::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != parentWidget() || event->type() != QEvent::KeyPress || isEnabled() || !isVisible())
+        return QTableView::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_PageUp && key != Qt::Key_PageDown)
+        return false;
+    verticalScrollBar()->triggerAction(key == Qt::Key_PageUp ? QAbstractSlider::SliderPageStepSub
+                                                             : QAbstractSlider::SliderPageStepAdd);
+    return true;
 }
 
 } // namespace qinghe

@@ -18,6 +18,10 @@ class FlexGridModel;
 /// Writing Row, Col, Rows and texts costs no more than writing them: the view is brought up to date at the next
 /// boundary, or when a place is asked for, with one scroll to the current cell. A row or column out of range is a
 /// RuntimeError (subscript out of range). Sizes and places are twips.
+///
+/// A disabled grid is read, not touched: its clicks are its container's, and wheel, upright bar and the Page keys that
+/// reach its container move it. Where the columns reach a little too far to the right, the last one gives way to the
+/// list's end or its upright bar (ColWidth stays as told); nothing moves sideways for a few pixels.
 class MSFlexGrid : public QTableView, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -66,6 +70,11 @@ public:
     void setAmountColumns(std::vector<int> columns);
     bool isAmountColumn(int col) const;
 
+    /// Shows the list from its first row on, wherever the current cell is, until a cell is made current again.
+    void showTop();
+    /// While this control is on view the grid's own keys leave the current cell, over which it lies, where it is.
+    void setCover(const QWidget* cover) { m_cover = cover; }
+
     /// Gives the grid the keyboard; nothing happens while its page is hidden.
     void takeFocus();
 
@@ -96,18 +105,25 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent*) override;
     void changeEvent(QEvent*) override;
+    bool eventFilter(QObject*, QEvent*) override;
+    void updateGeometries() override;
 
 private:
+    enum class Scroll { None, ToCurrent, ToTop };
+
     void changed(); ///< the model: rows, columns or texts
     void bringUpToDate();
     void layColumns();
+    void fitLastColumn();
     bool fits(const QModelIndex& index) const;
 
     FlexGridModel* m_model;
     int m_row = 1, m_col = 1;
     std::vector<double> m_widths;
     std::vector<int> m_amounts;
-    bool m_stale = false, m_staleColumns = false, m_scrollDue = false;
+    bool m_stale = false, m_staleColumns = false;
+    Scroll m_due = Scroll::None;
+    QPointer<const QWidget> m_cover;
     QPoint m_press{-1, -1};
     QWidget* m_edge;
 };

@@ -38,6 +38,8 @@ enum class Role {
     CellEditor, ///< lies over a cell of a grid
     CalcDisplay,
     SignInField,
+    // grids
+    Report, ///< disabled because it is there to be read, and not for want of something
     // frames
     PageFrame,
     DesktopFrame, ///< the page that holds the desktop's picture

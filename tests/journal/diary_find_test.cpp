@@ -1,5 +1,7 @@
 #include "journal/diary_rig.h"
 
+#include <QScrollBar>
+
 namespace qinghe::testing {
 namespace {
 
@@ -121,6 +123,17 @@ TEST_F(DiaryFinding, AnEntryIsShownAlsoWhenTheFileWasClosedOrTheControlUsedMeanw
     });
     EXPECT_EQ(shown(1), u"一"_s);
     EXPECT_TRUE(rig.messages->errors.empty());
+}
+
+TEST_F(DiaryFinding, AListOfManyEntriesNeedsNoBarAcross) {
+    for (int day = 1; day <= 28; ++day)
+        rig.sql(u"insert into rjb values('2024-05-%1','记%1')"_s.arg(day, 2, 10, QChar(u'0')));
+    find();
+    rig.settle();
+    EXPECT_TRUE(ms8().verticalScrollBar()->isVisible());
+    EXPECT_FALSE(ms8().horizontalScrollBar()->isVisible());
+    ms8().ensureVisible(28, 2);
+    EXPECT_TRUE(ms8().cellRoom().contains(ms8().cellRect(28, 2)));
 }
 
 } // namespace

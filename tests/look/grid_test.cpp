@@ -145,6 +145,18 @@ TEST_F(Grids, RulesGoOnBelowTheLastRow) {
     EXPECT_TRUE(isNear(pixelAt(image, grid.x() + 390, grid.y() + 20 * 5 - 1), colour::Line)) << "lines reach the edge";
 }
 
+TEST_F(Grids, AReportIsReadInFullInkThoughItIsDisabled) {
+    grid.setRow(5);
+    grid.setTextMatrix(3, TextCol, u"工资"_s);
+    QApplication::processEvents();
+    const auto isInk = [](const QColor& c) { return isNear(c, colour::Ink, 24); };
+    EXPECT_FALSE(extent(cellPicture(3, TextCol, 2), isInk).isNull());
+    grid.setEnabled(false);
+    EXPECT_TRUE(extent(cellPicture(3, TextCol, 2), isInk).isNull());
+    grid.setRole(Role::Report);
+    EXPECT_FALSE(extent(cellPicture(3, TextCol, 2), isInk).isNull());
+}
+
 TEST_F(Grids, CornersAreRoundAlsoBesideAScrollBar) {
     setGround(ground, Qt::red);
     grid.setRows(100);

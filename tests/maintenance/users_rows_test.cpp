@@ -1,5 +1,7 @@
 #include "maintenance/users_rig.h"
 
+#include <QScrollBar>
+
 // The rows of the page of users: 增加 adds one to the grid, 删除 takes one out of grid and table.
 
 namespace qinghe::testing {
@@ -194,6 +196,15 @@ TEST_F(UsersRowsTest, HaveTheirButtonsAtTheUpperRight) {
         EXPECT_EQ(buttons[i]->Width(), 1080);
         EXPECT_EQ(buttons[i]->Height(), 390);
     }
+}
+
+TEST_F(UsersRowsTest, NeedNoBarAcrossWhereTheyAreMany) {
+    openWith(40);
+    rig.settle();
+    EXPECT_TRUE(grid().verticalScrollBar()->isVisible());
+    EXPECT_FALSE(grid().horizontalScrollBar()->isVisible());
+    grid().ensureVisible(40, 2);
+    EXPECT_TRUE(grid().cellRoom().contains(grid().cellRect(40, 2)));
 }
 
 } // namespace

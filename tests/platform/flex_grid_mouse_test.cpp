@@ -115,6 +115,24 @@ TEST_F(GridMouse, KeysMoveTheCurrentCellAndStopAtTheEdges) {
     EXPECT_EQ(noted(), QStringList{});
 }
 
+TEST_F(GridMouse, ItsKeysLeaveTheCellUnderAControlThatCoversItAlone) {
+    auto& cover = put<TextBox>(frame, u"tx2"_s, {300, 600, 960, 300});
+    cover.setUsable(false);
+    grid.setCover(&cover);
+    grid.setRow(2);
+    grid.setCol(2);
+    grid.takeFocus();
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
+                              Qt::Key_PageUp, Qt::Key_PageDown})
+        for (const Qt::KeyboardModifier modifier : {Qt::NoModifier, Qt::ControlModifier}) {
+            QTest::keyClick(&grid, key, modifier);
+            EXPECT_EQ(QPoint(grid.Row(), grid.Col()), QPoint(2, 2)) << key;
+        }
+    cover.setShown(false);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.Row(), 3);
+}
+
 TEST_F(GridMouse, NothingCanBeTypedIntoIt) {
     grid.takeFocus();
     QTest::keyClicks(&grid, u"12"_s);

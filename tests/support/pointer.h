@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -53,6 +54,14 @@ inline void doubleClick(QWidget& widget, QPoint at) {
 }
 inline void doubleClick(QWidget& widget) {
     doubleClick(widget, widget.rect().center());
+}
+
+/// Turns the wheel towards the user; negative notches away.
+inline void wheel(QWidget& widget, QPoint at, int notches = 1) {
+    const QPoint place = inWindow(widget, at);
+    QWheelEvent event(place, widget.window()->mapToGlobal(place), {}, QPoint(0, -120 * notches), Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget.window()->windowHandle(), &event);
 }
 
 } // namespace qinghe::testing::pointer
