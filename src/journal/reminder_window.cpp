@@ -2,34 +2,42 @@
 
 #include "core/hover.h"
 #include "journal/reminders.h"
+#include "look/fonts.h"
+#include "look/running_text.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double TextWidth = 3060, LeastTextHeight = 1500, AroundText = 1200, TextToBar = 60; // twips
+constexpr double MostOfScreen = 0.6; ///< what the window takes of its height
+
+} // namespace
 
 ReminderWindow::ReminderWindow(Reminders& reminders)
     : Form(u"Form6"_s, Kind::Notice, Ground::Dialog),
       m_reminders(reminders),
       MM1(*reminders.MM1),
       Timer1(new Timer(this, u"Timer1"_s)),
+      m_panel(new Frame(this, {})),
+      m_pane(new ScrollPane(this)),
       Label1(new Label(this, u"Label1"_s)),
       Command1(new CommandButton(this, u"Command1"_s, u"知道了"_s)),
       Command2(new CommandButton(this, u"Command2"_s, u"停止音乐"_s)) {
     setCaption(u"今日日程"_s);
-    placeInMiddle(4800, 2700);
-    auto* panel = new Frame(this, {});
-    panel->place(240, 240, 4320, 1680);
-    panel->setRole(Role::InnerFrame);
-    auto* bell = new Image(panel, {});
+    m_panel->setRole(Role::InnerFrame);
+    auto* bell = new Image(m_panel, {});
     bell->place(210, 240, 720, 720);
     bell->setRole(Role::GlyphDisc);
     bell->setGlyph(Glyph::Bell);
-    Label1->place(1380, 330, 3060, 1500);
     Label1->setRole(Role::ReminderText);
-    Label1->raise();
-    Command2->place(1740, 2085, 1380, 390);
+    m_pane->hold(Label1);
     Command2->setGlyph(Glyph::Mute);
-    Command1->place(3240, 2085, 1320, 390);
     Command1->setGlyph(Glyph::Accept);
     Command1->setRole(Role::Primary);
     for (CommandButton* button : {Command1, Command2})
@@ -37,6 +45,30 @@ ReminderWindow::ReminderWindow(Reminders& reminders)
     Command1->Click = [this] { Form6_Command1_Click(); };
     Command2->Click = [this] { Form6_Command2_Click(); };
     Timer1->Tick = [this] { Form6_Timer1_Timer(); };
+}
+
+/// Everything below the plan moves down with its end.
+void ReminderWindow::layOut(double textHeight) {
+    placeInMiddle(4800, AroundText + textHeight);
+    m_panel->place(240, 240, 4320, 180 + textHeight);
+    m_pane->place(1380, 330, TextWidth, textHeight);
+    Command2->place(1740, 585 + textHeight, 1380, 390);
+    Command1->place(3240, 585 + textHeight, 1320, 390);
+}
+
+void ReminderWindow::showPlan(const QString& plan) {
+    const auto heightIn = [&plan](double width) {
+        return std::ceil(runningHeight(plan, fontFor(Role::ReminderText), width / TwipsPerPixel)) * TwipsPerPixel;
+    };
+    const double most = std::max(LeastTextHeight, roomHeight() * MostOfScreen - AroundText);
+    double width = TextWidth, height = std::max(LeastTextHeight, heightIn(width));
+    layOut(std::min(height, most));
+    if (height > most) {
+        width -= m_pane->barWidth() + TextToBar;
+        height = heightIn(width);
+    }
+    Label1->setCaption(plan);
+    Label1->place(0, 0, width, height);
 }
 
 void ReminderWindow::load() {
@@ -47,7 +79,7 @@ void ReminderWindow::load() {
     MM1.setFileName(bench.beside(plan.field(u"提醒音乐"_s).text() + u".wav"_s));
     Timer1->setInterval(1000);
     Timer1->setEnabled(true);
-    Label1->setCaption(plan.field(u"日程内容"_s).text());
+    showPlan(plan.field(u"日程内容"_s).text());
 }
 
 void ReminderWindow::Form6_Timer1_Timer() {

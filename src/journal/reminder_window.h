@@ -3,6 +3,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/mm_control.h"
+#include "platform/scroll_pane.h"
 #include "platform/timer.h"
 
 namespace qinghe {
@@ -12,7 +13,7 @@ class Reminders;
 /// `Form6`: shows the plan that is due and plays its music over and over, until the user reacts. It has no media
 /// control of its own and moves the main window's. Closed by its window button it comes back within its minute, since
 /// only "知道了" begins the pause. It comes up over all windows and leaves the keyboard where it is: nobody who types
-/// presses its buttons by chance.
+/// presses its buttons by chance. It is as high as its plan is long, up to a share of the screen; a longer one scrolls.
 class ReminderWindow : public Form {
     Q_OBJECT
 
@@ -28,11 +29,15 @@ public:
     void Form6_Command2_Click();
 
 private:
+    void layOut(double textHeight);
+    void showPlan(const QString& plan);
     void endMusic();
 
     Reminders& m_reminders;
     MMControl& MM1;
-    Timer* Timer1;           // plays the music and begins it again
+    Timer* Timer1; // plays the music and begins it again
+    Frame* m_panel;
+    ScrollPane* m_pane;
     Label* Label1;           // the plan
     CommandButton* Command1; // 知道了
     CommandButton* Command2; // 停止音乐

@@ -62,6 +62,10 @@ void Form::setWindowState(int state) {
     QWidget::setWindowState(state == 1 ? others | Qt::WindowMinimized : others);
 }
 
+double Form::roomHeight() {
+    return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
+}
+
 void Form::placeInMiddle(double width, double height, const Form* of) {
     const QPointF screen = QPointF(QGuiApplication::primaryScreen()->availableGeometry().center()) * TwipsPerPixel;
     const QPointF centre = of ? QRectF(of->Left(), of->Top(), of->Width(), of->Height()).center() : screen;

@@ -41,6 +41,8 @@ public:
 
     /// Gives the form this size (twips), in the middle of another one, or of the screen.
     void placeInMiddle(double width, double height, const Form* of = nullptr);
+    /// The height of the screen in whose middle forms come up, less what the desktop keeps for itself; twips.
+    static double roomHeight();
     /// Shows the form without blocking.
     void showForm();
     /// Gives the window the shape of a polygon, in pixels.

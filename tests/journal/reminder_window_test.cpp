@@ -1,7 +1,11 @@
+#include "look/fonts.h"
+#include "look/running_text.h"
 #include "reminder_rig.h"
+#include "support/pointer.h"
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QScrollBar>
 
 namespace qinghe::testing {
 namespace {
@@ -18,6 +22,16 @@ protected:
         pass();
         if (!rings())
             qFatal("the plan does not ring");
+    }
+    void ringWith(const QString& plan);
+    Form& popup() { return *rig.loaded(u"Form6"_s); }
+    Label& planLabel() { return rig.control<Label>(u"Form6"_s, u"Label1"_s); }
+    /// All of the label is on view, and its words need no more than its room.
+    void expectWholeTextInView() {
+        Label& label = planLabel();
+        EXPECT_EQ(label.visibleRegion().boundingRect(), label.rect());
+        const double needed = runningHeight(label.Caption(), fontFor(Role::ReminderText), label.width());
+        EXPECT_GE(label.height(), needed);
     }
     const QStringList started{u"open 音乐2.wav"_s, u"play"_s};
     const QStringList kept{u"play"_s};
@@ -185,6 +199,82 @@ TEST_F(ReminderWindowTest, APlanOfManyThousandCharactersIsShown) {
     pass();
     EXPECT_EQ(shownPlan().size(), 100000);
     rig.loaded(u"Form6"_s)->grab();
+}
+
+/// Lets another plan ring, with this text.
+void ReminderWindowTest::ringWith(const QString& plan) {
+    understand();
+    pass(70);
+    rig.sql(u"delete from rcb"_s);
+    plant(u"2024-06-18"_s, u"20 40"_s, plan);
+    setClock(u"2024-06-18T20:40:00"_s);
+    pass();
+    rig.settle();
+}
+
+TEST_F(ReminderWindowTest, AShortPlanHasTheWindowAsItIs) {
+    EXPECT_EQ(popup().Width(), 4800);
+    EXPECT_EQ(popup().Height(), 2700);
+    EXPECT_EQ(planLabel().Height(), 1500);
+    ringWith(u"长"_s.repeated(12 * 4));
+    EXPECT_EQ(popup().Height(), 2700);
+}
+
+TEST_F(ReminderWindowTest, TheWindowGrowsWithItsPlan) {
+    ringWith(u"长"_s.repeated(49));
+    EXPECT_GT(popup().Height(), 2700);
+    expectWholeTextInView();
+    const double before = popup().Height();
+    ringWith(u"长"_s.repeated(100) + u"\r\n末"_s);
+    EXPECT_GT(popup().Height(), before);
+    expectWholeTextInView();
+    const QRectF screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_NEAR(popup().geometry().center().y(), screen.center().y(), 1);
+    for (const QString& name : {u"Command1"_s, u"Command2"_s}) {
+        const auto& button = rig.control<CommandButton>(u"Form6"_s, name);
+        EXPECT_EQ(popup().Height() - button.Top(), 615);
+        EXPECT_EQ(popup().childAt(button.geometry().center()), &button);
+    }
+}
+
+TEST_F(ReminderWindowTest, APlanThatIsTooLongForTheScreenScrolls) {
+    ringWith(u"长"_s.repeated(3000) + u"末"_s);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_LE(popup().height(), screen.height() * 6 / 10);
+    EXPECT_GT(planLabel().height(), screen.height());
+    const QRegion first = planLabel().visibleRegion();
+    EXPECT_EQ(first.boundingRect().top(), 0);
+    const QPoint at(120, 60); // over the words
+    pointer::wheel(popup(), at);
+    rig.settle();
+    const int moved = planLabel().visibleRegion().boundingRect().top();
+    EXPECT_GT(moved, 0);
+    for (int i = 0; i < 1000 && planLabel().visibleRegion().boundingRect().bottom() < planLabel().height() - 1; ++i)
+        pointer::wheel(popup(), at);
+    EXPECT_EQ(planLabel().visibleRegion().boundingRect().bottom(), planLabel().height() - 1);
+}
+
+TEST_F(ReminderWindowTest, APlanThatScrollsIsDraggedByItsBar) {
+    ringWith(u"长"_s.repeated(3000));
+    auto* bar = popup().findChild<QScrollBar*>();
+    for (QScrollBar* each : popup().findChildren<QScrollBar*>())
+        if (each->isVisible())
+            bar = each;
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_LT(planLabel().mapToGlobal(planLabel().rect().topRight()).x(), bar->mapToGlobal(QPoint()).x());
+    pointer::press(*bar, QPoint(6, 10));
+    pointer::move(*bar, QPoint(6, bar->height() - 1));
+    pointer::release(*bar, QPoint(6, bar->height() - 1));
+    EXPECT_EQ(bar->value(), bar->maximum());
+}
+
+TEST_F(ReminderWindowTest, NothingInItButItsButtonsCanHaveTheKeyboard) {
+    ringWith(u"长"_s.repeated(3000));
+    for (const QWidget* part : popup().findChildren<QWidget*>()) {
+        const bool isButton = qobject_cast<const CommandButton*>(part);
+        EXPECT_TRUE(isButton || part->focusPolicy() == Qt::NoFocus) << part->metaObject()->className();
+    }
+    EXPECT_TRUE(popup().testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
 TEST_F(ReminderWindowTest, ItStandsAndPlaysOnWhileTheMainWindowGoesToTheTray) {

@@ -61,7 +61,8 @@ inline void wheel(QWidget& widget, QPoint at, int notches = 1) {
     const QPoint place = inWindow(widget, at);
     QWheelEvent event(place, widget.window()->mapToGlobal(place), {}, QPoint(0, -120 * notches), Qt::NoButton, {},
                       Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(widget.window()->windowHandle(), &event);
+    QSpontaneKeyEvent::setSpontaneous(&event); // else it stays with the widget under the pointer
+    qApp->notify(widget.window()->windowHandle(), &event);
 }
 
 } // namespace qinghe::testing::pointer
