@@ -390,7 +390,8 @@ void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
-    const bool held = m_cover && m_cover->isVisible();
+    const QWidget* const cover = m_cover;
+    const bool held = cover && cover->isVisible();
     const auto move = [this, held](int row, int col) {
         if (held)
             return;

@@ -73,8 +73,9 @@ void Placed::giveUpKeyboard() {
     QWidget* const holder = window->focusWidget();
     if (m_widget == window || !holder || (holder != m_widget && !m_widget->isAncestorOf(holder)))
         return;
-    const bool toRefuge = holder == m_widget && m_refuge && m_refuge->isVisible() && m_refuge->isEnabled();
-    (toRefuge ? m_refuge.data() : window)->setFocus(Qt::OtherFocusReason);
+    QWidget* const refuge = m_refuge;
+    const bool toRefuge = holder == m_widget && refuge && refuge->isVisible() && refuge->isEnabled();
+    (toRefuge ? refuge : window)->setFocus(Qt::OtherFocusReason);
 }
 
 void Placed::setHandCursor() {

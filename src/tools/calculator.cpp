@@ -25,20 +25,18 @@ constexpr std::array<Operator, 6> Operators{{
     {u"sqrt", 3000, 1560, 495, 960},
 }};
 
-/// Whether the cell that the field's box stood over takes a number at present.
-bool takesInput(const FieldTarget& field) {
-    const MSFlexGrid* grid = field.grid;
-    return field.box && grid && grid->isEnabled() && grid->isVisible() && field.row < grid->Rows() &&
-           field.col < grid->Cols();
+/// Whether the cell over which the tool was opened takes a number at present.
+bool takesInput(const MSFlexGrid& grid, const FieldTarget& field) {
+    return grid.isEnabled() && grid.isVisible() && field.row < grid.Rows() && field.col < grid.Cols();
 }
 
-void fill(const FieldTarget& field, const QString& number) {
-    field.box->setBoxText(number);
-    field.grid->setTextMatrix(field.row, field.col, field.box->Text());
-    if (field.box->isEnabled())
-        field.box->takeFocus();
+void fill(TextBox& box, MSFlexGrid& grid, const FieldTarget& field, const QString& number) {
+    box.setBoxText(number);
+    grid.setTextMatrix(field.row, field.col, box.Text());
+    if (box.isEnabled())
+        box.takeFocus();
     else
-        field.grid->takeFocus();
+        grid.takeFocus();
 }
 
 } // namespace
@@ -166,8 +164,10 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
 void Calculator::handBack() {
     const auto number = m_machine.touched() ? m_machine.handOver() : std::nullopt;
     m_bench.forms.unload(objectName());
-    if (number && takesInput(m_field))
-        fill(m_field, *number);
+    TextBox* const box = m_field.box;
+    MSFlexGrid* const grid = m_field.grid;
+    if (number && box && grid && takesInput(*grid, m_field))
+        fill(*box, *grid, m_field, *number);
 }
 
 } // namespace qinghe
