@@ -184,6 +184,9 @@ TEST_F(UsersCellsTest, AClickOnTheBareFormKeepsTheBoxAndGivesTheListTheKeyboard)
     EXPECT_EQ(grid().TextMatrix(1, 2), u"新密码");
     EXPECT_FALSE(box().Visible());
     EXPECT_EQ(rig.mainWindow().focusWidget(), &grid());
+    save().setFocus();
+    clickForm();
+    EXPECT_EQ(rig.mainWindow().focusWidget(), &grid());
 }
 
 } // namespace
