@@ -13,8 +13,7 @@ Adodc::Adodc(Store& store, const QString& name, QObject* parent) : QObject(paren
 Adodc::~Adodc() = default;
 
 void Adodc::refresh() {
-    m_loaded =
-        std::make_shared<LoadedSet>(m_store, systemPath(dataSource(m_connection), m_store.path()), m_source);
+    m_loaded = std::make_shared<LoadedSet>(m_store, systemPath(dataSource(m_connection), m_store.path()), m_source);
 }
 
 Recordset& Adodc::recordset() {
