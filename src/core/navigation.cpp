@@ -77,7 +77,6 @@ void Navigation::begin(const Page& page) {
     currentPage = page.traits().tabs.front().code;
     markCurrent();
     bringForward(page);
-    hideOthers(page);
 }
 
 } // namespace qinghe

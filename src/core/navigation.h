@@ -36,7 +36,7 @@ public:
 
     /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others.
     void markCurrent();
-    /// The page that the main window begins with.
+    /// The page that the main window begins with, before any other was on view.
     void begin(const Page& page);
 
 private:

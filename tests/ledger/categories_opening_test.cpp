@@ -215,6 +215,7 @@ TEST_F(CategoriesOpeningTest, TheBorrowedListHidesItAndClosesTheMinors) {
 }
 
 TEST_F(CategoriesOpeningTest, TheMinorsAreClosedFromTheFirstChangeOfPageOn) {
+    EXPECT_TRUE(minorsUsable());
     clickLabel(u"Label5"_s);
     EXPECT_FALSE(minorsUsable());
 }
