@@ -1,6 +1,5 @@
 #include "journal/reminders.h"
 
-#include "core/stored_choice.h"
 #include "journal/reminder_window.h"
 #include "runtime/number_text.h"
 
@@ -33,11 +32,6 @@ Reminders::Reminders(MainWindow& form)
     Timer2->Tick = [this] { Form2_Timer2_Timer(); };
     Timer3->Tick = [this] { Form2_Timer3_Timer(); };
     bench.forms.define(u"Form6"_s, [this] { return new ReminderWindow(*this); });
-}
-
-void Reminders::windowLoads() {
-    if (remindsAtSignIn(Adodc1))
-        watch();
 }
 
 void Reminders::watch() {

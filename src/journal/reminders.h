@@ -19,8 +19,6 @@ class Reminders : public QObject {
 public:
     explicit Reminders(MainWindow& window);
 
-    /// Begins to watch at the main window's load, when that is what is stored.
-    void windowLoads();
     /// Watches from now on: a plan saved now counts at once.
     void watch();
     /// The pause after "知道了". It begins at once, not at its first tick: a comparison that waits would bring the

@@ -109,9 +109,10 @@ void SchedulePage::bindEvents() {
 }
 
 void SchedulePage::windowLoads() {
-    if (remindsAtSignIn(Adodc1))
-        Check1->setValue(true);
-    m_reminders.windowLoads();
+    if (!remindsAtSignIn(Adodc1))
+        return;
+    Check1->setValue(true);
+    m_reminders.watch();
 }
 
 void SchedulePage::Form2_Check1_Click() {
