@@ -100,7 +100,7 @@ void signIn(QApplication& application, const QString& folder, bool open) {
             std::printf("%f\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
             endNow();
         }
-        auto* label = program.bench().forms.loaded(u"Form2"_s)->findChild<Label*>(u"Label2(0)"_s);
+        auto* label = program.shared().forms.loaded(u"Form2"_s)->findChild<Label*>(u"Label2(0)"_s);
         QTest::mouseClick(label, Qt::LeftButton);
         QApplication::processEvents();
         QApplication::processEvents();
@@ -108,7 +108,7 @@ void signIn(QApplication& application, const QString& folder, bool open) {
         endNow();
     });
     timer.start();
-    QTest::mouseClick(program.bench().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
+    QTest::mouseClick(program.shared().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
     QApplication::exec();
 }
 
@@ -117,7 +117,7 @@ void rest(QApplication& application, const QString& folder) {
     dress(application);
     Program program(servicesIn(folder));
     program.start();
-    QTest::mouseClick(program.bench().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
+    QTest::mouseClick(program.shared().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
     QTest::qWait(5000); // what the start sets off
     const std::clock_t before = std::clock();
     QTimer::singleShot(RestSeconds * 1000, &application, [before] {

@@ -1,8 +1,8 @@
 #include "journal.h"
 
 #include "bare_sqlite.h"
+#include "controls/long_text_box.h"
 #include "filled_store.h"
-#include "platform/long_text_box.h"
 #include "support/program_rig.h"
 
 #include <QFile>

@@ -27,17 +27,25 @@ function(qinghe_notice_new_files target files)
     endif()
 endfunction()
 
-# qinghe_floor(<name> [<library>...]) makes the floor of the sources in the calling folder; it may use the libraries
-# named, and what they hand on.
+# qinghe_floor(<name> [<library>...] [FOLDER <folder>]) makes the floor of the sources in the calling folder, and in the
+# folder below it that is named; it may use the libraries named, and what they hand on.
 function(qinghe_floor name)
+    cmake_parse_arguments(PARSE_ARGV 1 floor "" FOLDER "")
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    if(floor_FOLDER)
+        file(GLOB more CONFIGURE_DEPENDS ${floor_FOLDER}/*.cpp)
+        if(NOT more)
+            message(FATAL_ERROR "src/${name} has no folder ${floor_FOLDER}: see 'another system' in docs/architecture.md")
+        endif()
+        list(APPEND sources ${more})
+    endif()
     add_library(${name} STATIC ${sources})
     qinghe_notice_new_files(${name} "${sources}")
     set(headers ${CMAKE_BINARY_DIR}/floors/${name})
     file(MAKE_DIRECTORY ${headers})
     file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${headers}/${name} SYMBOLIC)
     target_include_directories(${name} PUBLIC ${headers})
-    target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE qinghe_flags)
+    target_link_libraries(${name} PUBLIC ${floor_UNPARSED_ARGUMENTS} PRIVATE qinghe_flags)
 endfunction()
 
 # qinghe_module(<name> <folder> <library>...) makes a module of the sources in a folder: a part that is loaded only when it

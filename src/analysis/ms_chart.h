@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/chart_layout.h"
-#include "platform/placed.h"
+#include "controls/placed.h"
 
 #include <QCoreApplication>
 #include <QVariantList>

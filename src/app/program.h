@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/workbench.h"
-#include "platform/key_gate.h"
+#include "controls/key_gate.h"
+#include "core/shared.h"
 
 namespace qinghe {
 
@@ -15,14 +15,14 @@ public:
     /// Shows the sign-in.
     void start();
 
-    Workbench& bench() { return m_bench; }
+    Shared& shared() { return m_shared; }
 
 private:
     void defineForms();
     void end(int code);
 
     KeyGate m_keyGate;
-    Workbench m_bench;
+    Shared m_shared;
 };
 
 } // namespace qinghe

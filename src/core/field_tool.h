@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
+#include "controls/controls.h"
+#include "controls/form.h"
+#include "controls/ms_flex_grid.h"
 
 #include <QPointer>
 

@@ -1,8 +1,8 @@
 #include "core/grid_page.h"
 
+#include "controls/key_presses.h"
+#include "core/grid_rows.h"
 #include "core/hover.h"
-#include "core/lists.h"
-#include "platform/key_presses.h"
 
 #include <algorithm>
 
@@ -26,8 +26,8 @@ CommandButton* button(Frame& frame, const char16_t* name, const QString& caption
 GridPage::GridPage(MainWindow& form, const Traits& differences)
     : Page(form.navigation(), differences.page),
       traits(differences),
-      window(form),
-      bench(form.bench()),
+      m_window(form),
+      m_shared(form.shared()),
       Adodc1(*form.Adodc1),
       frame(Page::frame()),
       grid(new MSFlexGrid(&frame, QString::fromUtf16(differences.grid))),
@@ -37,7 +37,7 @@ GridPage::GridPage(MainWindow& form, const Traits& differences)
       saveButton(button(frame, differences.save, u"保存"_s, 10455, Glyph::Accept)) {
     grid->place(120, 840, 11415, 4815);
     saveButton->setRole(Role::Primary);
-    bench.editors[grid->objectName()] = {editor, grid};
+    m_shared.editors[grid->objectName()] = {editor, grid};
     bindEvents();
 }
 
@@ -51,7 +51,7 @@ void GridPage::bindEvents() {
     removeButton->Click = [this] { deleteRow(); };
     saveButton->Click = [this] { saveRows(); };
     frame.Click = [this] {
-        bench.unloadPickers();
+        m_shared.unloadPickers();
         hideEditor();
     };
     markHovered(frame, {addButton, removeButton, saveButton});
@@ -70,19 +70,19 @@ void GridPage::commitAndHideBox() {
 
 /// Under the box, on the screen.
 QPointF GridPage::toolPlace() const {
-    return {frame.Left() + editor->Left() + window.Left(),
-            frame.Top() + editor->Top() + editor->Height() + window.Top()};
+    return {frame.Left() + editor->Left() + m_window.Left(),
+            frame.Top() + editor->Top() + editor->Height() + m_window.Top()};
 }
 
 void GridPage::openDatePicker() {
     const QPointF place = toolPlace();
-    bench.openDatePicker({traits.date.target, editor, grid}, place.x(), place.y());
+    m_shared.openDatePicker({traits.date.target, editor, grid}, place.x(), place.y());
 }
 
 void GridPage::openCalculator() {
     editor->setUsable(false);
     const QPointF place = toolPlace();
-    bench.openCalculator({traits.amounts.target, editor, grid}, place.x(), place.y());
+    m_shared.openCalculator({traits.amounts.target, editor, grid}, place.x(), place.y());
 }
 
 void GridPage::cellClick() {
@@ -95,13 +95,13 @@ void GridPage::cellClick() {
     if (traits.date.column && column == traits.date.column)
         openDatePicker();
     else
-        bench.forms.unload(u"Form1"_s);
+        m_shared.forms.unload(u"Form1"_s);
     if (traits.amounts.onClick.holds(column)) {
         openCalculator();
     } else {
         editor->setUsable(true);
         editor->takeFocus();
-        bench.forms.unload(u"Form9"_s);
+        m_shared.forms.unload(u"Form9"_s);
     }
 }
 
@@ -114,7 +114,7 @@ void GridPage::editorClick() {
         return;
     }
     editor->setUsable(column != traits.closedColumn);
-    bench.forms.unload(u"Form9"_s);
+    m_shared.forms.unload(u"Form9"_s);
 }
 
 void GridPage::editorKey(int key) {
@@ -149,12 +149,12 @@ void GridPage::writeBack() {
     } else {
         if (!traits.closedColumn)
             editor->setUsable(true);
-        bench.forms.unload(u"Form9"_s);
+        m_shared.forms.unload(u"Form9"_s);
     }
     if (traits.date.opensOnEnter && traits.date.column && column == traits.date.column)
         openDatePicker();
     else
-        bench.forms.unload(u"Form1"_s);
+        m_shared.forms.unload(u"Form1"_s);
     if (passedLast)
         grid->takeFocus();
     else
@@ -164,7 +164,7 @@ void GridPage::writeBack() {
 // ---- the button triple
 
 void GridPage::addRow() {
-    bench.unloadPickers();
+    m_shared.unloadPickers();
     if (traits.addCommitsBox) {
         if (!editor->Text().isEmpty())
             grid->setText(editor->Text());
@@ -173,7 +173,7 @@ void GridPage::addRow() {
         grid->setRow(grid->Rows() - 1);
     }
     if (isRowBlank(*grid, traits.addTests == AddTests::LastRow ? grid->Rows() - 1 : grid->Row())) {
-        bench.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+        m_shared.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
     } else {
         grid->setRows(grid->Rows() + 1);
         grid->setRowHeight(grid->Row() + 1, MSFlexGrid::DefaultRowHeight);
@@ -186,9 +186,9 @@ void GridPage::addRow() {
 }
 
 void GridPage::deleteRow() {
-    bench.unloadPickers();
+    m_shared.unloadPickers();
     hideEditor();
-    if (bench.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
+    if (m_shared.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
         return;
     deleteAt(load(table()), grid->Row());
     const bool blanked = traits.lastRow == LastRow::BlankedWhenFirst ? grid->Row() == 1 : grid->Rows() < 3;
@@ -213,7 +213,7 @@ bool GridPage::refusesGap() {
     if (!hasGap())
         return false;
     const QString problem = traits.endsInRemark ? u"除备注信息外记录内容不能为空！"_s : u"记录内容不能为空！"_s;
-    bench.services.say(u"为了保存信息的完整性，\r\n"_s + problem, MessageStyle::OkInformation, u"输入提示"_s);
+    m_shared.services.say(u"为了保存信息的完整性，\r\n"_s + problem, MessageStyle::OkInformation, u"输入提示"_s);
     return true;
 }
 
@@ -225,7 +225,7 @@ void GridPage::writeRow(Recordset& records, Field& number, int row, Int16& count
 }
 
 void GridPage::saveRows() {
-    bench.unloadPickers();
+    m_shared.unloadPickers();
     beforeSave();
     if (refusesGap())
         return;
@@ -240,7 +240,7 @@ void GridPage::saveRows() {
             grid->setRow(row);
         writeRow(records, number, row, counter);
     }
-    bench.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
+    m_shared.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
     hideEditor();
 }
 
@@ -271,7 +271,7 @@ void GridPage::layOut() {
 
 void GridPage::loadTable(bool blankBehindConnection) {
     Adodc1.setVisible(false);
-    Adodc1.setConnectionString(bench.connection(blankBehindConnection));
+    Adodc1.setConnectionString(m_shared.connection(blankBehindConnection));
     Recordset& records = load(source());
     layOut();
     startRows(*grid);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/cell_editor.h"
 #include "core/main_window.h"
-#include "core/workbench.h"
-#include "platform/cell_editor.h"
+#include "core/shared.h"
 
 #include <span>
 
@@ -111,8 +111,8 @@ protected:
     Recordset& load(const QString& source);
 
     const Traits& traits;
-    MainWindow& window;
-    Workbench& bench;
+    MainWindow& m_window;
+    Shared& m_shared;
     Adodc& Adodc1;
     Frame& frame;
     MSFlexGrid* const grid;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "controls/controls.h"
+#include "controls/form.h"
 
 #include <vector>
 

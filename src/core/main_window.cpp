@@ -27,16 +27,16 @@ bool bringsBack(double message) {
 
 } // namespace
 
-MainWindow::MainWindow(Workbench& bench)
+MainWindow::MainWindow(Shared& shared)
     : Form(u"Form2"_s, Kind::Frameless, Ground::Main),
-      Adodc1(new Adodc(bench.store, u"Adodc1"_s, this)),
-      Adodc2(new Adodc(bench.store, u"Adodc2"_s, this)),
-      Adodc3(new Adodc(bench.store, u"Adodc3"_s, this)),
+      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
+      Adodc2(new Adodc(shared.store, u"Adodc2"_s, this)),
+      Adodc3(new Adodc(shared.store, u"Adodc3"_s, this)),
       Timer1(new Timer(this, u"Timer1"_s)),
-      m_bench(bench),
-      m_navigation(*this, bench),
-      m_titleBand(*this, bench),
-      m_desktop(new Desktop(bench, m_navigation, *Adodc1)) {
+      m_shared(shared),
+      m_navigation(*this, shared),
+      m_titleBand(*this, shared),
+      m_desktop(new DesktopPage(shared, m_navigation, *Adodc1)) {
     setCaption(productName());
     placeInMiddle(FormWidth, FormHeight);
     bindEvents();
@@ -55,29 +55,29 @@ void MainWindow::bindEvents() {
 }
 
 void MainWindow::load() {
-    Adodc1->setConnectionString(m_bench.connection());
+    Adodc1->setConnectionString(m_shared.connection());
     refuseSecondCopy();
-    if (const QString diary = m_bench.beside(u"mydiary"_s); !files::isFolder(diary))
+    if (const QString diary = m_shared.beside(u"mydiary"_s); !files::isFolder(diary))
         files::makeFolder(diary);
     shapeMainWindow(*this);
-    m_bench.store.close();
-    healHeader(m_bench.beside(u"data.dll"_s));
+    m_shared.store.close();
+    healHeader(m_shared.beside(u"data.dll"_s));
     showForm();
     preparePages();
     startClock();
     for (Page* page : m_navigation.pages())
         page->windowLoads();
     readTraySetting();
-    setPicture(writeOutSkin(*Adodc1, m_bench, *this));
-    m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_bench, *m_desktop->Image2));
+    setPicture(writeOutSkin(*Adodc1, m_shared, *this));
+    m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_shared, *m_desktop->Image2));
     m_desktop->computeSums();
     m_desktop->listPlans(false);
 }
 
 void MainWindow::refuseSecondCopy() {
-    if (m_bench.services.instance->tryTake())
+    if (m_shared.services.instance->tryTake())
         return;
-    m_bench.services.say(u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s);
+    m_shared.services.say(u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s);
     throw handlers::ProgramEnd{0};
 }
 
@@ -99,13 +99,13 @@ void MainWindow::readTraySetting() {
 }
 
 void MainWindow::toTray() {
-    if (!m_bench.services.tray->available()) {
+    if (!m_shared.services.tray->available()) {
         // Nobody is locked out of a window that has no icon to come back by.
         if (WindowState() != Minimised)
             setWindowState(Minimised);
         return;
     }
-    m_bench.services.tray->add(trayDataFor(*this), [this](int message) { onTrayMessage(message); });
+    m_shared.services.tray->add(trayDataFor(*this), [this](int message) { onTrayMessage(message); });
     // Hidden at the next turn: the window system is still at work on the change of state that brought us here.
     QTimer::singleShot(0, this, [this] { handlers::enter([this] { setShown(false); }); });
 }
@@ -123,7 +123,7 @@ void MainWindow::Form2_Form_Resize() {
         return;
     if (WindowState() == Minimised && m_sinceReturn.isValid() && m_sinceReturn.elapsed() < LateReportMs)
         return setWindowState(Normal);
-    Adodc1->setConnectionString(m_bench.connection());
+    Adodc1->setConnectionString(m_shared.connection());
     if (MinimiseToTray.isYes(*Adodc1) && WindowState() == Minimised)
         toTray();
 }
@@ -134,11 +134,11 @@ void MainWindow::Form2_Form_Click() {
 }
 
 void MainWindow::Form2_Form_MouseDown(double x, double y) {
-    if (Form* picker = m_bench.forms.loaded(u"Form1"_s))
+    if (Form* picker = m_shared.forms.loaded(u"Form1"_s))
         picker->setShown(false);
     dragging = 1;
     dragStartX = roundedInt16(x);
-    m_bench.emptyRowFlag = roundedInt16(y); // dragStartY
+    m_shared.emptyRowFlag = roundedInt16(y); // dragStartY
 }
 
 void MainWindow::Form2_Form_MouseMove(double x, double y) {
@@ -152,7 +152,7 @@ void MainWindow::Form2_Form_MouseMove(double x, double y) {
         }
     }
     if (dragging == 1)
-        moveTo(Left() + x - dragStartX, Top() + y - m_bench.emptyRowFlag);
+        moveTo(Left() + x - dragStartX, Top() + y - m_shared.emptyRowFlag);
     m_navigation.markCurrent();
 }
 

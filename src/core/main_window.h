@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/desktop.h"
+#include "controls/timer.h"
+#include "core/desktop_page.h"
 #include "core/navigation.h"
+#include "core/shared.h"
 #include "core/title_band.h"
-#include "core/workbench.h"
-#include "platform/timer.h"
 
 #include <QElapsedTimer>
 
@@ -16,11 +16,11 @@ class MainWindow : public Form {
     Q_OBJECT
 
 public:
-    explicit MainWindow(Workbench& bench);
+    explicit MainWindow(Shared& shared);
 
     void load() override; ///< Form2_Form_Load
 
-    Workbench& bench() { return m_bench; }
+    Shared& shared() { return m_shared; }
     Navigation& navigation() { return m_navigation; }
 
     Adodc* Adodc1; // nearly every page's table
@@ -42,15 +42,15 @@ private:
     void Form2_Form_MouseMove(double x, double y);
     void Form2_Form_Resize();
 
-    Workbench& m_bench;
+    Shared& m_shared;
     Navigation m_navigation;
     TitleBand m_titleBand;
-    Desktop* m_desktop;
+    DesktopPage* m_desktop;
 
     QElapsedTimer m_sinceReturn; ///< from the tray
 
     Int16 dragging;
-    Int16 dragStartX; // dragStartY is the bench's emptyRowFlag
+    Int16 dragStartX; // dragStartY is emptyRowFlag, which is shared
 };
 
 } // namespace qinghe

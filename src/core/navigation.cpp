@@ -9,7 +9,7 @@ constexpr double TabTop = 1080, TabWidth = 960, TabHeight = 480; // twips
 
 } // namespace
 
-Navigation::Navigation(Form& window, Workbench& bench) : m_window(window), m_bench(bench) {}
+Navigation::Navigation(Form& window, Shared& shared) : m_window(window), m_shared(shared) {}
 
 Frame& Navigation::enter(Page& page) {
     const PageTraits& traits = page.traits();
@@ -36,7 +36,7 @@ void Navigation::makeTab(Page& page, const PageTab& tab) {
 
 void Navigation::leaveOthers(const Page& opened, int code) {
     currentPage = code;
-    m_bench.unloadTools();
+    m_shared.unloadTools();
     markCurrent();
     hideOthers(opened);
 }

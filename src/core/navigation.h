@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/page.h"
-#include "core/workbench.h"
+#include "core/shared.h"
 
 #include <vector>
 
@@ -12,7 +12,7 @@ namespace qinghe {
 /// page's frame.
 class Navigation {
 public:
-    Navigation(Form& window, Workbench& bench);
+    Navigation(Form& window, Shared& shared);
 
     Form& window() const { return m_window; }
     const std::vector<Page*>& pages() const { return m_pages; }
@@ -47,7 +47,7 @@ private:
     void makeTab(Page& page, const PageTab& tab);
 
     Form& m_window;
-    Workbench& m_bench;
+    Shared& m_shared;
     std::vector<Page*> m_pages;
     std::vector<Tab> m_tabs;
 };

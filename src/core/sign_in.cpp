@@ -1,9 +1,9 @@
 #include "core/sign_in.h"
 
+#include "controls/key_presses.h"
 #include "core/hover.h"
 #include "core/stored_picture.h"
 #include "platform/files.h"
-#include "platform/key_presses.h"
 #include "store/header_toggle.h"
 
 #include <QPainterPath>
@@ -24,10 +24,10 @@ QPolygon roundedRectangle(const QSize& size, int radius) {
 
 } // namespace
 
-SignIn::SignIn(Workbench& bench)
+SignIn::SignIn(Shared& shared)
     : Form(u"Form5"_s, Kind::Frameless, Ground::SignIn),
-      m_bench(bench),
-      Adodc1(new Adodc(bench.store, u"Adodc1"_s, this)),
+      m_shared(shared),
+      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
       Combo1(new ComboBox(this, u"Combo1"_s, true)),
       Text2(new TextBox(this, u"Text2"_s)),
       Check1(new CheckBox(this, u"Check1"_s, {})),
@@ -85,14 +85,14 @@ void SignIn::bindEvents() {
 
 void SignIn::load() {
     Label1->setTop(3420);
-    healHeader(m_bench.beside(u"data.dll"_s));
+    healHeader(m_shared.beside(u"data.dll"_s));
     Adodc1->setVisible(false);
-    Adodc1->setConnectionString(m_bench.connection());
+    Adodc1->setConnectionString(m_shared.connection());
     offerNames();
     recallPair();
-    Adodc1->setConnectionString(m_bench.connection());
+    Adodc1->setConnectionString(m_shared.connection());
     Text2->setFocus();
-    setPicture(writeOut(SignInPicture, *Adodc1, m_bench, *this));
+    setPicture(writeOut(SignInPicture, *Adodc1, m_shared, *this));
 }
 
 void SignIn::offerNames() {
@@ -102,7 +102,7 @@ void SignIn::offerNames() {
 }
 
 void SignIn::recallPair() {
-    Adodc1->setConnectionString(m_bench.connection(false));
+    Adodc1->setConnectionString(m_shared.connection(false));
     Recordset& remembered = Adodc1->open(u"登陆用户记录表"_s);
     if (remembered.recordCount() > 0) {
         Combo1->setText(remembered.field(u"用户名"_s).text());
@@ -118,10 +118,10 @@ void SignIn::recallPair() {
 
 void SignIn::Form5_Label1_Click() {
     if (Combo1->Text().isEmpty() || Text2->Text().isEmpty()) {
-        m_bench.services.say(u"用户名和登录密码不能为空！"_s, MessageStyle::OkWarning, u"登录提醒"_s);
+        m_shared.services.say(u"用户名和登录密码不能为空！"_s, MessageStyle::OkWarning, u"登录提醒"_s);
         return;
     }
-    Adodc1->setConnectionString(m_bench.connection());
+    Adodc1->setConnectionString(m_shared.connection());
     Recordset& users = Adodc1->open(u"yhb"_s);
     users.find(u"用户名='"_s + Combo1->Text() + u"'"_s);
     if (users.eof())
@@ -129,30 +129,30 @@ void SignIn::Form5_Label1_Click() {
     if (users.field(u"用户密码"_s).text() != Text2->Text())
         return refuseWrongPassword();
     rememberPair();
-    m_bench.forms.get(u"Form2"_s);
+    m_shared.forms.get(u"Form2"_s);
     unload();
 }
 
 void SignIn::refuseUnknownName() {
     const Answer answer =
-        m_bench.services.say(u"用户名不存在，请重新登陆！"_s, MessageStyle::OkCancelInformation, u"登陆提醒"_s);
+        m_shared.services.say(u"用户名不存在，请重新登陆！"_s, MessageStyle::OkCancelInformation, u"登陆提醒"_s);
     if (answer == Answer::Cancel)
         return unload();
     Combo1->setText({});
     // The window stays after the third message; only wrong passwords close it.
     if (++wrongNameCount == 3)
-        m_bench.services.say(u"用户名错误三次，请询问管理员！"_s, MessageStyle::OkInformation, u"错误提示"_s);
+        m_shared.services.say(u"用户名错误三次，请询问管理员！"_s, MessageStyle::OkInformation, u"错误提示"_s);
 }
 
 void SignIn::refuseWrongPassword() {
     const Answer answer =
-        m_bench.services.say(u"密码错误，请重新输入密码"_s, MessageStyle::OkCancelWarning, u"登陆提醒"_s);
+        m_shared.services.say(u"密码错误，请重新输入密码"_s, MessageStyle::OkCancelWarning, u"登陆提醒"_s);
     // After Cancel the rest is still done.
     if (answer == Answer::Cancel)
         unload();
     Text2->setBoxText({});
     if (++wrongPasswordCount == 3) {
-        m_bench.services.say(u"登陆密码错误三次，请询问管理员！"_s, MessageStyle::OkInformation, u"错误提示"_s);
+        m_shared.services.say(u"登陆密码错误三次，请询问管理员！"_s, MessageStyle::OkInformation, u"错误提示"_s);
         unload();
     }
 }
@@ -184,12 +184,12 @@ void SignIn::Form5_Image1_Click() {
 }
 
 void SignIn::Form5_Image2_Click() {
-    files::deleteMatching(m_bench.services.appPath, u"dlpf.jpg"_s);
+    files::deleteMatching(m_shared.services.appPath, u"dlpf.jpg"_s);
     unload();
 }
 
 void SignIn::unload() {
-    m_bench.forms.unload(objectName());
+    m_shared.forms.unload(objectName());
 }
 
 } // namespace qinghe

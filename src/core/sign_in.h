@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/workbench.h"
-#include "platform/combo_box.h"
+#include "controls/combo_box.h"
+#include "core/shared.h"
 
 namespace qinghe {
 
@@ -11,7 +11,7 @@ class SignIn : public Form {
     Q_OBJECT
 
 public:
-    explicit SignIn(Workbench& bench);
+    explicit SignIn(Shared& shared);
 
     void load() override; ///< Form5_Form_Load
 
@@ -30,7 +30,7 @@ private:
     void rememberPair();
     void unload();
 
-    Workbench& m_bench;
+    Shared& m_shared;
     Adodc* Adodc1;
     ComboBox* Combo1; // user name
     TextBox* Text2;   // password

@@ -1,6 +1,6 @@
 #include "core/stored_choice.h"
 
-#include "core/lists.h"
+#include "core/grid_rows.h"
 
 namespace qinghe {
 
@@ -23,17 +23,17 @@ bool remindsAtSignIn(Adodc& control) {
     return RemindAtSignIn.isYes(control) && control.recordset().recordCount() == 1;
 }
 
-void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choice, const CheckBox& box,
+void storeTick(const Shared& shared, Adodc& control, const StoredChoice& choice, const CheckBox& box,
                const QString& done, const QString& title) {
-    control.setConnectionString(bench.connection());
+    control.setConnectionString(shared.connection());
     if (box.Value() && choice.isYes(control))
         return;
     choice.rewrite(control, box.Value());
-    bench.services.say(done, MessageStyle::OkInformation, title);
+    shared.services.say(done, MessageStyle::OkInformation, title);
 }
 
-void storeReminderTick(const Workbench& bench, Adodc& control, const CheckBox& box) {
-    storeTick(bench, control, RemindAtSignIn, box, u"设置完毕！"_s, u"系统提示"_s);
+void storeReminderTick(const Shared& shared, Adodc& control, const CheckBox& box) {
+    storeTick(shared, control, RemindAtSignIn, box, u"设置完毕！"_s, u"系统提示"_s);
 }
 
 } // namespace qinghe

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 
 namespace qinghe {
 
@@ -23,11 +23,11 @@ bool remindsAtSignIn(Adodc& control);
 
 /// The click of a box that stands for a choice: rewrites it and says so. Ticking what is already stored is silent,
 /// because the start ticks the boxes in code and is heard here like a user.
-void storeTick(const Workbench& bench, Adodc& control, const StoredChoice& choice, const CheckBox& box,
+void storeTick(const Shared& shared, Adodc& control, const StoredChoice& choice, const CheckBox& box,
                const QString& done, const QString& title);
 
 /// The same of a box that stands for RemindAtSignIn. There are two, on two pages; they are brought into line when the
 /// main window loads and not again: the one clicked last counts.
-void storeReminderTick(const Workbench& bench, Adodc& control, const CheckBox& box);
+void storeReminderTick(const Shared& shared, Adodc& control, const CheckBox& box);
 
 } // namespace qinghe

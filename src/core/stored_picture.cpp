@@ -31,10 +31,10 @@ PictureBytes firstWithBytes(const StoredPicture& picture, Adodc& control) {
     return read;
 }
 
-QImage firstThatCanBeShown(const StoredPicture& picture, Adodc& control, const Workbench& bench, const QWidget& place) {
+QImage firstThatCanBeShown(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place) {
     for (Recordset& rows = control.open(QString::fromUtf16(picture.source)); !rows.eof(); rows.moveNext()) {
         try {
-            const QImage image = writeOut(picture, pictureOf(picture, rows).bytes, bench, place);
+            const QImage image = writeOut(picture, pictureOf(picture, rows).bytes, shared, place);
             if (!image.isNull())
                 return image;
         } catch (const RuntimeError& error) {
@@ -51,22 +51,22 @@ PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QSt
     return pictureOf(picture, control.open(QString::fromUtf16(picture.source) + endOfSource));
 }
 
-QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Workbench& bench, const QWidget& place) {
+QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place) {
     if (bytes.isEmpty())
         return {};
-    const QString path = bench.beside(QString::fromUtf16(picture.file));
+    const QString path = shared.beside(QString::fromUtf16(picture.file));
     files::writeOver(path, bytes);
     return files::loadPicture(path, place.size());
 }
 
-QImage writeOut(const StoredPicture& picture, Adodc& control, const Workbench& bench, const QWidget& place) {
-    return writeOut(picture, firstWithBytes(picture, control).bytes, bench, place);
+QImage writeOut(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place) {
+    return writeOut(picture, firstWithBytes(picture, control).bytes, shared, place);
 }
 
-QImage writeOutSkin(Adodc& control, const Workbench& bench, const QWidget& place) {
+QImage writeOutSkin(Adodc& control, const Shared& shared, const QWidget& place) {
     const QByteArray chosen = readPicture(ChosenSkin, control).bytes;
-    return chosen.isEmpty() ? firstThatCanBeShown(OfferedSkins, control, bench, place)
-                            : writeOut(ChosenSkin, chosen, bench, place);
+    return chosen.isEmpty() ? firstThatCanBeShown(OfferedSkins, control, shared, place)
+                            : writeOut(ChosenSkin, chosen, shared, place);
 }
 
 } // namespace qinghe

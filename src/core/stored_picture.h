@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 
 #include <QImage>
 
@@ -32,12 +32,12 @@ PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QSt
 /// Writes the picture's file, over one that was left, whose tail stays when it is longer; then loads it, to be shown on
 /// `place`. A picture of no bytes is none: nothing is written, and the image is null. Throws RuntimeError: not
 /// writable, no picture.
-QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Workbench& bench, const QWidget& place);
+QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place);
 /// Both, for the first row with bytes; the image is null where none has any. Throws RuntimeError: no row at all, and
 /// what the others throw.
-QImage writeOut(const StoredPicture& picture, Adodc& control, const Workbench& bench, const QWidget& place);
+QImage writeOut(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place);
 /// The main window's picture: the chosen skin; where that has no bytes the first of the skins on offer that can be
 /// shown, so that nobody is locked out by a choice; else a null image. Throws likewise for the chosen skin.
-QImage writeOutSkin(Adodc& control, const Workbench& bench, const QWidget& place);
+QImage writeOutSkin(Adodc& control, const Shared& shared, const QWidget& place);
 
 } // namespace qinghe

@@ -14,9 +14,9 @@ namespace {
 constexpr int Minimised = 1;
 }
 
-TitleBand::TitleBand(Form& window, Workbench& bench)
+TitleBand::TitleBand(Form& window, Shared& shared)
     : m_window(window),
-      m_bench(bench),
+      m_shared(shared),
       Picture3(new Image(&window, u"Picture3"_s)),
       Label16(new Label(Picture3, u"Label16"_s)),
       Label17(new Label(Picture3, u"Label17"_s)),
@@ -66,42 +66,42 @@ void TitleBand::makeImages() {
 }
 
 void TitleBand::showDateAndTime() {
-    Label16->setCaption(u"系统时间："_s + dateText(m_bench.services.clock->today()));
+    Label16->setCaption(u"系统时间："_s + dateText(m_shared.services.clock->today()));
     showTime();
 }
 
 void TitleBand::showTime() {
-    Label17->setCaption(timeText(m_bench.services.clock->now().time()));
+    Label17->setCaption(timeText(m_shared.services.clock->now().time()));
 }
 
 void TitleBand::Form2_Image3_Click() {
-    m_bench.unloadTools();
+    m_shared.unloadTools();
     for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
-        files::deleteMatching(m_bench.services.appPath, QString::fromUtf16(picture.file));
-    m_bench.store.close();
-    spoilHeader(m_bench.beside(u"data.dll"_s));
+        files::deleteMatching(m_shared.services.appPath, QString::fromUtf16(picture.file));
+    m_shared.store.close();
+    spoilHeader(m_shared.beside(u"data.dll"_s));
     throw handlers::ProgramEnd{0};
 }
 
 void TitleBand::Form2_Image4_Click() {
-    m_bench.unloadTools();
+    m_shared.unloadTools();
     m_window.setWindowState(Minimised);
 }
 
 void TitleBand::Form2_Image5_Click() {
-    m_bench.unloadTools();
-    Form& web = m_bench.forms.get(u"Form7"_s);
+    m_shared.unloadTools();
+    Form& web = m_shared.forms.get(u"Form7"_s);
     web.place(m_window.Left() + m_window.Width(), m_window.Top(), m_window.Width(), m_window.Height());
     web.showForm();
 }
 
 void TitleBand::Form2_Image7_Click() {
-    m_bench.unloadTools();
-    m_bench.services.launcher->explore(webPage(m_bench, u"adetail.htm"_s));
+    m_shared.unloadTools();
+    m_shared.services.launcher->explore(webPage(m_shared, u"adetail.htm"_s));
 }
 
 void TitleBand::Form2_Label20_Click() {
-    m_bench.services.launcher->explore(webPage(m_bench, u"index.htm"_s));
+    m_shared.services.launcher->explore(webPage(m_shared, u"index.htm"_s));
 }
 
 } // namespace qinghe

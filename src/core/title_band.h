@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 
 namespace qinghe {
 
@@ -8,7 +8,7 @@ namespace qinghe {
 /// makers' address, and the window images. `Image3` is the only way out of a running main window.
 class TitleBand {
 public:
-    TitleBand(Form& window, Workbench& bench);
+    TitleBand(Form& window, Shared& shared);
 
     /// Writes the date and the time of now.
     void showDateAndTime();
@@ -26,7 +26,7 @@ private:
     void Form2_Label20_Click();
 
     Form& m_window;
-    Workbench& m_bench;
+    Shared& m_shared;
     Image* Picture3; // the band of date, time and address
     Label* Label16;  // date of the load
     Label* Label17;  // time

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 
 namespace qinghe {
 

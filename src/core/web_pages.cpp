@@ -2,8 +2,8 @@
 
 namespace qinghe {
 
-QUrl webPage(const Workbench& bench, const QString& page) {
-    return QUrl::fromLocalFile(bench.beside(WebBase + page));
+QUrl webPage(const Shared& shared, const QString& page) {
+    return QUrl::fromLocalFile(shared.beside(WebBase + page));
 }
 
 } // namespace qinghe

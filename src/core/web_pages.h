@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 
 #include <QUrl>
 
@@ -12,6 +12,6 @@ inline const QString WebAddressCaption = QStringLiteral("qinghe.example");
 /// The makers' pages lie in a folder of their own beside the program.
 inline const QString WebBase = QStringLiteral("web/");
 
-QUrl webPage(const Workbench& bench, const QString& page);
+QUrl webPage(const Shared& shared, const QString& page);
 
 } // namespace qinghe

@@ -6,14 +6,14 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-WebWindow::WebWindow(Workbench& bench)
-    : Form(u"Form7"_s, Kind::Dialog, Ground::Dialog), m_bench(bench), Web1(new WebBrowser(this, u"Web1"_s)) {
+WebWindow::WebWindow(Shared& shared)
+    : Form(u"Form7"_s, Kind::Dialog, Ground::Dialog), m_shared(shared), Web1(new WebBrowser(this, u"Web1"_s)) {
     setCaption(u"软件工具"_s);
-    Web1->Leave = [this](const QUrl& page) { m_bench.services.launcher->explore(page); };
+    Web1->Leave = [this](const QUrl& page) { m_shared.services.launcher->explore(page); };
 }
 
 void WebWindow::load() {
-    Web1->navigate(webPage(m_bench, u"softs.htm"_s));
+    Web1->navigate(webPage(m_shared, u"softs.htm"_s));
 }
 
 void WebWindow::applyPlace() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/workbench.h"
-#include "platform/web_browser.h"
+#include "controls/web_browser.h"
+#include "core/shared.h"
 
 namespace qinghe {
 
@@ -10,7 +10,7 @@ class WebWindow : public Form {
     Q_OBJECT
 
 public:
-    explicit WebWindow(Workbench& bench);
+    explicit WebWindow(Shared& shared);
 
     void load() override;
 
@@ -18,7 +18,7 @@ protected:
     void applyPlace() override;
 
 private:
-    Workbench& m_bench;
+    Shared& m_shared;
     WebBrowser* Web1;
 };
 

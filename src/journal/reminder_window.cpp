@@ -72,11 +72,11 @@ void ReminderWindow::showPlan(const QString& plan) {
 }
 
 void ReminderWindow::load() {
-    Workbench& bench = m_reminders.workbench();
-    if (!bench.services.instance->tryTake())
+    Shared& shared = m_reminders.workbench();
+    if (!shared.services.instance->tryTake())
         throw handlers::ProgramEnd{0};
     Recordset& plan = m_reminders.due();
-    MM1.setFileName(bench.beside(plan.field(u"提醒音乐"_s).text() + u".wav"_s));
+    MM1.setFileName(shared.beside(plan.field(u"提醒音乐"_s).text() + u".wav"_s));
     Timer1->setInterval(1000);
     Timer1->setEnabled(true);
     showPlan(plan.field(u"日程内容"_s).text());

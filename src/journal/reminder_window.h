@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/mm_control.h"
-#include "platform/scroll_pane.h"
-#include "platform/timer.h"
+#include "controls/controls.h"
+#include "controls/form.h"
+#include "controls/mm_control.h"
+#include "controls/scroll_pane.h"
+#include "controls/timer.h"
 
 namespace qinghe {
 

@@ -24,14 +24,14 @@ QString reminderTime(const QTime& moment) {
 
 Reminders::Reminders(MainWindow& form)
     : QObject(&form),
-      MM1(new MMControl(*form.bench().services.sound, u"MM1"_s, &form)),
-      bench(form.bench()),
+      MM1(new MMControl(*form.shared().services.sound, u"MM1"_s, &form)),
+      m_shared(form.shared()),
       Adodc1(*form.Adodc1),
       Timer2(new Timer(&form, u"Timer2"_s)),
       Timer3(new Timer(&form, u"Timer3"_s)) {
     Timer2->Tick = [this] { Form2_Timer2_Timer(); };
     Timer3->Tick = [this] { Form2_Timer3_Timer(); };
-    bench.forms.define(u"Form6"_s, [this] { return new ReminderWindow(*this); });
+    m_shared.forms.define(u"Form6"_s, [this] { return new ReminderWindow(*this); });
 }
 
 void Reminders::watch() {
@@ -55,19 +55,19 @@ void Reminders::Form2_Timer2_Timer() {
 }
 
 bool Reminders::anyPlanToday() {
-    Adodc1.setConnectionString(bench.connection());
-    return Adodc1.open(ofDay(u"select *"_s, bench.services.clock->today())).recordCount() != 0;
+    Adodc1.setConnectionString(m_shared.connection());
+    return Adodc1.open(ofDay(u"select *"_s, m_shared.services.clock->today())).recordCount() != 0;
 }
 
 void Reminders::ringDue() {
-    const QDateTime now = bench.services.clock->now();
+    const QDateTime now = m_shared.services.clock->now();
     const QString minute = reminderTime(now.time());
     // Asked anew at every tick: a plan saved a moment ago counts.
     Recordset& plans = Adodc1.open(ofDay(u"select 提醒时间,提醒音乐,日程内容"_s, now.date()));
     for (; !plans.eof(); plans.moveNext())
         // The window reads the current row as it loads. One that stands already is left as it is.
-        if (plans.field(0).text() == minute && !bench.forms.loaded(u"Form6"_s))
-            bench.forms.get(u"Form6"_s).showForm();
+        if (plans.field(0).text() == minute && !m_shared.forms.loaded(u"Form6"_s))
+            m_shared.forms.get(u"Form6"_s).showForm();
 }
 
 void Reminders::Form2_Timer3_Timer() {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/mm_control.h"
 #include "core/main_window.h"
-#include "platform/mm_control.h"
 
 namespace qinghe {
 
@@ -27,7 +27,7 @@ public:
 
     /// The row that is due while the reminder's window loads: `提醒音乐` and `日程内容` of the current one.
     Recordset& due() { return Adodc1.recordset(); }
-    Workbench& workbench() { return bench; }
+    Shared& workbench() { return m_shared; }
     MMControl* const MM1; // the music of schedule and reminder
 
     void Form2_Timer2_Timer();
@@ -37,7 +37,7 @@ private:
     bool anyPlanToday();
     void ringDue();
 
-    Workbench& bench;
+    Shared& m_shared;
     Adodc& Adodc1;
     Timer* const Timer2; // compares the clock with today's plans
     Timer* const Timer3; // the pause

@@ -1,8 +1,8 @@
 #include "ledger/category_list.h"
 
+#include "controls/key_presses.h"
+#include "core/grid_rows.h"
 #include "core/hover.h"
-#include "core/lists.h"
-#include "platform/key_presses.h"
 
 namespace qinghe {
 
@@ -40,14 +40,14 @@ CommandButton* button(const MSFlexGrid& grid, const char16_t* name, const QStrin
 
 } // namespace
 
-CategoryList::CategoryList(Frame& page, Workbench& bench, const Traits& traits)
+CategoryList::CategoryList(Frame& page, Shared& shared, const Traits& traits)
     : grid(listGrid(listFrame(page, traits), traits)),
       editor(new CellEditor(grid->parentWidget(), QString::fromUtf16(traits.editor), *grid)),
       addButton(button(*grid, traits.add, u"增加"_s, Glyph::Add, 2)),
       removeButton(button(*grid, traits.remove, u"删除"_s, Glyph::Remove, 1)),
       saveButton(button(*grid, traits.save, u"保存"_s, Glyph::Accept, 0)),
       m_traits(traits),
-      m_bench(bench) {
+      m_shared(shared) {
     saveButton->setRole(Role::Primary);
 }
 
@@ -110,8 +110,8 @@ void CategoryList::commitBox() {
 
 bool CategoryList::filledOrMarked(int row) {
     if (!isRowBlank(*grid, row))
-        m_bench.emptyRowFlag = 1;
-    return m_bench.emptyRowFlag == 1;
+        m_shared.emptyRowFlag = 1;
+    return m_shared.emptyRowFlag == 1;
 }
 
 void CategoryList::goToLastRow() {
@@ -120,7 +120,7 @@ void CategoryList::goToLastRow() {
 
 void CategoryList::addRow() {
     if (!filledOrMarked(grid->Row())) {
-        m_bench.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+        m_shared.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
         return;
     }
     grid->setRows(grid->Rows() + 1);
@@ -129,7 +129,7 @@ void CategoryList::addRow() {
 
 bool CategoryList::isDeletionWanted() {
     hideEditor();
-    return m_bench.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) == Answer::Ok;
+    return m_shared.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) == Answer::Ok;
 }
 
 bool CategoryList::removeRow() {
@@ -154,7 +154,7 @@ void CategoryList::save(Recordset& records) {
         writeCells(*grid, row, records);
         records.update();
     }
-    m_bench.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
+    m_shared.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
     hideEditor();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/workbench.h"
-#include "platform/cell_editor.h"
+#include "controls/cell_editor.h"
+#include "core/shared.h"
 
 #include <span>
 
@@ -29,7 +29,7 @@ public:
         int firstField;         ///< which column 1 shows; the save writes from field 0 on, wherever the fill began
     };
 
-    CategoryList(Frame& page, Workbench& bench, const Traits& traits);
+    CategoryList(Frame& page, Shared& shared, const Traits& traits);
 
     MSFlexGrid* const grid;
     CellEditor* const editor;
@@ -69,7 +69,7 @@ private:
     bool filledOrMarked(int row);
 
     const Traits& m_traits;
-    Workbench& m_bench;
+    Shared& m_shared;
 };
 
 } // namespace qinghe

@@ -1,6 +1,6 @@
 #include "ledger/month_statistics.h"
 
-#include "core/lists.h"
+#include "core/grid_rows.h"
 #include "runtime/number_format.h"
 #include "runtime/number_text.h"
 
@@ -28,15 +28,15 @@ MonthStatistics::MonthStatistics(MainWindow& window, MSFlexGrid& grid, Label& to
     : m_window(window), ms2(grid), Label10(total), m_side(ledgerSide) {}
 
 void MonthStatistics::query(const Report& report) {
-    Workbench& bench = m_window.bench();
-    const QDate today = bench.services.clock->today();
+    Shared& shared = m_window.shared();
+    const QDate today = shared.services.clock->today();
     const QString month = u"%1-%2"_s.arg(today.year(), 4, 10, QChar(u'0')).arg(today.month());
     const auto text = [&month](const char16_t* before, const char16_t* behind) {
         return QString::fromUtf16(before) + month + QString::fromUtf16(behind);
     };
-    m_window.Adodc3->setConnectionString(bench.connection(report.blankBehindConnection));
+    m_window.Adodc3->setConnectionString(shared.connection(report.blankBehindConnection));
     m_window.Adodc3->open(text(report.before, report.behind));
-    m_window.Adodc2->setConnectionString(bench.connection());
+    m_window.Adodc2->setConnectionString(shared.connection());
     Recordset& total = m_window.Adodc2->open(text(u"select sum(金额) as 总金额 from sztjlsb where 时间= '", u"'"));
     Label10.setCaption(total.recordCount() == 0 ? u"0.00元"_s
                                                 : QString::fromUtf16(report.totalCaption) +
@@ -94,7 +94,7 @@ void MonthStatistics::showPeople() {
             if (field.differsFromEmpty())
                 ms2.setTextMatrix(ms2.Row(), column, isNumeric(field.text()) ? money(field.value()) : field.text());
             else if (field.equalsEmpty())
-                ms2.setTextMatrix(loanRow(m_window.bench()), column, {});
+                ms2.setTextMatrix(loanRow(m_window.shared()), column, {});
         }
     });
     ms2.showTop();

@@ -1,10 +1,10 @@
 #include "look/bars.h"
 
+#include "controls/ms_flex_grid.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
 #include "look/grid_painter.h"
-#include "platform/flex_grid.h"
 
 #include <QHeaderView>
 #include <QPainter>

@@ -1,10 +1,10 @@
 #include "look/buttons.h"
 
+#include "controls/placed.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
 #include "look/glyphs.h"
-#include "platform/placed.h"
 
 #include <QFontMetrics>
 #include <QPainter>

@@ -1,10 +1,10 @@
 #include "look/fields.h"
 
+#include "controls/ms_flex_grid.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
 #include "look/glyphs.h"
-#include "platform/flex_grid.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QComboBox>

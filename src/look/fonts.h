@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/style_roles.h"
+#include "controls/style_roles.h"
 
 #include <QFont>
 

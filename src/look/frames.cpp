@@ -1,11 +1,11 @@
 #include "look/frames.h"
 
+#include "controls/controls.h"
+#include "controls/form.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
 #include "look/ground.h"
-#include "platform/controls.h"
-#include "platform/form.h"
 
 #include <QFontInfo>
 #include <QFontMetrics>

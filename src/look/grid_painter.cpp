@@ -1,10 +1,10 @@
 #include "look/grid_painter.h"
 
+#include "controls/ms_flex_grid.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fields.h"
 #include "look/fonts.h"
-#include "platform/flex_grid.h"
 
 #include <QHeaderView>
 #include <QPainter>

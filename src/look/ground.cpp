@@ -1,11 +1,11 @@
 #include "look/ground.h"
 
+#include "controls/form.h"
 #include "look/app_icon.h"
 #include "look/art.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/pictures.h"
-#include "platform/form.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,9 +1,9 @@
 #include "look/images.h"
 
+#include "controls/controls.h"
 #include "look/colours.h"
 #include "look/glyphs.h"
 #include "look/pictures.h"
-#include "platform/controls.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,5 +1,8 @@
 #include "look/style.h"
 
+#include "controls/controls.h"
+#include "controls/form.h"
+#include "controls/ms_flex_grid.h"
 #include "look/bars.h"
 #include "look/buttons.h"
 #include "look/colours.h"
@@ -14,9 +17,6 @@
 #include "look/message_icons.h"
 #include "look/palette.h"
 #include "look/words.h"
-#include "platform/controls.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,11 +1,11 @@
 #include "look/words.h"
 
+#include "controls/controls.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
 #include "look/glyphs.h"
 #include "look/running_text.h"
-#include "platform/controls.h"
 
 #include <QPainter>
 #include <QStyleOption>

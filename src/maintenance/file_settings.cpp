@@ -1,7 +1,7 @@
 #include "maintenance/file_settings.h"
 
+#include "core/grid_rows.h"
 #include "core/hover.h"
-#include "core/lists.h"
 #include "platform/files.h"
 
 namespace qinghe {
@@ -19,7 +19,7 @@ constexpr std::array<const char16_t*, 10> InitialisedTables{u"jcb", u"jrb", u"ns
 
 FileSettings::FileSettings(MainWindow& form, Frame& page)
     : QObject(&form),
-      bench(form.bench()),
+      m_shared(form.shared()),
       Adodc1(*form.Adodc1),
       Frame19(new Frame(&page, u"Frame19"_s, u"文件设置"_s)),
       Option14(new OptionButton(Frame19, u"Option14"_s, u"系统数据备份"_s)),
@@ -62,7 +62,7 @@ void FileSettings::Form2_Option16_Click() {
 
 /// The options are cleared when the window goes, so that the same one can be chosen again.
 void FileSettings::openBackup(BackupWindow::Direction direction) {
-    auto& backup = bench.forms.get<BackupWindow>(u"Form13"_s);
+    auto& backup = m_shared.forms.get<BackupWindow>(u"Form13"_s);
     backup.Unloaded = [this] {
         Option14->setValue(false);
         Option16->setValue(false);
@@ -73,8 +73,8 @@ void FileSettings::openBackup(BackupWindow::Direction direction) {
 
 void FileSettings::Form2_Check3_Click() {
     if (!Check3->Value())
-        return bench.forms.unload(u"Form3"_s);
-    Form& purge = bench.forms.get(u"Form3"_s);
+        return m_shared.forms.unload(u"Form3"_s);
+    Form& purge = m_shared.forms.get(u"Form3"_s);
     purge.showForm();
     purge.keepOnScreen();
 }
@@ -82,30 +82,30 @@ void FileSettings::Form2_Check3_Click() {
 void FileSettings::Form2_Check2_Click() {
     if (!Check2->Value())
         return;
-    if (bench.services.say(u"是否删除所有日志？"_s, MessageStyle::OkCancelInformation, u"提示"_s) != Answer::Ok)
+    if (m_shared.services.say(u"是否删除所有日志？"_s, MessageStyle::OkCancelInformation, u"提示"_s) != Answer::Ok)
         return Check2->setValue(false);
-    Adodc1.setConnectionString(bench.connection());
+    Adodc1.setConnectionString(m_shared.connection());
     Recordset& entries = Adodc1.open(u"rjb"_s);
     // Files of which no row tells are left alone.
     if (entries.recordCount() != 0)
-        files::deleteMatching(bench.beside(u"mydiary"_s), u"*.dll"_s);
+        files::deleteMatching(m_shared.beside(u"mydiary"_s), u"*.dll"_s);
     emptyTable(entries);
-    bench.emptyDiaryPage();
-    bench.services.say(u"格式化完成！"_s);
+    m_shared.emptyDiaryPage();
+    m_shared.services.say(u"格式化完成！"_s);
 }
 
 void FileSettings::Form2_Check4_Click() {
     if (!Check4->Value())
         return;
-    const Answer answer = bench.services.say(u"点击此项将初始化系统内除用户信息以外的全部数据！是否继续？"_s,
-                                             MessageStyle::YesNoQuestion, u"系统提示"_s);
+    const Answer answer = m_shared.services.say(u"点击此项将初始化系统内除用户信息以外的全部数据！是否继续？"_s,
+                                                MessageStyle::YesNoQuestion, u"系统提示"_s);
     if (answer != Answer::Yes)
         return Check4->setValue(false);
     Adodc1.setVisible(false);
-    Adodc1.setConnectionString(bench.connection());
+    Adodc1.setConnectionString(m_shared.connection());
     for (const char16_t* table : InitialisedTables)
         emptyTable(Adodc1.open(QString::fromUtf16(table)));
-    bench.services.say(u"初始化完毕"_s, MessageStyle::OkInformation, u"提示"_s);
+    m_shared.services.say(u"初始化完毕"_s, MessageStyle::OkInformation, u"提示"_s);
 }
 
 } // namespace qinghe

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/main_window.h"
-#include "maintenance/backup.h"
+#include "maintenance/backup_window.h"
 
 namespace qinghe {
 
@@ -23,7 +23,7 @@ private:
     void placeControls();
     void openBackup(BackupWindow::Direction direction);
 
-    Workbench& bench;
+    Shared& m_shared;
     Adodc& Adodc1;
     Frame* Frame19;         // 文件设置
     OptionButton* Option14; // 系统数据备份

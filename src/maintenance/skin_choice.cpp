@@ -1,7 +1,7 @@
 #include "maintenance/skin_choice.h"
 
+#include "core/grid_rows.h"
 #include "core/hover.h"
-#include "core/lists.h"
 #include "core/stored_picture.h"
 
 namespace qinghe {
@@ -13,8 +13,8 @@ SkinChoice::SkinChoice(MainWindow& form, Frame& place)
       Check10(new CheckBox(&place, u"Check10"_s, u"更换记账本皮肤"_s)),
       Combo2(new ComboBox(&place, u"Combo2"_s, false)),
       Command30(new CommandButton(&place, u"Command30"_s, u"确定"_s)),
-      window(form),
-      bench(form.bench()),
+      m_window(form),
+      m_shared(form.shared()),
       Adodc1(*form.Adodc1) {
     Check10->place(360, 1800, 4000, 330);
     Combo2->place(690, 2310, 2640, 330);
@@ -34,7 +34,7 @@ void SkinChoice::hide() {
 }
 
 void SkinChoice::listSkins() {
-    Adodc1.setConnectionString(bench.connection());
+    Adodc1.setConnectionString(m_shared.connection());
     for (Recordset& skins = Adodc1.open(u"select * from 软件皮肤"_s); !skins.eof(); skins.moveNext())
         Combo2->addEntry(skins.field(u"名称"_s).text());
     Combo2->setShown(true);
@@ -54,13 +54,13 @@ void SkinChoice::Form2_Check10_Click() {
 
 void SkinChoice::Form2_Combo2_Click() {
     Command30->setShown(true);
-    Adodc1.setConnectionString(bench.connection());
+    Adodc1.setConnectionString(m_shared.connection());
     // The name goes into the query as it stands: one with an apostrophe breaks it.
     const PictureBytes skin = readPicture(NamedSkin, Adodc1, Combo2->Text() + '\''_L1);
     skinSize = skin.size;
     skinBytes = skin.bytes;
-    if (const QImage picture = writeOut(NamedSkin, skinBytes, bench, window); !picture.isNull())
-        window.setPicture(picture);
+    if (const QImage picture = writeOut(NamedSkin, skinBytes, m_shared, m_window); !picture.isNull())
+        m_window.setPicture(picture);
 }
 
 void SkinChoice::Form2_Command30_Click() {
@@ -75,7 +75,7 @@ void SkinChoice::Form2_Command30_Click() {
     chosen.field(u"文件大小"_s).setValue(static_cast<double>(skinSize));
     chosen.field(u"皮肤文件"_s).appendChunk(skinBytes);
     chosen.update();
-    bench.services.say(u"设置已保存"_s, MessageStyle::OkInformation, u"提示"_s);
+    m_shared.services.say(u"设置已保存"_s, MessageStyle::OkInformation, u"提示"_s);
     hide();
 }
 

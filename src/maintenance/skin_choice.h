@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/combo_box.h"
 #include "core/main_window.h"
-#include "platform/combo_box.h"
 
 namespace qinghe {
 
@@ -28,8 +28,8 @@ private:
     void listSkins();
     void closeList();
 
-    MainWindow& window;
-    Workbench& bench;
+    MainWindow& m_window;
+    Shared& m_shared;
     Adodc& Adodc1;
 
     float skinSize = 0; ///< of the skin last chosen in the list

@@ -1,11 +1,11 @@
 #include "platform/services.h"
 
 #include "platform/background_sound.h"
-#include "platform/file_chooser.h"
+#include "platform/desktop_file_chooser.h"
+#include "platform/desktop_message_boxes.h"
+#include "platform/desktop_tray.h"
 #include "platform/handlers.h"
 #include "platform/instance_lock.h"
-#include "platform/message_boxes.h"
-#include "platform/tray.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

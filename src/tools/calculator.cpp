@@ -41,9 +41,9 @@ void fill(TextBox& box, MSFlexGrid& grid, const FieldTarget& field, const QStrin
 
 } // namespace
 
-Calculator::Calculator(Workbench& bench)
-    : FieldTool(u"Form9"_s, Kind::Tool, Ground::Calculator, bench.forms.loaded(u"Form2"_s)),
-      m_bench(bench),
+Calculator::Calculator(Shared& shared)
+    : FieldTool(u"Form9"_s, Kind::Tool, Ground::Calculator, shared.forms.loaded(u"Form2"_s)),
+      m_shared(shared),
       Text1(new TextBox(this, u"Text1"_s)) {
     setCaption(u"数值输入-计算器"_s);
     place(0, 0, 3735, 3360);
@@ -114,7 +114,7 @@ void Calculator::Form9_Command1_Click(int index) {
 
 void Calculator::Form9_Command2_Click(int index) {
     if (m_machine.pressOperator(index) == CalculatorMachine::Outcome::DivisionRefused)
-        m_bench.services.say(u"被除数不能等于零!"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+        m_shared.services.say(u"被除数不能等于零!"_s, MessageStyle::OkInformation, u"温馨提示"_s);
     showDisplay();
 }
 
@@ -151,7 +151,7 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
                 handBack();
             break;
         case Qt::Key_Escape:
-            m_bench.forms.unload(objectName());
+            m_shared.forms.unload(objectName());
             break;
         default:
             if (!event->text().isEmpty())
@@ -163,7 +163,7 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
 /// Goes away; what was reckoned goes into the field that asked. A glance hands nothing back.
 void Calculator::handBack() {
     const auto number = m_machine.touched() ? m_machine.handOver() : std::nullopt;
-    m_bench.forms.unload(objectName());
+    m_shared.forms.unload(objectName());
     TextBox* const box = m_field.box;
     MSFlexGrid* const grid = m_field.grid;
     if (number && box && grid && takesInput(*grid, m_field))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 #include "tools/calculator_machine.h"
 
 #include <array>
@@ -15,7 +15,7 @@ class Calculator : public FieldTool {
     Q_OBJECT
 
 public:
-    explicit Calculator(Workbench& bench);
+    explicit Calculator(Shared& shared);
 
     void serve(const FieldTarget& field) override;
 
@@ -35,7 +35,7 @@ private:
     void handBack();
     bool typed(QChar character);
 
-    Workbench& m_bench;
+    Shared& m_shared;
     CalculatorMachine m_machine;
     FieldTarget m_field;
     TextBox* Text1;

@@ -11,10 +11,10 @@ constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
 
 } // namespace
 
-DatePicker::DatePicker(Workbench& bench)
-    : FieldTool(u"Form1"_s, Kind::QuietTool, Ground::Pine, bench.forms.loaded(u"Form2"_s)),
-      m_bench(bench),
-      m_month(bench.services.clock->today()),
+DatePicker::DatePicker(Shared& shared)
+    : FieldTool(u"Form1"_s, Kind::QuietTool, Ground::Pine, shared.forms.loaded(u"Form2"_s)),
+      m_shared(shared),
+      m_month(shared.services.clock->today()),
       Command1(new CommandButton(this, u"Command1"_s, {})),
       Command2(new CommandButton(this, u"Command2"_s, {})),
       Label1(new Label(this, u"Label1"_s)),
@@ -87,12 +87,12 @@ void DatePicker::Form1_Label3_DblClick(int index) {
         if (m_field.grid)
             m_field.grid->setText(m_field.box->Text());
     }
-    m_bench.forms.unload(objectName());
+    m_shared.forms.unload(objectName());
 }
 
 void DatePicker::unloaded() {
     // The purge window's date is typed nowhere: it is closed again as soon as the picker is gone.
-    if (Form* purge = m_bench.forms.loaded(u"Form3"_s); purge && purge->Visible())
+    if (Form* purge = m_shared.forms.loaded(u"Form3"_s); purge && purge->Visible())
         if (auto* date = purge->findChild<TextBox*>(u"Text1"_s))
             date->setUsable(false);
 }

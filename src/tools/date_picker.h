@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/workbench.h"
+#include "core/shared.h"
 #include "tools/month_grid.h"
 
 #include <array>
@@ -14,7 +14,7 @@ class DatePicker : public FieldTool {
     Q_OBJECT
 
 public:
-    explicit DatePicker(Workbench& bench);
+    explicit DatePicker(Shared& shared);
 
     void serve(const FieldTarget& field) override;
     void unloaded() override;
@@ -27,7 +27,7 @@ public:
 private:
     void showMonth();
 
-    Workbench& m_bench;
+    Shared& m_shared;
     MonthGrid m_month;
     FieldTarget m_field;
     CommandButton* Command1; // forward

@@ -85,7 +85,7 @@ TEST_F(ChartRangeTest, HangsThePickerUnderTheBoxThatWasClicked) {
         rig.click(*box);
         const Form& picker = *rig.loaded(u"Form1"_s);
         EXPECT_TRUE(picker.isVisible());
-        EXPECT_EQ(rig.program->bench().dateTarget, target++);
+        EXPECT_EQ(rig.program->shared().dateTarget, target++);
         EXPECT_EQ(picker.Left(), rig.mainWindow().Left() + 120 + 5280 + box->Left());
         EXPECT_EQ(picker.Top(), rig.mainWindow().Top() + 1680 + 840 + 240 + 270 + 20);
     }

@@ -1,5 +1,5 @@
+#include "controls/long_text_box.h"
 #include "core_fixture.h"
-#include "platform/long_text_box.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/combo_box.h"
+#include "controls/combo_box.h"
 #include "qt_printing.h"
 #include "support/program_rig.h"
 
@@ -38,8 +38,8 @@ protected:
     /// Opens the date picker and the calculator.
     void openTools() {
         handlers::enter([this] {
-            rig.program->bench().openDatePicker({}, 3000, 3000);
-            rig.program->bench().openCalculator({}, 6000, 3000);
+            rig.program->shared().openDatePicker({}, 3000, 3000);
+            rig.program->shared().openCalculator({}, 6000, 3000);
         });
         ASSERT_TRUE(rig.loaded(u"Form1"_s) && rig.loaded(u"Form9"_s));
     }

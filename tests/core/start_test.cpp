@@ -46,9 +46,9 @@ TEST_F(Start, AnExistingDiaryFolderIsNotTouched) {
 
 TEST_F(Start, TheMainWindowHealsTheHeaderOnceMore) {
     rig.start();
-    rig.program->bench().store.close();
+    rig.program->shared().store.close();
     spoilHeader(rig.dataFile());
-    handlers::enter([this] { rig.program->bench().forms.get(u"Form2"_s); });
+    handlers::enter([this] { rig.program->shared().forms.get(u"Form2"_s); });
     EXPECT_EQ(rig.headerBytes(), Healed);
     EXPECT_TRUE(rig.messages->errors.empty());
 }
@@ -120,9 +120,9 @@ TEST_F(Start, TheCaptionRowBearsTheProgramsName) {
 
 TEST_F(Start, TheSharedNumbersBeginAtZero) {
     rig.signIn();
-    EXPECT_EQ(rig.program->bench().dateTarget, 0);
-    EXPECT_EQ(rig.program->bench().calcTarget, 0);
-    EXPECT_EQ(rig.program->bench().emptyRowFlag, 0);
+    EXPECT_EQ(rig.program->shared().dateTarget, 0);
+    EXPECT_EQ(rig.program->shared().calcTarget, 0);
+    EXPECT_EQ(rig.program->shared().emptyRowFlag, 0);
 }
 
 class ReminderSetting : public CoreTest {

@@ -96,7 +96,7 @@ TEST_F(TrayIcon, AMinimiseLooksIntoTheProgramsOwnFileWhateverTheControlWasPointe
     minimise();
     EXPECT_TRUE(rig.messages->errors.empty());
     EXPECT_EQ(added(), 1u);
-    EXPECT_EQ(main().Adodc1->connectionString(), rig.program->bench().connection());
+    EXPECT_EQ(main().Adodc1->connectionString(), rig.program->shared().connection());
 }
 
 TEST_F(TrayIcon, TheMinimiseImageGoesToTheTrayToo) {

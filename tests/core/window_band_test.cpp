@@ -1,7 +1,7 @@
+#include "controls/web_browser.h"
 #include "core/window_shape.h"
 #include "core_fixture.h"
 #include "delivery/web_pages.h"
-#include "platform/web_browser.h"
 #include "support/pointer.h"
 
 namespace qinghe::testing {
@@ -187,7 +187,7 @@ TEST_F(WindowBand, ADragThatBeginsWithTheDatePickerOpenHidesItFirstAndKeepsItLoa
 
 TEST_F(WindowBand, TheStartOfADragIsKeptWithTheMarkOfAFilledRow) {
     pointer::press(main(), BareBand);
-    EXPECT_EQ(rig.program->bench().emptyRowFlag, BareBand.y() * 15);
+    EXPECT_EQ(rig.program->shared().emptyRowFlag, BareBand.y() * 15);
     pointer::release(main(), BareBand);
 }
 

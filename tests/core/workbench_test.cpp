@@ -5,10 +5,10 @@ namespace {
 
 class WorkbenchTest : public CoreTest {};
 
-Workbench benchIn(const QString& folder) {
+Shared benchIn(const QString& folder) {
     Services services;
     services.appPath = folder;
-    return Workbench(std::move(services));
+    return Shared(std::move(services));
 }
 
 TEST_F(WorkbenchTest, FilesLieBesideTheProgramAlsoAtTheRootOfADrive) {
@@ -25,20 +25,20 @@ TEST_F(WorkbenchTest, TheConnectionTextEndsWithABlankOrNot) {
 
 TEST_F(WorkbenchTest, UnloadingToolsThatAreNotOpenIsHarmless) {
     rig.signIn();
-    rig.program->bench().unloadTools();
-    rig.program->bench().unloadPickers();
+    rig.program->shared().unloadTools();
+    rig.program->shared().unloadPickers();
     EXPECT_FALSE(toolsOpen());
     EXPECT_TRUE(rig.messages->errors.empty());
 }
 
 TEST_F(WorkbenchTest, AToolIsShownWhereItWasAskedForAndKeptOnTheScreen) {
     rig.signIn();
-    handlers::enter([this] { rig.program->bench().openDatePicker({}, 1500, 1200); });
+    handlers::enter([this] { rig.program->shared().openDatePicker({}, 1500, 1200); });
     const Form& picker = *rig.loaded(u"Form1"_s);
     EXPECT_TRUE(picker.isVisible());
     EXPECT_EQ(picker.Left(), 1500);
     EXPECT_EQ(picker.Top(), 1200);
-    handlers::enter([this] { rig.program->bench().openDatePicker({}, 900000, 900000); });
+    handlers::enter([this] { rig.program->shared().openDatePicker({}, 900000, 900000); });
     EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(picker.frameGeometry()));
 }
 

@@ -119,7 +119,7 @@ TEST_F(DiaryFinding, AnEntryIsShownAlsoWhenTheFileWasClosedOrTheControlUsedMeanw
     find();
     handlers::enter([this] {
         rig.mainWindow().Adodc1->open(u"srb"_s); // empty, as what a tick asks for may be
-        rig.program->bench().store.close();
+        rig.program->shared().store.close();
     });
     EXPECT_EQ(shown(1), u"一"_s);
     EXPECT_TRUE(rig.messages->errors.empty());

@@ -25,7 +25,7 @@ protected:
     }
     void expectData(const QString& source) {
         EXPECT_EQ(data().recordSource(), source);
-        EXPECT_EQ(data().connectionString(), rig.program->bench().connection());
+        EXPECT_EQ(data().connectionString(), rig.program->shared().connection());
         EXPECT_FALSE(data().isVisible());
     }
 };
@@ -58,7 +58,7 @@ TEST_F(DiaryModes, FindModePutsPickerAndBoxAway) {
 
 TEST_F(DiaryModes, WriteModePutsPickerAndBoxAway) {
     find();
-    rig.program->bench().openDatePicker({}, 0, 0);
+    rig.program->shared().openDatePicker({}, 0, 0);
     tx9().setShown(true);
     write();
     EXPECT_TRUE(pickerIsGone());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "journal/diary.h"
+#include "journal/diary_page.h"
 #include "qt_printing.h"
 #include "support/program_rig.h"
 

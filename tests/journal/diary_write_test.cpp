@@ -96,7 +96,7 @@ TEST_F(DiaryWriting, AClickInTheGridDropsTheTextTypedBefore) {
 TEST_F(DiaryWriting, EnterGoesFromTheDateToTheTitleAndClosesThere) {
     rig.clickCell(ms8(), 1, 1);
     EXPECT_TRUE(rig.loaded(u"Form1"_s));
-    EXPECT_EQ(rig.program->bench().dateTarget, 5);
+    EXPECT_EQ(rig.program->shared().dateTarget, 5);
     rig.press(tx9(), Qt::Key_Return);
     EXPECT_EQ(ms8().Col(), 2);
     EXPECT_FALSE(rig.loaded(u"Form1"_s));

@@ -179,7 +179,7 @@ TEST_F(ReminderWatch, TheFirstTickConnectsTheTableItself) {
     watch();
     pass();
     EXPECT_TRUE(rings());
-    EXPECT_EQ(control.connectionString(), rig.program->bench().connection());
+    EXPECT_EQ(control.connectionString(), rig.program->shared().connection());
 }
 
 TEST_F(ReminderWatch, APlanSavedAMomentAgoCountsAtTheNextTick) {

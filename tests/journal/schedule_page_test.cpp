@@ -36,7 +36,7 @@ TEST_F(SchedulePageTest, OpeningConnectsItsTable) {
     Adodc& control = *rig.mainWindow().Adodc1;
     control.setConnectionString({});
     open();
-    EXPECT_EQ(control.connectionString(), rig.program->bench().connection());
+    EXPECT_EQ(control.connectionString(), rig.program->shared().connection());
 }
 
 TEST_F(SchedulePageTest, OpeningUnloadsTheTools) {
@@ -101,7 +101,7 @@ TEST_F(SchedulePageTest, TheDatePickerHangsBelowTheDateAndFillsIt) {
     const MainWindow& window = rig.mainWindow();
     EXPECT_EQ(picker->Left(), 120 + 6720 + 1440 + window.Left());
     EXPECT_EQ(picker->Top(), 1680 + 840 + 480 + window.Top() + 500);
-    EXPECT_EQ(rig.program->bench().dateTarget, 6);
+    EXPECT_EQ(rig.program->shared().dateTarget, 6);
     rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(10)"_s)); // June 2024 begins on a Saturday
     EXPECT_EQ(date().Text(), u"2024-6-5"_s);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "journal/reminders.h"
-#include "journal/schedule.h"
+#include "journal/schedule_page.h"
 #include "qt_printing.h"
 #include "support/program_rig.h"
 

@@ -186,7 +186,7 @@ TEST_F(ScheduleSaving, SavingLeavesThePlansInTheFirstControlAndTheSettingInTheSe
     rig.click(save());
     EXPECT_EQ(rig.mainWindow().Adodc1->recordSource(), u"rcb"_s);
     EXPECT_EQ(rig.mainWindow().Adodc2->recordSource(), u"select 日程提醒 from txb"_s);
-    EXPECT_EQ(rig.mainWindow().Adodc2->connectionString(), rig.program->bench().connection());
+    EXPECT_EQ(rig.mainWindow().Adodc2->connectionString(), rig.program->shared().connection());
 }
 
 TEST_F(ScheduleSaving, SavingClosesTheDatePickerAlsoWhenItIsRefused) {

@@ -84,7 +84,7 @@ TEST_F(AccountsTest, OpensTheCalculatorByAClickOnEveryNumberButTheBalance) {
             expectUnderEditor(u"Form9"_s);
         EXPECT_EQ(box().Text(), grid().TextMatrix(1, col));
     }
-    EXPECT_EQ(bench().calcTarget, 3);
+    EXPECT_EQ(shared().calcTarget, 3);
 }
 
 TEST_F(AccountsTest, TakesOneKeyInTheBalanceAndIsClosedThen) {

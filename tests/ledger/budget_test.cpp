@@ -48,7 +48,7 @@ TEST_F(BudgetTest, BringsItsFrameForwardAndMarksItsLabel) {
 TEST_F(BudgetTest, OpensThePickerByAClickButNotByEnter) {
     clickCell(1, 1);
     EXPECT_EQ(tools(), u"Form1");
-    EXPECT_EQ(bench().dateTarget, 7);
+    EXPECT_EQ(shared().dateTarget, 7);
     expectUnderEditor(u"Form1"_s);
     clickCell(1, 4);
     EXPECT_EQ(tools(), u"none");
@@ -75,7 +75,7 @@ TEST_F(BudgetTest, OpensTheCalculatorByEnterAndByAClick) {
     clickCell(1, 2);
     enter();
     EXPECT_EQ(tools(), u"Form9");
-    EXPECT_EQ(bench().calcTarget, 4);
+    EXPECT_EQ(shared().calcTarget, 4);
     EXPECT_FALSE(box().isEnabled());
     EXPECT_EQ(rig.mainWindow().focusWidget(), &grid());
     clickCell(2, 3);

@@ -30,7 +30,7 @@ TEST_F(CategoriesCellsTest, TheMinorsAreAskedForByTheNameInTheBox) {
     openWith({u"工资|基本工资|gz"_s});
     clickMajor(1);
     EXPECT_EQ(adodc2().recordSource(), u"select 收入大类 ,收入细类,快速代码 from srflb where 收入大类 = '工资'");
-    EXPECT_EQ(adodc2().connectionString(), bench().connection());
+    EXPECT_EQ(adodc2().connectionString(), shared().connection());
     store({u"日常生活|买菜|mc"_s}, Expense);
     choose(Expense);
     clickMajor(1);

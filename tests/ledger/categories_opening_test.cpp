@@ -59,7 +59,7 @@ TEST_F(CategoriesOpeningTest, ThePageLabelsStayInFrontSoThatItCanBeLeft) {
 TEST_F(CategoriesOpeningTest, TheIncomeSideAsksForTheMajorsOfIncome) {
     open();
     EXPECT_EQ(adodc1().recordSource(), u"select distinct 收入大类 from srflb");
-    EXPECT_EQ(adodc1().connectionString(), bench().connection());
+    EXPECT_EQ(adodc1().connectionString(), shared().connection());
     EXPECT_FALSE(adodc1().isVisible());
     EXPECT_EQ(ms3().TextMatrix(0, 1), u"收入大类");
     EXPECT_EQ(ms4().TextMatrix(0, 1), u"收入细类");

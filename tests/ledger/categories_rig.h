@@ -30,7 +30,7 @@ protected:
     Frame& frame3() { return rig.frame(QStringLiteral("Frame3")); }
     Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
     Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
-    Workbench& bench() { return rig.program->bench(); }
+    Shared& shared() { return rig.program->shared(); }
 
     void choose(Side side);
     void press(int number); ///< a command button

@@ -68,7 +68,7 @@ TEST_F(CategoriesRowsTest, AddingAMajorOnABlankRowIsTakenOnceATextWasSeen) {
     press(7);
     EXPECT_FALSE(refused());
     EXPECT_EQ(majors(), (QStringList{u"甲"_s, QString(), QString(), QString()}));
-    EXPECT_EQ(bench().emptyRowFlag, 1);
+    EXPECT_EQ(shared().emptyRowFlag, 1);
 }
 
 TEST_F(CategoriesRowsTest, TheMarkOfATextOutlivesTheVisitAndTheSide) {
@@ -87,7 +87,7 @@ TEST_F(CategoriesRowsTest, APressOnTheBareFormWritesItsPlaceIntoTheMark) {
     press(7);
     ASSERT_FALSE(refused());
     pressBareForm(40);
-    EXPECT_EQ(bench().emptyRowFlag, 600); // twips
+    EXPECT_EQ(shared().emptyRowFlag, 600); // twips
     press(7);
     EXPECT_TRUE(refused());
     EXPECT_EQ(majors(), (QStringList{u"甲"_s, QString()}));

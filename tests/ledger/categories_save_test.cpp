@@ -20,7 +20,7 @@ protected:
     }
     /// Closes the store and puts this file in its place.
     void restore(const QString& name) {
-        handlers::enter([this] { bench().store.close(); });
+        handlers::enter([this] { shared().store.close(); });
         QFile::remove(rig.dataFile());
         ASSERT_TRUE(QFile::copy(rig.file(name), rig.dataFile()));
     }
@@ -107,13 +107,13 @@ TEST_F(CategoriesSaveTest, ABlankLastRowIsDroppedBeforeAnyTextWasSeen) {
     save(9);
     EXPECT_EQ(majors(), QStringList{u"乙"_s});
     EXPECT_EQ(stored(), QStringList{u"乙|NULL|NULL"_s});
-    EXPECT_EQ(bench().emptyRowFlag, 0); // a text further up was not looked at
+    EXPECT_EQ(shared().emptyRowFlag, 0); // a text further up was not looked at
 }
 
 TEST_F(CategoriesSaveTest, ABlankLastRowIsKeptOnceATextWasSeenAndBecomesARecordWithoutAMajor) {
     openWith({u"甲|1|a"_s});
     press(7);
-    ASSERT_EQ(bench().emptyRowFlag, 1);
+    ASSERT_EQ(shared().emptyRowFlag, 1);
     save(9);
     EXPECT_EQ(majors(), (QStringList{u"甲"_s, QString()}));
     EXPECT_EQ(stored(), (QStringList{u"甲|NULL|NULL"_s, u"NULL|NULL|NULL"_s}));

@@ -44,7 +44,7 @@ TEST_F(CellClickTest, GivesTheEditorTheKeyboard) {
 TEST_F(CellClickTest, OpensTheDatePickerUnderTheDateColumn) {
     clickCell(2, 2);
     EXPECT_EQ(tools(), u"Form1");
-    EXPECT_EQ(bench().dateTarget, 3);
+    EXPECT_EQ(shared().dateTarget, 3);
     expectUnderEditor(u"Form1"_s);
     EXPECT_TRUE(tx2().isEnabled()); // a date can be typed as well
     EXPECT_EQ(QApplication::focusWidget(), &tx2());
@@ -54,7 +54,7 @@ TEST_F(CellClickTest, OpensTheDatePickerUnderTheDateColumn) {
 TEST_F(CellClickTest, OpensTheCalculatorUnderTheAmountColumnAndClosesTheEditorToKeys) {
     clickCell(2, 5);
     EXPECT_EQ(tools(), u"Form9");
-    EXPECT_EQ(bench().calcTarget, 1);
+    EXPECT_EQ(shared().calcTarget, 1);
     expectUnderEditor(u"Form9"_s);
     EXPECT_FALSE(tx2().isEnabled());
     EXPECT_TRUE(tx2().isVisible());
@@ -121,10 +121,10 @@ TEST_F(CellClickTest, BringsAClosedDatePickerBackByAClickInTheEditor) {
     clickCell(1, 2);
     rig.loaded(u"Form1"_s)->close();
     EXPECT_EQ(tools(), u"none");
-    bench().dateTarget = 1;
+    shared().dateTarget = 1;
     rig.click(tx2());
     EXPECT_EQ(tools(), u"Form1");
-    EXPECT_EQ(bench().dateTarget, 3);
+    EXPECT_EQ(shared().dateTarget, 3);
     expectUnderEditor(u"Form1"_s);
 }
 
@@ -133,7 +133,7 @@ TEST_F(CellClickTest, BringsTheCalculatorBackByAClickInTheEditorWhenItStandsOnTh
     ms2().setCol(5); // as the arrow keys of the grid do
     rig.click(tx2());
     EXPECT_EQ(tools(), u"Form9");
-    EXPECT_EQ(bench().calcTarget, 1);
+    EXPECT_EQ(shared().calcTarget, 1);
     EXPECT_FALSE(tx2().isEnabled());
 }
 

@@ -45,7 +45,7 @@ TEST_F(EditorKeysTest, OpenThePickerWhenEnterReachesTheDate) {
     enter();
     EXPECT_EQ(current(), u"1,2");
     EXPECT_EQ(tools(), u"Form1");
-    EXPECT_EQ(bench().dateTarget, 3);
+    EXPECT_EQ(shared().dateTarget, 3);
     expectKeyboardInEditor(); // a date can be typed at once
     const Form& picker = *rig.loaded(u"Form1"_s);
     EXPECT_DOUBLE_EQ(picker.Left(), 120 + tx2().Left() + rig.mainWindow().Left());
@@ -66,7 +66,7 @@ TEST_F(EditorKeysTest, OpenTheCalculatorWhenEnterReachesTheAmount) {
     enter();
     EXPECT_EQ(current(), u"2,5");
     EXPECT_EQ(tools(), u"Form9");
-    EXPECT_EQ(bench().calcTarget, 1);
+    EXPECT_EQ(shared().calcTarget, 1);
     EXPECT_FALSE(tx2().isEnabled());
     EXPECT_EQ(tx2().Text(), u"2.5");
     EXPECT_NE(rig.mainWindow().focusWidget(), &add()); // a blank typed on would press it

@@ -21,7 +21,7 @@ TEST_F(LoansCellsTest, OpenTheCalculatorByAClickOnEitherAmount) {
         clickCell(1, col);
         EXPECT_EQ(tools(), u"Form9");
         expectUnderEditor(u"Form9"_s);
-        EXPECT_EQ(bench().calcTarget, 2);
+        EXPECT_EQ(shared().calcTarget, 2);
         EXPECT_FALSE(box().isEnabled());
         calculate(u"7"_s);
         EXPECT_EQ(grid().TextMatrix(1, col), u"7");
@@ -56,7 +56,7 @@ TEST_F(LoansCellsTest, OpenThePickerByEnterAndByClick) {
     clickCell(1, 1);
     enter();
     EXPECT_EQ(tools(), u"Form1");
-    EXPECT_EQ(bench().dateTarget, 4);
+    EXPECT_EQ(shared().dateTarget, 4);
     expectUnderEditor(u"Form1"_s);
     enter();
     EXPECT_EQ(tools(), u"none");

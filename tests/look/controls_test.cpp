@@ -1,7 +1,7 @@
+#include "controls/combo_box.h"
+#include "controls/controls.h"
 #include "look/colours.h"
 #include "look/drawing.h"
-#include "platform/combo_box.h"
-#include "platform/controls.h"
 #include "rendering.h"
 
 #include <QMessageBox>

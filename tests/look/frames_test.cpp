@@ -1,7 +1,7 @@
+#include "controls/controls.h"
+#include "controls/form.h"
 #include "look/colours.h"
 #include "look/frames.h"
-#include "platform/controls.h"
-#include "platform/form.h"
 #include "rendering.h"
 
 namespace qinghe::testing {

@@ -1,7 +1,7 @@
+#include "controls/controls.h"
+#include "controls/ms_flex_grid.h"
 #include "look/colours.h"
 #include "look/grid_painter.h"
-#include "platform/controls.h"
-#include "platform/flex_grid.h"
 #include "rendering.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
+#include "controls/form.h"
 #include "look/colours.h"
 #include "look/pictures.h"
-#include "platform/form.h"
 #include "rendering.h"
 
 #include <QPainter>

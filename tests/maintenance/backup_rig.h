@@ -1,6 +1,6 @@
 #pragma once
 
-#include "maintenance/backup.h"
+#include "maintenance/backup_window.h"
 #include "qt_printing.h"
 #include "support/program_rig.h"
 

@@ -38,7 +38,7 @@ TEST_F(BackupWindowTest, EachOptionOpensTheWindowWithItsOwnTexts) {
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(texts(), BackupTexts);
     EXPECT_FALSE(inWindow<ProgressBar>(u"Pro1"_s).Visible());
-    rig.mainWindow().bench().forms.unload(u"Form13"_s);
+    rig.mainWindow().shared().forms.unload(u"Form13"_s);
     openFor(restore());
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(texts(), RestoreTexts);

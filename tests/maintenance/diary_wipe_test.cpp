@@ -1,4 +1,4 @@
-#include "journal/diary.h"
+#include "journal/diary_page.h"
 #include "settings_rig.h"
 #include "support/ordinary_user.h"
 

@@ -1,4 +1,4 @@
-#include "maintenance/picture_injection.h"
+#include "maintenance/picture_window.h"
 #include "qt_printing.h"
 #include "support/ordinary_user.h"
 #include "support/program_rig.h"

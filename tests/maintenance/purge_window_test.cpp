@@ -150,7 +150,7 @@ TEST_F(PurgeWindowTest, HasADataControlOfItsOwn) {
 TEST_F(PurgeWindowTest, HangsThePickerUnderItsDate) {
     openPicker();
     ASSERT_TRUE(picker());
-    EXPECT_EQ(rig.program->bench().dateTarget, 8);
+    EXPECT_EQ(rig.program->shared().dateTarget, 8);
     EXPECT_EQ(picker()->Left(), 240 + 1440 + window()->Left());
     EXPECT_EQ(picker()->Top(), 240 + 1560 + window()->Top() + 330 + 400);
     EXPECT_EQ(picker()->parentWidget(), window()); // and above it

@@ -1,4 +1,4 @@
-#include "platform/combo_box.h"
+#include "controls/combo_box.h"
 #include "settings_rig.h"
 
 #include <QAbstractItemView>

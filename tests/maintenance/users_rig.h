@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/combo_box.h"
+#include "controls/combo_box.h"
 #include "support/page_rig.h"
 
 namespace qinghe::testing {

@@ -1,4 +1,4 @@
-#include "maintenance/picture_injection.h"
+#include "maintenance/picture_window.h"
 #include "qt_printing.h"
 #include "support/pointer.h"
 #include "support/program_rig.h"
@@ -30,7 +30,7 @@ protected:
     WindowHover() {
         rig.signIn();
         handlers::enter([this] {
-            Form& form = rig.program->bench().forms.get(name());
+            Form& form = rig.program->shared().forms.get(name());
             form.showForm();
         });
         rig.settle();

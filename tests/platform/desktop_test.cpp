@@ -1,8 +1,8 @@
-#include "guard_fixture.h"
+#include "controls/web_browser.h"
+#include "platform/desktop_tray.h"
 #include "platform/instance_lock.h"
 #include "platform/services.h"
-#include "platform/tray.h"
-#include "platform/web_browser.h"
+#include "support/guard_fixture.h"
 
 #include <QDir>
 #include <QFile>

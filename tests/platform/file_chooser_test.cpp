@@ -1,5 +1,5 @@
-#include "platform/file_chooser.h"
-#include "platform/form.h"
+#include "controls/form.h"
+#include "platform/desktop_file_chooser.h"
 #include "qt_printing.h"
 
 #include <QApplication>

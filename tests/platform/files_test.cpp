@@ -1,5 +1,5 @@
-#include "guard_fixture.h"
 #include "platform/files.h"
+#include "support/guard_fixture.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -1,6 +1,6 @@
-#include "guard_fixture.h"
-#include "platform/event.h"
+#include "controls/event.h"
 #include "support/doubles.h"
+#include "support/guard_fixture.h"
 
 #include <QRegularExpression>
 

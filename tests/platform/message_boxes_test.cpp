@@ -1,6 +1,6 @@
-#include "guard_fixture.h"
-#include "platform/form.h"
-#include "platform/message_boxes.h"
+#include "controls/form.h"
+#include "platform/desktop_message_boxes.h"
+#include "support/guard_fixture.h"
 
 #include <QApplication>
 #include <QLabel>

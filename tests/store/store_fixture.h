@@ -2,8 +2,8 @@
 
 #include "qt_printing.h"
 #include "runtime/runtime_error.h"
+#include "store/adodc.h"
 #include "store/connection_text.h"
-#include "store/data_control.h"
 #include "store/schema.h"
 
 #include <QTemporaryDir>

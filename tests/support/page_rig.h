@@ -33,7 +33,7 @@ protected:
     CommandButton& save() { return button(2); }
     OptionButton& option(const QString& name) { return rig.onMain<OptionButton>(name); }
     Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
-    Workbench& bench() { return rig.program->bench(); }
+    Shared& shared() { return rig.program->shared(); }
 
     void press(QWidget& control);
     void choose(const QString& name) { press(option(name)); }

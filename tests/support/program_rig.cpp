@@ -1,6 +1,6 @@
 #include "support/program_rig.h"
 
-#include "store/data_control.h"
+#include "store/adodc.h"
 #include "store/header_toggle.h"
 #include "store/header_vfs.h"
 #include "store/schema.h"

@@ -31,7 +31,7 @@ public:
     /// is none.
     template<class T>
     T& control(const QString& form, const QString& name) {
-        Form* found = program->bench().forms.loaded(form);
+        Form* found = program->shared().forms.loaded(form);
         T* child = found ? found->findChild<T*>(name) : nullptr;
         if (!child)
             qFatal("no control %s on %s", qPrintable(name), qPrintable(form));
@@ -41,7 +41,7 @@ public:
     T& onMain(const QString& name) {
         return control<T>(QStringLiteral("Form2"), name);
     }
-    Form* loaded(const QString& form) { return program->bench().forms.loaded(form); }
+    Form* loaded(const QString& form) { return program->shared().forms.loaded(form); }
     MainWindow& mainWindow() { return static_cast<MainWindow&>(*loaded(QStringLiteral("Form2"))); }
     Frame& frame(const QString& name) { return onMain<Frame>(name); }
 

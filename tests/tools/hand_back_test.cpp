@@ -230,8 +230,8 @@ TEST_F(HandBackTest, GoesToTheFieldThatAskedLast) {
     TextBox box(&rig.mainWindow(), u"other"_s);
     MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
     grid.show();
-    handlers::enter([&] { bench().openCalculator({4, &box, &grid}, 0, 0); });
-    EXPECT_EQ(bench().calcTarget, 4);
+    handlers::enter([&] { shared().openCalculator({4, &box, &grid}, 0, 0); });
+    EXPECT_EQ(shared().calcTarget, 4);
     type(u"80"_s);
     press(Qt::Key_Return);
     EXPECT_EQ(box.Text(), u"80");

@@ -32,7 +32,7 @@ protected:
 
     MSFlexGrid& ms2() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms2")); }
     TextBox& tx2() { return rig.onMain<TextBox>(QStringLiteral("tx2")); }
-    Workbench& bench() { return rig.program->bench(); }
+    Shared& shared() { return rig.program->shared(); }
     bool isOpen(const QString& tool) {
         const Form* form = rig.loaded(tool);
         return form && form->isVisible();

@@ -1,8 +1,8 @@
+#include "controls/combo_box.h"
+#include "controls/controls.h"
+#include "controls/form.h"
+#include "controls/ms_flex_grid.h"
 #include "look/look.h"
-#include "platform/combo_box.h"
-#include "platform/controls.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
 
 #include <QApplication>
 #include <QDateTime>

@@ -1,0 +1,256 @@
+#include "analysis/charts_page.h"
+
+#include "core/grid_rows.h"
+#include "core/hover.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PageCode = 12;
+constexpr PageTab Tabs[] = {{u"Label12", u"  图表", 6480, PageCode}};
+constexpr PageTraits Charts{u"Frame15", u"图表分析", 120, 1680, 11655, 6225, Tabs};
+
+constexpr int MonthLength = 7; ///< characters of a date's text that make its month
+constexpr int Income = 1, Expense = 2;
+constexpr double PickerGap = 20; ///< twips between a date box and the picker under it
+
+/// The words in the date boxes before a date is chosen.
+constexpr QStringView FirstDate = u"日期1", SecondDate = u"日期2";
+
+} // namespace
+
+struct ChartsPage::QueryChart {
+    OptionButton* ChartsPage::*option;
+    bool blankBehind; ///< the connection text's
+    const char16_t* query;
+    int kind = 0; ///< that can be narrowed to a range of dates, or 0
+};
+
+struct ChartsPage::MonthChart {
+    OptionButton* ChartsPage::*option;
+    const char16_t* ledger;
+    const char16_t* work;
+    const char16_t* workAgain; ///< the name under which the emptied table is opened once more, if it is
+    const char16_t* sums;
+    bool refreshesBehind;
+};
+
+ChartsPage::ChartsPage(MainWindow& form)
+    : Page(form.navigation(), Charts),
+      m_window(form),
+      m_shared(form.shared()),
+      Adodc1(*form.Adodc1),
+      Adodc2(*form.Adodc2),
+      Frame15(frame()),
+      Frame11(new Frame(&Frame15, u"Frame11"_s)),
+      Option10(new OptionButton(Frame11, u"Option10"_s, u"账户对比分析"_s)),
+      Option11(new OptionButton(Frame11, u"Option11"_s, u"年度收入统计"_s)),
+      Option12(new OptionButton(Frame11, u"Option12"_s, u"年度年支出统计"_s)),
+      Option13(new OptionButton(Frame11, u"Option13"_s, u"收入分类统计"_s)),
+      Option15(new OptionButton(Frame11, u"Option15"_s, u"支出分类统计"_s)),
+      Frame1(new Frame(&Frame15, u"Frame1"_s, u"查询"_s)),
+      Text1(new TextBox(Frame1, u"Text1"_s)),
+      Text2(new TextBox(Frame1, u"Text2"_s)),
+      Command25(new CommandButton(Frame1, u"Command25"_s, u"查询"_s)),
+      Frame12(new Frame(&Frame15, u"Frame12"_s)),
+      MSC1(new MSChart(Frame12, u"MSC1"_s)) {
+    Frame15.place(Charts.left, Charts.top, Charts.width, Charts.height);
+    makeOptions();
+    makeQueryRow();
+    Frame12->place(360, 1440, 11055, 4695);
+    Frame12->setRole(Role::InnerFrame);
+    MSC1->place(120, 240, 10815, 4335);
+}
+
+void ChartsPage::makeOptions() {
+    Frame11->place(240, 240, 11055, 615);
+    Frame11->setRole(Role::BareFrame);
+    Option10->place(120, 240, 1815, 255);
+    Option11->place(2280, 240, 1815, 255);
+    Option12->place(4560, 240, 2055, 255);
+    Option13->place(7080, 240, 1815, 255);
+    Option15->place(9120, 240, 1815, 255);
+    Option10->Click = [this] { Form2_Option10_Click(); };
+    Option11->Click = [this] { Form2_Option11_Click(); };
+    Option12->Click = [this] { Form2_Option12_Click(); };
+    Option13->Click = [this] { Form2_Option13_Click(); };
+    Option15->Click = [this] { Form2_Option15_Click(); };
+    for (OptionButton* option : {Option10, Option11, Option12, Option13, Option15})
+        showHandOver(option);
+}
+
+void ChartsPage::makeQueryRow() {
+    Frame1->place(5280, 840, 6135, 615);
+    Frame1->setRole(Role::StripFrame);
+    Frame1->setShown(false);
+    (new Label(Frame1, u"Label13"_s, u"在"_s))->place(720, 240, 255, 255);
+    Text1->place(1080, 240, 1215, 270);
+    (new Label(Frame1, u"Label14"_s, u"和"_s))->place(2400, 240, 255, 255);
+    Text2->place(2760, 240, 1215, 270);
+    (new Label(Frame1, u"Label15"_s, u"之间"_s))->place(4080, 240, 495, 255);
+    Command25->place(5040, 240, 615, 255);
+    Text1->setBoxText(FirstDate.toString());
+    Text2->setBoxText(SecondDate.toString());
+    Text1->Click = [this] { Form2_Text1_Click(); };
+    Text2->Click = [this] { Form2_Text2_Click(); };
+    Command25->Click = [this] { Form2_Command25_Click(); };
+    Frame1->Click = [this] { Form2_Frame1_Click(); };
+    markHovered(*Frame1, {Command25});
+}
+
+void ChartsPage::Form2_Label12_Click() {
+    navigation().leaveOthers(*this, PageCode);
+    navigation().show(*this);
+    Option10->setValue(true);
+    navigation().bringForward(*this);
+}
+
+void ChartsPage::Form2_Option10_Click() {
+    static constexpr QueryChart accounts{&ChartsPage::Option10, true, u"select 账户名称,余额 from zhb"};
+    show(accounts);
+}
+
+void ChartsPage::Form2_Option11_Click() {
+    static constexpr MonthChart income{&ChartsPage::Option11,
+                                       u"select 时间,金额 from srb",
+                                       u"nsrb",
+                                       nullptr,
+                                       u"select 时间,sum(金额)as 金额 from nsrb group by 时间",
+                                       true};
+    show(income);
+}
+
+void ChartsPage::Form2_Option12_Click() {
+    static constexpr MonthChart expense{&ChartsPage::Option12,
+                                        u"select 时间,金额 from zcb",
+                                        u" nzcb",
+                                        u"nzcb",
+                                        u"select 时间,sum(金额)as 金额 from nzcb group by 时间",
+                                        false};
+    show(expense);
+}
+
+void ChartsPage::Form2_Option13_Click() {
+    static constexpr QueryChart income{&ChartsPage::Option13, false,
+                                       u"select 项目,sum(金额) as 总金额 from srb group by 项目", Income};
+    show(income);
+}
+
+void ChartsPage::Form2_Option15_Click() {
+    static constexpr QueryChart expense{&ChartsPage::Option15, true,
+                                        u"select 项目,sum(金额) as 总金额 from zcb group by 项目", Expense};
+    show(expense);
+}
+
+void ChartsPage::show(const QueryChart& chart) {
+    Frame1->setShown(chart.kind != 0);
+    if (chart.kind != 0)
+        chartKind = chart.kind;
+    Adodc1.setConnectionString(m_shared.connection(chart.blankBehind));
+    Recordset& records = Adodc1.open(QString::fromUtf16(chart.query));
+    if (refuseEmpty(records, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
+        return;
+    draw(records, ChartLabels::Words);
+    Frame12->setCaption((this->*chart.option)->text());
+}
+
+void ChartsPage::show(const MonthChart& chart) {
+    Frame1->setShown(false);
+    Adodc1.setConnectionString(m_shared.connection());
+    Adodc1.open(QString::fromUtf16(chart.ledger));
+    gatherMonths(chart);
+    Recordset& sums = Adodc2.open(QString::fromUtf16(chart.sums));
+    if (refuseEmpty(sums, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
+        return;
+    draw(sums, ChartLabels::Months);
+    if (chart.refreshesBehind)
+        Adodc2.refresh();
+    Frame12->setCaption((this->*chart.option)->text());
+}
+
+void ChartsPage::gatherMonths(const MonthChart& chart) {
+    Adodc2.setConnectionString(m_shared.connection());
+    emptyTable(Adodc2.open(QString::fromUtf16(chart.work)));
+    if (chart.workAgain)
+        Adodc2.open(QString::fromUtf16(chart.workAgain));
+    Recordset& months = Adodc2.recordset();
+    Recordset& records = Adodc1.recordset();
+    const Field day = records.field(0), amount = records.field(1);
+    Field month = months.field(u"时间"_s), sum = months.field(u"金额"_s), number = months.field(u"区别"_s);
+    for (int counter = 1; !records.eof(); records.moveNext(), ++counter) {
+        months.addNew();
+        month.setValue(day.text().left(MonthLength));
+        sum.setValue(amount.value());
+        number.setValue(counter);
+        months.update();
+    }
+    Adodc2.refresh();
+}
+
+bool ChartsPage::refuseEmpty(const Recordset& records, const QString& message, const QString& title) {
+    if (records.recordCount() > 0)
+        return false;
+    m_shared.services.say(message, MessageStyle::OkInformation, title);
+    return true;
+}
+
+void ChartsPage::draw(Recordset& records, ChartLabels labels) {
+    QVariantList points;
+    points.reserve(records.recordCount());
+    for (; !records.eof(); records.moveNext()) {
+        const Value value = records.field(1).value();
+        points << QVariant(QVariantList{records.field(0).text(), value.isNull() ? QVariant() : value.number()});
+    }
+    MSC1->setChartData(points, labels);
+    records.moveFirst();
+}
+
+void ChartsPage::pickDate(int target, TextBox& box) {
+    m_shared.openDatePicker({target, &box}, m_window.Left() + Frame15.Left() + Frame1->Left() + box.Left(),
+                            m_window.Top() + Frame15.Top() + Frame1->Top() + box.Top() + box.Height() + PickerGap);
+}
+
+void ChartsPage::Form2_Text1_Click() {
+    pickDate(1, *Text1);
+}
+
+void ChartsPage::Form2_Text2_Click() {
+    pickDate(2, *Text2);
+}
+
+void ChartsPage::Form2_Command25_Click() {
+    if (Form* picker = m_shared.forms.loaded(u"Form1"_s))
+        picker->setShown(false);
+    const QString from = Text1->Text(), to = Text2->Text();
+    if (from == FirstDate || to == SecondDate) {
+        m_shared.services.say(u"请选择两个日期"_s, MessageStyle::OkInformation, u"输入提示"_s);
+        return;
+    }
+    const QString head = u"select 项目,sum(金额) as 总金额 from %1 where 时间 between #"_s;
+    // What was typed stands in the query as it is, and one that the store cannot read ends the program.
+    const QString query = chartKind == Income ? head.arg(u"srb"_s) + from + u"# and #"_s + to + u"# group by 项目"_s
+                                              : head.arg(u"zcb"_s) + from + u"# and # "_s + to + u"# group by 项目"_s;
+    Recordset& records = Adodc1.open(query);
+    if (!refuseEmpty(records, u"当前日期范围内不存在记录"_s, u"查询提示"_s))
+        draw(records, ChartLabels::Words);
+}
+
+void ChartsPage::Form2_Frame1_Click() {
+    // The strip closes the editors of the loans and of the ledger, not its own boxes, and is meant to: the loans' box
+    // goes into both grids.
+    const auto loans = m_shared.editors.find(u"ms1"_s), ledger = m_shared.editors.find(u"ms2"_s);
+    if (loans == m_shared.editors.end() || ledger == m_shared.editors.end())
+        return;
+    for (const EditorTarget& editor : {loans->second, ledger->second}) {
+        if (!editor.grid->Visible())
+            continue;
+        editor.grid->setText(loans->second.box->Text());
+        editor.box->setShown(false);
+        editor.grid->takeFocus();
+    }
+}
+
+} // namespace qinghe

@@ -1,0 +1,184 @@
+#include "controls/form.h"
+
+#include "controls/forms.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleOption>
+
+namespace qinghe {
+
+namespace {
+
+Qt::WindowFlags flagsOf(Form::Kind kind, bool owned) {
+    constexpr auto titled =
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    switch (kind) {
+    case Form::Kind::Frameless:
+        return Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint;
+    case Form::Kind::Dialog:
+        return owned ? Qt::Dialog | titled : Qt::Window | titled | Qt::WindowMinimizeButtonHint;
+    case Form::Kind::Tool:
+        return Qt::Tool | titled;
+    case Form::Kind::QuietTool:
+        return Qt::Tool | titled | Qt::WindowDoesNotAcceptFocus;
+    case Form::Kind::Notice:
+        return Qt::Window | titled | Qt::WindowStaysOnTopHint;
+    }
+    return Qt::Window;
+}
+
+} // namespace
+
+Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
+    : QWidget(owner, flagsOf(kind, owner != nullptr)), Placed(this), m_ground(ground) {
+    setObjectName(name);
+    setMouseTracking(true);
+    setShown(false);
+    setAttribute(Qt::WA_ShowWithoutActivating, kind == Kind::QuietTool || kind == Kind::Notice);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+Form::~Form() {
+    // A window goes with its owner, if it was not unloaded before.
+    if (m_forms)
+        m_forms->forget(*this);
+}
+
+void Form::setPicture(QImage picture) {
+    m_picture = std::move(picture);
+    update();
+}
+
+int Form::WindowState() const {
+    return isMinimized() ? 1 : 0;
+}
+
+void Form::setWindowState(int state) {
+    const auto others = windowState() & ~Qt::WindowMinimized;
+    QWidget::setWindowState(state == 1 ? others | Qt::WindowMinimized : others);
+}
+
+double Form::roomHeight() {
+    return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
+}
+
+void Form::placeInMiddle(double width, double height, const Form* of) {
+    const QPointF screen = QPointF(QGuiApplication::primaryScreen()->availableGeometry().center()) * TwipsPerPixel;
+    const QPointF centre = of ? QRectF(of->Left(), of->Top(), of->Width(), of->Height()).center() : screen;
+    place(centre.x() - width / 2, centre.y() - height / 2, width, height);
+}
+
+void Form::showForm() {
+    applyPlace();
+    setShown(true);
+    raise();
+    if (!testAttribute(Qt::WA_ShowWithoutActivating))
+        activateWindow();
+}
+
+void Form::setShape(const QPolygon& points) {
+    setMask(QRegion(points, Qt::OddEvenFill));
+}
+
+void Form::keepOnScreen() {
+    const QScreen* screen = QGuiApplication::screenAt(pos());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    const QSize size = frameGeometry().size();
+    const int x = std::max(room.left(), std::min(pos().x(), room.right() + 1 - size.width()));
+    const int y = std::max(room.top(), std::min(pos().y(), room.bottom() + 1 - size.height()));
+    if (QPoint(x, y) != pos())
+        moveTo(x * TwipsPerPixel, y * TwipsPerPixel);
+}
+
+void Form::applyPlace() {
+    const QRect place = pixelRect(Left(), Top(), Width(), Height());
+    move(place.topLeft());
+    if (place.size() != size())
+        setFixedSize(place.size());
+}
+
+void Form::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_FormGround), &option, &painter, this);
+}
+
+QPointF Form::twipsAt(const QMouseEvent* event) const {
+    // The event's own place inside the window is the window system's, which did not know yet of moves that we have
+    // asked for meanwhile: a window dragged by it would run ahead of the pointer. The pointer's place on the screen is
+    // certain.
+    const QPoint inside = pixelRect(Left(), Top(), Width(), Height()).topLeft() + geometry().topLeft() - pos();
+    return (event->globalPosition() - inside) * TwipsPerPixel;
+}
+
+void Form::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressed = true;
+    m_moved = false;
+    const QPointF at = twipsAt(event);
+    MouseDown.fromQt(at.x(), at.y());
+}
+
+void Form::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPointF at = twipsAt(event);
+    MouseUp.fromQt(at.x(), at.y());
+    // The release that ends a move of the window is no click.
+    if (std::exchange(m_pressed, false) && !m_moved && rect().contains(event->position().toPoint()))
+        Click.fromQt();
+}
+
+void Form::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    const QPoint before = pos();
+    const QPointF at = twipsAt(event);
+    MouseMove.fromQt(at.x(), at.y());
+    m_moved = m_moved || pos() != before;
+}
+
+void Form::moveEvent(QMoveEvent*) {
+    // A place of our own making is kept to the twip; any other is the desktop's.
+    const QPoint here = pos();
+    if (here != pixelRect(Left(), Top(), Width(), Height()).topLeft())
+        adoptPlace(here.x() * TwipsPerPixel, here.y() * TwipsPerPixel);
+}
+
+void Form::resizeEvent(QResizeEvent*) {
+    Resize.fromQt();
+}
+
+void Form::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    // A form has one size. Some window managers take that, on a denser screen, for the wish to fill the screen.
+    constexpr auto filling = Qt::WindowFullScreen | Qt::WindowMaximized;
+    if (windowState() & filling)
+        QWidget::setWindowState(windowState() & ~filling);
+    // Minimising gives a change of state and no resize.
+    Resize.fromQt();
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (CloseAsked)
+        CloseAsked.fromQt();
+    else
+        handlers::enter([this] {
+            if (m_forms)
+                m_forms->unload(objectName());
+        });
+}
+
+} // namespace qinghe

@@ -1,0 +1,124 @@
+#include "maintenance/backup_window.h"
+
+#include "core/hover.h"
+#include "maintenance/file_copy.h"
+#include "platform/files.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Texts {
+    const char16_t* caption;
+    const char16_t* explanation;
+    const char16_t* start; ///< the button's
+    const char16_t* question;
+    const char16_t* title; ///< of the question
+    const char16_t* done;
+    Glyph glyph;
+};
+
+constexpr Texts BackupTexts{
+    u"数据备份",   u"备份说明：文件备份是将现有记录数据额外存储一分，当数据需要还原时，可以还原数据。",
+    u"开始备份",   u"请指定数据库备份的位置。",
+    u"备份提示",   u"备份完成。",
+    Glyph::Backup,
+};
+constexpr Texts RestoreTexts{
+    u"数据还原",    u"数据还原说明：数据还原后，备份的数据将覆盖当前数据，系统将显示备份的数据。",
+    u"开始还原",    u"请指定要还原的数据库备份文件所在的位置。",
+    u"还原提示",    u"还原完毕。",
+    Glyph::Restore,
+};
+
+constexpr qint64 RoomBehind = 5; ///< of the bar behind the last byte
+
+QString text(const char16_t* words) {
+    return QString::fromUtf16(words);
+}
+
+} // namespace
+
+BackupWindow::BackupWindow(Shared& shared)
+    : Form(u"Form13"_s, Kind::Dialog, Ground::Dialog, shared.forms.loaded(u"Form2"_s)),
+      m_shared(shared),
+      Frame1(new Frame(this, u"Frame1"_s)),
+      m_disc(new Image(Frame1, u"Image1"_s)),
+      Label1(new Label(Frame1, u"Label1"_s)),
+      Pro1(new ProgressBar(Frame1, u"Pro1"_s)),
+      Command1(new CommandButton(this, u"Command1"_s, {})),
+      Com1(new CommonDialog(*shared.services.chooser, u"Com1"_s, this)) {
+    Frame1->place(240, 240, 4920, 1980);
+    Frame1->setRole(Role::InnerFrame);
+    m_disc->place(240, 420, 660, 660);
+    m_disc->setRole(Role::GlyphDisc);
+    Label1->place(1080, 270, 3600, 960); // three lines
+    Pro1->place(240, 1440, 4440, 285);
+    Pro1->setShown(false);
+    Command1->place(3720, 2370, 1440, 390);
+    Command1->setRole(Role::Primary);
+    Command1->Click = [this] { Form13_Command1_Click(); };
+    markHovered(*this, {Command1}, {Frame1});
+    placeInMiddle(5400, 3000, shared.forms.loaded(u"Form2"_s));
+}
+
+void BackupWindow::turnTo(Direction direction) {
+    const Texts& texts = direction == Direction::Restore ? RestoreTexts : BackupTexts;
+    setCaption(text(texts.caption));
+    Frame1->setCaption(text(texts.caption));
+    Label1->setCaption(text(texts.explanation));
+    Command1->setText(text(texts.start));
+    Command1->setGlyph(texts.glyph);
+    m_disc->setGlyph(texts.glyph);
+}
+
+void BackupWindow::unloaded() {
+    if (Unloaded)
+        Unloaded();
+}
+
+void BackupWindow::Form13_Command1_Click() {
+    const bool restoring = Command1->text() == text(RestoreTexts.start);
+    const Texts& texts = restoring ? RestoreTexts : BackupTexts;
+    Com1->setFilter(u"*.dat|*.dat"_s);
+    if (m_shared.services.say(text(texts.question), MessageStyle::OkCancel, text(texts.title)) != Answer::Ok)
+        return;
+    Com1->showOpen();
+    const QString file = Com1->FileName();
+    if (file.isEmpty())
+        return;
+    Pro1->setShown(true);
+    restoring ? restore(file) : backUp(file);
+    Pro1->setShown(false);
+    Pro1->setValue(0);
+    m_shared.services.say(text(texts.done));
+}
+
+/// The file is only read, and all work stands in it since the last message: recordsets stay good.
+void BackupWindow::backUp(const QString& file) {
+    FileCopy copying(m_shared.beside(u"data.dll"_s), file);
+    copy(copying);
+}
+
+void BackupWindow::restore(const QString& file) {
+    m_shared.store.close(); // the next use opens it anew, and what was read before is void
+    FileCopy copying(file, m_shared.beside(u"data.dll"_s));
+    files::deleteMatching(m_shared.services.appPath, u"data.dll-journal"_s); // it belongs to the file that goes
+    try {
+        copy(copying);
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(RuntimeError::StoreFailure,
+                           error.text() + u"账本现在不能使用：请把备份文件复制到程序所在的文件夹，改名为 data.dll，"
+                                          u"再启动程序。"_s);
+    }
+}
+
+void BackupWindow::copy(FileCopy& copying) {
+    Pro1->setMax(copying.length() + RoomBehind);
+    repaint(); // what lay under the file chooser; no events are processed until the end
+    copying.run([this](qint64 written) { Pro1->setValue(written); });
+}
+
+} // namespace qinghe

@@ -1,0 +1,100 @@
+#include "maintenance/settings_page.h"
+
+#include "core/hover.h"
+#include "core/stored_choice.h"
+#include "maintenance/picture_window.h"
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PageCode = 7;
+constexpr PageTab Tabs[] = {{u"Label7", u" 设置", 10920, PageCode}};
+constexpr PageTraits Settings{u"Frame16", u"设置", 120, 1680, 11655, 6135, Tabs};
+
+} // namespace
+
+SettingsPage::SettingsPage(MainWindow& form)
+    : Page(form.navigation(), Settings),
+      m_shared(form.shared()),
+      Adodc1(*form.Adodc1),
+      Frame20(new Frame(&frame(), u"Frame20"_s, u"系统设置"_s)),
+      Check8(new CheckBox(Frame20, u"Check8"_s, u"登陆自动定时提醒今日日程"_s)),
+      Check7(new CheckBox(Frame20, u"Check7"_s, u"最小化到系统托盘"_s)),
+      Check5(new CheckBox(Frame20, u"Check5"_s, u"开机启动"_s)),
+      Command31(new CommandButton(Frame20, u"Command31"_s, u"收支分类设置"_s)),
+      Command32(new CommandButton(Frame20, u"Command32"_s, u"更换图片"_s)),
+      m_pictures(new QMenu(Command32)),
+      m_skins(form, *Frame20),
+      m_files(form, frame()) {
+    Frame20->place(240, 480, 5520, 4200);
+    Frame20->setRole(Role::InnerFrame);
+    placeBoxes();
+    makePictureMenu();
+    bindEvents();
+}
+
+void SettingsPage::placeBoxes() {
+    Check8->place(360, 600, 4000, 330);
+    Check7->place(360, 1200, 4000, 330);
+    Check5->place(2880, 1200, 2400, 330);
+    Check5->setShown(false);
+    auto* line = new Label(Frame20, {});
+    line->place(360, 3060, 4800, 30);
+    line->setRole(Role::Hairline);
+    Command31->place(360, 3450, 1920, 390);
+    Command31->setGlyph(Glyph::List);
+    Command32->place(2400, 3450, 1560, 390);
+    Command32->setGlyph(Glyph::Tools);
+}
+
+void SettingsPage::makePictureMenu() {
+    for (const PictureTarget& target : pictureTargets()) {
+        const QAction* entry = m_pictures->addAction(QString::fromUtf16(target.entry));
+        connect(entry, &QAction::triggered, this, [this, form = QString::fromUtf16(target.form)] {
+            handlers::enter([this, form] { m_shared.forms.get(form).showForm(); });
+        });
+    }
+}
+
+void SettingsPage::bindEvents() {
+    Check7->Click = [this] { Form2_Check7_Click(); };
+    Check8->Click = [this] { Form2_Check8_Click(); };
+    for (CheckBox* box : {Check5, Check7, Check8})
+        showHandOver(box);
+    markHovered(*Frame20, {m_skins.Command30, Command31, Command32});
+    // The pointer will not be here when the page comes back, or when the menu goes.
+    Command31->Click = [this] {
+        unmarkHovered({Command31});
+        m_shared.openCategories();
+    };
+    Command32->Click = [this] {
+        unmarkHovered({Command32});
+        m_pictures->popup(Command32->mapToGlobal(QPoint(0, Command32->height())));
+    };
+}
+
+void SettingsPage::Form2_Label7_Click() {
+    navigation().leaveOthers(*this, PageCode);
+    m_skins.hide();
+    navigation().bringForward(*this);
+}
+
+void SettingsPage::windowLoads() {
+    if (remindsAtSignIn(Adodc1))
+        Check8->setValue(true);
+    if (MinimiseToTray.isYes(Adodc1))
+        Check7->setValue(true);
+}
+
+void SettingsPage::Form2_Check7_Click() {
+    storeTick(m_shared, Adodc1, MinimiseToTray, *Check7, u"设置完毕"_s, u"提示"_s);
+}
+
+void SettingsPage::Form2_Check8_Click() {
+    storeReminderTick(m_shared, Adodc1, *Check8);
+}
+
+} // namespace qinghe

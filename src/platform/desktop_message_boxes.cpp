@@ -1,0 +1,95 @@
+#include "platform/desktop_message_boxes.h"
+
+#include "platform/front_window.h"
+#include "runtime/runtime_error.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+
+#include <utility>
+
+namespace qinghe {
+
+namespace {
+
+QMessageBox::StandardButtons buttonsOf(MessageStyle style) {
+    switch (static_cast<int>(style) & 0xF) {
+    case 1:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case 4:
+        return QMessageBox::Yes | QMessageBox::No;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon iconOf(MessageStyle style) {
+    switch (static_cast<int>(style) & 0xF0) {
+    case 32:
+        return QMessageBox::Question;
+    case 48:
+        return QMessageBox::Warning;
+    case 64:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+/// The words of the buttons, without the marks for keys that Qt's own words carry.
+void captionButtons(QMessageBox& box) {
+    constexpr std::pair<QMessageBox::StandardButton, const char16_t*> captions[] = {{QMessageBox::Ok, u"确定"},
+                                                                                    {QMessageBox::Cancel, u"取消"},
+                                                                                    {QMessageBox::Yes, u"是"},
+                                                                                    {QMessageBox::No, u"否"}};
+    for (const auto& [kind, caption] : captions)
+        if (QAbstractButton* button = box.button(kind))
+            button->setText(QString::fromUtf16(caption));
+}
+
+Answer answerOf(int button) {
+    switch (button) {
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+/// A box over all windows, whose texts are plain text, titled with the program's name when it has no title of its own.
+void fill(QMessageBox& box, const QString& text, const QString& title) {
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setWindowTitle(title.isEmpty() ? productName() : title);
+    bringOverNotices(box);
+}
+
+} // namespace
+
+Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const QString& title) {
+    QMessageBox box(windowInFront());
+    fill(box, text, title);
+    box.setIcon(iconOf(style));
+    box.setStandardButtons(buttonsOf(style));
+    captionButtons(box);
+    return answerOf(box.exec());
+}
+
+void DesktopMessageBoxes::showError(int number, const QString& text) {
+    QMessageBox box(windowInFront());
+    const QString ending = number == RuntimeError::StoreFailure
+                               ? QStringLiteral("程序将关闭。")
+                               : QStringLiteral("程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后"
+                                                "检查这一页。");
+    fill(box, QStringLiteral("运行时错误 %1：\n\n%2\n\n%3").arg(number).arg(text, ending), productName());
+    box.setIcon(QMessageBox::Warning);
+    box.setStandardButtons(QMessageBox::Ok);
+    captionButtons(box);
+    box.exec();
+}
+
+} // namespace qinghe
