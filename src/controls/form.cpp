@@ -175,10 +175,12 @@ void Form::closeEvent(QCloseEvent* event) {
     if (CloseAsked)
         CloseAsked.fromQt();
     else
-        handlers::enter([this] {
-            if (m_forms)
-                m_forms->unload(objectName());
-        });
+        handlers::enter([this] { unload(); });
+}
+
+void Form::unload() {
+    if (m_forms)
+        m_forms->unload(objectName());
 }
 
 } // namespace qinghe

@@ -52,6 +52,8 @@ public:
 
     /// The load handler; called once by Forms. The base has nothing to do.
     virtual void load() {}
+    /// Takes the form away, as Forms::unload does.
+    void unload();
     /// What goes before the form; called once by Forms.
     virtual void unloaded() {}
 

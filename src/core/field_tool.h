@@ -12,12 +12,11 @@ namespace qinghe {
 /// is. Made without either it names nothing.
 struct FieldTarget {
     FieldTarget() = default;
-    FieldTarget(int target, TextBox* asking) : number(target), box(asking) {}
+    explicit FieldTarget(TextBox* asking) : box(asking) {}
     /// The cell is the current one of the grid.
-    FieldTarget(int target, TextBox* asking, MSFlexGrid* behind)
-        : number(target), box(asking), grid(behind), row(behind->Row()), col(behind->Col()) {}
+    FieldTarget(TextBox* asking, MSFlexGrid* behind)
+        : box(asking), grid(behind), row(behind->Row()), col(behind->Col()) {}
 
-    int number = 0; ///< what dateTarget or calcTarget is while the tool serves this field
     QPointer<TextBox> box;
     QPointer<MSFlexGrid> grid;
     int row = 0, col = 0; ///< where the box stood when the tool was opened

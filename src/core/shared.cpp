@@ -6,8 +6,32 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-QString Shared::connection(bool blankBehind) const {
-    return connectionText(services.appPath, blankBehind);
+namespace {
+
+/// The upper left corner of a control on the screen, in twips.
+QPointF cornerOf(const QWidget& control) {
+    QPointF corner;
+    for (const QWidget* widget = &control; widget; widget = widget->parentWidget()) {
+        const Placed* const placed = Placed::of(widget);
+        corner += QPointF(placed->Left(), placed->Top());
+        if (widget->isWindow())
+            break;
+    }
+    return corner;
+}
+
+} // namespace
+
+Adodc* Shared::newControl(const QString& name, QObject* parent) {
+    return new Adodc(store, name, connection(), parent);
+}
+
+QString Shared::connection() const {
+    return connectionText(services.appPath);
+}
+
+QString Shared::dataFile() const {
+    return beside(DataFileName.toString());
 }
 
 QString Shared::beside(const QString& name) const {
@@ -15,30 +39,36 @@ QString Shared::beside(const QString& name) const {
 }
 
 void Shared::unloadTools() {
-    forms.unload(u"Form1"_s);
-    forms.unload(u"Form3"_s);
-    forms.unload(u"Form9"_s);
+    forms.unload(names::DatePicker);
+    forms.unload(names::Purge);
+    forms.unload(names::Calculator);
 }
 
 void Shared::unloadPickers() {
-    forms.unload(u"Form1"_s);
-    forms.unload(u"Form9"_s);
+    forms.unload(names::DatePicker);
+    forms.unload(names::Calculator);
 }
 
-void Shared::openDatePicker(const FieldTarget& field, double left, double top) {
-    dateTarget = field.number;
-    openTool(u"Form1"_s, field, left, top);
+void Shared::hideDatePicker() {
+    if (FieldTool* picker = forms.loaded(names::DatePicker))
+        picker->setShown(false);
 }
 
-void Shared::openCalculator(const FieldTarget& field, double left, double top) {
-    calcTarget = field.number;
-    openTool(u"Form9"_s, field, left, top);
+void Shared::openDatePicker(DateField field, const FieldTarget& target, double below) {
+    dateTarget = static_cast<int>(field);
+    openTool(names::DatePicker, target, below);
 }
 
-void Shared::openTool(const QString& name, const FieldTarget& field, double left, double top) {
-    auto& tool = forms.get<FieldTool>(name);
-    tool.serve(field);
-    tool.moveTo(left, top);
+void Shared::openCalculator(AmountField field, const FieldTarget& target, double below) {
+    calcTarget = static_cast<int>(field);
+    openTool(names::Calculator, target, below);
+}
+
+void Shared::openTool(const FormName<FieldTool>& name, const FieldTarget& target, double below) {
+    const QPointF corner = cornerOf(*target.box);
+    FieldTool& tool = forms.get(name);
+    tool.serve(target);
+    tool.moveTo(corner.x(), corner.y() + below);
     tool.showForm();
     tool.keepOnScreen();
 }

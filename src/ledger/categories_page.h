@@ -23,8 +23,6 @@ public:
     void Form2_Option4_Click();
     void Form2_ms3_Click();
     void Form2_ms4_Click();
-    void Form2_tx3_KeyPress(int KeyAscii);
-    void Form2_tx4_KeyPress(int KeyAscii);
     void Form2_Command7_Click();
     void Form2_Command8_Click();
     void Form2_Command9_Click();

@@ -6,8 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr quint32 Pine = 0x2C4A1E, White = 0xFFFFFF; ///< the form's own colours
-constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
 
 } // namespace
 
@@ -20,8 +18,8 @@ DatePicker::DatePicker(Shared& shared)
       Label1(new Label(this, u"Label1"_s)),
       Label2(new Label(this, u"Label2"_s, u" 日  一  二 三  四 五  六"_s)) {
     setCaption(m_month.captionText());
-    setForeColor(White);
-    setBackColor(Pine);
+    setForeColor(ink::White);
+    setBackColor(ink::Pine);
     place(0, 0, 3420, 3120);
     Command2->place(135, 75, 480, 390);
     Command1->place(2805, 75, 480, 390);
@@ -61,8 +59,8 @@ void DatePicker::showMonth() {
         const MonthGrid::Cell& cell = m_month.cell(i);
         Label& day = *Label3[static_cast<std::size_t>(i)];
         day.setCaption(cell.caption);
-        day.setForeColor(cell.neighbour ? Yellow : ForeColor());
-        day.setBackColor(cell.marked ? Blue : BackColor());
+        day.setForeColor(cell.neighbour ? ink::Yellow : ForeColor());
+        day.setBackColor(cell.marked ? ink::Blue : BackColor());
     }
 }
 
