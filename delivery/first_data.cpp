@@ -2,6 +2,7 @@
 
 #include "delivery/pictures.h"
 #include "runtime/runtime_error.h"
+#include "store/data_file.h"
 #include "store/header_toggle.h"
 #include "store/recordset.h"
 #include "store/schema.h"
@@ -97,13 +98,13 @@ void fill(const QString& path) {
 
 bool deliverFirstData(const QString& folder) {
     const QDir place(folder);
-    const QString finished = place.filePath(u"data.dll"_qs);
+    const QString finished = place.filePath(DataFileName.toString());
     if (QFile::exists(finished)) {
         return false;
     }
     const QString unfinished = place.filePath(u"first_data.unfinished"_qs);
     QFile::remove(unfinished);
-    QFile::remove(unfinished + u"-journal"_qs);
+    QFile::remove(journalOf(unfinished));
     createStore(unfinished);
     fill(unfinished);
     spoilHeader(unfinished);

@@ -17,6 +17,7 @@
 #include "maintenance/settings_page.h"
 #include "maintenance/users_page.h"
 #include "platform/free_memory.h"
+#include "store/data_file.h"
 #include "tools/calculator.h"
 #include "tools/date_picker.h"
 
@@ -60,7 +61,7 @@ Program::Program(Services services) : m_shared(std::move(services)) {
                     giveBackFreeMemory();
             },
     });
-    m_shared.store.use(m_shared.beside(u"data.dll"_s));
+    m_shared.store.use(m_shared.beside(DataFileName.toString()));
     // A copy that can take its folder's lock keeps it from the start; one that cannot tries again at its main window.
     m_shared.services.instance->tryTake();
     defineForms();

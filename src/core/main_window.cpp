@@ -5,6 +5,7 @@
 #include "core/tray_icon.h"
 #include "core/window_shape.h"
 #include "platform/files.h"
+#include "store/data_file.h"
 #include "store/header_toggle.h"
 
 #include <QTimer>
@@ -61,7 +62,7 @@ void MainWindow::load() {
         files::makeFolder(diary);
     shapeMainWindow(*this);
     m_shared.store.close();
-    healHeader(m_shared.beside(u"data.dll"_s));
+    healHeader(m_shared.beside(DataFileName.toString()));
     showForm();
     preparePages();
     startClock();

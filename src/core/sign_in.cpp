@@ -4,6 +4,7 @@
 #include "core/hover.h"
 #include "core/stored_picture.h"
 #include "platform/files.h"
+#include "store/data_file.h"
 #include "store/header_toggle.h"
 
 #include <QPainterPath>
@@ -85,7 +86,7 @@ void SignIn::bindEvents() {
 
 void SignIn::load() {
     Label1->setTop(3420);
-    healHeader(m_shared.beside(u"data.dll"_s));
+    healHeader(m_shared.beside(DataFileName.toString()));
     Adodc1->setVisible(false);
     Adodc1->setConnectionString(m_shared.connection());
     offerNames();

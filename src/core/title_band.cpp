@@ -4,6 +4,7 @@
 #include "core/stored_picture.h"
 #include "core/web_pages.h"
 #include "platform/files.h"
+#include "store/data_file.h"
 #include "store/header_toggle.h"
 
 namespace qinghe {
@@ -79,7 +80,7 @@ void TitleBand::Form2_Image3_Click() {
     for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
         files::deleteMatching(m_shared.services.appPath, QString::fromUtf16(picture.file));
     m_shared.store.close();
-    spoilHeader(m_shared.beside(u"data.dll"_s));
+    spoilHeader(m_shared.beside(DataFileName.toString()));
     throw handlers::ProgramEnd{0};
 }
 

@@ -3,6 +3,7 @@
 #include "core/hover.h"
 #include "maintenance/file_copy.h"
 #include "platform/files.h"
+#include "store/data_file.h"
 
 namespace qinghe {
 
@@ -98,14 +99,15 @@ void BackupWindow::Form13_Command1_Click() {
 
 /// The file is only read, and all work stands in it since the last message: recordsets stay good.
 void BackupWindow::backUp(const QString& file) {
-    FileCopy copying(m_shared.beside(u"data.dll"_s), file);
+    FileCopy copying(m_shared.beside(DataFileName.toString()), file);
     copy(copying);
 }
 
 void BackupWindow::restore(const QString& file) {
     m_shared.store.close(); // the next use opens it anew, and what was read before is void
-    FileCopy copying(file, m_shared.beside(u"data.dll"_s));
-    files::deleteMatching(m_shared.services.appPath, u"data.dll-journal"_s); // it belongs to the file that goes
+    FileCopy copying(file, m_shared.beside(DataFileName.toString()));
+    files::deleteMatching(m_shared.services.appPath,
+                          journalOf(DataFileName.toString())); // it belongs to the file that goes
     try {
         copy(copying);
     } catch (const RuntimeError& error) {

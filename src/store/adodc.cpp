@@ -2,11 +2,13 @@
 
 #include "runtime/runtime_error.h"
 #include "store/connection_text.h"
-#include "store/store_errors.h"
 
 namespace qinghe {
 
-Adodc::Adodc(Store& store, const QString& name, QObject* parent) : QObject(parent), m_store(store) {
+Adodc::Adodc(Store& store, const QString& name, QObject* parent) : Adodc(store, name, QString(), parent) {}
+
+Adodc::Adodc(Store& store, const QString& name, const QString& home, QObject* parent)
+    : QObject(parent), m_store(store), m_home(home), m_connection(home) {
     setObjectName(name);
 }
 
@@ -18,12 +20,14 @@ void Adodc::refresh() {
 
 Recordset& Adodc::recordset() {
     if (!m_loaded)
-        throw RuntimeError(store_errors::ObjectNotSet,
+        throw RuntimeError(RuntimeError::ObjectNotSet,
                            QStringLiteral("数据控件“%1”还没有打开记录。").arg(objectName()));
     return m_loaded->asRead();
 }
 
 Recordset& Adodc::open(const QString& source) {
+    if (!m_home.isEmpty())
+        setConnectionString(m_home);
     setRecordSource(source);
     refresh();
     return recordset();

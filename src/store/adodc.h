@@ -17,6 +17,8 @@ class Adodc : public QObject {
 
 public:
     Adodc(Store& store, const QString& name, QObject* parent = nullptr);
+    /// `home` is the connection text to which open() points the control.
+    Adodc(Store& store, const QString& name, const QString& home, QObject* parent = nullptr);
     ~Adodc() override;
 
     const QString& connectionString() const { return m_connection; }
@@ -37,7 +39,8 @@ public:
     /// for in between; nothing before the first one.
     std::shared_ptr<LoadedSet> loaded() const { return m_loaded; }
 
-    /// setRecordSource and refresh in one breath.
+    /// Points the control home again, wherever it was pointed meanwhile, and runs the source. A control that was made
+    /// without a home stays where it is pointed.
     Recordset& open(const QString& source);
 
     bool isVisible() const { return m_visible; }
@@ -45,6 +48,7 @@ public:
 
 private:
     Store& m_store;
+    QString m_home;
     QString m_connection;
     QString m_source;
     std::shared_ptr<LoadedSet> m_loaded;

@@ -1,7 +1,7 @@
 #include "store/connection_text.h"
 
 #include "runtime/runtime_error.h"
-#include "store/store_errors.h"
+#include "store/data_file.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,8 +28,8 @@ QString programFile(const QString& appPath, const QString& name) {
 }
 
 QString connectionText(const QString& appPath, bool trailingBlank) {
-    const QString text = QStringLiteral("provider = %1;%2").arg(kProvider, kSourceMark) +
-                         programFile(appPath, QStringLiteral("data.dll"));
+    const QString text =
+        QStringLiteral("provider = %1;%2").arg(kProvider, kSourceMark) + programFile(appPath, DataFileName.toString());
     return trailingBlank ? text + u' ' : text;
 }
 
@@ -39,7 +39,7 @@ QString dataSource(const QString& connectionText) {
     while (path.endsWith(u' '))
         path.chop(1);
     if (path.isEmpty() || !namesProvider(QStringView(connectionText).first(mark)))
-        throw RuntimeError(store_errors::ProviderUnknown,
+        throw RuntimeError(RuntimeError::ProviderUnknown,
                            QStringLiteral("连接文字没有指明账本文件：%1").arg(connectionText));
     return path;
 }

@@ -3,7 +3,6 @@
 #include "runtime/runtime_error.h"
 #include "store/dialect.h"
 #include "store/result_set.h"
-#include "store/store_errors.h"
 
 #include <algorithm>
 #include <optional>
@@ -263,7 +262,7 @@ void Recordset::readTexts(std::span<std::optional<QString>> texts) {
 
 Field Recordset::field(int ordinal) {
     if (ordinal < 0 || ordinal >= fieldCount())
-        throw RuntimeError(store_errors::NoSuchField, QStringLiteral("记录里没有第 %1 栏。").arg(ordinal + 1));
+        throw RuntimeError(RuntimeError::NoSuchField, QStringLiteral("记录里没有第 %1 栏。").arg(ordinal + 1));
     return Field(*this, ordinal);
 }
 
@@ -271,7 +270,7 @@ Field Recordset::field(QStringView name) {
     const TableColumns& columns = m->rows->shape().columns;
     const auto found = std::ranges::find(columns, name, &Column::name);
     if (found == columns.end())
-        throw RuntimeError(store_errors::NoSuchField, QStringLiteral("记录里没有“%1”这一栏。").arg(name));
+        throw RuntimeError(RuntimeError::NoSuchField, QStringLiteral("记录里没有“%1”这一栏。").arg(name));
     return Field(*this, static_cast<int>(found - columns.begin()));
 }
 

@@ -2,7 +2,6 @@
 
 #include "runtime/runtime_error.h"
 #include "store/header_toggle.h"
-#include "store/store_errors.h"
 
 #include <QDir>
 #include <QStringView>
@@ -32,10 +31,10 @@ constexpr std::array kFailures{
     FailureRow{SQLITE_CANTOPEN, RuntimeError::PathFileAccess, u"无法打开账本文件“%1”，请检查它和所在文件夹的权限。"},
     FailureRow{SQLITE_READONLY, RuntimeError::PathFileAccess, u"无法写入账本文件“%1”，请检查它和所在文件夹的权限。"},
     FailureRow{SQLITE_PERM, RuntimeError::PathFileAccess, u"没有使用账本文件“%1”的权限。"},
-    FailureRow{SQLITE_BUSY, store_errors::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"},
-    FailureRow{SQLITE_LOCKED, store_errors::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"},
-    FailureRow{SQLITE_IOERR, store_errors::DeviceFailure, u"读写账本文件“%1”时磁盘出错。"},
-    FailureRow{SQLITE_NOMEM, store_errors::OutOfMemory, u"内存不足，无法使用账本文件“%1”。"},
+    FailureRow{SQLITE_BUSY, RuntimeError::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"},
+    FailureRow{SQLITE_LOCKED, RuntimeError::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"},
+    FailureRow{SQLITE_IOERR, RuntimeError::DeviceFailure, u"读写账本文件“%1”时磁盘出错。"},
+    FailureRow{SQLITE_NOMEM, RuntimeError::OutOfMemory, u"内存不足，无法使用账本文件“%1”。"},
 };
 
 /// A copy that was made while the program did not run, and was put here while it runs.

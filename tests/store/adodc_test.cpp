@@ -1,4 +1,3 @@
-#include "store/store_errors.h"
 #include "store/store_fixture.h"
 
 #include <QFile>
@@ -12,7 +11,7 @@ class DataControl : public StoreTest {};
 
 TEST_F(DataControl, HasNoRecordsetBeforeTheFirstRefresh) {
     EXPECT_FALSE(control.hasRecordset());
-    EXPECT_EQ(errorOf([&] { control.recordset(); }, u"Adodc1"_s), store_errors::ObjectNotSet);
+    EXPECT_EQ(errorOf([&] { control.recordset(); }, u"Adodc1"_s), RuntimeError::ObjectNotSet);
     control.setRecordSource(u"srb"_s);
     EXPECT_FALSE(control.hasRecordset());
     control.refresh();
@@ -64,7 +63,7 @@ TEST_F(DataControl, AFailedRefreshLeavesTheSetInHand) {
 
 TEST_F(DataControl, ConnectionWithoutAFileIsRefused) {
     control.setConnectionString(u"data.dll"_s);
-    EXPECT_EQ(errorOf([&] { control.open(u"srb"_s); }), store_errors::ProviderUnknown);
+    EXPECT_EQ(errorOf([&] { control.open(u"srb"_s); }), RuntimeError::ProviderUnknown);
 }
 
 TEST_F(DataControl, TwoControlsShareTheFileAndItsUnitOfWork) {

@@ -1,4 +1,3 @@
-#include "store/store_errors.h"
 #include "store/store_fixture.h"
 
 #include <QDir>
@@ -34,7 +33,7 @@ TEST(DataSource, RefusesATextWithoutProviderOrFile) {
     for (const auto& text : {u""_s, u"data.dll"_s, u"data source=C:\\data.dll"_s, u"provider = other;data source=x"_s,
                              u"provider = microsoft.jet.oledb.4.0;data source= "_s,
                              u"provider = microsoft.jet.oledb.4.0"_s, u"microsoft.jet.oledb.4.0;data source=x"_s})
-        EXPECT_EQ(errorOf([&] { dataSource(text); }, text), store_errors::ProviderUnknown) << text;
+        EXPECT_EQ(errorOf([&] { dataSource(text); }, text), RuntimeError::ProviderUnknown) << text;
 }
 
 TEST(SystemPath, TurnsTheSeparatorBeforeTheFilesNameOnly) {

@@ -1,5 +1,4 @@
 #include "store/recordset.h"
-#include "store/store_errors.h"
 #include "store/store_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -336,15 +335,15 @@ TEST_F(Records, FindRefusesWhatIsNotOneComparisonWithAText) {
     for (const auto& criterion : {u"用户名='it's'"_s, u"用户名='甲' or '1'='1'"_s, u"用户名>'甲'"_s,
                                   u"用户名=#2024-1-1#"_s, u"left(用户名,1)='甲'"_s, u"用户名 between '甲' and '乙'"_s})
         EXPECT_EQ(errorOf([&] { set.find(criterion); }, criterion), RuntimeError::QueryFailure) << criterion;
-    EXPECT_EQ(errorOf([&] { set.find(u"姓名='甲'"_s); }, u"姓名"_s), store_errors::NoSuchField);
+    EXPECT_EQ(errorOf([&] { set.find(u"姓名='甲'"_s); }, u"姓名"_s), RuntimeError::NoSuchField);
 }
 
 TEST_F(Records, FieldsAreReachedByNameAndOrdinalOnly) {
     Recordset& set = users(u"甲"_s);
     EXPECT_EQ(set.field(u"用户名").text(), set.field(0).text());
-    EXPECT_EQ(errorOf([&] { set.field(3); }), store_errors::NoSuchField);
-    EXPECT_EQ(errorOf([&] { set.field(-1); }), store_errors::NoSuchField);
-    EXPECT_EQ(errorOf([&] { set.field(u"密码"); }, u"“密码”"_s), store_errors::NoSuchField);
+    EXPECT_EQ(errorOf([&] { set.field(3); }), RuntimeError::NoSuchField);
+    EXPECT_EQ(errorOf([&] { set.field(-1); }), RuntimeError::NoSuchField);
+    EXPECT_EQ(errorOf([&] { set.field(u"密码"); }, u"“密码”"_s), RuntimeError::NoSuchField);
 }
 
 TEST_F(Records, RowIsReadAsTheTextsOfItsFields) {

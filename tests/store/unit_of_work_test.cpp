@@ -1,4 +1,3 @@
-#include "store/store_errors.h"
 #include "store/store_fixture.h"
 
 #include <QFile>
@@ -173,7 +172,7 @@ TEST_F(UnitOfWork, IsRefusedFromItsFirstRowWhileAnotherProgramWrites) {
     Recordset& set = control.open(u"srb"_s);
     OtherProgram other(path());
     other.run(u"BEGIN IMMEDIATE"_s);
-    EXPECT_EQ(errorOf([&] { set.deleteCurrent(); }, u"占用"_s), store_errors::FileLocked);
+    EXPECT_EQ(errorOf([&] { set.deleteCurrent(); }, u"占用"_s), RuntimeError::FileLocked);
     EXPECT_FALSE(store.inTransaction());
     EXPECT_EQ(set.recordCount(), 1);
     other.run(u"ROLLBACK"_s);
@@ -189,7 +188,7 @@ TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
     reader.run(u"BEGIN"_s);
     reader.row(u"SELECT count(*) FROM srb"_s); // keeps the file from being changed
     addIncome(u"2024-5-3"_s, u"乙"_s, 1);
-    EXPECT_EQ(errorOf([&] { store.commit(); }), store_errors::FileLocked);
+    EXPECT_EQ(errorOf([&] { store.commit(); }), RuntimeError::FileLocked);
     EXPECT_FALSE(store.inTransaction());
     reader.run(u"ROLLBACK"_s);
     EXPECT_EQ(column(control.open(u"srb"_s), u"项目"_s), QStringList(u"甲"_s));
@@ -204,7 +203,7 @@ TEST_F(UnitOfWork, FailedClosingLeavesTheFileClosed) {
     reader.run(u"BEGIN"_s);
     reader.row(u"SELECT count(*) FROM srb"_s);
     const int before = store.generation();
-    EXPECT_EQ(errorOf([&] { store.close(); }), store_errors::FileLocked);
+    EXPECT_EQ(errorOf([&] { store.close(); }), RuntimeError::FileLocked);
     EXPECT_NE(store.generation(), before);
     reader.run(u"ROLLBACK"_s);
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
