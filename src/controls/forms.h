@@ -13,6 +13,8 @@ namespace qinghe {
 template<class T = Form>
 struct FormName {
     QStringView text;
+
+    operator QString() const { return text.toString(); }
 };
 
 /// The forms by name, each with one default instance that is made by its first use and gone when it is unloaded.

@@ -70,9 +70,8 @@ void GridPage::loadTable() {
     m_grid->place(120, 840, 11415, 4815);
     layColumns();
     startRows(*m_grid);
-    fillList(*m_grid, records, shownFields(list().columns), [this] {
-        return quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row();
-    });
+    fillList(*m_grid, records, shownFields(list().columns),
+             [this] { return quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row(); });
 }
 
 Recordset& GridPage::load(QStringView source) {

@@ -60,10 +60,10 @@ public:
         bool lastColumnMatters = false; ///< it may not be empty either
         // the ways in and out
         bool loadsBeforeShown = false;
-        bool emptyTextsGoToLoanRow = false;   ///< of a fill
-        bool frameClickLeavesTools = false;   ///< open
-        bool formClickReachesHidden = false;  ///< commits the box of a page out of view too
-        bool formClickTakesKeyboard = false;  ///< into the grid
+        bool emptyTextsGoToLoanRow = false;  ///< of a fill
+        bool frameClickLeavesTools = false;  ///< open
+        bool formClickReachesHidden = false; ///< commits the box of a page out of view too
+        bool formClickTakesKeyboard = false; ///< into the grid
     };
 
     struct Traits {
@@ -136,7 +136,7 @@ private:
     bool hasGap();
     bool refusesGap();
 
-    bool m_hasWorkedOut = false;           ///< a column that takes no typing
+    bool m_hasWorkedOut = false;         ///< a column that takes no typing
     std::shared_ptr<LoadedSet> m_loaded; ///< by load, last
 };
 

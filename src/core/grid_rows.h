@@ -17,7 +17,7 @@ inline constexpr double MarkerWidth = 300; ///< of column 0, twips
 /// A column of a list, from column 1 on.
 struct ListColumn {
     QStringView caption;
-    QStringView field; ///< of the records that it shows
+    QStringView field;        ///< of the records that it shows
     QStringView savedTo = {}; ///< the field that a save writes, where that is another one
 };
 

@@ -46,7 +46,7 @@ RowWriter::RowWriter(const MSFlexGrid& grid, Recordset& records, const std::vect
 void RowWriter::begin(int row) {
     m_records.addNew();
     const QStringList texts = m_grid.rowTexts(row);
-    for (int column = 1; Field& field : m_fields) {
+    for (int column = 1; Field & field : m_fields) {
         if (const QString& text = texts[column++]; !text.isEmpty())
             field.setValue(text);
     }

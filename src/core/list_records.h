@@ -9,9 +9,9 @@ namespace qinghe {
 // The way between the records of a table and the rows of a list. Which field a column shows stands in its entry, never
 // in its place; fields that no column names are not shown and not written.
 
-/// Fills the list from its current row on, one row a record, columns from 1 on with these fields. NULL leaves its cell as it is; an empty text goes into the
-/// row that `rowForEmptyText()` tells, or nowhere without one. Throws RuntimeError: NoSuchField for a field that the
-/// records do not have.
+/// Fills the list from its current row on, one row a record, columns from 1 on with these fields. NULL leaves its cell
+/// as it is; an empty text goes into the row that `rowForEmptyText()` tells, or nowhere without one. Throws
+/// RuntimeError: NoSuchField for a field that the records do not have.
 void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
               const std::function<int()>& rowForEmptyText);
 

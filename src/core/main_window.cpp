@@ -29,10 +29,10 @@ bool bringsBack(double message) {
 } // namespace
 
 MainWindow::MainWindow(Shared& shared)
-    : Form(u"Form2"_s, Kind::Frameless, Ground::Main),
-      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
-      Adodc2(new Adodc(shared.store, u"Adodc2"_s, this)),
-      Adodc3(new Adodc(shared.store, u"Adodc3"_s, this)),
+    : Form(names::Main, Kind::Frameless, Ground::Main),
+      Adodc1(shared.newControl(u"Adodc1"_s, this)),
+      Adodc2(shared.newControl(u"Adodc2"_s, this)),
+      Adodc3(shared.newControl(u"Adodc3"_s, this)),
       Timer1(new Timer(this, u"Timer1"_s)),
       m_shared(shared),
       m_navigation(*this, shared),
@@ -56,15 +56,14 @@ void MainWindow::bindEvents() {
 }
 
 void MainWindow::load() {
-    Adodc1->setConnectionString(m_shared.connection());
     refuseSecondCopy();
-    if (const QString diary = m_shared.beside(u"mydiary"_s); !files::isFolder(diary))
+    if (const QString diary = m_shared.diaryFolder(); !files::isFolder(diary))
         files::makeFolder(diary);
     shapeMainWindow(*this);
     m_shared.store.close();
-    healHeader(m_shared.beside(DataFileName.toString()));
+    healHeader(m_shared.dataFile());
     showForm();
-    preparePages();
+    m_navigation.begin(*m_desktop);
     startClock();
     for (Page* page : m_navigation.pages())
         page->windowLoads();
@@ -80,12 +79,6 @@ void MainWindow::refuseSecondCopy() {
         return;
     m_shared.services.say(u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s);
     throw handlers::ProgramEnd{0};
-}
-
-void MainWindow::preparePages() {
-    m_navigation.begin(*m_desktop);
-    for (Adodc* control : {Adodc1, Adodc2, Adodc3})
-        control->setVisible(false);
 }
 
 void MainWindow::startClock() {
@@ -124,7 +117,6 @@ void MainWindow::Form2_Form_Resize() {
         return;
     if (WindowState() == Minimised && m_sinceReturn.isValid() && m_sinceReturn.elapsed() < LateReportMs)
         return setWindowState(Normal);
-    Adodc1->setConnectionString(m_shared.connection());
     if (MinimiseToTray.isYes(*Adodc1) && WindowState() == Minimised)
         toTray();
 }
@@ -135,8 +127,7 @@ void MainWindow::Form2_Form_Click() {
 }
 
 void MainWindow::Form2_Form_MouseDown(double x, double y) {
-    if (Form* picker = m_shared.forms.loaded(u"Form1"_s))
-        picker->setShown(false);
+    m_shared.hideDatePicker();
     dragging = 1;
     dragStartX = roundedInt16(x);
     m_shared.emptyRowFlag = roundedInt16(y); // dragStartY

@@ -31,7 +31,6 @@ public:
 private:
     void bindEvents();
     void refuseSecondCopy();
-    void preparePages();
     void startClock();
     void readTraySetting();
     void toTray();

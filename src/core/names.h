@@ -8,7 +8,6 @@ namespace qinghe {
 
 class BackupWindow;
 class FieldTool;
-class MainWindow;
 class PurgeWindow;
 
 /// Every name by which one place in the program asks for something that another place made, once: what is mistyped does
@@ -17,7 +16,7 @@ namespace names {
 
 // Forms, each with what others may know of it.
 inline constexpr FormName<FieldTool> DatePicker{u"Form1"};
-inline constexpr FormName<MainWindow> Main{u"Form2"};
+inline constexpr FormName<> Main{u"Form2"};
 inline constexpr FormName<PurgeWindow> Purge{u"Form3"};
 inline constexpr FormName<> SignIn{u"Form5"};
 inline constexpr FormName<> Reminder{u"Form6"};

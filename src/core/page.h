@@ -22,8 +22,8 @@ struct PageTraits {
     QStringView frame;
     QStringView caption; ///< of the frame at first
     double left, top, width, height;
-    std::span<const PageTab> tabs = {};    ///< none for a page that is entered in another way
-    QStringView leavesAlone = {};          ///< the frame that stays as it stands behind this page
+    std::span<const PageTab> tabs = {}; ///< none for a page that is entered in another way
+    QStringView leavesAlone = {};       ///< the frame that stays as it stands behind this page
 };
 
 /// A page of the main window: a frame, what brings it to the front, and what it does when others do something that

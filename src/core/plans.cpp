@@ -9,7 +9,8 @@ Recordset& ofDay(Adodc& control, const QDate& day) {
 }
 
 Recordset& watched(Adodc& control, const QDate& day, QStringView columns) {
-    return control.open(u"select "_s + columns + u" from rcb where 日程日期= # "_s + dateText(day) + u" # "_s);
+    return control.open(u"select "_s + columns.toString() + u" from rcb where 日程日期= # "_s + dateText(day) +
+                        u" # "_s);
 }
 
 } // namespace qinghe::plans

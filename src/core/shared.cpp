@@ -1,6 +1,7 @@
 #include "core/shared.h"
 
 #include "store/connection_text.h"
+#include "store/data_file.h"
 
 namespace qinghe {
 
@@ -32,6 +33,10 @@ QString Shared::connection() const {
 
 QString Shared::dataFile() const {
     return beside(DataFileName.toString());
+}
+
+QString Shared::diaryFolder() const {
+    return beside(u"mydiary"_s);
 }
 
 QString Shared::beside(const QString& name) const {

@@ -56,6 +56,8 @@ public:
     QString connection() const;
     /// The path of the data file.
     QString dataFile() const;
+    /// The path of the folder in which the diary's texts lie.
+    QString diaryFolder() const;
     /// The path of a file beside the program.
     QString beside(const QString& name) const;
 

@@ -28,7 +28,6 @@ private:
     void refuseUnknownName();
     void refuseWrongPassword();
     void rememberPair();
-    void unload();
 
     Shared& m_shared;
     Adodc* Adodc1;

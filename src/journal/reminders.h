@@ -27,7 +27,7 @@ public:
 
     /// The row that is due while the reminder's window loads: `提醒音乐` and `日程内容` of the current one.
     Recordset& due() { return Adodc1.recordset(); }
-    Shared& workbench() { return m_shared; }
+    Shared& shared() { return m_shared; }
     MMControl* const MM1; // the music of schedule and reminder
 
     void Form2_Timer2_Timer();

@@ -14,7 +14,7 @@ class SchedulePage : public Page {
 public:
     explicit SchedulePage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label23_Click(); }
+    void tabClicked(PageCode) override { Form2_Label23_Click(); }
     void windowLoads() override;
 
     void Form2_Label23_Click();

@@ -49,9 +49,8 @@ AccountsPage::AccountsPage(MainWindow& window) : GridPage(window, Accounts) {}
 /// Enter has just left the column before the current one.
 void AccountsPage::moved() {
     const int left = m_grid->Col() - 1, balance = columnOf(columns::Balance);
-    if (const auto worked =
-            balanceAfterLeaving(Columns[left - 1].field, m_grid->TextMatrix(m_grid->Row(), left),
-                                m_grid->TextMatrix(m_grid->Row(), balance)))
+    if (const auto worked = balanceAfterLeaving(Columns[left - 1].field, m_grid->TextMatrix(m_grid->Row(), left),
+                                                m_grid->TextMatrix(m_grid->Row(), balance)))
         m_grid->setTextMatrix(m_grid->Row(), balance, *worked);
 }
 

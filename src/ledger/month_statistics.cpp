@@ -33,7 +33,7 @@ Recordset& MonthStatistics::begin(const Reports& reports) {
     Recordset& total = m_window.Adodc2->open(TotalSource.toString().arg(month));
     Label10.setCaption(total.recordCount() == 0
                            ? money::none()
-                           : report.totalCaption + money::yuan(total.field(u"总金额"_s).value()));
+                           : report.totalCaption.toString() + money::yuan(total.field(u"总金额"_s).value()));
     layEvenColumns(ms2, report.columns);
     ms2.setAmountColumns({report.columns});
     for (int column = 1; column <= report.columns; ++column)

@@ -15,11 +15,11 @@ QString amount(const Value& value) {
 }
 
 QString yuan(const Value& value) {
-    return formatNumber(value, u"##.00"_s + Sign);
+    return formatNumber(value, u"##.00"_s + Sign.toString());
 }
 
 QString fullYuan(double sum) {
-    return formatNumber(sum, u"0.00"_s + Sign);
+    return formatNumber(sum, u"0.00"_s + Sign.toString());
 }
 
 QString none() {

@@ -1,16 +1,15 @@
 #include "tools/date_picker.h"
 
+#include "core/ink.h"
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-
-} // namespace
+namespace {} // namespace
 
 DatePicker::DatePicker(Shared& shared)
-    : FieldTool(u"Form1"_s, Kind::QuietTool, Ground::Pine, shared.forms.loaded(u"Form2"_s)),
+    : FieldTool(names::DatePicker, Kind::QuietTool, Ground::Pine, shared.forms.loaded(names::Main)),
       m_shared(shared),
       m_month(shared.services.clock->today()),
       Command1(new CommandButton(this, u"Command1"_s, {})),
@@ -85,14 +84,12 @@ void DatePicker::Form1_Label3_DblClick(int index) {
         if (m_field.grid)
             m_field.grid->setText(m_field.box->Text());
     }
-    m_shared.forms.unload(objectName());
+    unload();
 }
 
 void DatePicker::unloaded() {
-    // The purge window's date is typed nowhere: it is closed again as soon as the picker is gone.
-    if (Form* purge = m_shared.forms.loaded(u"Form3"_s); purge && purge->Visible())
-        if (auto* date = purge->findChild<TextBox*>(u"Text1"_s))
-            date->setUsable(false);
+    if (m_shared.pickerGone)
+        m_shared.pickerGone();
 }
 
 } // namespace qinghe
