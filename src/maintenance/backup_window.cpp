@@ -4,6 +4,7 @@
 #include "maintenance/file_copy.h"
 #include "platform/files.h"
 #include "store/data_file.h"
+#include "store/migrations.h"
 
 namespace qinghe {
 
@@ -99,7 +100,8 @@ void BackupWindow::backUp(const QString& file) {
 }
 
 void BackupWindow::restore(const QString& file) {
-    m_shared.store.close(); // the next use opens it anew, and what was read before is void
+    requireKnownVersion(file); // a backup of a later program must not take the place of a book that can be read
+    m_shared.store.close();    // the next use opens it anew, and what was read before is void
     FileCopy copying(file, m_shared.dataFile());
     files::deleteMatching(m_shared.services.appPath,
                           journalOf(DataFileName.toString())); // it belongs to the file that goes

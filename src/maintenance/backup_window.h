@@ -8,8 +8,8 @@ namespace qinghe {
 class FileCopy;
 
 /// `Form13`: copies the data file to a place of the user's choice, or a file of his choice over the data file. Which of
-/// the two is told by the caption of its button. Any file may be restored: what it holds is seen when the ledger is
-/// read next.
+/// the two is told by the caption of its button. Any file may be restored, what it holds is seen when the ledger is
+/// read next; only a ledger that a later program has written is refused, and the one in use stays.
 class BackupWindow : public Form {
     Q_OBJECT
 

@@ -1,26 +1,31 @@
 #include "store/connection.h"
 
+#include "runtime/runtime_error.h"
 #include "store/header_vfs.h"
 #include "store/sqlite_failure.h"
 
+#include <QDir>
+#include <QFile>
 #include <sqlite3.h>
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int kBusyTimeoutMs = 2000;
+constexpr int BusyTimeoutMs = 2000;
 
 /// Page memory in KiB: for the pages of a long save until its commit, and what is kept between handlers, so that the
 /// same list is soon read again.
-constexpr int kWorkingPages = 16000, kRestingPages = 1500;
+constexpr int WorkingPages = 16000, RestingPages = 1500;
 
 /// Commits that outlast a power cut; pages of a long save stay in memory until the commit; nothing in a file from
 /// elsewhere is run.
-constexpr const char* kSettings = "PRAGMA journal_mode = DELETE;"
-                                  "PRAGMA synchronous = EXTRA;"
-                                  "PRAGMA temp_store = MEMORY;"
-                                  "PRAGMA trusted_schema = OFF;";
+constexpr const char* Settings = "PRAGMA journal_mode = DELETE;"
+                                 "PRAGMA synchronous = EXTRA;"
+                                 "PRAGMA temp_store = MEMORY;"
+                                 "PRAGMA trusted_schema = OFF;";
 
 void limitPages(sqlite3* database, int kib) {
     sqlite3_exec(database, QByteArray("PRAGMA cache_size = -" + QByteArray::number(kib)).constData(), nullptr, nullptr,
@@ -39,10 +44,10 @@ sqlite3* Connection::opened(const QString& path) {
     int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, headerVfsName());
     std::unique_ptr<sqlite3, Closer> database(handle);
     if (code == SQLITE_OK) {
-        sqlite3_busy_timeout(handle, kBusyTimeoutMs);
+        sqlite3_busy_timeout(handle, BusyTimeoutMs);
         sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
-        code = sqlite3_exec(handle, kSettings, nullptr, nullptr, nullptr);
-        limitPages(handle, kWorkingPages);
+        code = sqlite3_exec(handle, Settings, nullptr, nullptr, nullptr);
+        limitPages(handle, WorkingPages);
     }
     if (code != SQLITE_OK)
         throwSqliteFailure(code, path, QString::fromUtf8(sqlite3_errmsg(handle)));
@@ -55,6 +60,14 @@ Connection::Connection(const QString& path)
       m_begin(prepare("BEGIN IMMEDIATE")),
       m_commit(prepare("COMMIT")),
       m_dataVersion(prepare("PRAGMA data_version")) {}
+
+Connection Connection::made(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+        throw RuntimeError(RuntimeError::PathFileAccess,
+                           u"无法新建账本文件“%1”：%2。"_s.arg(QDir::toNativeSeparators(path), file.errorString()));
+    return Connection(path);
+}
 
 Statement Connection::prepare(const QByteArray& sql) {
     return Statement(m_database.get(), sql, m_path);
@@ -69,14 +82,35 @@ void Connection::rollBack() noexcept {
         sqlite3_exec(m_database.get(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
+void Connection::copyTo(const QString& path) {
+    const Connection copy = made(path);
+    sqlite3* target = copy.m_database.get();
+    sqlite3_backup* copying = sqlite3_backup_init(target, "main", m_database.get(), "main");
+    if (copying)
+        sqlite3_backup_step(copying, -1); // all pages; the end tells whether it failed
+    const int code = copying ? sqlite3_backup_finish(copying) : sqlite3_extended_errcode(target);
+    if (code != SQLITE_OK)
+        throwSqliteFailure(code, path, QString::fromUtf8(sqlite3_errmsg(target)));
+}
+
+int Connection::version() {
+    Statement statement = prepare("PRAGMA user_version");
+    statement.step();
+    return static_cast<int>(statement.integer(0));
+}
+
+void Connection::setVersion(int version) {
+    run("PRAGMA user_version = " + QByteArray::number(version));
+}
+
 size_t Connection::giveBackPages() {
     int used = 0, most = 0;
     sqlite3_db_status(m_database.get(), SQLITE_DBSTATUS_CACHE_USED, &used, &most, 0);
     const int before = used;
-    if (before <= kRestingPages * 1024)
+    if (before <= RestingPages * 1024)
         return 0;
-    limitPages(m_database.get(), kRestingPages);
-    limitPages(m_database.get(), kWorkingPages);
+    limitPages(m_database.get(), RestingPages);
+    limitPages(m_database.get(), WorkingPages);
     sqlite3_db_status(m_database.get(), SQLITE_DBSTATUS_CACHE_USED, &used, &most, 0);
     return static_cast<size_t>(before - used);
 }

@@ -6,11 +6,16 @@
 
 namespace qinghe {
 
-/// An open data file, through the header shim, set up for durable commits with a rollback journal. Never makes a file.
-/// Every failure is a RuntimeError.
+/// An open data file, through the header shim, set up for durable commits with a rollback journal. Every failure is a
+/// RuntimeError.
 class Connection {
 public:
+    /// Never makes a file.
     explicit Connection(const QString& path);
+    /// Makes a new file, without tables, for its owner alone. Throws PathFileAccess when there is one, or none can be.
+    static Connection made(const QString& path);
+
+    const QString& path() const { return m_path; }
 
     Statement prepare(const QByteArray& sql);
     void run(const QByteArray& sql) { prepare(sql).execute(); }
@@ -22,6 +27,13 @@ public:
     /// Gives up the open transaction, if there is one. Never throws: what can not be undone now is undone by whoever
     /// opens the file next.
     void rollBack() noexcept;
+
+    /// Makes a new file at `path` with the same pages, durably. Call it outside a transaction.
+    void copyTo(const QString& path);
+
+    /// The number of its form that the file bears, whatever it is; see migrations.h.
+    int version();
+    void setVersion(int version);
 
     /// Gives the pages of the file that are kept in memory back, where they are many; gives their size in bytes.
     size_t giveBackPages();

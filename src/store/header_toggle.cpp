@@ -1,6 +1,7 @@
 #include "store/header_toggle.h"
 
 #include "runtime/runtime_error.h"
+#include "store/migrations.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,6 +33,7 @@ void writeMark(const QString& path, const QByteArray& mark) {
 } // namespace
 
 void healHeader(const QString& path) {
+    requireKnownVersion(path);
     writeMark(path, kHealed);
 }
 

@@ -1,12 +1,9 @@
 #include "store/schema.h"
 
-#include "runtime/runtime_error.h"
 #include "store/connection.h"
+#include "store/migrations.h"
 #include "store/sql_text.h"
 #include "store/tables.h"
-
-#include <QDir>
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -122,14 +119,6 @@ QByteArray indexSql(const SchemaIndex& index) {
            quotedName(index.table.toString()) + " (" + key + ')';
 }
 
-void makeEmptyFile(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner))
-        throw RuntimeError(
-            RuntimeError::PathFileAccess,
-            QStringLiteral("无法新建账本文件“%1”：%2。").arg(QDir::toNativeSeparators(path), file.errorString()));
-}
-
 } // namespace
 
 std::span<const SchemaTable> schemaTables() {
@@ -137,11 +126,11 @@ std::span<const SchemaTable> schemaTables() {
 }
 
 void createStore(const QString& path) {
-    makeEmptyFile(path);
-    Connection connection(path);
+    Connection connection = Connection::made(path);
     connection.begin();
     std::ranges::for_each(Tables, [&](const SchemaTable& table) { connection.run(tableSql(table)); });
     std::ranges::for_each(Indexes, [&](const SchemaIndex& index) { connection.run(indexSql(index)); });
+    connection.setVersion(CurrentVersion);
     connection.commit();
 }
 

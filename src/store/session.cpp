@@ -1,6 +1,7 @@
 #include "store/session.h"
 
 #include "runtime/runtime_error.h"
+#include "store/migrations.h"
 #include "store/selection.h"
 #include "store/sql_text.h"
 
@@ -24,8 +25,10 @@ QByteArray placeholders(qsizetype count) {
 
 } // namespace
 
-Session::Session(const QString& path, const ThisYear& thisYear)
-    : m_thisYear(thisYear), m_connection(path), m_dataVersion(m_connection.dataVersion()) {}
+Session::Session(const QString& path, const ThisYear& thisYear) : m_thisYear(thisYear), m_connection(path) {
+    bringUpToDate(m_connection);
+    m_dataVersion = m_connection.dataVersion();
+}
 
 std::shared_ptr<const ResultSet> Session::fetch(const QString& source) {
     flushDeletions();

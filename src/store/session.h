@@ -16,7 +16,7 @@ namespace qinghe {
 /// after one is decided by Store.
 class Session {
 public:
-    /// `thisYear` is the store's, which outlives its sessions.
+    /// Opens the file and brings it up to date. `thisYear` is the store's, which outlives its sessions.
     Session(const QString& path, const ThisYear& thisYear);
 
     std::shared_ptr<const ResultSet> fetch(const QString& source);

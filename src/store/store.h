@@ -14,7 +14,8 @@ struct ResultShape;
 struct StoredValue;
 
 /// The one open data file of the process, shared by all data controls. Opened by the first use, without ever creating
-/// the file. Rollback journal, durable commits.
+/// the file. Rollback journal, durable commits. A file of an earlier version is brought up to date as it is opened, one
+/// of a later version is refused (StoreFailure); see migrations.h.
 ///
 /// Unit of work: the first write opens a transaction; commit() ends it. The handler guard calls commit() when the
 /// outermost handler returns, before any message box, and when a run-time error stops a handler. A store that goes out

@@ -1,0 +1,116 @@
+#include "store/migrations.h"
+
+#include "runtime/runtime_error.h"
+#include "store/connection.h"
+#include "store/data_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LastVersion = 9999; ///< beyond it a number is no version but damage
+
+/// Gives the version that a number in the file stands for.
+int versionOf(int number, const QString& path, int newest) {
+    const QString shown = QDir::toNativeSeparators(path);
+    if (number < 0 || number > LastVersion)
+        throw RuntimeError(
+            RuntimeError::StoreFailure,
+            u"“%1”的版本号是 %2，不是账本的版本号，文件可能已经损坏。请改用一份备份文件。"_s.arg(shown).arg(number));
+    if (number > newest)
+        throw RuntimeError(RuntimeError::StoreFailure,
+                           u"“%1”是第 %2 版的账本，这个程序只能读到第 %3 版。请安装新版的程序，再使用它。"
+                           u"账本没有改动。"_s.arg(shown)
+                               .arg(number)
+                               .arg(newest));
+    return std::max(number, FirstVersion);
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A name beside the file that is free, or that a file of the same content bears.
+QString nameForCopy(const QString& path, int version, const QByteArray& content) {
+    const QFileInfo file(path);
+    const QString base = file.dir().filePath(u"%1.版本%2"_s.arg(file.completeBaseName()).arg(version));
+    QString name = base + u".dat"_s;
+    for (int number = 2; QFileInfo::exists(name) && contentOf(name) != content; ++number)
+        name = base + u"-%1.dat"_s.arg(number);
+    return name;
+}
+
+/// The bytes of a copy are durable under a name that says it is unfinished before the copy gets its own. This name is
+/// as durable as the first page that a step writes, since both need the folder to be synced before.
+void keepCopy(Connection& connection, int version) {
+    const QString unfinished = connection.path() + u".unfinished"_s;
+    const auto removeUnfinished = [&] {
+        QFile::remove(unfinished);
+        QFile::remove(journalOf(unfinished));
+    };
+    removeUnfinished();
+    try {
+        connection.copyTo(unfinished);
+        const QString name = nameForCopy(connection.path(), version, contentOf(unfinished));
+        if (!QFileInfo::exists(name) && !QFile::rename(unfinished, name))
+            throw RuntimeError(RuntimeError::PathFileAccess,
+                               u"无法写入文件“%1”。"_s.arg(QDir::toNativeSeparators(name)));
+    } catch (const RuntimeError& error) {
+        removeUnfinished();
+        throw RuntimeError(error.number(),
+                           u"账本要换成新版的格式，但没能先留一份副本，账本没有改动。"_s + error.text());
+    }
+    removeUnfinished();
+}
+
+void runSteps(Connection& connection, int version, std::span<const Migration> steps) {
+    for (const Migration& step : steps) {
+        if (step.to > version)
+            step.run(connection);
+    }
+    connection.setVersion(versionAfter(steps));
+}
+
+} // namespace
+
+void requireKnownVersion(const QString& path) {
+    constexpr qsizetype numberAt = 60;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    const QByteArray head = file.read(numberAt + 4);
+    if (head.size() == numberAt + 4 && head.startsWith('S') && head.sliced(3, 13) == QByteArray("ite format 3\0", 13))
+        versionOf(qFromBigEndian<qint32>(head.constData() + numberAt), path, CurrentVersion);
+}
+
+void bringUpToDate(Connection& connection, std::span<const Migration> steps) {
+    const int newest = versionAfter(steps);
+    const int version = versionOf(connection.version(), connection.path(), newest);
+    if (version == newest)
+        return;
+    const qint64 seen = connection.dataVersion();
+    keepCopy(connection, version);
+    connection.begin();
+    try {
+        if (connection.dataVersion() != seen)
+            throw RuntimeError(RuntimeError::FileLocked, u"账本文件“%1”正被别的程序占用，请关闭那个程序后再试。"_s.arg(
+                                                             QDir::toNativeSeparators(connection.path())));
+        runSteps(connection, version, steps);
+        connection.commit();
+    } catch (...) {
+        connection.rollBack();
+        throw;
+    }
+}
+
+} // namespace qinghe
