@@ -194,7 +194,7 @@ void ChartsPage::draw(Recordset& records, ChartLabels labels) {
 }
 
 void ChartsPage::pickDate(DateField field, TextBox& box) {
-    m_shared.openDatePicker(field, FieldTarget(&box), box.Height() + PickerGap);
+    m_shared.openDatePicker(field, FieldTarget(&box), placeBelow(box, box.Height() + PickerGap));
 }
 
 void ChartsPage::Form2_Text1_Click() {
@@ -222,7 +222,7 @@ void ChartsPage::Form2_Command25_Click() {
 }
 
 void ChartsPage::Form2_Frame1_Click() {
-    // The strip closes the editors of the loans and of the ledger, not its own boxes, and is meant to: the loans' box
+    // The strip closes the editors of the loans and of the ledger, not its own boxes: the loans' box
     // goes into both grids.
     const auto loans = m_shared.editors.find(names::LoanGrid), ledger = m_shared.editors.find(names::LedgerGrid);
     if (loans == m_shared.editors.end() || ledger == m_shared.editors.end())

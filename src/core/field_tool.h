@@ -22,6 +22,9 @@ struct FieldTarget {
     int row = 0, col = 0; ///< where the box stood when the tool was opened
 };
 
+/// The place on the screen at a control's left edge, so many twips below its upper one; for a tool that hangs there.
+QPointF placeBelow(const QWidget& control, double twips);
+
 /// A window that hangs under a field and fills it. Asked for anew while it is open it serves the new field.
 class FieldTool : public Form {
     Q_OBJECT

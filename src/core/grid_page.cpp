@@ -106,13 +106,17 @@ GridPage::Kind GridPage::kindOf(int column) const {
 
 // ---- the box over its cell
 
+QPointF GridPage::toolPlace() const {
+    return placeBelow(*m_editing.box, m_editing.box->Height());
+}
+
 void GridPage::openDatePicker() {
-    m_shared.openDatePicker(traits.dateField, {m_editing.box, m_grid}, m_editing.box->Height());
+    m_shared.openDatePicker(traits.dateField, {m_editing.box, m_grid}, toolPlace());
 }
 
 void GridPage::openCalculator() {
     m_editing.box->setUsable(false);
-    m_shared.openCalculator(traits.amountField, {m_editing.box, m_grid}, m_editing.box->Height());
+    m_shared.openCalculator(traits.amountField, {m_editing.box, m_grid}, toolPlace());
 }
 
 void GridPage::cellClicked() {

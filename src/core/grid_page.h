@@ -121,6 +121,7 @@ private:
     int lastColumn() const { return static_cast<int>(list().columns.size()); }
     Kind kindOf(int column) const;
     bool opensCalculatorOnEnter(int column) const;
+    QPointF toolPlace() const;
     void openDatePicker();
     void openCalculator();
 

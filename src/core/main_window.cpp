@@ -20,7 +20,7 @@ constexpr double FormWidth = 12000, FormHeight = 8100; // twips
 constexpr int Minimised = 1, Normal = 0;
 constexpr int LateReportMs = 250;     ///< how long a busy window manager may still tell of the way to the tray
 constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
-constexpr int OtherTrayMessage = 130; ///< compared as well, and meant
+constexpr int OtherTrayMessage = 130; ///< of another kind of tray
 
 bool bringsBack(double message) {
     return message == OtherTrayMessage || message == LeftButtonDown;
@@ -47,7 +47,7 @@ void MainWindow::bindEvents() {
     Click = [this] { Form2_Form_Click(); };
     MouseDown = [this](double x, double y) { Form2_Form_MouseDown(x, y); };
     MouseMove = [this](double x, double y) { Form2_Form_MouseMove(x, y); };
-    MouseUp = [this](double, double) { dragging = 0; };
+    MouseUp = [this](double, double) { dragging = false; };
     Resize = [this] { Form2_Form_Resize(); };
     // The desktop may close the window (a shortcut of the window manager); the program ends like any other then: the
     // header stays healed and the pictures stay.
@@ -128,7 +128,7 @@ void MainWindow::Form2_Form_Click() {
 
 void MainWindow::Form2_Form_MouseDown(double x, double y) {
     m_shared.hideDatePicker();
-    dragging = 1;
+    dragging = true;
     dragStartX = roundedInt16(x);
     m_shared.emptyRowFlag = roundedInt16(y); // dragStartY
 }
@@ -143,7 +143,7 @@ void MainWindow::Form2_Form_MouseMove(double x, double y) {
             m_sinceReturn.start();
         }
     }
-    if (dragging == 1)
+    if (dragging)
         moveTo(Left() + x - dragStartX, Top() + y - m_shared.emptyRowFlag);
     m_navigation.markCurrent();
 }

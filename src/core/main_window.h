@@ -48,7 +48,7 @@ private:
 
     QElapsedTimer m_sinceReturn; ///< from the tray
 
-    Int16 dragging;
+    bool dragging = false;
     Int16 dragStartX; // dragStartY is emptyRowFlag, which is shared
 };
 

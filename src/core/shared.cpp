@@ -7,22 +7,6 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The upper left corner of a control on the screen, in twips.
-QPointF cornerOf(const QWidget& control) {
-    QPointF corner;
-    for (const QWidget* widget = &control; widget; widget = widget->parentWidget()) {
-        const Placed* const placed = Placed::of(widget);
-        corner += QPointF(placed->Left(), placed->Top());
-        if (widget->isWindow())
-            break;
-    }
-    return corner;
-}
-
-} // namespace
-
 Adodc* Shared::newControl(const QString& name, QObject* parent) {
     return new Adodc(store, name, connection(), parent);
 }
@@ -59,21 +43,20 @@ void Shared::hideDatePicker() {
         picker->setShown(false);
 }
 
-void Shared::openDatePicker(DateField field, const FieldTarget& target, double below) {
+void Shared::openDatePicker(DateField field, const FieldTarget& target, QPointF place) {
     dateTarget = static_cast<int>(field);
-    openTool(names::DatePicker, target, below);
+    openTool(names::DatePicker, target, place);
 }
 
-void Shared::openCalculator(AmountField field, const FieldTarget& target, double below) {
+void Shared::openCalculator(AmountField field, const FieldTarget& target, QPointF place) {
     calcTarget = static_cast<int>(field);
-    openTool(names::Calculator, target, below);
+    openTool(names::Calculator, target, place);
 }
 
-void Shared::openTool(const FormName<FieldTool>& name, const FieldTarget& target, double below) {
-    const QPointF corner = cornerOf(*target.box);
+void Shared::openTool(const FormName<FieldTool>& name, const FieldTarget& target, QPointF place) {
     FieldTool& tool = forms.get(name);
     tool.serve(target);
-    tool.moveTo(corner.x(), corner.y() + below);
+    tool.moveTo(place.x(), place.y());
     tool.showForm();
     tool.keepOnScreen();
 }

@@ -36,11 +36,12 @@ public:
     /// The floating editors by the names of their grids, entered by the pages. A click on one page's frame closes
     /// another page's editor, and one page borrows the row number of another's grid.
     std::map<QStringView, EditorTarget> editors;
-    /// The current row of the loan grid: there go the empty texts that several other lists read, and are meant to.
+    /// The current row of the loan grid, the one row number that all lists share: there go the empty texts that several
+    /// of them read.
     int loanRow() const { return editors.at(names::LoanGrid).grid->Row(); }
 
     /// The categories' sticky mark of a filled row. It is one variable with the place where a drag of the main window
-    /// began (dragStartY): a press on the bare form disturbs the mark, and is meant to.
+    /// began (dragStartY): a press on the bare form disturbs the mark.
     Int16 emptyRowFlag;
 
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
@@ -70,16 +71,16 @@ public:
     /// Takes the date picker out of sight, if it is loaded.
     void hideDatePicker();
 
-    /// Shows the tool for a field, so many twips below the box's upper edge, at its left one, without blocking.
-    void openDatePicker(DateField field, const FieldTarget& target, double below);
-    void openCalculator(AmountField field, const FieldTarget& target, double below);
+    /// Shows the tool for a field at a place on the screen (twips), without blocking.
+    void openDatePicker(DateField field, const FieldTarget& target, QPointF place);
+    void openCalculator(AmountField field, const FieldTarget& target, QPointF place);
     /// What a message says in the usual way: information with one button.
     void tell(const QString& text, const QString& title) const {
         services.say(text, MessageStyle::OkInformation, title);
     }
 
 private:
-    void openTool(const FormName<FieldTool>& name, const FieldTarget& target, double below);
+    void openTool(const FormName<FieldTool>& name, const FieldTarget& target, QPointF place);
 };
 
 } // namespace qinghe

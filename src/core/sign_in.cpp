@@ -172,8 +172,8 @@ void SignIn::Form5_Combo1_Click() {
 
 void SignIn::Form5_Label3_Click() {
     // The flag alone decides, not the box: after a remembered start the first click leaves the box ticked.
-    rememberFlag = rememberFlag ? 0 : 1;
-    Check1->setValue(rememberFlag != 0);
+    rememberFlag = !rememberFlag;
+    Check1->setValue(rememberFlag);
 }
 
 void SignIn::Form5_Image1_Click() {

@@ -88,7 +88,7 @@ void DiaryPage::Form2_Option6_Click() {
     m_shared.unloadDatePicker();
     tx8->setBoxText({});
     ms8->setRows(2);
-    diarySearchMode = 0;
+    diarySearchMode = false;
     m_editing.close();
     m_buttons.setUsable(true);
     blankRows(*ms8);
@@ -97,13 +97,13 @@ void DiaryPage::Form2_Option6_Click() {
 
 void DiaryPage::Form2_Option5_Click() {
     m_shared.unloadDatePicker();
-    diarySearchMode = 1;
+    diarySearchMode = true;
     m_editing.close();
     m_buttons.setUsable(false);
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
     m_entries = Adodc1.loaded();
     ms8->setRows(2);
-    // An empty text blanks the row where the loan grid stands, and is meant to.
+    // An empty text goes to the row number that all lists share, the loan grid's.
     fillList(*ms8, entries, shownFields(Columns), [this] { return m_shared.loanRow(); });
 }
 
@@ -111,7 +111,7 @@ void DiaryPage::Form2_Option5_Click() {
 
 void DiaryPage::Form2_ms8_Click() {
     tx8->setBoxText({});
-    if (diarySearchMode == 1)
+    if (diarySearchMode)
         showEntry();
     else
         editCell();
@@ -126,7 +126,7 @@ void DiaryPage::editCell() {
 }
 
 void DiaryPage::openPicker() {
-    m_shared.openDatePicker(DateField::Diary, {m_editing.box, ms8}, PickerGap);
+    m_shared.openDatePicker(DateField::Diary, {m_editing.box, ms8}, placeBelow(*m_editing.box, PickerGap));
 }
 
 void DiaryPage::showEntry() {
@@ -134,7 +134,7 @@ void DiaryPage::showEntry() {
     const QString title = ms8->Text();
     if (m_entries->records().recordCount() == 0 || title.isEmpty() || ms8->Col() == DateColumn)
         return;
-    // The text runs on over its line ends, and is meant to.
+    // The text runs on over its line ends: an entry is read as one paragraph.
     tx8->setBoxText(diary::readLines(fileOf(title)));
 }
 

@@ -9,7 +9,8 @@ namespace qinghe {
 
 /// The diary page, `Frame10`. An entry is a row of `rjb` (date and title) and a text file named after the title. In
 /// write mode the grid holds one new entry; in find mode it lists all of them, and a click on a title shows its text.
-/// An entry cannot be changed once it is saved. Deleting takes a row by its place and leaves the file: both are meant.
+/// An entry cannot be changed once it is saved. Deleting takes a row by its place, and leaves the file:
+/// no text is lost with its row.
 class DiaryPage : public Page {
     Q_OBJECT
 
@@ -51,7 +52,7 @@ private:
 
     std::shared_ptr<LoadedSet> m_entries; ///< that the grid lists in find mode
 
-    Int16 diarySearchMode; ///< 1 in find mode
+    bool diarySearchMode = false; ///< in find mode
 };
 
 } // namespace qinghe

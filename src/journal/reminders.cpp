@@ -42,10 +42,10 @@ void Reminders::pause() {
 }
 
 void Reminders::Form2_Timer2_Timer() {
-    if (remindersChecked != 1) {
+    if (!remindersChecked) {
         if (!anyPlanToday())
             return Timer2->setEnabled(false);
-        remindersChecked = 1;
+        remindersChecked = true;
     }
     ringDue();
 }

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr PageTab Tabs[] = {{u"Label23", u"  日程", 9720, PageCode::Schedule}};
-/// The users' page stays as it stands behind this one, and is meant to.
+/// The users' page stays as it stands behind this one, which covers it.
 constexpr PageTraits Schedule{u"Frame17", u"日程提醒", 120, 1680, 11655, 6015, Tabs, names::UsersFrame};
 
 constexpr double PickerGap = 500; ///< twips from the top of the date to the picker
@@ -128,7 +128,7 @@ void SchedulePage::Form2_Label23_Click() {
 }
 
 void SchedulePage::fillLists() {
-    // Not emptied first: each visit adds the same entries once more, and is meant to.
+    // Not emptied first, which would take what is chosen in them: each visit adds the same entries once more.
     for (int piece = 1; piece <= Pieces; ++piece)
         Combo1->addEntry(u"音乐"_s + QString::number(piece));
     for (int hour = 0; hour < Hours; ++hour)
@@ -153,7 +153,7 @@ void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
 }
 
 void SchedulePage::Form2_Text4_Click() {
-    m_shared.openDatePicker(DateField::Schedule, FieldTarget(Text4), PickerGap);
+    m_shared.openDatePicker(DateField::Schedule, FieldTarget(Text4), placeBelow(*Text4, PickerGap));
 }
 
 void SchedulePage::Form2_Combo1_Click() {
@@ -181,7 +181,7 @@ bool SchedulePage::refusesGap() {
 }
 
 void SchedulePage::writePlan(const DateValue& setAt) {
-    scheduleSaved = 1;
+    scheduleSaved = true;
     Recordset& plans = Adodc1.open(tables::Schedule.toString());
     plans.addNew();
     plans.field(columns::WrittenOn).setValue(setAt);
@@ -210,12 +210,12 @@ void SchedulePage::openFreshPlan() {
     Command28->setUsable(true);
     ++scheduleNumber;
     Label3->setCaption(QString::number(scheduleNumber) + u"日程"_s);
-    scheduleSaved = 0;
+    scheduleSaved = false;
     Text3->setBoxText({});
 }
 
 void SchedulePage::Form2_Command26_Click() {
-    if (scheduleSaved == 1)
+    if (scheduleSaved)
         return openFreshPlan();
     if (Text3->Text().isEmpty()) {
         m_shared.tell(u"当前您可以在左侧添加新的日程安排！"_s, u"操作提示"_s);
@@ -227,7 +227,7 @@ void SchedulePage::Form2_Command26_Click() {
     }
     if (refusesGap())
         return;
-    // Here a plan is set on a day, without a time, and the reminders are left as they are: both are meant.
+    // Kept in passing, on the way to the next plan: with the day alone, and without a word to the reminders.
     writePlan({m_shared.services.clock->today(), {}});
     m_shared.tell(u"当前记录以保存！"_s, u"提示"_s);
     Command28->setUsable(false);
@@ -242,7 +242,7 @@ void SchedulePage::Form2_Command27_Click() {
                 u"分，设置日期为："_s + plans.field(columns::WrittenOn).text() + u"\r\n"_s;
     Text3->setBoxText(list.isEmpty() ? plans::NoneToday.toString() : list);
     Command28->setUsable(false);
-    scheduleSaved = 1;
+    scheduleSaved = true;
 }
 
 } // namespace qinghe

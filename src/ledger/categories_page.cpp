@@ -127,7 +127,7 @@ void CategoriesPage::open(const Classification& chosen) {
     m_majors = Adodc1.loaded();
     minors.layOut(chosen.minors);
     majors.layOut(chosen.majors);
-    // An empty name is blanked in the row where the loan grid stands, wherever it was met here; meant.
+    // An empty name goes to the row number that all lists share, wherever it was met here.
     majors.fill(records, [this] { return m_shared.loanRow(); });
     blankRows(*minors.grid);
     navigation().bringForward(*this);

@@ -184,7 +184,7 @@ void IncomeExpensePage::Form2_Option8_Click() {
 }
 
 void IncomeExpensePage::Form2_Option9_Click() {
-    // A calculator stays open here, and is meant to.
+    // A calculator stays open here: somebody may be reckoning with what the report shows.
     if (pickerIsVisible())
         m_shared.unloadDatePicker();
     closeEditing();

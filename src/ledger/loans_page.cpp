@@ -159,7 +159,7 @@ void LoansPage::choose() {
 void LoansPage::showTotal() {
     Recordset& sums = Adodc1.open(chosen().totalSource.toString());
     if (!sums.field(0).differsFromEmpty()) {
-        // The word for lent stands on the borrowed list too, and is meant to: it is the line of a list without loans.
+        // One line for both lists: that of a list without loans.
         Label11->setCaption(u"当前借出总额为："_s + money::none());
         return;
     }

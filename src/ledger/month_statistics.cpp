@@ -80,7 +80,7 @@ void MonthStatistics::showPeople() {
         for (int column = 1; column <= rows.fieldCount(); ++column) {
             const Field field = rows.field(column - 1);
             // A name that reads as a number is shown as money, because any text that does is taken for a sum, and an
-            // empty one goes to the row number of the loan grid; both are meant.
+            // empty one goes to the row number that all lists share, the loan grid's.
             if (field.differsFromEmpty())
                 ms2.setTextMatrix(ms2.Row(), column,
                                   isNumeric(field.text()) ? money::amount(field.value()) : field.text());

@@ -8,7 +8,7 @@ namespace qinghe {
 /// and item. They read the statistics table `sztjlsb` alone, which is as old as the last opening of the page.
 ///
 /// The month's key has no leading zero while the table holds the first seven characters of a date, so that from January
-/// to September a report normally finds nothing; this is meant.
+/// to September a report normally finds nothing. Who changes the key changes which rows a household sees counted.
 class MonthStatistics {
 public:
     /// ledgerSide: 1 income, 0 expense.

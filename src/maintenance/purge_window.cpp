@@ -103,7 +103,7 @@ void PurgeWindow::unloaded() {
 }
 
 void PurgeWindow::Form3_Text1_Click() {
-    m_shared.openDatePicker(DateField::Purge, FieldTarget(Text1), Text1->Height() + PickerGap);
+    m_shared.openDatePicker(DateField::Purge, FieldTarget(Text1), placeBelow(*Text1, Text1->Height() + PickerGap));
 }
 
 void PurgeWindow::setDateShown(bool shown) {
@@ -117,7 +117,7 @@ void PurgeWindow::Form3_Check1_Click() {
     Text1->setUsable(true);
     const bool accounts = Checks[Accounts]->Value();
     if (accounts) {
-        // Other kinds that are ticked are left without a date then, and are meant to.
+        // Accounts have no date, so none stands there; other kinds that are ticked ask for one then.
         Text1->setBoxText({});
         Frame2->setShown(true);
     }
