@@ -123,7 +123,6 @@ void SchedulePage::Form2_Label23_Click() {
     navigation().leaveOthers(*this, PageCode);
     Adodc1.setConnectionString(m_shared.connection());
     navigation().bringForward(*this);
-    MM1.setVisible(false);
     Adodc1.setVisible(false);
     fillLists();
     scheduleNumber = 1;
