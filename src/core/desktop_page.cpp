@@ -68,7 +68,7 @@ QString sumQuery(const SumColumn& row, const QString& month) {
 DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
     : Page(navigation, DesktopTraits), m_shared(shared), Adodc1(store) {
     Frame& page = frame();
-    page.setRole(Role::DesktopFrame);
+    page.setRole(Role::PageFrame);
     Image2 = new Image(&page, u"Image2"_s);
     Image2->place(60, 240, 11415, 5835);
     Image2->setRole(Role::Picture);

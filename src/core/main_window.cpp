@@ -2,7 +2,6 @@
 
 #include "core/stored_choice.h"
 #include "core/stored_picture.h"
-#include "core/tray_icon.h"
 #include "core/window_shape.h"
 #include "platform/files.h"
 #include "store/data_file.h"
@@ -20,7 +19,7 @@ constexpr double FormWidth = 12000, FormHeight = 8100; // twips
 constexpr int Minimised = 1, Normal = 0;
 constexpr int LateReportMs = 250;     ///< how long a busy window manager may still tell of the way to the tray
 constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
-constexpr int OtherTrayMessage = 130; ///< of another kind of tray
+constexpr int OtherTrayMessage = 130; ///< brings the window back as well
 
 bool bringsBack(double message) {
     return message == OtherTrayMessage || message == LeftButtonDown;
@@ -99,13 +98,15 @@ void MainWindow::toTray() {
             setWindowState(Minimised);
         return;
     }
-    m_shared.services.tray->add(trayDataFor(*this), [this](int message) { onTrayMessage(message); });
+    m_shared.services.tray->add(productName(), [this](int message) { onTrayMessage(message); });
     // Hidden at the next turn: the window system is still at work on the change of state that brought us here.
     QTimer::singleShot(0, this, [this] { handlers::enter([this] { setShown(false); }); });
 }
 
 void MainWindow::onTrayMessage(int message) {
-    Form2_Form_MouseMove(message * TwipsPerPixel, 0);
+    comeBack(message);
+    // For the rest it is a move of the pointer, to as many pixels.
+    followPointer(message * TwipsPerPixel, 0);
     // A window on view may be covered. The pointer on its way over the window gives the same numbers, and must not pull
     // it over others.
     if (bringsBack(message))
@@ -134,15 +135,22 @@ void MainWindow::Form2_Form_MouseDown(double x, double y) {
 }
 
 void MainWindow::Form2_Form_MouseMove(double x, double y) {
-    // Tray events arrive here too, as a place that is the event's number in pixels.
-    if (bringsBack(x / TwipsPerPixel)) {
-        if (WindowState() != Normal)
-            setWindowState(Normal);
-        if (!Visible()) {
-            showForm();
-            m_sinceReturn.start();
-        }
+    comeBack(x / TwipsPerPixel);
+    followPointer(x, y);
+}
+
+void MainWindow::comeBack(double message) {
+    if (!bringsBack(message))
+        return;
+    if (WindowState() != Normal)
+        setWindowState(Normal);
+    if (!Visible()) {
+        showForm();
+        m_sinceReturn.start();
     }
+}
+
+void MainWindow::followPointer(double x, double y) {
     if (dragging)
         moveTo(Left() + x - dragStartX, Top() + y - m_shared.emptyRowFlag);
     m_navigation.markCurrent();

@@ -48,8 +48,6 @@ SignIn::SignIn(Shared& shared)
     Image1->place(4320, 0, 375, 375);
     Image2->place(4680, 0, 495, 375);
     Text2->setEchoMode(QLineEdit::Password);
-    Text2->setRole(Role::SignInField);
-    Combo1->setRole(Role::SignInField);
     Label1->setRole(Role::SignInButton);
     Image1->setGlyph(Glyph::Minimise);
     Image2->setGlyph(Glyph::Close);

@@ -1,7 +1,7 @@
 #include "tools/calculator.h"
 
 #include "core/hover.h"
-#include "look/fields.h"
+#include "look/field_painter.h"
 
 #include <QKeyEvent>
 
