@@ -57,7 +57,7 @@ struct LoansPage::Loans {
     List list;
     QStringView frameCaption;
     QStringView totalSource;
-    QStringView total; ///< %1 and on stand for the sums, %4 for the sign
+    QStringView total; ///< %1 and on stand for the sums, ¤ for the sign of money
 };
 
 const LoansPage::Loans& LoansPage::borrowed() {
@@ -65,7 +65,7 @@ const LoansPage::Loans& LoansPage::borrowed() {
         {tables::Borrowed, BorrowedColumns},
         u"借入记录",
         u"select sum(借入金额) as 借入金额 from jrb ",
-        u"当前借入总额为：%1%4 ",
+        u"当前借入总额为：%1¤ ",
     };
     return loans;
 }
@@ -75,7 +75,7 @@ const LoansPage::Loans& LoansPage::lent() {
         {tables::Lent, LentColumns},
         u"借出表",
         u"select sum(借出金额) as 借出金额,sum(已还金额) as 已还金额,sum(余额) as 余额 from jcb ",
-        u"当前借出总额为：%1%4 ，已还金额为：%2 %4，目前余额为%3 %4",
+        u"当前借出总额为：%1¤ ，已还金额为：%2 ¤，目前余额为%3 ¤",
     };
     return loans;
 }
@@ -163,10 +163,10 @@ void LoansPage::showTotal() {
         Label11->setCaption(u"当前借出总额为："_s + money::none());
         return;
     }
-    QStringList amounts;
-    for (int i = 0; i < 3; ++i)
-        amounts << (i < sums.fieldCount() ? money::amount(sums.field(i).value()) : QString());
-    Label11->setCaption(chosen().total.toString().arg(amounts[0], amounts[1], amounts[2], money::Sign));
+    QString total = chosen().total.toString().replace(u'¤', money::Sign.toString());
+    for (int i = 0; i < sums.fieldCount(); ++i)
+        total = total.arg(money::amount(sums.field(i).value()));
+    Label11->setCaption(total);
 }
 
 } // namespace qinghe

@@ -1,3 +1,4 @@
+#include "maintenance/purge_window.h"
 #include "settings_rig.h"
 
 // The settings page: how it opens, what stands where, the hand over it, and the way to the categories.
