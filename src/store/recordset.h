@@ -29,7 +29,7 @@ class ResultSet;
 /// closed or replaced since, for writing and for values that are to be read again; and what the store throws.
 class Recordset {
 public:
-    Recordset(Store& store, std::shared_ptr<const ResultSet> rows);
+    Recordset(Store& store, std::shared_ptr<ResultSet> rows);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;

@@ -94,7 +94,7 @@ const QString& Store::path() const {
     return m->path;
 }
 
-std::shared_ptr<const ResultSet> Store::fetch(const QString& source) {
+std::shared_ptr<ResultSet> Store::fetch(const QString& source) {
     return m->run([&](Session& session) { return session.fetch(source); });
 }
 
@@ -142,11 +142,6 @@ void Store::requireGeneration(int generation) {
 
 std::shared_ptr<const ResultSet> Store::fetchAgain(const ResultShape& shape, qint64 first, qint64 last) {
     return m->run([&](Session& session) { return session.fetchAgain(shape, first, last); });
-}
-
-void Store::restLater(const std::shared_ptr<ResultSet>& rows) {
-    if (m->open)
-        m->open->restLater(rows);
 }
 
 qint64 Store::insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values) {
