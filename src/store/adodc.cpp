@@ -5,6 +5,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 Adodc::Adodc(Store& store, const QString& name, QObject* parent) : Adodc(store, name, QString(), parent) {}
 
 Adodc::Adodc(Store& store, const QString& name, const QString& home, QObject* parent)
@@ -20,8 +22,7 @@ void Adodc::refresh() {
 
 Recordset& Adodc::recordset() {
     if (!m_loaded)
-        throw RuntimeError(RuntimeError::ObjectNotSet,
-                           QStringLiteral("数据控件“%1”还没有打开记录。").arg(objectName()));
+        throw RuntimeError(RuntimeError::ObjectNotSet, u"数据控件“%1”还没有打开记录。"_s.arg(objectName()));
     return m_loaded->asRead();
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 [[noreturn]] void throwNoCurrentRecord() {
     throw RuntimeError(RuntimeError::NoCurrentRecord,
-                       QStringLiteral("没有当前记录：表中没有记录，已经到了末尾，或者这条记录已被删除。"));
+                       u"没有当前记录：表中没有记录，已经到了末尾，或者这条记录已被删除。"_s);
 }
 
 } // namespace
@@ -80,66 +80,66 @@ struct Recordset::Impl {
 };
 
 Recordset::Recordset(Store& store, std::shared_ptr<ResultSet> rows)
-    : m(std::make_unique<Impl>(store, std::move(rows))) {}
+    : m_impl(std::make_unique<Impl>(store, std::move(rows))) {}
 Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 
 bool Recordset::isVoid() const {
-    return !m->rows.isCurrent();
+    return !m_impl->rows.isCurrent();
 }
 
 int Recordset::recordCount() const {
-    return m->cursor.count();
+    return m_impl->cursor.count();
 }
 
 bool Recordset::eof() const {
-    return m->atEnd();
+    return m_impl->atEnd();
 }
 
 void Recordset::moveFirst() {
     update();
-    m->cursor.toFirst();
-    m->requireRow();
+    m_impl->cursor.toFirst();
+    m_impl->requireRow();
 }
 
 void Recordset::moveNext() {
     update();
     if (eof())
         throwNoCurrentRecord();
-    m->cursor.toNext();
+    m_impl->cursor.toNext();
 }
 
 void Recordset::setAbsolutePosition(int position) {
     update();
-    m->cursor.toPosition(position);
-    m->requireRow();
+    m_impl->cursor.toPosition(position);
+    m_impl->requireRow();
 }
 
 void Recordset::addNew() {
     update();
-    m->requireWritable();
-    m->pending.begin();
+    m_impl->requireWritable();
+    m_impl->pending.begin();
 }
 
 void Recordset::update() {
-    if (m->pending.isEmpty())
+    if (m_impl->pending.isEmpty())
         return;
-    m->requireWritable();
-    m->pending.isNew() ? m->storeAddedRow() : m->storeChangedFields();
-    m->pending.clear();
+    m_impl->requireWritable();
+    m_impl->pending.isNew() ? m_impl->storeAddedRow() : m_impl->storeChangedFields();
+    m_impl->pending.clear();
 }
 
 void Recordset::deleteCurrent() {
-    const bool givenUp = m->pending.isNew();
-    m->pending.clear();
+    const bool givenUp = m_impl->pending.isNew();
+    m_impl->pending.clear();
     if (givenUp)
         return;
-    m->requireRow();
-    m->requireWritable();
-    for (const qint64 identity : m->rows.identities(m->cursor.row()))
-        m->store.deleteRow(m->rows.shape().table, identity);
-    m->cursor.deleteRow();
+    m_impl->requireRow();
+    m_impl->requireWritable();
+    for (const qint64 identity : m_impl->rows.identities(m_impl->cursor.row()))
+        m_impl->store.deleteRow(m_impl->rows.shape().table, identity);
+    m_impl->cursor.deleteRow();
 }
 
 void Recordset::find(const QString& criterion) {
@@ -150,22 +150,22 @@ void Recordset::find(const QString& criterion) {
     const int column = field(sought.column).m_ordinal;
     const QString& text = sought.literals.front().text;
     const auto matches = [&](int row) {
-        const auto stored = m->rows.withValues(row);
+        const auto stored = m_impl->rows.withValues(row);
         return stored && !stored->isNull(column) && stored->text(column) == text;
     };
-    m->cursor.toFirst();
-    while (!eof() && !matches(m->cursor.row()))
-        m->cursor.toNext();
+    m_impl->cursor.toFirst();
+    while (!eof() && !matches(m_impl->cursor.row()))
+        m_impl->cursor.toNext();
 }
 
 int Recordset::fieldCount() const {
-    return m->columnCount();
+    return m_impl->columnCount();
 }
 
 void Recordset::readTexts(std::span<std::optional<QString>> texts) {
     const int count = static_cast<int>(texts.size());
-    const bool changed = !m->pending.isEmpty();
-    const auto row = changed ? std::nullopt : std::optional(m->currentRow());
+    const bool changed = !m_impl->pending.isEmpty();
+    const auto row = changed ? std::nullopt : std::optional(m_impl->currentRow());
     for (int i = 0; i < count; ++i) {
         auto& text = texts[static_cast<size_t>(i)];
         if (row ? row->isNull(i) : field(i).isNull())
@@ -177,15 +177,15 @@ void Recordset::readTexts(std::span<std::optional<QString>> texts) {
 
 Field Recordset::field(int ordinal) {
     if (ordinal < 0 || ordinal >= fieldCount())
-        throw RuntimeError(RuntimeError::NoSuchField, QStringLiteral("记录里没有第 %1 栏。").arg(ordinal + 1));
+        throw RuntimeError(RuntimeError::NoSuchField, u"记录里没有第 %1 栏。"_s.arg(ordinal + 1));
     return Field(*this, ordinal);
 }
 
 Field Recordset::field(QStringView name) {
-    const TableColumns& columns = m->rows.shape().columns;
+    const TableColumns& columns = m_impl->rows.shape().columns;
     const auto found = std::ranges::find(columns, name, &Column::name);
     if (found == columns.end())
-        throw RuntimeError(RuntimeError::NoSuchField, QStringLiteral("记录里没有“%1”这一栏。").arg(name));
+        throw RuntimeError(RuntimeError::NoSuchField, u"记录里没有“%1”这一栏。"_s.arg(name));
     return Field(*this, static_cast<int>(found - columns.begin()));
 }
 
@@ -196,9 +196,9 @@ QString Field::name() const {
 Value Field::value() const {
     if (pending())
         return *pending();
-    if (m_set->m->pending.isNew())
+    if (m_set->m_impl->pending.isNew())
         return {};
-    const StoredRow row = m_set->m->currentRow();
+    const StoredRow row = m_set->m_impl->currentRow();
     return row.rows->value(row.row, m_ordinal);
 }
 
@@ -222,7 +222,7 @@ bool Field::equalsEmpty() const {
 }
 
 void Field::setValue(const Value& value) {
-    auto& set = *m_set->m;
+    auto& set = *m_set->m_impl;
     set.requireWritable();
     if (!set.pending.isNew())
         set.requireRow();
@@ -231,7 +231,7 @@ void Field::setValue(const Value& value) {
 
 QByteArray Field::getChunk(int count) const {
     if (count < 0)
-        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("不能读取 %1 个字节。").arg(count));
+        throw RuntimeError(RuntimeError::InvalidCall, u"不能读取 %1 个字节。"_s.arg(count));
     return value().bytes().left(count);
 }
 
@@ -240,16 +240,16 @@ void Field::appendChunk(const QByteArray& bytes) {
 }
 
 const Column& Field::column() const {
-    return m_set->m->rows.shape().columns[static_cast<size_t>(m_ordinal)];
+    return m_set->m_impl->rows.shape().columns[static_cast<size_t>(m_ordinal)];
 }
 
 std::optional<StoredRow> Field::stored() const {
-    auto& set = *m_set->m;
+    auto& set = *m_set->m_impl;
     return !set.pending.isNew() && !pending() && set.cursor.onRow() ? std::optional(set.currentRow()) : std::nullopt;
 }
 
 const std::optional<Value>& Field::pending() const {
-    return m_set->m->pending.value(m_ordinal);
+    return m_set->m_impl->pending.value(m_ordinal);
 }
 
 } // namespace qinghe

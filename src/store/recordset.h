@@ -64,7 +64,7 @@ public:
 private:
     friend class Field;
     struct Impl;
-    std::unique_ptr<Impl> m;
+    std::unique_ptr<Impl> m_impl;
 };
 
 /// Stays with the set, not with the row: after a move it is that column of the new current row.
