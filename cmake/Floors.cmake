@@ -4,7 +4,8 @@
 add_library(qinghe_flags INTERFACE)
 target_compile_options(qinghe_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
-    -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wnull-dereference -Werror)
+    -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wnull-dereference
+    $<$<BOOL:${QINGHE_DEVELOP}>:-Werror>)
 target_compile_definitions(qinghe_flags INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(QINGHE_SANITIZE)

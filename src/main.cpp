@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
     watch.reset();
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator chinese;
-    if (chinese.load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (chinese.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&chinese);
     fonts.join();
     qinghe::dress(application);

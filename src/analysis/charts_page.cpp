@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/scratch_ledger.h"
 
 namespace qinghe {
 
@@ -9,11 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageCode = 12;
-constexpr PageTab Tabs[] = {{u"Label12", u"  图表", 6480, PageCode}};
+constexpr PageTab Tabs[] = {{u"Label12", u"  图表", 6480, PageCode::Charts}};
 constexpr PageTraits Charts{u"Frame15", u"图表分析", 120, 1680, 11655, 6225, Tabs};
 
-constexpr int MonthLength = 7; ///< characters of a date's text that make its month
 constexpr int Income = 1, Expense = 2;
 constexpr double PickerGap = 20; ///< twips between a date box and the picker under it
 
@@ -24,17 +23,16 @@ constexpr QStringView FirstDate = u"日期1", SecondDate = u"日期2";
 
 struct ChartsPage::QueryChart {
     OptionButton* ChartsPage::*option;
-    bool blankBehind; ///< the connection text's
-    const char16_t* query;
+    QStringView query;
     int kind = 0; ///< that can be narrowed to a range of dates, or 0
 };
 
 struct ChartsPage::MonthChart {
     OptionButton* ChartsPage::*option;
-    const char16_t* ledger;
-    const char16_t* work;
-    const char16_t* workAgain; ///< the name under which the emptied table is opened once more, if it is
-    const char16_t* sums;
+    QStringView ledger;
+    QStringView work;
+    QStringView workAgain; ///< the name under which the emptied table is opened once more, if it is
+    QStringView sums;
     bool refreshesBehind;
 };
 
@@ -102,14 +100,14 @@ void ChartsPage::makeQueryRow() {
 }
 
 void ChartsPage::Form2_Label12_Click() {
-    navigation().leaveOthers(*this, PageCode);
+    navigation().leaveOthers(*this, PageCode::Charts);
     navigation().show(*this);
     Option10->setValue(true);
     navigation().bringForward(*this);
 }
 
 void ChartsPage::Form2_Option10_Click() {
-    static constexpr QueryChart accounts{&ChartsPage::Option10, true, u"select 账户名称,余额 from zhb"};
+    static constexpr QueryChart accounts{&ChartsPage::Option10, u"select 账户名称,余额 from zhb"};
     show(accounts);
 }
 
@@ -117,7 +115,7 @@ void ChartsPage::Form2_Option11_Click() {
     static constexpr MonthChart income{&ChartsPage::Option11,
                                        u"select 时间,金额 from srb",
                                        u"nsrb",
-                                       nullptr,
+                                       {},
                                        u"select 时间,sum(金额)as 金额 from nsrb group by 时间",
                                        true};
     show(income);
@@ -134,13 +132,13 @@ void ChartsPage::Form2_Option12_Click() {
 }
 
 void ChartsPage::Form2_Option13_Click() {
-    static constexpr QueryChart income{&ChartsPage::Option13, false,
-                                       u"select 项目,sum(金额) as 总金额 from srb group by 项目", Income};
+    static constexpr QueryChart income{&ChartsPage::Option13, u"select 项目,sum(金额) as 总金额 from srb group by 项目",
+                                       Income};
     show(income);
 }
 
 void ChartsPage::Form2_Option15_Click() {
-    static constexpr QueryChart expense{&ChartsPage::Option15, true,
+    static constexpr QueryChart expense{&ChartsPage::Option15,
                                         u"select 项目,sum(金额) as 总金额 from zcb group by 项目", Expense};
     show(expense);
 }
@@ -149,8 +147,7 @@ void ChartsPage::show(const QueryChart& chart) {
     Frame1->setShown(chart.kind != 0);
     if (chart.kind != 0)
         chartKind = chart.kind;
-    Adodc1.setConnectionString(m_shared.connection(chart.blankBehind));
-    Recordset& records = Adodc1.open(QString::fromUtf16(chart.query));
+    Recordset& records = Adodc1.open(chart.query.toString());
     if (refuseEmpty(records, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
         return;
     draw(records, ChartLabels::Words);
@@ -159,10 +156,9 @@ void ChartsPage::show(const QueryChart& chart) {
 
 void ChartsPage::show(const MonthChart& chart) {
     Frame1->setShown(false);
-    Adodc1.setConnectionString(m_shared.connection());
-    Adodc1.open(QString::fromUtf16(chart.ledger));
+    Adodc1.open(chart.ledger.toString());
     gatherMonths(chart);
-    Recordset& sums = Adodc2.open(QString::fromUtf16(chart.sums));
+    Recordset& sums = Adodc2.open(chart.sums.toString());
     if (refuseEmpty(sums, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
         return;
     draw(sums, ChartLabels::Months);
@@ -172,21 +168,10 @@ void ChartsPage::show(const MonthChart& chart) {
 }
 
 void ChartsPage::gatherMonths(const MonthChart& chart) {
-    Adodc2.setConnectionString(m_shared.connection());
-    emptyTable(Adodc2.open(QString::fromUtf16(chart.work)));
-    if (chart.workAgain)
-        Adodc2.open(QString::fromUtf16(chart.workAgain));
-    Recordset& months = Adodc2.recordset();
-    Recordset& records = Adodc1.recordset();
-    const Field day = records.field(0), amount = records.field(1);
-    Field month = months.field(u"时间"_s), sum = months.field(u"金额"_s), number = months.field(u"区别"_s);
-    for (int counter = 1; !records.eof(); records.moveNext(), ++counter) {
-        months.addNew();
-        month.setValue(day.text().left(MonthLength));
-        sum.setValue(amount.value());
-        number.setValue(counter);
-        months.update();
-    }
+    emptyTable(Adodc2.open(chart.work.toString()));
+    if (!chart.workAgain.isEmpty())
+        Adodc2.open(chart.workAgain.toString());
+    fillScratchLedger(Adodc1.recordset(), Adodc2.recordset());
     Adodc2.refresh();
 }
 
@@ -208,25 +193,23 @@ void ChartsPage::draw(Recordset& records, ChartLabels labels) {
     records.moveFirst();
 }
 
-void ChartsPage::pickDate(int target, TextBox& box) {
-    m_shared.openDatePicker({target, &box}, m_window.Left() + Frame15.Left() + Frame1->Left() + box.Left(),
-                            m_window.Top() + Frame15.Top() + Frame1->Top() + box.Top() + box.Height() + PickerGap);
+void ChartsPage::pickDate(DateField field, TextBox& box) {
+    m_shared.openDatePicker(field, FieldTarget(&box), placeBelow(box, box.Height() + PickerGap));
 }
 
 void ChartsPage::Form2_Text1_Click() {
-    pickDate(1, *Text1);
+    pickDate(DateField::ChartFrom, *Text1);
 }
 
 void ChartsPage::Form2_Text2_Click() {
-    pickDate(2, *Text2);
+    pickDate(DateField::ChartTo, *Text2);
 }
 
 void ChartsPage::Form2_Command25_Click() {
-    if (Form* picker = m_shared.forms.loaded(u"Form1"_s))
-        picker->setShown(false);
+    m_shared.hideDatePicker();
     const QString from = Text1->Text(), to = Text2->Text();
     if (from == FirstDate || to == SecondDate) {
-        m_shared.services.say(u"请选择两个日期"_s, MessageStyle::OkInformation, u"输入提示"_s);
+        m_shared.tell(u"请选择两个日期"_s, u"输入提示"_s);
         return;
     }
     const QString head = u"select 项目,sum(金额) as 总金额 from %1 where 时间 between #"_s;
@@ -239,9 +222,9 @@ void ChartsPage::Form2_Command25_Click() {
 }
 
 void ChartsPage::Form2_Frame1_Click() {
-    // The strip closes the editors of the loans and of the ledger, not its own boxes, and is meant to: the loans' box
+    // The strip closes the editors of the loans and of the ledger, not its own boxes: the loans' box
     // goes into both grids.
-    const auto loans = m_shared.editors.find(u"ms1"_s), ledger = m_shared.editors.find(u"ms2"_s);
+    const auto loans = m_shared.editors.find(names::LoanGrid), ledger = m_shared.editors.find(names::LedgerGrid);
     if (loans == m_shared.editors.end() || ledger == m_shared.editors.end())
         return;
     for (const EditorTarget& editor : {loans->second, ledger->second}) {

@@ -13,7 +13,7 @@ class ChartsPage : public Page {
 public:
     explicit ChartsPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label12_Click(); }
+    void tabClicked(PageCode) override { Form2_Label12_Click(); }
 
     void Form2_Label12_Click();
     void Form2_Option10_Click();
@@ -36,7 +36,7 @@ private:
     /// Draws field 1 over field 0; the set stands on its first row behind it.
     void draw(Recordset& records, ChartLabels labels);
     bool refuseEmpty(const Recordset& records, const QString& message, const QString& title);
-    void pickDate(int target, TextBox& box);
+    void pickDate(DateField field, TextBox& box);
 
     void makeOptions();
     void makeQueryRow();

@@ -180,7 +180,7 @@ bool MSChart::event(QEvent* event) {
 }
 
 void MSChart::mousePressEvent(QMouseEvent* event) {
-    pressBegan();
+    m_press.press(*event);
     if (event->button() == Qt::LeftButton)
         m_dragged = event->position().x() + scrolled();
     event->accept();

@@ -2,6 +2,7 @@
 
 #include "analysis/chart_layout.h"
 #include "controls/placed.h"
+#include "controls/press_tracker.h"
 
 #include <QCoreApplication>
 #include <QVariantList>
@@ -68,6 +69,7 @@ private:
     std::unique_ptr<ChartDrawing> m_drawing; ///< loaded when the chart is first on view
     bool m_drawingSought = false;
     ScrollStrip* m_strip = nullptr;  ///< made likewise
+    PressTracker m_press;            ///< a double click that began here is no other control's
     std::optional<double> m_dragged; ///< the row place under the pointer that drags
 };
 

@@ -61,7 +61,7 @@ Program::Program(Services services) : m_shared(std::move(services)) {
                     giveBackFreeMemory();
             },
     });
-    m_shared.store.use(m_shared.beside(DataFileName.toString()));
+    m_shared.store.use(m_shared.dataFile());
     // A copy that can take its folder's lock keeps it from the start; one that cannot tries again at its main window.
     m_shared.services.instance->tryTake();
     defineForms();
@@ -75,20 +75,19 @@ Program::~Program() {
 
 void Program::defineForms() {
     Shared& shared = m_shared;
-    shared.forms.define(u"Form5"_s, [&shared] { return new SignIn(shared); });
-    shared.forms.define(u"Form2"_s, [&shared] { return mainWindowWithPages(shared); });
-    shared.forms.define(u"Form1"_s, [&shared] { return new DatePicker(shared); });
-    shared.forms.define(u"Form3"_s, [&shared] { return new PurgeWindow(shared); });
-    shared.forms.define(u"Form9"_s, [&shared] { return new Calculator(shared); });
-    shared.forms.define(u"Form7"_s, [&shared] { return new WebWindow(shared); });
-    shared.forms.define(u"Form13"_s, [&shared] { return new BackupWindow(shared); });
+    shared.forms.define(names::SignIn, [&shared] { return new SignIn(shared); });
+    shared.forms.define(names::Main, [&shared] { return mainWindowWithPages(shared); });
+    shared.forms.define(names::DatePicker, [&shared] { return new DatePicker(shared); });
+    shared.forms.define(names::Purge, [&shared] { return new PurgeWindow(shared); });
+    shared.forms.define(names::Calculator, [&shared] { return new Calculator(shared); });
+    shared.forms.define(names::Web, [&shared] { return new WebWindow(shared); });
+    shared.forms.define(names::Backup, [&shared] { return new BackupWindow(shared); });
     for (const PictureTarget& target : pictureTargets())
-        shared.forms.define(QString::fromUtf16(target.form),
-                            [&shared, &target] { return new PictureWindow(shared, target); });
+        shared.forms.define(target.form, [&shared, &target] { return new PictureWindow(shared, target); });
 }
 
 void Program::start() {
-    handlers::enter([this] { m_shared.forms.get(u"Form5"_s).showForm(); });
+    handlers::enter([this] { m_shared.forms.get(names::SignIn).showForm(); });
 }
 
 void Program::end(int code) {

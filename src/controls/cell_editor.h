@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/controls.h"
 #include "controls/ms_flex_grid.h"
+#include "controls/text_box.h"
 
 namespace qinghe {
 

@@ -6,7 +6,8 @@
 
 namespace qinghe {
 
-/// A form's file dialog. A name that was chosen stays until another one is, Cancel included, and is meant to.
+/// A form's file dialog. A name that was chosen stays until another one is: Cancel leaves what the user has settled
+/// before, and the dialog opens at it the next time.
 class CommonDialog : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString FileName READ FileName)

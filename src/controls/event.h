@@ -7,7 +7,7 @@
 
 namespace qinghe {
 
-/// The place on a control to which a handler is bound: `Command25->Click = [this] { Form2_Command25_Click(); };`
+/// The place on a control to which a handler is bound: `Command6->Click = [this] { save(); };`
 template<class... Args>
 class Event {
 public:

@@ -14,19 +14,19 @@ namespace qinghe {
 namespace {
 
 Qt::WindowFlags flagsOf(Form::Kind kind, bool owned) {
-    constexpr auto titled =
+    constexpr auto Titled =
         Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     switch (kind) {
     case Form::Kind::Frameless:
         return Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint;
     case Form::Kind::Dialog:
-        return owned ? Qt::Dialog | titled : Qt::Window | titled | Qt::WindowMinimizeButtonHint;
+        return owned ? Qt::Dialog | Titled : Qt::Window | Titled | Qt::WindowMinimizeButtonHint;
     case Form::Kind::Tool:
-        return Qt::Tool | titled;
+        return Qt::Tool | Titled;
     case Form::Kind::QuietTool:
-        return Qt::Tool | titled | Qt::WindowDoesNotAcceptFocus;
+        return Qt::Tool | Titled | Qt::WindowDoesNotAcceptFocus;
     case Form::Kind::Notice:
-        return Qt::Window | titled | Qt::WindowStaysOnTopHint;
+        return Qt::Window | Titled | Qt::WindowStaysOnTopHint;
     }
     return Qt::Window;
 }
@@ -122,7 +122,7 @@ void Form::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() != Qt::LeftButton)
         return;
-    m_pressed = true;
+    m_press.press(*event);
     m_moved = false;
     const QPointF at = twipsAt(event);
     MouseDown.fromQt(at.x(), at.y());
@@ -135,7 +135,7 @@ void Form::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF at = twipsAt(event);
     MouseUp.fromQt(at.x(), at.y());
     // The release that ends a move of the window is no click.
-    if (std::exchange(m_pressed, false) && !m_moved && rect().contains(event->position().toPoint()))
+    if (m_press.releasedOn(*this, *event) && !m_moved)
         Click.fromQt();
 }
 
@@ -163,9 +163,9 @@ void Form::changeEvent(QEvent* event) {
     if (event->type() != QEvent::WindowStateChange)
         return;
     // A form has one size. Some window managers take that, on a denser screen, for the wish to fill the screen.
-    constexpr auto filling = Qt::WindowFullScreen | Qt::WindowMaximized;
-    if (windowState() & filling)
-        QWidget::setWindowState(windowState() & ~filling);
+    constexpr auto Filling = Qt::WindowFullScreen | Qt::WindowMaximized;
+    if (windowState() & Filling)
+        QWidget::setWindowState(windowState() & ~Filling);
     // Minimising gives a change of state and no resize.
     Resize.fromQt();
 }
@@ -175,10 +175,12 @@ void Form::closeEvent(QCloseEvent* event) {
     if (CloseAsked)
         CloseAsked.fromQt();
     else
-        handlers::enter([this] {
-            if (m_forms)
-                m_forms->unload(objectName());
-        });
+        handlers::enter([this] { unload(); });
+}
+
+void Form::unload() {
+    if (m_forms)
+        m_forms->unload(objectName());
 }
 
 } // namespace qinghe

@@ -2,6 +2,7 @@
 
 #include "controls/event.h"
 #include "controls/placed.h"
+#include "controls/press_tracker.h"
 
 #include <QImage>
 #include <QPolygon>
@@ -52,6 +53,8 @@ public:
 
     /// The load handler; called once by Forms. The base has nothing to do.
     virtual void load() {}
+    /// Takes the form away, as Forms::unload does.
+    void unload();
     /// What goes before the form; called once by Forms.
     virtual void unloaded() {}
 
@@ -81,8 +84,8 @@ private:
     Forms* m_forms = nullptr;
     Ground m_ground;
     QImage m_picture;
-    bool m_pressed = false;
-    bool m_moved = false;
+    PressTracker m_press;
+    bool m_moved = false; ///< the window, since the press
 };
 
 } // namespace qinghe

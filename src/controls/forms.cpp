@@ -22,10 +22,6 @@ void Forms::clear() {
         delete form.data();
 }
 
-void Forms::define(const QString& name, Maker maker) {
-    m_makers[name] = std::move(maker);
-}
-
 Form& Forms::get(const QString& name) {
     if (Form* form = loaded(name))
         return *form;

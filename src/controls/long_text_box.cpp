@@ -1,13 +1,10 @@
 #include "controls/long_text_box.h"
 
-#include "controls/key_presses.h"
-
-#include <QMouseEvent>
 #include <QTextBlock>
 
-#include <utility>
-
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,9 +12,7 @@ constexpr qsizetype SurelyScrolled = 10'000; ///< characters that no box can sho
 
 } // namespace
 
-LongTextBox::LongTextBox(QWidget* parent, const QString& name) : QPlainTextEdit(parent), Placed(this) {
-    setObjectName(name);
-    setContextMenuPolicy(Qt::NoContextMenu);
+LongTextBox::LongTextBox(QWidget* parent, const QString& name) : TypedBox(parent, name) {
     setTabChangesFocus(true);
 }
 
@@ -25,8 +20,8 @@ QString LongTextBox::Text() const {
     // toPlainText would turn no-break blanks into blanks.
     QStringList lines;
     for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
-        lines << block.text().replace(QChar::LineSeparator, QStringLiteral("\r\n"));
-    return lines.join(QStringLiteral("\r\n"));
+        lines << block.text().replace(QChar::LineSeparator, u"\r\n"_s);
+    return lines.join(u"\r\n"_s);
 }
 
 void LongTextBox::setBoxText(const QString& text) {
@@ -41,26 +36,6 @@ void LongTextBox::keyPressEvent(QKeyEvent* event) {
     if (code != key_presses::None && code != key_presses::Escape)
         KeyPress.fromQt(code);
     QPlainTextEdit::keyPressEvent(event);
-}
-
-void LongTextBox::inputMethodEvent(QInputMethodEvent* event) {
-    key_presses::enterOneByOne(
-        *this, *event, [this](int code) { KeyPress.fromQt(code); },
-        [this](QInputMethodEvent& part) { QPlainTextEdit::inputMethodEvent(&part); });
-}
-
-void LongTextBox::mousePressEvent(QMouseEvent* event) {
-    m_pressed = event->button() == Qt::LeftButton;
-    pressBegan();
-    QPlainTextEdit::mousePressEvent(event);
-    event->accept();
-}
-
-void LongTextBox::mouseReleaseEvent(QMouseEvent* event) {
-    QPlainTextEdit::mouseReleaseEvent(event);
-    event->accept();
-    if (std::exchange(m_pressed, false) && rect().contains(event->position().toPoint()))
-        Click.fromQt();
 }
 
 } // namespace qinghe

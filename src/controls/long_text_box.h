@@ -1,16 +1,13 @@
 #pragma once
 
-#include "controls/event.h"
-#include "controls/placed.h"
+#include "controls/typed_box.h"
 
 #include <QPlainTextEdit>
 
 namespace qinghe {
 
-/// A text box of many lines, painted as writing paper. Tab leaves it. KeyPress comes before the box acts on the key: a
-/// character's code, 13 for Enter, 8 for Backspace; text committed by an input method comes as one key press a
-/// character, each before it enters. Pasted text presses no key.
-class LongTextBox : public QPlainTextEdit, public Placed {
+/// A text box of many lines, painted as writing paper. Tab leaves it. Pasted text presses no key, and nor does Esc.
+class LongTextBox : public TypedBox<QPlainTextEdit> {
     Q_OBJECT
     QINGHE_CONTROL
 
@@ -21,17 +18,8 @@ public:
     QString Text() const;
     void setBoxText(const QString& text);
 
-    Event<> Click;
-    Event<int> KeyPress;
-
 protected:
     void keyPressEvent(QKeyEvent*) override;
-    void inputMethodEvent(QInputMethodEvent*) override;
-    void mousePressEvent(QMouseEvent*) override;
-    void mouseReleaseEvent(QMouseEvent*) override;
-
-private:
-    bool m_pressed = false;
 };
 
 } // namespace qinghe

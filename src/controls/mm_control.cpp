@@ -2,23 +2,25 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 MMControl::MMControl(SoundDevice& device, const QString& name, QObject* parent) : QObject(parent), m_device(device) {
     setObjectName(name);
 }
 
 void MMControl::setCommand(const QString& command) {
     m_command = command;
-    if (command == QLatin1String("open"))
+    if (command == "open"_L1)
         open();
     else if (!m_sound)
         return;
-    else if (command == QLatin1String("play"))
+    else if (command == "play"_L1)
         m_sound->play();
-    else if (command == QLatin1String("stop"))
+    else if (command == "stop"_L1)
         m_sound->stop();
-    else if (command == QLatin1String("prev"))
+    else if (command == "prev"_L1)
         m_sound->rewind();
-    else if (command == QLatin1String("close"))
+    else if (command == "close"_L1)
         m_sound.reset();
 }
 

@@ -26,7 +26,7 @@ class MMControl : public QObject {
     Q_PROPERTY(QString Command READ Command WRITE setCommand) ///< reads back the last one given
     Q_PROPERTY(int Position READ Position)
     Q_PROPERTY(int Length READ Length)
-    Q_PROPERTY(bool Visible READ isVisible WRITE setVisible)
+    Q_PROPERTY(bool Visible READ isVisible CONSTANT) ///< there is nothing to see
 
 public:
     MMControl(SoundDevice& device, const QString& name, QObject* parent = nullptr);
@@ -40,8 +40,7 @@ public:
     qint32 Position() const { return m_sound ? m_sound->position() : 0; }
     qint32 Length() const { return m_sound ? m_sound->length() : 0; }
 
-    bool isVisible() const { return m_visible; }
-    void setVisible(bool visible) { m_visible = visible; }
+    bool isVisible() const { return false; }
 
 private:
     void open();
@@ -51,7 +50,6 @@ private:
     QString m_fileName;
     QString m_opened; ///< the name that was opened last
     QString m_command;
-    bool m_visible = true;
 };
 
 } // namespace qinghe

@@ -1,11 +1,13 @@
 #include "controls/ms_flex_grid.h"
 
+#include "controls/grid_keys.h"
 #include "controls/grid_model.h"
+#include "controls/grid_rim.h"
+#include "controls/reading_bar.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOption>
@@ -13,28 +15,13 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-constexpr double DefaultColWidth = 960;
-
-void checkIndex(int index, int count, const QString& what) {
-    if (index < 0 || index >= count)
-        throw RuntimeError(RuntimeError::SubscriptOutOfRange,
-                           QStringLiteral("表格里没有第 %1 %2（共 %3 %2）。").arg(index).arg(what).arg(count));
-}
-
-void checkRow(int row, int rows) {
-    checkIndex(row, rows, QStringLiteral("行"));
-}
-
-void checkCol(int col, int cols) {
-    checkIndex(col, cols, QStringLiteral("列"));
-}
 
 /// A header that shows and does nothing else.
 void quiet(QHeaderView* header) {
@@ -44,57 +31,14 @@ void quiet(QHeaderView* header) {
     header->setMinimumSectionSize(1);
 }
 
-/// The edge of the list lies over all its parts, since cells reach to the list's own border.
-class Edge : public QWidget {
-public:
-    explicit Edge(MSFlexGrid* grid) : QWidget(grid) { setAttribute(Qt::WA_TransparentForMouseEvents); }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        QStyleOption option;
-        option.initFrom(this);
-        style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_GridEdge), &option, &painter, parentWidget());
-    }
-};
-
-/// The upright bar, which moves a list that is disabled as well.
-class ReadingBar : public QScrollBar {
-public:
-    explicit ReadingBar(QWidget* list) : QScrollBar(Qt::Vertical, list) {}
-
-protected:
-    bool event(QEvent* event) override {
-        if (isEnabled())
-            return QScrollBar::event(event);
-        switch (event->type()) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick:
-            mousePressEvent(static_cast<QMouseEvent*>(event));
-            return true;
-        case QEvent::MouseMove:
-            mouseMoveEvent(static_cast<QMouseEvent*>(event));
-            return true;
-        case QEvent::MouseButtonRelease:
-            mouseReleaseEvent(static_cast<QMouseEvent*>(event));
-            return true;
-        case QEvent::Wheel:
-            wheelEvent(static_cast<QWheelEvent*>(event));
-            return true;
-        default:
-            return QScrollBar::event(event);
-        }
-    }
-};
-
 } // namespace
 
 MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
     : QTableView(parent),
       Placed(this),
       m_model(new GridModel(this)),
-      m_widths(2, DefaultColWidth),
-      m_edge(new Edge(this)) {
+      m_bar(new ReadingBar(*this)),
+      m_rim(new GridRim(this)) {
     setObjectName(name);
     const int rowPixels = pixelEdge(DefaultRowHeight);
     setModel(m_model);
@@ -105,7 +49,7 @@ MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
     setCornerButtonEnabled(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
-    setVerticalScrollBar(new ReadingBar(this));
+    setVerticalScrollBar(m_bar);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setMouseTracking(true);
@@ -127,8 +71,6 @@ int MSFlexGrid::Rows() const {
 }
 
 void MSFlexGrid::setRows(int rows) {
-    if (rows < 1)
-        checkRow(rows, 0);
     m_model->resize(rows, Cols());
     m_row = std::min(m_row, rows - 1);
     changed();
@@ -139,26 +81,24 @@ int MSFlexGrid::Cols() const {
 }
 
 void MSFlexGrid::setCols(int cols) {
-    if (cols < 1)
-        checkCol(cols, 0);
     if (cols == Cols())
         return;
     m_model->resize(Rows(), cols);
-    m_widths.resize(static_cast<std::size_t>(cols), DefaultColWidth);
+    m_columns.resize(cols);
     m_col = std::min(m_col, cols - 1);
     m_staleColumns = true;
     changed();
 }
 
 void MSFlexGrid::setRow(int row) {
-    checkRow(row, Rows());
+    m_model->checkRow(row);
     m_row = row;
     m_due = Scroll::ToCurrent;
     changed();
 }
 
 void MSFlexGrid::setCol(int col) {
-    checkCol(col, Cols());
+    m_model->checkCol(col);
     m_col = col;
     m_due = Scroll::ToCurrent;
     changed();
@@ -173,87 +113,69 @@ void MSFlexGrid::setText(const QString& text) {
 }
 
 QString MSFlexGrid::TextMatrix(int row, int col) const {
-    checkRow(row, Rows());
-    checkCol(col, Cols());
     return m_model->cell(row, col);
 }
 
 QStringList MSFlexGrid::rowTexts(int row) const {
-    checkRow(row, Rows());
     return m_model->rowTexts(row);
 }
 
 bool MSFlexGrid::isEmpty(int row, int col) const {
-    checkRow(row, Rows());
-    checkCol(col, Cols());
     return m_model->isEmpty(row, col);
 }
 
 int MSFlexGrid::firstEmpty(int row, int from, int behindLast) const {
-    checkRow(row, Rows());
-    checkCol(from, Cols());
-    checkCol(behindLast - 1, Cols());
     return m_model->firstEmpty(row, from, behindLast);
 }
 
 void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
-    checkRow(row, Rows());
-    checkCol(col, Cols());
     m_model->setCell(row, col, text);
     changed();
 }
 
+void MSFlexGrid::RemoveItem(int row) {
+    m_model->removeRow(row);
+    m_row = std::min(m_row, Rows() - 1);
+    changed();
+}
+
 double MSFlexGrid::ColWidth(int col) const {
-    checkCol(col, Cols());
-    return m_widths[static_cast<std::size_t>(col)];
+    m_model->checkCol(col);
+    return m_columns.width(col);
 }
 
 void MSFlexGrid::setColWidth(int col, double twips) {
-    checkCol(col, Cols());
-    m_widths[static_cast<std::size_t>(col)] = twips;
+    m_model->checkCol(col);
+    m_columns.setWidth(col, twips);
     m_staleColumns = true;
     changed();
 }
 
 double MSFlexGrid::RowHeight(int row) const {
-    checkRow(row, Rows());
+    m_model->checkRow(row);
     return DefaultRowHeight;
 }
 
 void MSFlexGrid::setRowHeight(int row, double twips) {
     // Every row of every list is of one height; nothing is kept a row, which long lists would pay for.
-    checkRow(row, Rows());
+    m_model->checkRow(row);
     if (twips != DefaultRowHeight)
-        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("表格的行高只能是 %1。").arg(DefaultRowHeight));
+        throw RuntimeError(RuntimeError::InvalidCall, u"表格的行高只能是 %1。"_s.arg(DefaultRowHeight));
 }
 
 double MSFlexGrid::ColPos(int col) {
-    checkCol(col, Cols());
+    m_model->checkCol(col);
     bringUpToDate();
-    if (col == 0)
-        return 0;
-    double left = m_widths[0] - horizontalScrollBar()->value() * TwipsPerPixel;
-    for (int c = 1; c < col; ++c)
-        left += m_widths[static_cast<std::size_t>(c)];
-    return left;
+    return col == 0 ? 0 : m_columns.left(col) - horizontalScrollBar()->value() * TwipsPerPixel;
 }
 
 double MSFlexGrid::RowPos(int row) {
-    checkRow(row, Rows());
+    m_model->checkRow(row);
     bringUpToDate();
     if (row == 0)
         return 0;
     // Scrolled to its end, the view lays its last row on the lower edge, which need not be a whole row's.
     return DefaultRowHeight + verticalHeader()->sectionViewportPosition(row - 1) * TwipsPerPixel;
-}
-
-void MSFlexGrid::RemoveItem(int row) {
-    checkRow(row, Rows());
-    if (row == 0 || Rows() <= 2)
-        throw RuntimeError(30015, QStringLiteral("表格的最后一行不能移除。"));
-    m_model->removeRow(row);
-    m_row = std::min(m_row, Rows() - 1);
-    changed();
 }
 
 void MSFlexGrid::setAmountColumns(std::vector<int> columns) {
@@ -282,8 +204,8 @@ QRect MSFlexGrid::cellRect(int row, int col) {
 }
 
 void MSFlexGrid::ensureVisible(int row, int col) {
-    checkRow(row, Rows());
-    checkCol(col, Cols());
+    m_model->checkRow(row);
+    m_model->checkCol(col);
     bringUpToDate();
     if (row > 0 && col > 0)
         scrollTo(m_model->index(row - 1, col - 1));
@@ -309,18 +231,14 @@ void MSFlexGrid::bringUpToDate() {
         return;
     m_stale = false;
     handlers::forget(this);
-    const bool sizeChanged = m_model->rowCount() != Rows() - 1 || m_model->columnCount() != Cols() - 1;
-    if (sizeChanged) {
+    if (!m_model->isAnnounced()) {
         const int x = horizontalScrollBar()->value(), y = verticalScrollBar()->value();
         m_model->announce();
-        m_staleColumns = true;
         layColumns();
-        updateGeometries();
         horizontalScrollBar()->setValue(x);
         verticalScrollBar()->setValue(y);
     } else if (m_staleColumns) {
         layColumns();
-        updateGeometries();
     }
     const Scroll due = std::exchange(m_due, Scroll::None);
     if (due == Scroll::ToTop)
@@ -335,13 +253,10 @@ void MSFlexGrid::bringUpToDate() {
 
 void MSFlexGrid::layColumns() {
     m_staleColumns = false;
-    verticalHeader()->setFixedWidth(pixelEdge(m_widths[0]));
-    double left = m_widths[0];
-    for (int col = 1; col < Cols(); ++col) {
-        const double right = left + m_widths[static_cast<std::size_t>(col)];
-        horizontalHeader()->resizeSection(col - 1, pixelEdge(right) - pixelEdge(left));
-        left = right;
-    }
+    verticalHeader()->setFixedWidth(m_columns.pixels(0));
+    for (int col = 1; col < Cols(); ++col)
+        horizontalHeader()->resizeSection(col - 1, m_columns.pixels(col));
+    updateGeometries();
 }
 
 void MSFlexGrid::updateGeometries() {
@@ -349,29 +264,25 @@ void MSFlexGrid::updateGeometries() {
     QTableView::updateGeometries();
 }
 
-/// Takes from the last column what it has too much, up to a quarter of it.
 void MSFlexGrid::fitLastColumn() {
     const int last = Cols() - 2;
     if (last < 0 || horizontalHeader()->count() != last + 1)
         return; // the view has yet to hear of its columns
-    const double width = m_widths.back(), right = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
     const bool barShown = verticalHeader()->length() > height() - horizontalHeader()->height();
-    const int room = this->width() - (barShown ? verticalScrollBar()->sizeHint().width() : 0);
-    const int told = pixelEdge(right) - pixelEdge(right - width), excess = std::max(0, pixelEdge(right) - room);
-    horizontalHeader()->resizeSection(last, excess <= told / 4 ? told - excess : told);
+    const int room = width() - (barShown ? m_bar->sizeHint().width() : 0);
+    horizontalHeader()->resizeSection(last, m_columns.lastPixels(room));
 }
 
 void MSFlexGrid::mousePressEvent(QMouseEvent* event) {
     event->accept();
-    pressBegan();
-    m_press = event->button() == Qt::LeftButton ? event->position().toPoint() : QPoint(-1, -1);
+    m_press.press(*event);
 }
 
 void MSFlexGrid::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
-    const QModelIndex pressed = m_press.x() < 0 ? QModelIndex() : indexAt(m_press);
-    m_press = {-1, -1};
-    if (event->button() != Qt::LeftButton || !pressed.isValid() || indexAt(event->position().toPoint()) != pressed)
+    const std::optional<QPoint> at = m_press.release(*event);
+    const QModelIndex pressed = at ? indexAt(*at) : QModelIndex();
+    if (!pressed.isValid() || indexAt(event->position().toPoint()) != pressed)
         return;
     handlers::enter([&] {
         setRow(pressed.row() + 1);
@@ -390,37 +301,16 @@ void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
-    const QWidget* const cover = m_cover;
-    const bool held = cover && cover->isVisible();
-    const auto move = [this, held](int row, int col) {
-        if (held)
-            return;
-        handlers::enter([&] {
-            setRow(std::clamp(row, 1, std::max(1, Rows() - 1)));
-            setCol(std::clamp(col, 1, std::max(1, Cols() - 1)));
-        });
-    };
     const int page = std::max(1, viewport()->height() / pixelEdge(DefaultRowHeight) - 1);
-    switch (event->key()) {
-    case Qt::Key_Up:
-        return move(m_row - 1, m_col);
-    case Qt::Key_Down:
-        return move(m_row + 1, m_col);
-    case Qt::Key_Left:
-        return move(m_row, m_col - 1);
-    case Qt::Key_Right:
-        return move(m_row, m_col + 1);
-    case Qt::Key_PageUp:
-        return move(m_row - page, m_col);
-    case Qt::Key_PageDown:
-        return move(m_row + page, m_col);
-    case Qt::Key_Home:
-        return move(event->modifiers() & Qt::ControlModifier ? 1 : m_row, 1);
-    case Qt::Key_End:
-        return move(event->modifiers() & Qt::ControlModifier ? Rows() - 1 : m_row, Cols() - 1);
-    default:
+    const auto cell = cellAfterKey(*event, {m_row, m_col}, {Rows() - 1, Cols() - 1}, page);
+    const QWidget* const cover = m_cover;
+    if (!cell)
         event->ignore();
-    }
+    else if (!cover || !cover->isVisible())
+        handlers::enter([&] {
+            setRow(cell->row);
+            setCol(cell->col);
+        });
 }
 
 void MSFlexGrid::paintEvent(QPaintEvent* event) {
@@ -446,7 +336,7 @@ bool MSFlexGrid::fits(const QModelIndex& index) const {
 
 bool MSFlexGrid::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Wheel && !isEnabled()) {
-        QCoreApplication::sendEvent(verticalScrollBar(), event);
+        QCoreApplication::sendEvent(m_bar, event);
         return true;
     }
     if (event->type() != QEvent::ToolTip)
@@ -469,8 +359,7 @@ void MSFlexGrid::scrollContentsBy(int dx, int dy) {
 
 void MSFlexGrid::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
-    m_edge->setGeometry(rect());
-    m_edge->raise();
+    m_rim->cover();
     emit scrolled();
 }
 
@@ -479,21 +368,7 @@ void MSFlexGrid::changeEvent(QEvent* event) {
     if (event->type() != QEvent::EnabledChange)
         return;
     viewport()->update();
-    parentWidget()->removeEventFilter(this);
-    if (!isEnabled())
-        parentWidget()->installEventFilter(this);
-}
-
-/// A disabled list cannot have the keyboard; its container hands it the Page keys that nobody wanted.
-bool MSFlexGrid::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != parentWidget() || event->type() != QEvent::KeyPress || isEnabled() || !isVisible())
-        return QTableView::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_PageUp && key != Qt::Key_PageDown)
-        return false;
-    verticalScrollBar()->triggerAction(key == Qt::Key_PageUp ? QAbstractSlider::SliderPageStepSub
-                                                             : QAbstractSlider::SliderPageStepAdd);
-    return true;
+    m_bar->listenToContainer();
 }
 
 } // namespace qinghe

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "controls/event.h"
+#include "controls/grid_columns.h"
 #include "controls/placed.h"
+#include "controls/press_tracker.h"
 
 #include <QTableView>
 
@@ -10,6 +12,8 @@
 namespace qinghe {
 
 class GridModel;
+class GridRim;
+class ReadingBar;
 
 /// A list that cannot be typed into: row 0 holds the captions, column 0 is a narrow marker column; data lie in rows 1
 /// to Rows - 1 and columns 1 to Cols - 1. One cell is current (Row, Col), and its text is Text. A fresh grid has two
@@ -19,9 +23,10 @@ class GridModel;
 /// boundary, or when a place is asked for, with one scroll to the current cell. A row or column out of range is a
 /// RuntimeError (subscript out of range). Sizes and places are twips.
 ///
-/// A disabled grid is read, not touched: its clicks are its container's, and wheel, upright bar and the Page keys that
-/// reach its container move it. Where the columns reach a little too far to the right, the last one gives way to the
-/// list's end or its upright bar (ColWidth stays as told); nothing moves sideways for a few pixels.
+/// A disabled grid is read, not touched: its clicks are its container's, and its upright bar, the wheel and the Page
+/// keys that reach its container move it (ReadingBar). Where the columns reach a little too far to the right, the last
+/// one gives way to the list's end or its upright bar (ColWidth stays as told); nothing moves sideways for a few
+/// pixels.
 class MSFlexGrid : public QTableView, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -105,7 +110,6 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent*) override;
     void changeEvent(QEvent*) override;
-    bool eventFilter(QObject*, QEvent*) override;
     void updateGeometries() override;
 
 private:
@@ -114,18 +118,22 @@ private:
     void changed(); ///< the model: rows, columns or texts
     void bringUpToDate();
     void layColumns();
+    /// Takes from the last column what it has too much.
     void fitLastColumn();
+    /// Whether the cell's text has the room that it needs.
     bool fits(const QModelIndex& index) const;
 
     GridModel* m_model;
     int m_row = 1, m_col = 1;
-    std::vector<double> m_widths;
+    GridColumns m_columns;
     std::vector<int> m_amounts;
-    bool m_stale = false, m_staleColumns = false;
+    bool m_stale = false;        ///< something was written that the view does not show yet
+    bool m_staleColumns = false; ///< a column's width was
     Scroll m_due = Scroll::None;
     QPointer<const QWidget> m_cover;
-    QPoint m_press{-1, -1};
-    QWidget* m_edge;
+    PressTracker m_press;
+    ReadingBar* m_bar;
+    GridRim* m_rim;
 };
 
 } // namespace qinghe

@@ -62,11 +62,6 @@ public:
     /// The control behind a widget, or nullptr.
     static Placed* of(const QWidget* widget);
 
-    /// Remembers where the last press began: the second press of a double click that began on another control is
-    /// nobody's (the cell editor lies under the pointer by then).
-    void pressBegan() { s_pressed = this; }
-    bool pressBeganHere() const { return s_pressed == this; }
-
 protected:
     explicit Placed(QWidget* widget) : m_widget(widget) {}
     /// Brings the pixels in line with the twips.
@@ -76,8 +71,6 @@ protected:
 
 private:
     void applyVisibility();
-
-    static inline const Placed* s_pressed = nullptr;
 
     QWidget* m_widget;
     QPointer<QWidget> m_refuge;

@@ -9,19 +9,19 @@ namespace qinghe {
 enum class Role {
     Plain,
     // labels
-    ProductName,  ///< Form2's Label26
+    ProductName,  ///< the program's name as a heading
     PageLabel,    ///< the row of page labels; red (ForeColor 255) paints the tab and the bar
     ClockText,    ///< date and time in the title band, 9 pt
     Link,         ///< underlined address
-    Figure,       ///< a sum on the desktop: serif, bold, right-aligned
-    PlanList,     ///< today's plans: running text
+    Figure,       ///< a sum among others: serif, bold, right-aligned
+    PlanList,     ///< a list of lines: running text from the top
     Total,        ///< the sum below a table
-    SignInButton, ///< Form5's Label1
-    MonthTitle,   ///< the picker's year and month
-    WeekRow,      ///< the picker's head line: seven characters over seven columns
-    DayCell,      ///< one day of the picker
+    SignInButton, ///< a label that is pressed like a button; red (ForeColor 255) is its pointed-at state
+    MonthTitle,   ///< a calendar's year and month
+    WeekRow,      ///< a calendar's head line: seven characters over seven columns
+    DayCell,      ///< one day of a calendar
     Help,         ///< small explaining text, running
-    ReminderText, ///< the reminder's words: running text, 12 pt
+    ReminderText, ///< a notice's words: running text, 12 pt
     Hairline,     ///< no words: a line through the middle of the label
     Caution,      ///< an amber ground; its words stand at its head behind a warning sign
     Well,         ///< no words: a pale ground under other labels
@@ -31,21 +31,19 @@ enum class Role {
     Picture,   ///< a picture that fills its control
     // buttons
     Primary,      ///< the one main button of a group
-    PickerArrow,  ///< a step button of the picker
-    CalcKey,      ///< a key of the calculator
+    PickerArrow,  ///< a step button of a calendar
+    CalcKey,      ///< a key of a calculator
     CalcOperator, ///< an operator key
     // text boxes
-    CellEditor, ///< lies over a cell of a grid
-    CalcDisplay,
-    SignInField,
+    CellEditor,  ///< lies over a cell of a grid
+    CalcDisplay, ///< large figures on the right; of a text too long for it the end
     // grids
     Report, ///< disabled because it is there to be read, and not for want of something
     // frames
-    PageFrame,
-    DesktopFrame, ///< the page that holds the desktop's picture
-    InnerFrame,
-    BareFrame, ///< paints nothing
-    StripFrame,
+    PageFrame,  ///< a page
+    InnerFrame, ///< a group on a page or in a window
+    BareFrame,  ///< paints nothing
+    StripFrame, ///< a narrow bar of controls
 };
 
 /// The ground of a form.
@@ -53,8 +51,8 @@ enum class Ground {
     Main,       ///< the picture, the veil over the title band, the label shelf
     SignIn,     ///< the picture alone
     Dialog,     ///< F7FBF3 to E6F2D8 with seedlings along the foot
-    Pine,       ///< the date picker
-    Calculator, ///< EEF5E6
+    Pine,       ///< dark green, one colour
+    Calculator, ///< EEF5E6, one colour
 };
 
 /// The line icons.

@@ -1,15 +1,8 @@
-#include "controls/controls.h"
-#include "controls/key_presses.h"
-
-#include <QMouseEvent>
-
-#include <utility>
+#include "controls/text_box.h"
 
 namespace qinghe {
 
-TextBox::TextBox(QWidget* parent, const QString& name) : QLineEdit(parent), Placed(this) {
-    setObjectName(name);
-    setContextMenuPolicy(Qt::NoContextMenu);
+TextBox::TextBox(QWidget* parent, const QString& name) : TypedBox(parent, name) {
     connect(this, &QLineEdit::textChanged, this, [this] { Change.fromQt(); });
 }
 
@@ -26,22 +19,8 @@ void TextBox::takeFocus() {
         setFocus(Qt::OtherFocusReason);
 }
 
-void TextBox::mousePressEvent(QMouseEvent* event) {
-    m_pressed = event->button() == Qt::LeftButton;
-    pressBegan();
-    QLineEdit::mousePressEvent(event);
-    event->accept();
-}
-
-void TextBox::mouseReleaseEvent(QMouseEvent* event) {
-    QLineEdit::mouseReleaseEvent(event);
-    event->accept();
-    if (std::exchange(m_pressed, false) && rect().contains(event->position().toPoint()))
-        Click.fromQt();
-}
-
 void TextBox::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (pressBeganHere())
+    if (m_press.isLast())
         QLineEdit::mouseDoubleClickEvent(event);
     event->accept();
 }
@@ -57,12 +36,6 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     if (code != key_presses::Enter && code != key_presses::Escape && isEnabled())
         QLineEdit::keyPressEvent(event);
     event->accept();
-}
-
-void TextBox::inputMethodEvent(QInputMethodEvent* event) {
-    key_presses::enterOneByOne(
-        *this, *event, [this](int code) { KeyPress.fromQt(code); },
-        [this](QInputMethodEvent& part) { QLineEdit::inputMethodEvent(&part); });
 }
 
 } // namespace qinghe

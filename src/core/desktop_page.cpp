@@ -1,8 +1,11 @@
 #include "core/desktop_page.h"
 
+#include "core/plans.h"
 #include "look/fonts.h"
-#include "runtime/number_format.h"
+#include "runtime/money.h"
+#include "runtime/months.h"
 #include "runtime/number_text.h"
+#include "store/tables.h"
 
 namespace qinghe {
 
@@ -10,27 +13,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageCode = 24;
-constexpr PageTab Tabs[] = {{u"Label24", u"  桌面", 0, PageCode}};
+constexpr PageTab Tabs[] = {{u"Label24", u"  桌面", 0, PageCode::Desktop}};
 constexpr PageTraits DesktopTraits{u"Frame13", u"桌面", 200, 1680, 11535, 6135, Tabs};
 
 struct SumColumn {
-    const char16_t* column;
-    const char16_t* table;
-    const char16_t* dateColumn;
+    QStringView column;
+    QStringView table;
+    QStringView dateColumn;
 };
 
 /// Rows of the desktop from top to bottom.
 constexpr std::array<SumColumn, 5> Rows{{
-    {u"金额", u"srb", u"时间"},
-    {u"金额", u"zcb", u"时间"},
-    {u"预算金额", u"ysb", u"预算时间"},
-    {u"借入金额", u"jrb", u"日期"},
-    {u"借出金额", u"jcb", u"日期"},
+    {columns::Amount, tables::Income, columns::Time},
+    {columns::Amount, tables::Expense, columns::Time},
+    {columns::BudgetAmount, tables::Budget, columns::BudgetTime},
+    {columns::BorrowedAmount, tables::Borrowed, columns::Day},
+    {columns::LentAmount, tables::Lent, columns::Day},
 }};
 
 struct SumLabel {
-    const char16_t* name;
+    QStringView name;
     double left, top; ///< twips
 };
 
@@ -57,29 +59,21 @@ double widthOf(const QString& figure) {
 }
 
 QString sumQuery(const SumColumn& row, const QString& month) {
-    return u"select sum(%1)as 总金额 from %2 where left(%3,7)='%4'"_s.arg(
-        QString::fromUtf16(row.column), QString::fromUtf16(row.table), QString::fromUtf16(row.dateColumn), month);
+    return u"select sum(%1)as 总金额 from %2 where left(%3,7)='%4'"_s.arg(row.column.toString(), row.table.toString(),
+                                                                          row.dateColumn.toString(), month);
 }
 
 } // namespace
 
-QString lastMonthKey(const QDate& today) {
-    return u"%1-0%2"_s.arg(today.year()).arg(today.month() - 1);
-}
-
-QString thisMonthKey(const QDate& today) {
-    return u"%1-%2"_s.arg(today.year()).arg(today.month());
-}
-
 DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
     : Page(navigation, DesktopTraits), m_shared(shared), Adodc1(store) {
     Frame& page = frame();
-    page.setRole(Role::DesktopFrame);
+    page.setRole(Role::PageFrame);
     Image2 = new Image(&page, u"Image2"_s);
     Image2->place(60, 240, 11415, 5835);
     Image2->setRole(Role::Picture);
     for (std::size_t i = 0; i < Labels.size(); ++i) {
-        auto* label = new Label(&page, QString::fromUtf16(Labels[i].name));
+        auto* label = new Label(&page, Labels[i].name.toString());
         label->place(Labels[i].left, Labels[i].top, FigureWidth, 300);
         label->setRole(Role::Figure);
         m_sums[i].label = label;
@@ -92,7 +86,7 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
 void DesktopPage::computeSums() {
     const QDate today = m_shared.services.clock->today();
     for (std::size_t i = 0; i < m_sums.size(); ++i) {
-        const QString month = i < Rows.size() ? lastMonthKey(today) : thisMonthKey(today);
+        const QString month = i < Rows.size() ? months::lastMonth(today) : months::thisMonth(today);
         Recordset& sum = Adodc1.open(sumQuery(Rows[i % Rows.size()], month));
         m_sums[i].total = sum.recordCount() != 0 ? sum.field(u"总金额"_s).value() : Value(0);
     }
@@ -102,31 +96,29 @@ void DesktopPage::computeSums() {
 void DesktopPage::showSums() {
     for (const Sum& sum : m_sums) {
         const double total = sum.total.isNull() ? 0 : sum.total.number();
-        const QString figure = total != 0 ? formatNumber(total, u"##.00元"_s) : u"0.00元"_s;
+        const QString figure = total != 0 ? money::yuan(total) : money::none();
         sum.label->setCaption(figure);
         sum.label->setWidth(widthOf(figure));
     }
 }
 
 void DesktopPage::listPlans(bool clearFirst) {
-    Recordset& plans =
-        Adodc1.open(u"select * from rcb where 日程日期= #"_s + dateText(m_shared.services.clock->today()) + u"# "_s);
+    Recordset& plans = plans::ofDay(Adodc1, m_shared.services.clock->today());
     if (plans.recordCount() == 0) {
-        Label36->setCaption(u"您还未添加今日日程！"_s);
+        Label36->setCaption(plans::NoneToday.toString());
         return;
     }
     QString list = clearFirst ? QString() : Label36->Caption();
     for (int i = 1; !plans.eof(); ++i, plans.moveNext())
-        list += u"日程"_s + spacedNumberText(i) + u"："_s + plans.field(u"日程内容"_s).text() + u"\r\n"_s;
+        list += u"日程"_s + spacedNumberText(i) + u"："_s + plans.field(columns::PlanText).text() + u"\r\n"_s;
     Label36->setCaption(list);
 }
 
 void DesktopPage::Form2_Label24_Click() {
-    navigation().leaveOthers(*this, PageCode);
+    navigation().leaveOthers(*this, PageCode::Desktop);
     navigation().bringForward(*this);
     // Not computed afresh: the sums stay those of the sign-in.
     showSums();
-    Adodc1.setConnectionString(m_shared.connection());
     listPlans(true);
 }
 

@@ -12,7 +12,7 @@ class DesktopPage : public Page {
 public:
     DesktopPage(Shared& shared, Navigation& navigation, Adodc& Adodc1);
 
-    void tabClicked(int) override { Form2_Label24_Click(); }
+    void tabClicked(PageCode) override { Form2_Label24_Click(); }
 
     Image* Image2;  // the picture behind, which carries the words of the rows and columns
     Label* Label36; // today's plans
@@ -35,11 +35,5 @@ private:
     Adodc& Adodc1;
     std::array<Sum, 10> m_sums;
 };
-
-/// The two keys of the desktop's sums. The keys are meant as they are: together with the dates' text form they decide
-/// which rows are counted. Last month: the year, "-", "0" and the month before without further care (00 in January, 010
-/// in November). This month: no leading zero.
-QString lastMonthKey(const QDate& today);
-QString thisMonthKey(const QDate& today);
 
 } // namespace qinghe

@@ -12,16 +12,18 @@ namespace qinghe {
 /// is. Made without either it names nothing.
 struct FieldTarget {
     FieldTarget() = default;
-    FieldTarget(int target, TextBox* asking) : number(target), box(asking) {}
+    explicit FieldTarget(TextBox* asking) : box(asking) {}
     /// The cell is the current one of the grid.
-    FieldTarget(int target, TextBox* asking, MSFlexGrid* behind)
-        : number(target), box(asking), grid(behind), row(behind->Row()), col(behind->Col()) {}
+    FieldTarget(TextBox* asking, MSFlexGrid* behind)
+        : box(asking), grid(behind), row(behind->Row()), col(behind->Col()) {}
 
-    int number = 0; ///< what dateTarget or calcTarget is while the tool serves this field
     QPointer<TextBox> box;
     QPointer<MSFlexGrid> grid;
     int row = 0, col = 0; ///< where the box stood when the tool was opened
 };
+
+/// The place on the screen at a control's left edge, so many twips below its upper one; for a tool that hangs there.
+QPointF placeBelow(const QWidget& control, double twips);
 
 /// A window that hangs under a field and fills it. Asked for anew while it is open it serves the new field.
 class FieldTool : public Form {

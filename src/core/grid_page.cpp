@@ -1,7 +1,5 @@
 #include "core/grid_page.h"
 
-#include "controls/key_presses.h"
-#include "core/grid_rows.h"
 #include "core/hover.h"
 
 #include <algorithm>
@@ -10,200 +8,243 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-using key_presses::Enter, key_presses::Escape;
-
-CommandButton* button(Frame& frame, const char16_t* name, const QString& caption, double left, Glyph glyph) {
-    auto* made = new CommandButton(&frame, QString::fromUtf16(name), caption);
-    made->place(left, 345, 1080, 390);
-    made->setGlyph(glyph);
-    return made;
-}
-
-} // namespace
-
-GridPage::GridPage(MainWindow& form, const Traits& differences)
-    : Page(form.navigation(), differences.page),
+GridPage::GridPage(MainWindow& window, const Traits& differences)
+    : Page(window.navigation(), differences.page),
       traits(differences),
-      m_window(form),
-      m_shared(form.shared()),
-      Adodc1(*form.Adodc1),
-      frame(Page::frame()),
-      grid(new MSFlexGrid(&frame, QString::fromUtf16(differences.grid))),
-      editor(new CellEditor(&frame, QString::fromUtf16(differences.editor), *grid)),
-      addButton(button(frame, differences.add, u"增加"_s, 8055, Glyph::Add)),
-      removeButton(button(frame, differences.remove, u"删除"_s, 9255, Glyph::Remove)),
-      saveButton(button(frame, differences.save, u"保存"_s, 10455, Glyph::Accept)) {
-    grid->place(120, 840, 11415, 4815);
-    saveButton->setRole(Role::Primary);
-    m_shared.editors[grid->objectName()] = {editor, grid};
+      quirks(differences.quirks),
+      m_window(window),
+      m_shared(window.shared()),
+      Adodc1(*window.Adodc1),
+      m_frame(frame()),
+      m_grid(new MSFlexGrid(&m_frame, differences.grid.toString())),
+      m_editing(&m_frame, differences.editor, *m_grid),
+      m_buttons(&m_frame, differences.buttons),
+      m_hasWorkedOut(std::ranges::count(differences.list.columns, Kind::WorkedOut, &Column::kind) > 0) {
+    m_grid->place(120, 840, 11415, 4815);
+    m_shared.editors[differences.grid] = {m_editing.box, m_grid};
     bindEvents();
 }
 
 void GridPage::bindEvents() {
-    grid->Click = [this] { cellClick(); };
-    editor->Click = [this] { editorClick(); };
-    editor->KeyPress = [this](int key) { editorKey(key); };
-    if (traits.closedColumn)
-        editor->Change = [this] { editor->setUsable(grid->Col() != traits.closedColumn); };
-    addButton->Click = [this] { addRow(); };
-    removeButton->Click = [this] { deleteRow(); };
-    saveButton->Click = [this] { saveRows(); };
-    frame.Click = [this] {
+    m_grid->Click = [this] { cellClicked(); };
+    m_editing.box->Click = [this] { boxClicked(); };
+    m_editing.entered = [this] { entered(); };
+    if (m_hasWorkedOut)
+        m_editing.box->Change = [this] { m_editing.box->setUsable(kindOf(m_grid->Col()) != Kind::WorkedOut); };
+    m_buttons.add->Click = [this] { addRow(); };
+    m_buttons.remove->Click = [this] { deleteRow(); };
+    m_buttons.save->Click = [this] { saveRows(); };
+    m_frame.Click = [this] { frameClicked(); };
+    markHovered(m_frame, {m_buttons.add, m_buttons.remove, m_buttons.save});
+}
+
+void GridPage::frameClicked() {
+    if (!quirks.frameClickLeavesTools)
         m_shared.unloadPickers();
-        hideEditor();
-    };
-    markHovered(frame, {addButton, removeButton, saveButton});
+    m_editing.close();
 }
 
-// ---- the editor over its cell
-
-void GridPage::hideEditor() {
-    editor->setShown(false);
+void GridPage::formClicked() {
+    const bool reached = quirks.formClickReachesHidden ? m_grid->isEnabled() && m_grid->Visible() : m_frame.Visible();
+    if (!reached)
+        return;
+    m_editing.commitAndClose();
+    if (quirks.formClickTakesKeyboard)
+        m_grid->takeFocus();
 }
 
-void GridPage::commitAndHideBox() {
-    grid->setText(editor->Text());
-    hideEditor();
+// ---- the way in
+
+void GridPage::open(PageCode code) {
+    navigation().leaveOthers(*this, code);
+    m_editing.close();
+    if (quirks.loadsBeforeShown)
+        loadTable();
+    navigation().bringForward(*this);
+    if (!quirks.loadsBeforeShown)
+        loadTable();
 }
 
-/// Under the box, on the screen.
+void GridPage::loadTable() {
+    Recordset& records = load(list().source.isEmpty() ? list().table : list().source);
+    m_grid->place(120, 840, 11415, 4815);
+    layColumns();
+    startRows(*m_grid);
+    fillList(*m_grid, records, shownFields(list().columns),
+             [this] { return quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row(); });
+}
+
+Recordset& GridPage::load(QStringView source) {
+    Recordset& records = Adodc1.open(source.toString());
+    m_loaded = Adodc1.loaded();
+    return records;
+}
+
+void GridPage::layColumns() {
+    m_grid->setCols(lastColumn() + 1);
+    m_grid->setColWidth(0, MarkerWidth);
+    std::vector<int> figures;
+    for (int column = 1; const Column& entry : list().columns) {
+        m_grid->setColWidth(column, entry.width);
+        m_grid->setTextMatrix(0, column, entry.caption.toString());
+        if (entry.kind == Kind::Amount || entry.kind == Kind::WorkedOut)
+            figures.push_back(column);
+        ++column;
+    }
+    m_grid->setAmountColumns(std::move(figures));
+}
+
+int GridPage::columnOf(QStringView field) const {
+    const auto found = std::ranges::find(list().columns, field, &Column::field);
+    return static_cast<int>(found - list().columns.begin()) + 1;
+}
+
+GridPage::Kind GridPage::kindOf(int column) const {
+    const bool listed = column >= 1 && column <= lastColumn();
+    return listed ? list().columns[static_cast<std::size_t>(column - 1)].kind : Kind::Text;
+}
+
+// ---- the box over its cell
+
 QPointF GridPage::toolPlace() const {
-    return {frame.Left() + editor->Left() + m_window.Left(),
-            frame.Top() + editor->Top() + editor->Height() + m_window.Top()};
+    return placeBelow(*m_editing.box, m_editing.box->Height());
 }
 
 void GridPage::openDatePicker() {
-    const QPointF place = toolPlace();
-    m_shared.openDatePicker({traits.date.target, editor, grid}, place.x(), place.y());
+    m_shared.openDatePicker(traits.dateField, {m_editing.box, m_grid}, toolPlace());
 }
 
 void GridPage::openCalculator() {
-    editor->setUsable(false);
-    const QPointF place = toolPlace();
-    m_shared.openCalculator({traits.amounts.target, editor, grid}, place.x(), place.y());
+    m_editing.box->setUsable(false);
+    m_shared.openCalculator(traits.amountField, {m_editing.box, m_grid}, toolPlace());
 }
 
-void GridPage::cellClick() {
+void GridPage::cellClicked() {
     if (!takesClicks())
         return;
-    editor->lay();
-    editor->setShown(true);
-    editor->takeFocus();
-    const int column = grid->Col();
-    if (traits.date.column && column == traits.date.column)
+    m_editing.open();
+    const Kind kind = kindOf(m_grid->Col());
+    if (kind == Kind::Date)
         openDatePicker();
     else
-        m_shared.forms.unload(u"Form1"_s);
-    if (traits.amounts.onClick.holds(column)) {
+        m_shared.unloadDatePicker();
+    if (kind == Kind::Amount) {
         openCalculator();
     } else {
-        editor->setUsable(true);
-        editor->takeFocus();
-        m_shared.forms.unload(u"Form9"_s);
+        m_editing.box->setUsable(true);
+        m_editing.box->takeFocus();
+        m_shared.forms.unload(names::Calculator);
     }
 }
 
-void GridPage::editorClick() {
-    const int column = grid->Col();
-    if (traits.date.column && column == traits.date.column)
+void GridPage::boxClicked() {
+    const Kind kind = kindOf(m_grid->Col());
+    if (kind == Kind::Date)
         openDatePicker();
-    if (traits.amounts.onClick.holds(column)) {
-        openCalculator();
-        return;
-    }
-    editor->setUsable(column != traits.closedColumn);
-    m_shared.forms.unload(u"Form9"_s);
+    if (kind == Kind::Amount)
+        return openCalculator();
+    m_editing.box->setUsable(kind != Kind::WorkedOut);
+    m_shared.forms.unload(names::Calculator);
 }
 
-void GridPage::editorKey(int key) {
-    if (key == Escape) {
-        hideEditor();
-        grid->takeFocus();
-    } else if (key == Enter) {
-        writeBack();
-    }
-}
-
-void GridPage::writeBack() {
-    grid->setText(editor->Text());
-    const int lastColumn = static_cast<int>(traits.columns.size());
-    bool passedLast = false;
-    if (grid->Col() < lastColumn) {
-        grid->setCol(grid->Col() + 1);
-        moved();
-    } else {
-        if (grid->Row() < grid->Rows() - 1) {
-            grid->setRow(grid->Row() + 1);
-            grid->setCol(1);
-        }
-        passedLast = grid->Col() == grid->Cols() - 1 && grid->Row() == grid->Rows() - 1;
-        if (passedLast)
-            hideEditor();
-    }
-    editor->lay();
-    const int column = grid->Col();
-    if (traits.amounts.onEnter.holds(column)) {
-        openCalculator();
-    } else {
-        if (!traits.closedColumn)
-            editor->setUsable(true);
-        m_shared.forms.unload(u"Form9"_s);
-    }
-    if (traits.date.opensOnEnter && traits.date.column && column == traits.date.column)
-        openDatePicker();
-    else
-        m_shared.forms.unload(u"Form1"_s);
+void GridPage::entered() {
+    m_editing.commit();
+    const bool passedLast = walkOn();
+    layBox();
     if (passedLast)
-        grid->takeFocus();
+        m_grid->takeFocus();
     else
-        editor->takeFocus();
+        m_editing.box->takeFocus();
 }
 
-// ---- the button triple
+/// To the next cell of the row, behind the last one to the next row; tells whether there is none.
+bool GridPage::walkOn() {
+    if (m_grid->Col() < lastColumn()) {
+        m_grid->setCol(m_grid->Col() + 1);
+        moved();
+        return false;
+    }
+    if (m_grid->Row() < m_grid->Rows() - 1) {
+        m_grid->setRow(m_grid->Row() + 1);
+        m_grid->setCol(1);
+    }
+    const bool passedLast = m_grid->Col() == m_grid->Cols() - 1 && m_grid->Row() == m_grid->Rows() - 1;
+    if (passedLast)
+        m_editing.close();
+    return passedLast;
+}
+
+/// Over the cell to which Enter came, with the tools of its kind.
+void GridPage::layBox() {
+    m_editing.box->lay();
+    const int column = m_grid->Col();
+    if (opensCalculatorOnEnter(column)) {
+        openCalculator();
+    } else {
+        if (!m_hasWorkedOut) // else the box has told by its change whether it takes typing here
+            m_editing.box->setUsable(true);
+        m_shared.forms.unload(names::Calculator);
+    }
+    if (kindOf(column) == Kind::Date && !quirks.enterOpensNoPicker)
+        openDatePicker();
+    else
+        m_shared.unloadDatePicker();
+}
+
+bool GridPage::opensCalculatorOnEnter(int column) const {
+    switch (quirks.calculatorOnEnter) {
+    case CalculatorOnEnter::EveryAmount:
+        return kindOf(column) == Kind::Amount;
+    case CalculatorOnEnter::FirstAmount:
+        return column == columnOf(std::ranges::find(list().columns, Kind::Amount, &Column::kind)->field);
+    case CalculatorOnEnter::Never:
+        break;
+    }
+    return false;
+}
+
+// ---- the buttons
 
 void GridPage::addRow() {
     m_shared.unloadPickers();
-    if (traits.addCommitsBox) {
-        if (!editor->Text().isEmpty())
-            grid->setText(editor->Text());
-        editor->setBoxText({});
+    if (quirks.addCommitsBox) {
+        m_editing.commitTyped();
+        m_editing.box->setBoxText({});
     } else {
-        grid->setRow(grid->Rows() - 1);
+        m_grid->setRow(m_grid->Rows() - 1);
     }
-    if (isRowBlank(*grid, traits.addTests == AddTests::LastRow ? grid->Rows() - 1 : grid->Row())) {
-        m_shared.services.say(u"当前有一条空记录"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+    if (isRowBlank(*m_grid, quirks.addTestsCurrentRow ? m_grid->Row() : m_grid->Rows() - 1)) {
+        tellOfBlankRow(m_shared);
     } else {
-        grid->setRows(grid->Rows() + 1);
-        grid->setRowHeight(grid->Row() + 1, MSFlexGrid::DefaultRowHeight);
+        m_grid->setRows(m_grid->Rows() + 1);
+        m_grid->setRowHeight(m_grid->Row() + 1, MSFlexGrid::DefaultRowHeight);
     }
-    grid->setRow(grid->Rows() - 1);
-    editor->place();
-    if (traits.addedBox == AddedBox::TakesCell)
-        editor->setBoxText(grid->Text());
-    hideEditor();
+    m_grid->setRow(m_grid->Rows() - 1);
+    m_editing.box->place();
+    if (!quirks.addKeepsBoxText)
+        m_editing.box->setBoxText(m_grid->Text());
+    m_editing.close();
 }
 
 void GridPage::deleteRow() {
     m_shared.unloadPickers();
-    hideEditor();
-    if (m_shared.services.say(u"是否需要删除?"_s, MessageStyle::OkCancelInformation, u"温馨提示"_s) != Answer::Ok)
+    m_editing.close();
+    if (!isDeletionWanted(m_shared))
         return;
-    deleteAt(load(table()), grid->Row());
-    const bool blanked = traits.lastRow == LastRow::BlankedWhenFirst ? grid->Row() == 1 : grid->Rows() < 3;
+    deleteAt(loadList(), m_grid->Row());
+    const bool blanked = quirks.deleteBlanksFirstRow ? m_grid->Row() == 1 : m_grid->Rows() < 3;
     if (blanked)
-        blankRow(*grid, 1);
+        blankRow(*m_grid, 1);
     else
-        grid->RemoveItem(grid->Row());
+        m_grid->RemoveItem(m_grid->Row());
 }
 
 bool GridPage::hasGap() {
-    const int end = grid->Cols() - (traits.endsInRemark ? 1 : 0);
-    for (int row = 1; row < grid->Rows(); ++row) {
-        if (traits.rowInSave == RowInSave::Walks)
-            grid->setRow(row);
-        if (grid->firstEmpty(row, 1, end) != end)
+    const int end = m_grid->Cols() - (quirks.lastColumnMatters ? 0 : 1);
+    for (int row = 1; row < m_grid->Rows(); ++row) {
+        if (quirks.rowInSave == RowInSave::Walks)
+            m_grid->setRow(row);
+        if (m_grid->firstEmpty(row, 1, end) != end)
             return true;
     }
     return false;
@@ -212,81 +253,35 @@ bool GridPage::hasGap() {
 bool GridPage::refusesGap() {
     if (!hasGap())
         return false;
-    const QString problem = traits.endsInRemark ? u"除备注信息外记录内容不能为空！"_s : u"记录内容不能为空！"_s;
-    m_shared.services.say(u"为了保存信息的完整性，\r\n"_s + problem, MessageStyle::OkInformation, u"输入提示"_s);
+    const QString problem = quirks.lastColumnMatters ? u"记录内容不能为空！"_s : u"除备注信息外记录内容不能为空！"_s;
+    m_shared.tell(u"为了保存信息的完整性，\r\n"_s + problem, u"输入提示"_s);
     return true;
 }
 
-void GridPage::writeRow(Recordset& records, Field& number, int row, Int16& counter) {
-    records.addNew();
-    number.setValue(static_cast<int>(++counter));
-    writeCells(*grid, row, records);
-    records.update();
+void GridPage::beginSave() {
+    if (quirks.saveLoadsAnew)
+        loadList();
+    if (quirks.saveNamesTable)
+        Adodc1.setRecordSource(list().table.toString());
 }
 
 void GridPage::saveRows() {
     m_shared.unloadPickers();
-    beforeSave();
+    beginSave();
     if (refusesGap())
         return;
     emptyTable(m_loaded->records());
-    if (traits.refreshWhenEmptied)
+    if (quirks.saveReadsEmptied)
         m_loaded->reload();
-    Recordset& records = m_loaded->records();
-    Field number = records.field(u"区别"_s);
-    Int16 counter;
-    for (int row = 1; row < grid->Rows(); ++row) { // none is blank: that would have been a gap
-        if (traits.rowInSave != RowInSave::Stays)
-            grid->setRow(row);
-        writeRow(records, number, row, counter);
+    RowWriter writer(*m_grid, m_loaded->records(), savedFields(list().columns));
+    Int16 number;
+    for (int row = 1; row < m_grid->Rows(); ++row) { // none is blank: that would have been a gap
+        if (quirks.rowInSave != RowInSave::Stays)
+            m_grid->setRow(row);
+        writer.add(row, ++number);
     }
-    m_shared.services.say(u"保存成功"_s, MessageStyle::OkInformation, u"保存提示"_s);
-    hideEditor();
-}
-
-// ---- the list
-
-void GridPage::layColumns() {
-    grid->setCols(static_cast<int>(traits.columns.size()) + 1);
-    grid->setColWidth(0, MarkerWidth);
-    std::vector<int> amounts;
-    for (int column = 1; column < grid->Cols(); ++column) {
-        const Column& entry = traits.columns[static_cast<std::size_t>(column - 1)];
-        grid->setColWidth(column, entry.width);
-        captionColumn(column, entry.caption);
-        if (traits.shownAsAmounts.holds(column))
-            amounts.push_back(column);
-    }
-    grid->setAmountColumns(std::move(amounts));
-}
-
-void GridPage::captionColumn(int column, const char16_t* caption) {
-    grid->setTextMatrix(0, column, QString::fromUtf16(caption));
-}
-
-void GridPage::layOut() {
-    grid->place(120, 840, 11415, 4815);
-    layColumns();
-}
-
-void GridPage::loadTable(bool blankBehindConnection) {
-    Adodc1.setVisible(false);
-    Adodc1.setConnectionString(m_shared.connection(blankBehindConnection));
-    Recordset& records = load(source());
-    layOut();
-    startRows(*grid);
-    fill(records);
-}
-
-Recordset& GridPage::load(const QString& source) {
-    Recordset& records = Adodc1.open(source);
-    m_loaded = Adodc1.loaded();
-    return records;
-}
-
-void GridPage::fill(Recordset& records) {
-    const int shown = std::min(static_cast<int>(traits.columns.size()), records.fieldCount());
-    fillTexts(*grid, records, shown, [this] { return rowForEmptyText(); });
+    tellSaved(m_shared);
+    m_editing.close();
 }
 
 } // namespace qinghe

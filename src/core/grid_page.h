@@ -1,46 +1,39 @@
 #pragma once
 
-#include "controls/cell_editor.h"
+#include "core/cell_editing.h"
+#include "core/list_records.h"
 #include "core/main_window.h"
-#include "core/shared.h"
-
-#include <span>
+#include "core/row_buttons.h"
 
 namespace qinghe {
 
 /// A page that shows a table in a read-only grid under one floating text box: a click on a cell lays the box over it,
 /// Enter writes its text back and moves on, Esc drops it. Nothing reaches the store but a deleted row, until the save
-/// checks the grid, empties the table and writes one row a grid line. The pages of this kind differ in a table of
-/// traits; what a page does beyond it stands in the page's own file.
+/// checks the grid, empties the table and writes one row a grid line.
 ///
-/// A record has no identity but its place: grid row r is record r of the table in its own order.
+/// Such a page is written by filling in its traits. What is odd about it stands in its quirks; a page without any is
+/// the sane one. A record has no identity but its place: grid row r is record r of the table in its own order.
 class GridPage : public Page {
     Q_OBJECT
 
 public:
-    struct Column {
-        const char16_t* caption;
+    /// What a column holds. The text of a Date comes from the date picker or is typed; over an Amount the box is
+    /// disabled and the calculator opens; a WorkedOut figure takes no typing at all. The last two stand on the right.
+    enum class Kind { Text, Date, Amount, WorkedOut };
+
+    struct Column : ListColumn {
         double width; ///< twips
+        Kind kind = Kind::Text;
     };
-    struct Range {
-        int first = 1, last = 0; ///< grid columns; empty by default
-        bool holds(int column) const { return column >= first && column <= last; }
+
+    /// One table in the grid. Pages with two tables have two of these, see list().
+    struct List {
+        QStringView table; ///< that delete and save work on
+        std::span<const Column> columns;
+        QStringView source = {}; ///< what the grid is filled from, where it is not the table
     };
-    /// The column whose text comes from the date picker, or is typed; none when 0.
-    struct DateColumn {
-        int column = 0;
-        int target = 0; ///< dateTarget
-        bool opensOnEnter = true;
-    };
-    /// The columns where the box is disabled and the calculator opens.
-    struct AmountColumns {
-        Range onClick;
-        Range onEnter;
-        int target = 0; ///< calcTarget
-    };
-    enum class AddTests { LastRow, CurrentRow };
-    enum class AddedBox { TakesCell, KeepsText };
-    enum class LastRow { BlankedBelowThreeRows, BlankedWhenFirst };
+
+    enum class CalculatorOnEnter { EveryAmount, FirstAmount, Never };
     /// Where Row goes in a save.
     enum class RowInSave {
         Walks,  ///< along the check, which leaves it on a row that is refused, and along the rows as they are written
@@ -48,89 +41,103 @@ public:
         Stays,
     };
 
+    /// What single pages do otherwise than the scheme; each is meant as it is.
+    struct Quirks {
+        // Enter in the box
+        bool enterOpensNoPicker = false; ///< when it comes to the date
+        CalculatorOnEnter calculatorOnEnter = CalculatorOnEnter::EveryAmount;
+        // 增加
+        bool addCommitsBox = false; ///< into the current cell, instead of going to the last row
+        bool addTestsCurrentRow = false;
+        bool addKeepsBoxText = false;
+        // 删除
+        bool deleteBlanksFirstRow = false; ///< instead of taking it out, also when rows follow it
+        // 保存
+        RowInSave rowInSave = RowInSave::Walks;
+        bool saveLoadsAnew = false;     ///< before the grid is looked at
+        bool saveNamesTable = false;    ///< to `Adodc1`, which is not asked
+        bool saveReadsEmptied = false;  ///< the emptied table once more before it is filled
+        bool lastColumnMatters = false; ///< it may not be empty either
+        // the ways in and out
+        bool loadsBeforeShown = false;
+        bool emptyTextsGoToLoanRow = false;  ///< of a fill
+        bool frameClickLeavesTools = false;  ///< open
+        bool formClickReachesHidden = false; ///< commits the box of a page out of view too
+        bool formClickTakesKeyboard = false; ///< into the grid
+    };
+
     struct Traits {
         PageTraits page;
-        const char16_t* grid;
-        const char16_t* editor;
-        const char16_t* add;             // 增加
-        const char16_t* remove;          // 删除
-        const char16_t* save;            // 保存
-        std::span<const Column> columns; ///< from column 1 on
-        DateColumn date = {};
-        AmountColumns amounts = {};
-        Range shownAsAmounts = {}; ///< set on the right
-        int closedColumn = 0;      ///< any change of the box here disables it
-        bool addCommitsBox = false;
-        AddTests addTests = AddTests::LastRow;
-        AddedBox addedBox = AddedBox::TakesCell;
-        LastRow lastRow = LastRow::BlankedBelowThreeRows;
-        RowInSave rowInSave = RowInSave::Walks;
-        bool endsInRemark = true; ///< which a save lets be empty
-        bool refreshWhenEmptied = false;
+        QStringView grid;
+        QStringView editor;
+        RowButtonTraits buttons;
+        List list;
+        DateField dateField = DateField::None;
+        AmountField amountField = AmountField::None;
+        Quirks quirks = {};
     };
 
     GridPage(MainWindow& window, const Traits& traits);
 
+    /// Brings the page up.
+    void tabClicked(PageCode code) override { open(code); }
+    void formClicked() override;
+
 protected:
-    /// The table that delete and save work on.
-    virtual QString table() const = 0;
-    /// What the grid is filled from.
-    virtual QString source() const { return table(); }
+    /// The table on view.
+    virtual const List& list() const { return traits.list; }
     /// Whether a click on a cell does anything at present.
     virtual bool takesClicks() const { return true; }
     /// What follows Enter's move to another cell, before the box is laid there.
     virtual void moved() {}
-    /// What a save does with the table before it looks at the grid.
-    virtual void beforeSave() {}
-    /// Where an empty text of the fill goes.
-    virtual int rowForEmptyText() const { return grid->Row(); }
+    virtual void frameClicked();
 
-    void cellClick();
-    void editorClick();
-    void editorKey(int key);
-    void addRow();
-    void deleteRow();
-    void saveRows();
+    /// The grid column of a field.
+    int columnOf(QStringView field) const;
 
-    /// The grid's place, columns and captions.
-    void layOut();
-    /// Captions and widths alone.
-    void layColumns();
-    void captionColumn(int column, const char16_t* caption);
-    /// Loads source() into the grid as it is laid out here; the first row is not blanked, so that an empty table leaves
+    /// The way in by the page's label: the other pages go, the list is loaded, the page comes to the front.
+    void open(PageCode code);
+    /// Loads the list into the grid as it is laid out here; the first row is not blanked, so that an empty table leaves
     /// in it what it held.
-    void loadTable(bool blankBehindConnection = true);
-    /// One grid row a record, from the current row on; NULL fields leave their cells as they are, a field behind the
-    /// last column (a table's number) is never shown.
-    void fill(Recordset& records);
-    void hideEditor();
-    /// What a click on the bare form does with the box, also with a hidden one: its text goes into the current cell.
-    void commitAndHideBox();
+    void loadTable();
     /// Opens a source on `Adodc1` and keeps its records as the page's own: they are what the page saves and deletes,
     /// whatever others use the control for meanwhile.
-    Recordset& load(const QString& source);
+    Recordset& load(QStringView source);
+    Recordset& loadList() { return load(list().table); }
 
     const Traits& traits;
+    const Quirks& quirks;
     MainWindow& m_window;
     Shared& m_shared;
     Adodc& Adodc1;
-    Frame& frame;
-    MSFlexGrid* const grid;
-    CellEditor* const editor;
-    CommandButton* const addButton;
-    CommandButton* const removeButton;
-    CommandButton* const saveButton;
+    Frame& m_frame;
+    MSFlexGrid* const m_grid;
+    CellEditing m_editing;
+    RowButtons m_buttons;
 
 private:
     void bindEvents();
+    void layColumns();
+    int lastColumn() const { return static_cast<int>(list().columns.size()); }
+    Kind kindOf(int column) const;
+    bool opensCalculatorOnEnter(int column) const;
+    QPointF toolPlace() const;
     void openDatePicker();
     void openCalculator();
-    QPointF toolPlace() const;
-    void writeBack();
+
+    void cellClicked();
+    void boxClicked();
+    void entered();
+    bool walkOn();
+    void layBox();
+    void addRow();
+    void deleteRow();
+    void saveRows();
+    void beginSave();
     bool hasGap();
     bool refusesGap();
-    void writeRow(Recordset& records, Field& number, int row, Int16& counter);
 
+    bool m_hasWorkedOut = false;         ///< a column that takes no typing
     std::shared_ptr<LoadedSet> m_loaded; ///< by load, last
 };
 

@@ -1,22 +1,20 @@
 #include "core/hover.h"
 
-namespace qinghe {
+#include "core/ink.h"
 
-namespace {
-constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
-}
+namespace qinghe {
 
 void markHovered(CommandButton& button) {
     button.MouseMove = [&button] {
         button.setHandCursor();
-        button.setBackColor(Grey);
+        button.setBackColor(ink::HoverGrey);
     };
 }
 
 void unmarkHovered(const std::vector<CommandButton*>& buttons) {
     for (CommandButton* button : buttons)
-        if (button->BackColor() == Grey)
-            button->setBackColor(White);
+        if (button->BackColor() == ink::HoverGrey)
+            button->setBackColor(ink::White);
 }
 
 void markHovered(Form& form, const std::vector<CommandButton*>& buttons, const std::vector<Frame*>& frames) {

@@ -2,7 +2,6 @@
 
 #include "core/stored_choice.h"
 #include "core/stored_picture.h"
-#include "core/tray_icon.h"
 #include "core/window_shape.h"
 #include "platform/files.h"
 #include "store/data_file.h"
@@ -20,7 +19,7 @@ constexpr double FormWidth = 12000, FormHeight = 8100; // twips
 constexpr int Minimised = 1, Normal = 0;
 constexpr int LateReportMs = 250;     ///< how long a busy window manager may still tell of the way to the tray
 constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
-constexpr int OtherTrayMessage = 130; ///< compared as well, and meant
+constexpr int OtherTrayMessage = 130; ///< brings the window back as well
 
 bool bringsBack(double message) {
     return message == OtherTrayMessage || message == LeftButtonDown;
@@ -29,10 +28,10 @@ bool bringsBack(double message) {
 } // namespace
 
 MainWindow::MainWindow(Shared& shared)
-    : Form(u"Form2"_s, Kind::Frameless, Ground::Main),
-      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
-      Adodc2(new Adodc(shared.store, u"Adodc2"_s, this)),
-      Adodc3(new Adodc(shared.store, u"Adodc3"_s, this)),
+    : Form(names::Main, Kind::Frameless, Ground::Main),
+      Adodc1(shared.newControl(u"Adodc1"_s, this)),
+      Adodc2(shared.newControl(u"Adodc2"_s, this)),
+      Adodc3(shared.newControl(u"Adodc3"_s, this)),
       Timer1(new Timer(this, u"Timer1"_s)),
       m_shared(shared),
       m_navigation(*this, shared),
@@ -47,7 +46,7 @@ void MainWindow::bindEvents() {
     Click = [this] { Form2_Form_Click(); };
     MouseDown = [this](double x, double y) { Form2_Form_MouseDown(x, y); };
     MouseMove = [this](double x, double y) { Form2_Form_MouseMove(x, y); };
-    MouseUp = [this](double, double) { dragging = 0; };
+    MouseUp = [this](double, double) { dragging = false; };
     Resize = [this] { Form2_Form_Resize(); };
     // The desktop may close the window (a shortcut of the window manager); the program ends like any other then: the
     // header stays healed and the pictures stay.
@@ -56,15 +55,14 @@ void MainWindow::bindEvents() {
 }
 
 void MainWindow::load() {
-    Adodc1->setConnectionString(m_shared.connection());
     refuseSecondCopy();
-    if (const QString diary = m_shared.beside(u"mydiary"_s); !files::isFolder(diary))
+    if (const QString diary = m_shared.diaryFolder(); !files::isFolder(diary))
         files::makeFolder(diary);
     shapeMainWindow(*this);
     m_shared.store.close();
-    healHeader(m_shared.beside(DataFileName.toString()));
+    healHeader(m_shared.dataFile());
     showForm();
-    preparePages();
+    m_navigation.begin(*m_desktop);
     startClock();
     for (Page* page : m_navigation.pages())
         page->windowLoads();
@@ -80,12 +78,6 @@ void MainWindow::refuseSecondCopy() {
         return;
     m_shared.services.say(u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s);
     throw handlers::ProgramEnd{0};
-}
-
-void MainWindow::preparePages() {
-    m_navigation.begin(*m_desktop);
-    for (Adodc* control : {Adodc1, Adodc2, Adodc3})
-        control->setVisible(false);
 }
 
 void MainWindow::startClock() {
@@ -106,13 +98,15 @@ void MainWindow::toTray() {
             setWindowState(Minimised);
         return;
     }
-    m_shared.services.tray->add(trayDataFor(*this), [this](int message) { onTrayMessage(message); });
+    m_shared.services.tray->add(productName(), [this](int message) { onTrayMessage(message); });
     // Hidden at the next turn: the window system is still at work on the change of state that brought us here.
     QTimer::singleShot(0, this, [this] { handlers::enter([this] { setShown(false); }); });
 }
 
 void MainWindow::onTrayMessage(int message) {
-    Form2_Form_MouseMove(message * TwipsPerPixel, 0);
+    comeBack(message);
+    // For the rest it is a move of the pointer, to as many pixels.
+    followPointer(message * TwipsPerPixel, 0);
     // A window on view may be covered. The pointer on its way over the window gives the same numbers, and must not pull
     // it over others.
     if (bringsBack(message))
@@ -124,7 +118,6 @@ void MainWindow::Form2_Form_Resize() {
         return;
     if (WindowState() == Minimised && m_sinceReturn.isValid() && m_sinceReturn.elapsed() < LateReportMs)
         return setWindowState(Normal);
-    Adodc1->setConnectionString(m_shared.connection());
     if (MinimiseToTray.isYes(*Adodc1) && WindowState() == Minimised)
         toTray();
 }
@@ -135,24 +128,30 @@ void MainWindow::Form2_Form_Click() {
 }
 
 void MainWindow::Form2_Form_MouseDown(double x, double y) {
-    if (Form* picker = m_shared.forms.loaded(u"Form1"_s))
-        picker->setShown(false);
-    dragging = 1;
+    m_shared.hideDatePicker();
+    dragging = true;
     dragStartX = roundedInt16(x);
     m_shared.emptyRowFlag = roundedInt16(y); // dragStartY
 }
 
 void MainWindow::Form2_Form_MouseMove(double x, double y) {
-    // Tray events arrive here too, as a place that is the event's number in pixels.
-    if (bringsBack(x / TwipsPerPixel)) {
-        if (WindowState() != Normal)
-            setWindowState(Normal);
-        if (!Visible()) {
-            showForm();
-            m_sinceReturn.start();
-        }
+    comeBack(x / TwipsPerPixel);
+    followPointer(x, y);
+}
+
+void MainWindow::comeBack(double message) {
+    if (!bringsBack(message))
+        return;
+    if (WindowState() != Normal)
+        setWindowState(Normal);
+    if (!Visible()) {
+        showForm();
+        m_sinceReturn.start();
     }
-    if (dragging == 1)
+}
+
+void MainWindow::followPointer(double x, double y) {
+    if (dragging)
         moveTo(Left() + x - dragStartX, Top() + y - m_shared.emptyRowFlag);
     m_navigation.markCurrent();
 }

@@ -31,11 +31,14 @@ public:
 private:
     void bindEvents();
     void refuseSecondCopy();
-    void preparePages();
     void startClock();
     void readTraySetting();
     void toTray();
     void onTrayMessage(int message);
+    /// Shows the window when a message of the tray asks for it. The pixel column of the pointer is taken for one too.
+    void comeBack(double message);
+    /// Drags the window, where it is being dragged, and takes away the marks of hovering. Twips inside the window.
+    void followPointer(double x, double y);
 
     void Form2_Form_Click();
     void Form2_Form_MouseDown(double x, double y);
@@ -49,7 +52,7 @@ private:
 
     QElapsedTimer m_sinceReturn; ///< from the tray
 
-    Int16 dragging;
+    bool dragging = false;
     Int16 dragStartX; // dragStartY is emptyRowFlag, which is shared
 };
 

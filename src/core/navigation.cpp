@@ -1,10 +1,11 @@
 #include "core/navigation.h"
 
+#include "core/ink.h"
+
 namespace qinghe {
 
 namespace {
 
-constexpr quint32 Red = 255, Black = 0;
 constexpr double TabTop = 1080, TabWidth = 960, TabHeight = 480; // twips
 
 } // namespace
@@ -13,7 +14,7 @@ Navigation::Navigation(Form& window, Shared& shared) : m_window(window), m_share
 
 Frame& Navigation::enter(Page& page) {
     const PageTraits& traits = page.traits();
-    auto* frame = new Frame(&m_window, QString::fromUtf16(traits.frame), QString::fromUtf16(traits.caption));
+    auto* frame = new Frame(&m_window, traits.frame.toString(), traits.caption.toString());
     frame->setRole(Role::PageFrame);
     frame->setShown(false);
     for (const PageTab& tab : traits.tabs)
@@ -23,30 +24,29 @@ Frame& Navigation::enter(Page& page) {
 }
 
 void Navigation::makeTab(Page& page, const PageTab& tab) {
-    auto* label = new Label(&m_window, QString::fromUtf16(tab.label), QString::fromUtf16(tab.caption));
+    auto* label = new Label(&m_window, tab.label.toString(), tab.caption.toString());
     label->place(tab.left, TabTop, TabWidth, TabHeight);
     label->setRole(Role::PageLabel);
     label->MouseMove = [label] {
-        label->setForeColor(Red);
+        label->setForeColor(ink::Red);
         label->setHandCursor();
     };
     label->Click = [&page, code = tab.code] { page.tabClicked(code); };
     m_tabs.push_back({label, tab.code});
 }
 
-void Navigation::leaveOthers(const Page& opened, int code) {
-    currentPage = code;
+void Navigation::leaveOthers(const Page& opened, PageCode code) {
+    currentPage = static_cast<int>(code);
     m_shared.unloadTools();
     markCurrent();
     hideOthers(opened);
 }
 
 void Navigation::hideOthers(const Page& opened) {
-    const QStringView leftAlone = opened.traits().leavesAlone;
     for (Page* page : m_pages) {
         // Also of the page that is opened once more: what had the keyboard belonged to its last visit.
         page->frame().giveUpKeyboard();
-        if (page == &opened || page->frame().objectName() == leftAlone)
+        if (page == &opened || page->traits().frame == opened.traits().leavesAlone)
             continue;
         page->frame().setShown(false);
         page->left();
@@ -70,11 +70,11 @@ void Navigation::show(const Page& shown) {
 
 void Navigation::markCurrent() {
     for (const Tab& tab : m_tabs)
-        tab.label->setForeColor(tab.code == currentPage ? Red : Black);
+        tab.label->setForeColor(static_cast<int>(tab.code) == currentPage ? ink::Red : ink::Black);
 }
 
 void Navigation::begin(const Page& page) {
-    currentPage = page.traits().tabs.front().code;
+    currentPage = static_cast<int>(page.traits().tabs.front().code);
     markCurrent();
     bringForward(page);
 }

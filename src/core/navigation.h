@@ -13,6 +13,8 @@ namespace qinghe {
 class Navigation {
 public:
     Navigation(Form& window, Shared& shared);
+    Navigation(const Navigation&) = delete;
+    Navigation& operator=(const Navigation&) = delete;
 
     Form& window() const { return m_window; }
     const std::vector<Page*>& pages() const { return m_pages; }
@@ -23,7 +25,7 @@ public:
     // A page change is two halves; a page does its own work between or behind them.
     /// Takes the label's number, unloads the tools, marks the label, hides the other pages; the keyboard goes to the
     /// window.
-    void leaveOthers(const Page& opened, int code);
+    void leaveOthers(const Page& opened, PageCode code);
     /// Moves the page's frame into its place and shows it, below the row of labels.
     void bringForward(const Page& page);
 
@@ -32,7 +34,7 @@ public:
     /// Shows the page's frame where it stands, before the others and below the row of labels.
     void show(const Page& page);
 
-    Int16 currentPage; ///< the number of the label chosen last
+    Int16 currentPage; ///< the PageCode of the label chosen last
 
     /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others.
     void markCurrent();
@@ -42,7 +44,7 @@ public:
 private:
     struct Tab {
         Label* label;
-        int code;
+        PageCode code;
     };
     void makeTab(Page& page, const PageTab& tab);
 

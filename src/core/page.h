@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/controls.h"
+#include "core/names.h"
 
 #include <span>
 
@@ -10,19 +11,19 @@ class Navigation;
 
 /// A label in the row across the top of the main window.
 struct PageTab {
-    const char16_t* label;
-    const char16_t* caption;
+    QStringView label;
+    QStringView caption;
     double left; ///< twips
-    int code;    ///< currentPage while the page is in front by this label
+    PageCode code;
 };
 
 /// A page as the navigation knows it. Twips.
 struct PageTraits {
-    const char16_t* frame;
-    const char16_t* caption; ///< of the frame at first
+    QStringView frame;
+    QStringView caption; ///< of the frame at first
     double left, top, width, height;
-    std::span<const PageTab> tabs = {};    ///< none for a page that is entered in another way
-    const char16_t* leavesAlone = nullptr; ///< the frame that stays as it stands behind this page
+    std::span<const PageTab> tabs = {}; ///< none for a page that is entered in another way
+    QStringView leavesAlone = {};       ///< the frame that stays as it stands behind this page
 };
 
 /// A page of the main window: a frame, what brings it to the front, and what it does when others do something that
@@ -37,8 +38,8 @@ public:
     const PageTraits& traits() const { return m_traits; }
     Frame& frame() const { return m_frame; }
 
-    /// The click of one of the page's labels, by its code.
-    virtual void tabClicked(int code) { Q_UNUSED(code) }
+    /// The click of one of the page's labels.
+    virtual void tabClicked(PageCode code) { Q_UNUSED(code) }
     /// Another page has been chosen, whether this one was on view or not.
     virtual void left() {}
     /// A click on the bare ground of the main window, whatever page is on view.

@@ -1,13 +1,26 @@
 #include "core/shared.h"
 
 #include "store/connection_text.h"
+#include "store/data_file.h"
 
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-QString Shared::connection(bool blankBehind) const {
-    return connectionText(services.appPath, blankBehind);
+Adodc* Shared::newControl(const QString& name, QObject* parent) {
+    return new Adodc(store, name, connection(), parent);
+}
+
+QString Shared::connection() const {
+    return connectionText(services.appPath);
+}
+
+QString Shared::dataFile() const {
+    return beside(DataFileName.toString());
+}
+
+QString Shared::diaryFolder() const {
+    return beside(u"mydiary"_s);
 }
 
 QString Shared::beside(const QString& name) const {
@@ -15,30 +28,35 @@ QString Shared::beside(const QString& name) const {
 }
 
 void Shared::unloadTools() {
-    forms.unload(u"Form1"_s);
-    forms.unload(u"Form3"_s);
-    forms.unload(u"Form9"_s);
+    forms.unload(names::DatePicker);
+    forms.unload(names::Purge);
+    forms.unload(names::Calculator);
 }
 
 void Shared::unloadPickers() {
-    forms.unload(u"Form1"_s);
-    forms.unload(u"Form9"_s);
+    forms.unload(names::DatePicker);
+    forms.unload(names::Calculator);
 }
 
-void Shared::openDatePicker(const FieldTarget& field, double left, double top) {
-    dateTarget = field.number;
-    openTool(u"Form1"_s, field, left, top);
+void Shared::hideDatePicker() {
+    if (FieldTool* picker = forms.loaded(names::DatePicker))
+        picker->setShown(false);
 }
 
-void Shared::openCalculator(const FieldTarget& field, double left, double top) {
-    calcTarget = field.number;
-    openTool(u"Form9"_s, field, left, top);
+void Shared::openDatePicker(DateField field, const FieldTarget& target, QPointF place) {
+    dateTarget = static_cast<int>(field);
+    openTool(names::DatePicker, target, place);
 }
 
-void Shared::openTool(const QString& name, const FieldTarget& field, double left, double top) {
-    auto& tool = forms.get<FieldTool>(name);
-    tool.serve(field);
-    tool.moveTo(left, top);
+void Shared::openCalculator(AmountField field, const FieldTarget& target, QPointF place) {
+    calcTarget = static_cast<int>(field);
+    openTool(names::Calculator, target, place);
+}
+
+void Shared::openTool(const FormName<FieldTool>& name, const FieldTarget& target, QPointF place) {
+    FieldTool& tool = forms.get(name);
+    tool.serve(target);
+    tool.moveTo(place.x(), place.y());
     tool.showForm();
     tool.keepOnScreen();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/forms.h"
 #include "core/field_tool.h"
+#include "core/names.h"
 #include "platform/services.h"
 #include "runtime/integers.h"
 #include "store/adodc.h"
@@ -18,8 +18,8 @@ struct EditorTarget {
     MSFlexGrid* grid = nullptr;
 };
 
-/// What pages and windows share, all of it: the desktop's services, the store, the forms by name, and the few facts
-/// that cross from one to another. It decides nothing.
+/// What pages and windows share, all of it: the desktop's services, the store, the forms, and the few facts that cross
+/// from one to another. It decides nothing.
 class Shared {
 public:
     explicit Shared(Services desktop) : services(std::move(desktop)) {}
@@ -28,26 +28,37 @@ public:
     Store store{[this] { return services.clock->today().year(); }};
     Forms forms;
 
-    /// Which field asked last for the date picker (1 to 8) and which for the calculator (1 to 4); 0 before the first.
+    /// Which field asked last for the date picker (a DateField) and which for the calculator (an AmountField); 0 before
+    /// the first.
     Int16 dateTarget;
     Int16 calcTarget;
 
-    /// The floating editors by the names of their grids ("ms2"), entered by the pages. A click on one page's frame
-    /// closes another page's editor, and one page borrows the row number of another's grid.
-    std::map<QString, EditorTarget> editors;
+    /// The floating editors by the names of their grids, entered by the pages. A click on one page's frame closes
+    /// another page's editor, and one page borrows the row number of another's grid.
+    std::map<QStringView, EditorTarget> editors;
+    /// The current row of the loan grid, the one row number that all lists share: there go the empty texts that several
+    /// of them read.
+    int loanRow() const { return editors.at(names::LoanGrid).grid->Row(); }
 
     /// The categories' sticky mark of a filled row. It is one variable with the place where a drag of the main window
-    /// began (dragStartY): a press on the bare form disturbs the mark, and is meant to.
+    /// began (dragStartY): a press on the bare form disturbs the mark.
     Int16 emptyRowFlag;
 
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;
-
     /// Empties what stands on the diary page, if that is on view; entered by that page.
     std::function<void()> emptyDiaryPage;
+    /// What follows when the date picker goes; entered by the purge window while it is loaded.
+    std::function<void()> pickerGone;
 
-    /// The connection text of the data file, with the blank at its end that most handlers leave there, or without.
-    QString connection(bool blankBehind = true) const;
+    /// A data control on the program's own file.
+    Adodc* newControl(const QString& name, QObject* parent);
+    /// The text that points a data control at the program's own file.
+    QString connection() const;
+    /// The path of the data file.
+    QString dataFile() const;
+    /// The path of the folder in which the diary's texts lie.
+    QString diaryFolder() const;
     /// The path of a file beside the program.
     QString beside(const QString& name) const;
 
@@ -55,12 +66,21 @@ public:
     void unloadTools();
     /// Unloads the date picker and the calculator.
     void unloadPickers();
-    /// Shows the date picker or the calculator for a field, at a place on the screen (twips), without blocking.
-    void openDatePicker(const FieldTarget& field, double left, double top);
-    void openCalculator(const FieldTarget& field, double left, double top);
+    /// Unloads the date picker.
+    void unloadDatePicker() { forms.unload(names::DatePicker); }
+    /// Takes the date picker out of sight, if it is loaded.
+    void hideDatePicker();
+
+    /// Shows the tool for a field at a place on the screen (twips), without blocking.
+    void openDatePicker(DateField field, const FieldTarget& target, QPointF place);
+    void openCalculator(AmountField field, const FieldTarget& target, QPointF place);
+    /// What a message says in the usual way: information with one button.
+    void tell(const QString& text, const QString& title) const {
+        services.say(text, MessageStyle::OkInformation, title);
+    }
 
 private:
-    void openTool(const QString& form, const FieldTarget& field, double left, double top);
+    void openTool(const FormName<FieldTool>& name, const FieldTarget& target, QPointF place);
 };
 
 } // namespace qinghe

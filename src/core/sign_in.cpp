@@ -1,11 +1,14 @@
 #include "core/sign_in.h"
 
 #include "controls/key_presses.h"
+#include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/ink.h"
 #include "core/stored_picture.h"
 #include "platform/files.h"
 #include "store/data_file.h"
 #include "store/header_toggle.h"
+#include "store/tables.h"
 
 #include <QPainterPath>
 #include <QWindow>
@@ -15,7 +18,6 @@ namespace qinghe {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr quint32 Red = 255;
 
 QPolygon roundedRectangle(const QSize& size, int radius) {
     QPainterPath path;
@@ -26,9 +28,9 @@ QPolygon roundedRectangle(const QSize& size, int radius) {
 } // namespace
 
 SignIn::SignIn(Shared& shared)
-    : Form(u"Form5"_s, Kind::Frameless, Ground::SignIn),
+    : Form(names::SignIn, Kind::Frameless, Ground::SignIn),
       m_shared(shared),
-      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
+      Adodc1(shared.newControl(u"Adodc1"_s, this)),
       Combo1(new ComboBox(this, u"Combo1"_s, true)),
       Text2(new TextBox(this, u"Text2"_s)),
       Check1(new CheckBox(this, u"Check1"_s, {})),
@@ -46,8 +48,6 @@ SignIn::SignIn(Shared& shared)
     Image1->place(4320, 0, 375, 375);
     Image2->place(4680, 0, 495, 375);
     Text2->setEchoMode(QLineEdit::Password);
-    Text2->setRole(Role::SignInField);
-    Combo1->setRole(Role::SignInField);
     Label1->setRole(Role::SignInButton);
     Image1->setGlyph(Glyph::Minimise);
     Image2->setGlyph(Glyph::Close);
@@ -70,10 +70,10 @@ void SignIn::bindEvents() {
             Form5_Label1_Click();
     };
     Label1->MouseMove = [this] {
-        Label1->setForeColor(Red);
+        Label1->setForeColor(ink::Red);
         Label1->setHandCursor();
     };
-    MouseMove = [this](double, double) { Label1->setForeColor(0); };
+    MouseMove = [this](double, double) { Label1->setForeColor(ink::Black); };
     // The window has no title bar to be moved by.
     MouseDown = [this](double, double) {
         if (windowHandle())
@@ -86,34 +86,30 @@ void SignIn::bindEvents() {
 
 void SignIn::load() {
     Label1->setTop(3420);
-    healHeader(m_shared.beside(DataFileName.toString()));
-    Adodc1->setVisible(false);
-    Adodc1->setConnectionString(m_shared.connection());
+    healHeader(m_shared.dataFile());
     offerNames();
     recallPair();
-    Adodc1->setConnectionString(m_shared.connection());
     Text2->setFocus();
     setPicture(writeOut(SignInPicture, *Adodc1, m_shared, *this));
 }
 
 void SignIn::offerNames() {
-    Recordset& users = Adodc1->open(u"yhb"_s);
+    Recordset& users = Adodc1->open(tables::Users.toString());
     for (; !users.eof(); users.moveNext())
-        Combo1->addEntry(users.field(u"用户名"_s).text());
+        Combo1->addEntry(users.field(columns::UserName).text());
 }
 
 void SignIn::recallPair() {
-    Adodc1->setConnectionString(m_shared.connection(false));
-    Recordset& remembered = Adodc1->open(u"登陆用户记录表"_s);
+    Recordset& remembered = Adodc1->open(tables::Remembered.toString());
     if (remembered.recordCount() > 0) {
-        Combo1->setText(remembered.field(u"用户名"_s).text());
-        Text2->setBoxText(remembered.field(u"密码"_s).text());
+        Combo1->setText(remembered.field(columns::UserName).text());
+        Text2->setBoxText(remembered.field(columns::RememberedPassword).text());
         Check1->setValue(true);
         return;
     }
-    Recordset& users = Adodc1->open(u"yhb"_s);
+    Recordset& users = Adodc1->open(tables::Users.toString());
     users.moveFirst();
-    Combo1->setText(users.field(u"用户名"_s).text());
+    Combo1->setText(users.field(columns::UserName).text());
     Text2->setBoxText({});
 }
 
@@ -122,15 +118,14 @@ void SignIn::Form5_Label1_Click() {
         m_shared.services.say(u"用户名和登录密码不能为空！"_s, MessageStyle::OkWarning, u"登录提醒"_s);
         return;
     }
-    Adodc1->setConnectionString(m_shared.connection());
-    Recordset& users = Adodc1->open(u"yhb"_s);
-    users.find(u"用户名='"_s + Combo1->Text() + u"'"_s);
+    Recordset& users = Adodc1->open(tables::Users.toString());
+    users.find(columns::UserName.toString() + u"='"_s + Combo1->Text() + u"'"_s);
     if (users.eof())
         return refuseUnknownName();
-    if (users.field(u"用户密码"_s).text() != Text2->Text())
+    if (users.field(columns::UserPassword).text() != Text2->Text())
         return refuseWrongPassword();
     rememberPair();
-    m_shared.forms.get(u"Form2"_s);
+    m_shared.forms.get(names::Main);
     unload();
 }
 
@@ -142,7 +137,7 @@ void SignIn::refuseUnknownName() {
     Combo1->setText({});
     // The window stays after the third message; only wrong passwords close it.
     if (++wrongNameCount == 3)
-        m_shared.services.say(u"用户名错误三次，请询问管理员！"_s, MessageStyle::OkInformation, u"错误提示"_s);
+        m_shared.tell(u"用户名错误三次，请询问管理员！"_s, u"错误提示"_s);
 }
 
 void SignIn::refuseWrongPassword() {
@@ -153,20 +148,19 @@ void SignIn::refuseWrongPassword() {
         unload();
     Text2->setBoxText({});
     if (++wrongPasswordCount == 3) {
-        m_shared.services.say(u"登陆密码错误三次，请询问管理员！"_s, MessageStyle::OkInformation, u"错误提示"_s);
+        m_shared.tell(u"登陆密码错误三次，请询问管理员！"_s, u"错误提示"_s);
         unload();
     }
 }
 
 void SignIn::rememberPair() {
-    Recordset& remembered = Adodc1->open(u"登陆用户记录表"_s);
-    for (; !remembered.eof(); remembered.moveNext())
-        remembered.deleteCurrent();
+    Recordset& remembered = Adodc1->open(tables::Remembered.toString());
+    emptyTable(remembered);
     if (!Check1->Value())
         return;
     remembered.addNew();
-    remembered.field(u"用户名"_s).setValue(Combo1->Text());
-    remembered.field(u"密码"_s).setValue(Text2->Text());
+    remembered.field(columns::UserName).setValue(Combo1->Text());
+    remembered.field(columns::RememberedPassword).setValue(Text2->Text());
     remembered.update();
 }
 
@@ -176,8 +170,8 @@ void SignIn::Form5_Combo1_Click() {
 
 void SignIn::Form5_Label3_Click() {
     // The flag alone decides, not the box: after a remembered start the first click leaves the box ticked.
-    rememberFlag = rememberFlag ? 0 : 1;
-    Check1->setValue(rememberFlag != 0);
+    rememberFlag = !rememberFlag;
+    Check1->setValue(rememberFlag);
 }
 
 void SignIn::Form5_Image1_Click() {
@@ -187,10 +181,6 @@ void SignIn::Form5_Image1_Click() {
 void SignIn::Form5_Image2_Click() {
     files::deleteMatching(m_shared.services.appPath, u"dlpf.jpg"_s);
     unload();
-}
-
-void SignIn::unload() {
-    m_shared.forms.unload(objectName());
 }
 
 } // namespace qinghe

@@ -28,7 +28,6 @@ private:
     void refuseUnknownName();
     void refuseWrongPassword();
     void rememberPair();
-    void unload();
 
     Shared& m_shared;
     Adodc* Adodc1;
@@ -40,7 +39,7 @@ private:
     Image* Image1;    // minimise
     Image* Image2;    // exit
 
-    Int16 rememberFlag;
+    bool rememberFlag = false;
     Int16 wrongPasswordCount;
     Int16 wrongNameCount;
 };

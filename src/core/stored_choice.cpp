@@ -7,15 +7,15 @@ namespace qinghe {
 using namespace Qt::StringLiterals;
 
 bool StoredChoice::isYes(Adodc& control) const {
-    Recordset& rows = control.open(QString::fromUtf16(query));
+    Recordset& rows = control.open(query.toString());
     return !rows.eof() && rows.field(0).value().truth();
 }
 
 void StoredChoice::rewrite(Adodc& control, bool yes) const {
-    Recordset& rows = control.open(QString::fromUtf16(query));
+    Recordset& rows = control.open(query.toString());
     emptyTable(rows);
     rows.addNew();
-    rows.field(QStringView(column)).setValue(yes);
+    rows.field(column).setValue(yes);
     rows.update();
 }
 
@@ -25,11 +25,10 @@ bool remindsAtSignIn(Adodc& control) {
 
 void storeTick(const Shared& shared, Adodc& control, const StoredChoice& choice, const CheckBox& box,
                const QString& done, const QString& title) {
-    control.setConnectionString(shared.connection());
     if (box.Value() && choice.isYes(control))
         return;
     choice.rewrite(control, box.Value());
-    shared.services.say(done, MessageStyle::OkInformation, title);
+    shared.tell(done, title);
 }
 
 void storeReminderTick(const Shared& shared, Adodc& control, const CheckBox& box) {

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "core/shared.h"
+#include "store/tables.h"
 
 namespace qinghe {
 
 /// A choice of yes or no that is the one row of a table. It is rewritten whole at each change: all rows go, one comes.
 struct StoredChoice {
-    const char16_t* query; ///< of its column
-    const char16_t* column;
+    QStringView query; ///< of its column
+    QStringView column;
 
     /// Whether the table holds a row and its first one says yes. Leaves the query open on `control`.
     bool isYes(Adodc& control) const;
@@ -15,8 +16,8 @@ struct StoredChoice {
     void rewrite(Adodc& control, bool yes) const;
 };
 
-inline constexpr StoredChoice RemindAtSignIn{u"select 日程提醒 from txb", u"日程提醒"};
-inline constexpr StoredChoice MinimiseToTray{u"select 最小化到托盘 from systuopanb", u"最小化到托盘"};
+inline constexpr StoredChoice RemindAtSignIn{u"select 日程提醒 from txb", columns::RemindAtSignIn};
+inline constexpr StoredChoice MinimiseToTray{u"select 最小化到托盘 from systuopanb", columns::MinimiseToTray};
 
 /// Whether reminders begin with the sign-in: the table holds one row, which says yes. Leaves the query open.
 bool remindsAtSignIn(Adodc& control);

@@ -6,20 +6,19 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The picture of the row on which the set stands.
 PictureBytes pictureOf(const StoredPicture& picture, Recordset& row) {
-    const QString sizeColumn = QString::fromUtf16(picture.sizeColumn);
-    const double size = row.field(sizeColumn).value().number();
+    const double size = row.field(picture.table.size).value().number();
     if (size < 0 || size > std::numeric_limits<int>::max())
         throw RuntimeError(
             RuntimeError::InvalidPicture,
-            QStringLiteral(
-                "账本里有一张图片的“%1”是 %2，不可能是文件的长度，图片（%3）无法读取。请用备份文件还原账本。")
-                .arg(sizeColumn, Value(size).text(), QString::fromUtf16(picture.file)));
-    return {static_cast<float>(size),
-            row.field(QString::fromUtf16(picture.bytesColumn)).getChunk(static_cast<int>(size))};
+            u"账本里有一张图片的“%1”是 %2，不可能是文件的长度，图片（%3）无法读取。请用备份文件还原账本。"_s.arg(
+                picture.table.size, Value(size).text(), picture.file));
+    return {static_cast<float>(size), row.field(picture.table.bytes).getChunk(static_cast<int>(size))};
 }
 
 /// The first row with bytes, else the first row, which must be there.
@@ -32,7 +31,7 @@ PictureBytes firstWithBytes(const StoredPicture& picture, Adodc& control) {
 }
 
 QImage firstThatCanBeShown(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place) {
-    for (Recordset& rows = control.open(QString::fromUtf16(picture.source)); !rows.eof(); rows.moveNext()) {
+    for (Recordset& rows = control.open(picture.source.toString()); !rows.eof(); rows.moveNext()) {
         try {
             const QImage image = writeOut(picture, pictureOf(picture, rows).bytes, shared, place);
             if (!image.isNull())
@@ -48,13 +47,13 @@ QImage firstThatCanBeShown(const StoredPicture& picture, Adodc& control, const S
 } // namespace
 
 PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QString& endOfSource) {
-    return pictureOf(picture, control.open(QString::fromUtf16(picture.source) + endOfSource));
+    return pictureOf(picture, control.open(picture.source.toString() + endOfSource));
 }
 
 QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place) {
     if (bytes.isEmpty())
         return {};
-    const QString path = shared.beside(QString::fromUtf16(picture.file));
+    const QString path = shared.beside(picture.file.toString());
     files::writeOver(path, bytes);
     return files::loadPicture(path, place.size());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/picture_tables.h"
 #include "core/shared.h"
 
 #include <QImage>
@@ -8,18 +9,17 @@ namespace qinghe {
 
 /// Where a picture lies in the store, and the file beside the program that it is written to while the program runs.
 struct StoredPicture {
-    const char16_t* source; ///< the query, or its beginning
-    const char16_t* sizeColumn;
-    const char16_t* bytesColumn;
-    const char16_t* file;
+    const PictureTable& table;
+    QStringView source; ///< the query, or its beginning
+    QStringView file;
 };
 
-inline constexpr StoredPicture ChosenSkin{u"select * from 皮肤选择 ", u"文件大小", u"皮肤文件", u"pf.jpg"};
-inline constexpr StoredPicture OfferedSkins{u"select * from 软件皮肤", u"大小", u"皮肤", u"pf.jpg"};
+inline constexpr StoredPicture ChosenSkin{pictures::ChosenSkin, u"select * from 皮肤选择 ", u"pf.jpg"};
+inline constexpr StoredPicture OfferedSkins{pictures::OfferedSkins, u"select * from 软件皮肤", u"pf.jpg"};
 /// Of the skins on offer the one whose name, and a quote behind it, follow.
-inline constexpr StoredPicture NamedSkin{u"select * from 软件皮肤 where 名称='", u"大小", u"皮肤", u"pf.jpg"};
-inline constexpr StoredPicture DesktopPicture{u"select * from 主界面", u"大小", u"文件", u"zjm.jpg"};
-inline constexpr StoredPicture SignInPicture{u"select * from 登陆皮肤 ", u"大小", u"皮肤", u"dlpf.jpg"};
+inline constexpr StoredPicture NamedSkin{pictures::OfferedSkins, u"select * from 软件皮肤 where 名称='", u"pf.jpg"};
+inline constexpr StoredPicture DesktopPicture{pictures::Desktop, u"select * from 主界面", u"zjm.jpg"};
+inline constexpr StoredPicture SignInPicture{pictures::SignIn, u"select * from 登陆皮肤 ", u"dlpf.jpg"};
 
 struct PictureBytes {
     float size = 0; ///< as the store tells it, which a single rounds above 16 MB

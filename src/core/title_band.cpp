@@ -21,7 +21,7 @@ TitleBand::TitleBand(Form& window, Shared& shared)
       Picture3(new Image(&window, u"Picture3"_s)),
       Label16(new Label(Picture3, u"Label16"_s)),
       Label17(new Label(Picture3, u"Label17"_s)),
-      Label20(new Label(Picture3, u"Label20"_s, WebAddressCaption)),
+      Label20(new Label(Picture3, u"Label20"_s, WebAddressCaption.toString())),
       Label26(new Label(&window, u"Label26"_s, productName())) {
     makeWords();
     makeImages();
@@ -43,10 +43,10 @@ void TitleBand::makeWords() {
 
 void TitleBand::makeImages() {
     struct WindowImage {
-        const char16_t* name;
+        QStringView name;
         double left; ///< twips
         Glyph glyph;
-        const char16_t* tip;
+        QStringView tip;
         void (TitleBand::*click)();
     };
     constexpr WindowImage images[] = {
@@ -56,11 +56,11 @@ void TitleBand::makeImages() {
         {u"Image3", 11400, Glyph::Close, u"退出", &TitleBand::Form2_Image3_Click},
     };
     for (const WindowImage& entry : images) {
-        auto* image = new Image(&m_window, QString::fromUtf16(entry.name));
+        auto* image = new Image(&m_window, entry.name.toString());
         image->place(entry.left, 150, 375, 375);
         image->setRole(Role::Glyph);
         image->setGlyph(entry.glyph);
-        image->setToolTip(QString::fromUtf16(entry.tip));
+        image->setToolTip(entry.tip.toString());
         image->Click = [this, click = entry.click] { (this->*click)(); };
         showHandOver(image);
     }
@@ -78,9 +78,9 @@ void TitleBand::showTime() {
 void TitleBand::Form2_Image3_Click() {
     m_shared.unloadTools();
     for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
-        files::deleteMatching(m_shared.services.appPath, QString::fromUtf16(picture.file));
+        files::deleteMatching(m_shared.services.appPath, picture.file.toString());
     m_shared.store.close();
-    spoilHeader(m_shared.beside(DataFileName.toString()));
+    spoilHeader(m_shared.dataFile());
     throw handlers::ProgramEnd{0};
 }
 
@@ -91,7 +91,7 @@ void TitleBand::Form2_Image4_Click() {
 
 void TitleBand::Form2_Image5_Click() {
     m_shared.unloadTools();
-    Form& web = m_shared.forms.get(u"Form7"_s);
+    Form& web = m_shared.forms.get(names::Web);
     web.place(m_window.Left() + m_window.Width(), m_window.Top(), m_window.Width(), m_window.Height());
     web.showForm();
 }

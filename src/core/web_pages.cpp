@@ -3,7 +3,7 @@
 namespace qinghe {
 
 QUrl webPage(const Shared& shared, const QString& page) {
-    return QUrl::fromLocalFile(shared.beside(WebBase + page));
+    return QUrl::fromLocalFile(shared.beside(WebBase.toString() + page));
 }
 
 } // namespace qinghe

@@ -7,10 +7,10 @@
 namespace qinghe {
 
 /// The makers' address as the title band shows it.
-inline const QString WebAddressCaption = QStringLiteral("qinghe.example");
+inline constexpr QStringView WebAddressCaption = u"qinghe.example";
 
 /// The makers' pages lie in a folder of their own beside the program.
-inline const QString WebBase = QStringLiteral("web/");
+inline constexpr QStringView WebBase = u"web/";
 
 QUrl webPage(const Shared& shared, const QString& page);
 

@@ -7,7 +7,7 @@ namespace qinghe {
 using namespace Qt::StringLiterals;
 
 WebWindow::WebWindow(Shared& shared)
-    : Form(u"Form7"_s, Kind::Dialog, Ground::Dialog), m_shared(shared), Web1(new WebBrowser(this, u"Web1"_s)) {
+    : Form(names::Web, Kind::Dialog, Ground::Dialog), m_shared(shared), Web1(new WebBrowser(this, u"Web1"_s)) {
     setCaption(u"软件工具"_s);
     Web1->Leave = [this](const QUrl& page) { m_shared.services.launcher->explore(page); };
 }

@@ -1,21 +1,23 @@
 #pragma once
 
-#include "controls/cell_editor.h"
 #include "controls/long_text_box.h"
+#include "core/cell_editing.h"
 #include "core/main_window.h"
+#include "core/row_buttons.h"
 
 namespace qinghe {
 
 /// The diary page, `Frame10`. An entry is a row of `rjb` (date and title) and a text file named after the title. In
 /// write mode the grid holds one new entry; in find mode it lists all of them, and a click on a title shows its text.
-/// An entry cannot be changed once it is saved. Deleting takes a row by its place and leaves the file: both are meant.
+/// An entry cannot be changed once it is saved. Deleting takes a row by its place, and leaves the file:
+/// no text is lost with its row.
 class DiaryPage : public Page {
     Q_OBJECT
 
 public:
     explicit DiaryPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label8_Click(); }
+    void tabClicked(PageCode) override { Form2_Label8_Click(); }
 
     void Form2_Label8_Click();
     void Form2_Option5_Click();
@@ -23,7 +25,6 @@ public:
     void Form2_ms8_Click();
     void Form2_tx8_Click();
     void Form2_tx9_Click();
-    void Form2_tx9_KeyPress(int KeyAscii);
     void Form2_Command22_Click();
     void Form2_Command23_Click();
     void Form2_Command24_Click();
@@ -31,31 +32,27 @@ public:
 private:
     void bindEvents();
     void layOutGrid();
-    void setSaving(bool allowed);
-    void unloadPicker();
     void openPicker();
     void editCell();
+    void entered();
     void showEntry();
     bool refusesGap();
     bool refusesTitle();
     QString fileOf(const QString& title) const;
 
-    MainWindow& m_window;
     Shared& m_shared;
     Adodc& Adodc1;
     Frame& Frame10;
-    OptionButton* Option6;    // 写日记
-    OptionButton* Option5;    // 查找日记
-    CommandButton* Command22; // 添加
-    CommandButton* Command23; // 删除
-    CommandButton* Command24; // 保存日志
-    MSFlexGrid* ms8;          // date and title
-    CellEditor* tx9;          // over its cells
-    LongTextBox* tx8;         // the entry's text
+    OptionButton* Option6; // 写日记
+    OptionButton* Option5; // 查找日记
+    RowButtons m_buttons;  ///< Command22 to Command24
+    MSFlexGrid* ms8;       // date and title
+    CellEditing m_editing; ///< tx9 over its cells
+    LongTextBox* tx8;      // the entry's text
 
     std::shared_ptr<LoadedSet> m_entries; ///< that the grid lists in find mode
 
-    Int16 diarySearchMode; ///< 1 in find mode
+    bool diarySearchMode = false; ///< in find mode
 };
 
 } // namespace qinghe

@@ -1,9 +1,11 @@
 #include "journal/reminder_window.h"
 
 #include "core/hover.h"
+#include "core/names.h"
 #include "journal/reminders.h"
 #include "look/fonts.h"
 #include "look/running_text.h"
+#include "store/tables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +22,7 @@ constexpr double MostOfScreen = 0.6; ///< what the window takes of its height
 } // namespace
 
 ReminderWindow::ReminderWindow(Reminders& reminders)
-    : Form(u"Form6"_s, Kind::Notice, Ground::Dialog),
+    : Form(names::Reminder, Kind::Notice, Ground::Dialog),
       m_reminders(reminders),
       MM1(*reminders.MM1),
       Timer1(new Timer(this, u"Timer1"_s)),
@@ -72,14 +74,14 @@ void ReminderWindow::showPlan(const QString& plan) {
 }
 
 void ReminderWindow::load() {
-    Shared& shared = m_reminders.workbench();
+    Shared& shared = m_reminders.shared();
     if (!shared.services.instance->tryTake())
         throw handlers::ProgramEnd{0};
     Recordset& plan = m_reminders.due();
-    MM1.setFileName(shared.beside(plan.field(u"提醒音乐"_s).text() + u".wav"_s));
+    MM1.setFileName(shared.beside(plan.field(columns::PlanMusic).text() + u".wav"_s));
     Timer1->setInterval(1000);
     Timer1->setEnabled(true);
-    showPlan(plan.field(u"日程内容"_s).text());
+    showPlan(plan.field(columns::PlanText).text());
 }
 
 void ReminderWindow::Form6_Timer1_Timer() {
@@ -98,7 +100,7 @@ void ReminderWindow::endMusic() {
 void ReminderWindow::Form6_Command1_Click() {
     m_reminders.pause();
     endMusic();
-    m_reminders.workbench().forms.unload(objectName());
+    unload();
 }
 
 void ReminderWindow::Form6_Command2_Click() {

@@ -1,5 +1,6 @@
 #include "journal/reminders.h"
 
+#include "core/plans.h"
 #include "journal/reminder_window.h"
 #include "runtime/number_text.h"
 
@@ -10,11 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int PauseTicks = 70;
-
-/// The blanks inside the marks belong to the query.
-QString ofDay(const QString& query, const QDate& day) {
-    return query + u" from rcb where 日程日期= # "_s + dateText(day) + u" # "_s;
-}
 
 } // namespace
 
@@ -31,7 +27,7 @@ Reminders::Reminders(MainWindow& form)
       Timer3(new Timer(&form, u"Timer3"_s)) {
     Timer2->Tick = [this] { Form2_Timer2_Timer(); };
     Timer3->Tick = [this] { Form2_Timer3_Timer(); };
-    m_shared.forms.define(u"Form6"_s, [this] { return new ReminderWindow(*this); });
+    m_shared.forms.define(names::Reminder, [this] { return new ReminderWindow(*this); });
 }
 
 void Reminders::watch() {
@@ -46,28 +42,27 @@ void Reminders::pause() {
 }
 
 void Reminders::Form2_Timer2_Timer() {
-    if (remindersChecked != 1) {
+    if (!remindersChecked) {
         if (!anyPlanToday())
             return Timer2->setEnabled(false);
-        remindersChecked = 1;
+        remindersChecked = true;
     }
     ringDue();
 }
 
 bool Reminders::anyPlanToday() {
-    Adodc1.setConnectionString(m_shared.connection());
-    return Adodc1.open(ofDay(u"select *"_s, m_shared.services.clock->today())).recordCount() != 0;
+    return plans::watched(Adodc1, m_shared.services.clock->today(), u"*").recordCount() != 0;
 }
 
 void Reminders::ringDue() {
     const QDateTime now = m_shared.services.clock->now();
     const QString minute = reminderTime(now.time());
     // Asked anew at every tick: a plan saved a moment ago counts.
-    Recordset& plans = Adodc1.open(ofDay(u"select 提醒时间,提醒音乐,日程内容"_s, now.date()));
+    Recordset& plans = plans::watched(Adodc1, now.date(), u"提醒时间,提醒音乐,日程内容");
     for (; !plans.eof(); plans.moveNext())
         // The window reads the current row as it loads. One that stands already is left as it is.
-        if (plans.field(0).text() == minute && !m_shared.forms.loaded(u"Form6"_s))
-            m_shared.forms.get(u"Form6"_s).showForm();
+        if (plans.field(0).text() == minute && !m_shared.forms.loaded(names::Reminder))
+            m_shared.forms.get(names::Reminder).showForm();
 }
 
 void Reminders::Form2_Timer3_Timer() {

@@ -11,8 +11,8 @@ QString reminderTime(const QTime& moment);
 
 /// Watches the clock while the main window runs. `Timer2` compares it with today's plans in `rcb` once a second and
 /// opens the reminder (`Form6`) at the planned minute; a row has no mark that it has rung. What keeps it from ringing
-/// twice is the pause that `Timer3` counts after "知道了": 70 ticks, longer than any minute, in which other plans are
-/// lost as well. That is meant.
+/// twice is the pause that `Timer3` counts after "知道了": 70 ticks, since it must outlast the minute. The price is
+/// that other plans of that time are lost.
 class Reminders : public QObject {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ public:
 
     /// The row that is due while the reminder's window loads: `提醒音乐` and `日程内容` of the current one.
     Recordset& due() { return Adodc1.recordset(); }
-    Shared& workbench() { return m_shared; }
+    Shared& shared() { return m_shared; }
     MMControl* const MM1; // the music of schedule and reminder
 
     void Form2_Timer2_Timer();
@@ -42,8 +42,8 @@ private:
     Timer* const Timer2; // compares the clock with today's plans
     Timer* const Timer3; // the pause
 
-    Int16 remindersChecked;   ///< 1 once a day with plans was met; from then on an empty day stops no watch
-    Int16 reminderPauseTicks; ///< of Timer3, up to 70
+    bool remindersChecked = false; ///< once a day with plans was met; from then on an empty day stops no watch
+    Int16 reminderPauseTicks;      ///< of Timer3, up to 70
 };
 
 } // namespace qinghe

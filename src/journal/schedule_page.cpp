@@ -2,6 +2,7 @@
 
 #include "controls/key_presses.h"
 #include "core/hover.h"
+#include "core/plans.h"
 #include "core/stored_choice.h"
 #include "runtime/blanks.h"
 #include "runtime/number_text.h"
@@ -12,13 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageCode = 23;
-constexpr PageTab Tabs[] = {{u"Label23", u"  日程", 9720, PageCode}};
-/// The users' page stays as it stands behind this one, and is meant to.
-constexpr PageTraits Schedule{u"Frame17", u"日程提醒", 120, 1680, 11655, 6015, Tabs, u"Frame7"};
+constexpr PageTab Tabs[] = {{u"Label23", u"  日程", 9720, PageCode::Schedule}};
+/// The users' page stays as it stands behind this one, which covers it.
+constexpr PageTraits Schedule{u"Frame17", u"日程提醒", 120, 1680, 11655, 6015, Tabs, names::UsersFrame};
 
-constexpr int DateTarget = 6;
-constexpr double PickerGap = 500; ///< twips from the sum of the tops to the picker
+constexpr double PickerGap = 500; ///< twips from the top of the date to the picker
 constexpr int Pieces = 5, Hours = 24, Minutes = 60;
 constexpr qsizetype MostCharacters = 50;
 
@@ -120,11 +119,8 @@ void SchedulePage::Form2_Check1_Click() {
 }
 
 void SchedulePage::Form2_Label23_Click() {
-    navigation().leaveOthers(*this, PageCode);
-    Adodc1.setConnectionString(m_shared.connection());
+    navigation().leaveOthers(*this, PageCode::Schedule);
     navigation().bringForward(*this);
-    MM1.setVisible(false);
-    Adodc1.setVisible(false);
     fillLists();
     scheduleNumber = 1;
     Label3->setCaption(QString::number(scheduleNumber) + u"日程安排"_s);
@@ -132,7 +128,7 @@ void SchedulePage::Form2_Label23_Click() {
 }
 
 void SchedulePage::fillLists() {
-    // Not emptied first: each visit adds the same entries once more, and is meant to.
+    // Not emptied first, which would take what is chosen in them: each visit adds the same entries once more.
     for (int piece = 1; piece <= Pieces; ++piece)
         Combo1->addEntry(u"音乐"_s + QString::number(piece));
     for (int hour = 0; hour < Hours; ++hour)
@@ -157,12 +153,11 @@ void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
 }
 
 void SchedulePage::Form2_Text4_Click() {
-    m_shared.openDatePicker({DateTarget, Text4}, Frame17.Left() + Frame18->Left() + Text4->Left() + m_window.Left(),
-                            Frame17.Top() + Frame18->Top() + Text4->Top() + m_window.Top() + PickerGap);
+    m_shared.openDatePicker(DateField::Schedule, FieldTarget(Text4), placeBelow(*Text4, PickerGap));
 }
 
 void SchedulePage::Form2_Combo1_Click() {
-    m_shared.forms.unload(u"Form1"_s);
+    m_shared.unloadDatePicker();
     MM1.setCommand(u"close"_s);
     MM1.setFileName(m_shared.beside(Combo1->Text() + u".wav"_s));
     MM1.setCommand(u"open"_s);
@@ -170,7 +165,7 @@ void SchedulePage::Form2_Combo1_Click() {
 }
 
 void SchedulePage::Form2_Command29_Click() {
-    m_shared.forms.unload(u"Form1"_s);
+    m_shared.unloadDatePicker();
     Label22->setCaption(u"设置为："_s + Text4->Text() + u"日"_s + Combo3->Text() + u"时 "_s + Combo4->Text() +
                         u"分，提醒音乐为："_s + Combo1->Text());
     MM1.setCommand(u"stop"_s);
@@ -181,50 +176,49 @@ void SchedulePage::Form2_Command29_Click() {
 bool SchedulePage::refusesGap() {
     if (!Text3->Text().isEmpty() && !Text4->Text().isEmpty())
         return false;
-    m_shared.services.say(u"日程安排和提醒日期不能为空，请输入提醒内容！"_s, MessageStyle::OkInformation, u"提示"_s);
+    m_shared.tell(u"日程安排和提醒日期不能为空，请输入提醒内容！"_s, u"提示"_s);
     return true;
 }
 
 void SchedulePage::writePlan(const DateValue& setAt) {
-    scheduleSaved = 1;
-    Recordset& plans = Adodc1.open(u"rcb"_s);
+    scheduleSaved = true;
+    Recordset& plans = Adodc1.open(tables::Schedule.toString());
     plans.addNew();
-    plans.field(u"设置日期"_s).setValue(setAt);
-    plans.field(u"日程号"_s).setValue(static_cast<int>(scheduleNumber));
-    plans.field(u"日程日期"_s).setValue(Text4->Text());
-    plans.field(u"提醒时间"_s).setValue(Combo3->Text() + ' '_L1 + Combo4->Text());
-    plans.field(u"日程内容"_s).setValue(Text3->Text());
-    plans.field(u"提醒音乐"_s).setValue(Combo1->Text());
-    plans.field(u"区别"_s).setValue(plans.recordCount() + 1);
+    plans.field(columns::WrittenOn).setValue(setAt);
+    plans.field(columns::PlanNumber).setValue(static_cast<int>(scheduleNumber));
+    plans.field(columns::PlanDay).setValue(Text4->Text());
+    plans.field(columns::PlanTime).setValue(Combo3->Text() + ' '_L1 + Combo4->Text());
+    plans.field(columns::PlanText).setValue(Text3->Text());
+    plans.field(columns::PlanMusic).setValue(Combo1->Text());
+    plans.field(columns::RowNumber).setValue(plans.recordCount() + 1);
     plans.update();
 }
 
 void SchedulePage::Form2_Command28_Click() {
-    m_shared.forms.unload(u"Form1"_s);
+    m_shared.unloadDatePicker();
     if (refusesGap())
         return;
     const QDateTime now = m_shared.services.clock->now();
     writePlan({now.date(), now.time()});
     m_reminders.watch();
     Command28->setUsable(false);
-    m_window.Adodc2->setConnectionString(m_shared.connection());
     RemindAtSignIn.rewrite(*m_window.Adodc2, Check1->Value());
-    m_shared.services.say(u"保存成功！"_s, MessageStyle::OkInformation, u"保存提示"_s);
+    m_shared.tell(u"保存成功！"_s, u"保存提示"_s);
 }
 
 void SchedulePage::openFreshPlan() {
     Command28->setUsable(true);
     ++scheduleNumber;
     Label3->setCaption(QString::number(scheduleNumber) + u"日程"_s);
-    scheduleSaved = 0;
+    scheduleSaved = false;
     Text3->setBoxText({});
 }
 
 void SchedulePage::Form2_Command26_Click() {
-    if (scheduleSaved == 1)
+    if (scheduleSaved)
         return openFreshPlan();
     if (Text3->Text().isEmpty()) {
-        m_shared.services.say(u"当前您可以在左侧添加新的日程安排！"_s, MessageStyle::OkInformation, u"操作提示"_s);
+        m_shared.tell(u"当前您可以在左侧添加新的日程安排！"_s, u"操作提示"_s);
         return;
     }
     if (m_shared.services.say(u"是否保存当前安排"_s, MessageStyle::YesNoQuestion, u"提醒"_s) != Answer::Yes) {
@@ -233,23 +227,22 @@ void SchedulePage::Form2_Command26_Click() {
     }
     if (refusesGap())
         return;
-    // Here a plan is set on a day, without a time, and the reminders are left as they are: both are meant.
+    // Kept in passing, on the way to the next plan: with the day alone, and without a word to the reminders.
     writePlan({m_shared.services.clock->today(), {}});
-    m_shared.services.say(u"当前记录以保存！"_s, MessageStyle::OkInformation, u"提示"_s);
+    m_shared.tell(u"当前记录以保存！"_s, u"提示"_s);
     Command28->setUsable(false);
 }
 
 void SchedulePage::Form2_Command27_Click() {
-    Recordset& plans =
-        Adodc1.open(u"select * from rcb where 日程日期= #"_s + dateText(m_shared.services.clock->today()) + u"# "_s);
+    Recordset& plans = plans::ofDay(Adodc1, m_shared.services.clock->today());
     QString list;
     for (int i = 1; !plans.eof(); ++i, plans.moveNext())
-        list += u"日程"_s + spacedNumberText(i) + u"："_s + plans.field(u"日程内容"_s).text() + u"  提醒时间："_s +
-                plans.field(u"日程日期"_s).text() + u"日"_s + plans.field(u"提醒时间"_s).text() +
-                u"分，设置日期为："_s + plans.field(u"设置日期"_s).text() + u"\r\n"_s;
-    Text3->setBoxText(list.isEmpty() ? u"您还未添加今日日程！"_s : list);
+        list += u"日程"_s + spacedNumberText(i) + u"："_s + plans.field(columns::PlanText).text() + u"  提醒时间："_s +
+                plans.field(columns::PlanDay).text() + u"日"_s + plans.field(columns::PlanTime).text() +
+                u"分，设置日期为："_s + plans.field(columns::WrittenOn).text() + u"\r\n"_s;
+    Text3->setBoxText(list.isEmpty() ? plans::NoneToday.toString() : list);
     Command28->setUsable(false);
-    scheduleSaved = 1;
+    scheduleSaved = true;
 }
 
 } // namespace qinghe

@@ -14,7 +14,7 @@ class SchedulePage : public Page {
 public:
     explicit SchedulePage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label23_Click(); }
+    void tabClicked(PageCode) override { Form2_Label23_Click(); }
     void windowLoads() override;
 
     void Form2_Label23_Click();
@@ -55,8 +55,8 @@ private:
     CommandButton* Command28; // 保存日程和设置
     CommandButton* Command29; // 确定音乐
 
-    Int16 scheduleNumber; ///< of the plan, within one visit to the page
-    Int16 scheduleSaved;  ///< 1: what stands in Text3 is saved or a listing
+    Int16 scheduleNumber;       ///< of the plan, within one visit to the page
+    bool scheduleSaved = false; ///< what stands in Text3 is saved or a listing
 };
 
 } // namespace qinghe

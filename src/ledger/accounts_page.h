@@ -12,16 +12,10 @@ class AccountsPage : public GridPage {
 public:
     explicit AccountsPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label6_Click(); }
-    void formClicked() override;
-
-    void Form2_Label6_Click();
+    void Form2_Label6_Click() { open(PageCode::Accounts); }
 
 protected:
-    QString table() const override;
-    void beforeSave() override;
     void moved() override;
-    int rowForEmptyText() const override;
 };
 
 } // namespace qinghe

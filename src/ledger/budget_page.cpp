@@ -1,55 +1,37 @@
 #include "ledger/budget_page.h"
 
-namespace qinghe {
+#include "store/tables.h"
 
-using namespace Qt::StringLiterals;
+namespace qinghe {
 
 namespace {
 
-constexpr int PageCode = 5;
+using Kind = GridPage::Kind;
+
 constexpr double Share = 2754; ///< a quarter of the grid less 400 twips, rounded
 
-constexpr PageTab Tabs[] = {{u"Label5", u"  预算", 5400, PageCode}};
+constexpr PageTab Tabs[] = {{u"Label5", u"  预算", 5400, PageCode::Budget}};
 
-constexpr std::array<GridPage::Column, 4> Columns{{
-    {u"预算日期", Share},
-    {u"预算项目", Share},
-    {u"预算金额", Share},
-    {u"备注", Share},
-}};
+constexpr GridPage::Column Columns[] = {
+    {{u"预算日期", columns::BudgetTime}, Share, Kind::Date},
+    {{u"预算项目", columns::BudgetItem}, Share},
+    {{u"预算金额", columns::BudgetAmount}, Share, Kind::Amount},
+    {{u"备注", columns::Note}, Share},
+};
 
 const GridPage::Traits Budget{
     .page = {u"Frame8", u"支出预算", 120, 1680, 11655, 6255, Tabs},
     .grid = u"ms6",
     .editor = u"tx6",
-    .add = u"Command16",
-    .remove = u"Command17",
-    .save = u"Command18",
-    .columns = Columns,
-    .date = {.column = 1, .target = 7, .opensOnEnter = false},
-    .amounts = {.onClick = {3, 3}, .onEnter = {3, 3}, .target = 4},
-    .shownAsAmounts = {3, 3},
-    .addCommitsBox = true,
+    .buttons = {u"Command16", u"Command17", u"Command18"},
+    .list = {tables::Budget, Columns},
+    .dateField = DateField::Budget,
+    .amountField = AmountField::Budget,
+    .quirks = {.enterOpensNoPicker = true, .addCommitsBox = true, .loadsBeforeShown = true},
 };
 
 } // namespace
 
-BudgetPage::BudgetPage(MainWindow& form) : GridPage(form, Budget) {}
-
-QString BudgetPage::table() const {
-    return u"ysb"_s;
-}
-
-void BudgetPage::Form2_Label5_Click() {
-    navigation().leaveOthers(*this, PageCode);
-    hideEditor();
-    loadTable();
-    navigation().bringForward(*this);
-}
-
-void BudgetPage::formClicked() {
-    if (frame.Visible())
-        commitAndHideBox();
-}
+BudgetPage::BudgetPage(MainWindow& window) : GridPage(window, Budget) {}
 
 } // namespace qinghe

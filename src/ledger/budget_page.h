@@ -12,13 +12,7 @@ class BudgetPage : public GridPage {
 public:
     explicit BudgetPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label5_Click(); }
-    void formClicked() override;
-
-    void Form2_Label5_Click();
-
-protected:
-    QString table() const override;
+    void Form2_Label5_Click() { open(PageCode::Budget); }
 };
 
 } // namespace qinghe

@@ -1,7 +1,7 @@
 #include "ledger/categories_page.h"
 
-#include "core/grid_rows.h"
 #include "core/hover.h"
+#include "store/tables.h"
 
 namespace qinghe {
 
@@ -13,6 +13,7 @@ constexpr double MinorsLeft = 120; ///< twips
 
 constexpr PageTraits Categories{u"Frame3", u"分类设置", 240, 1200, 12015, 6615};
 
+// The buttons end with their grid.
 constexpr CategoryList::Traits Majors{
     .frame = u"Frame4",
     .caption = u"项目大类",
@@ -20,11 +21,7 @@ constexpr CategoryList::Traits Majors{
     .gridWidth = 5100,
     .grid = u"ms3",
     .editor = u"tx3",
-    .add = u"Command7",
-    .remove = u"Command8",
-    .save = u"Command9",
-    .columns = 1,
-    .firstField = 0,
+    .buttons = {.add = u"Command7", .remove = u"Command8", .save = u"Command9", .right = 5220, .top = 4695},
 };
 
 constexpr CategoryList::Traits Minors{
@@ -34,28 +31,25 @@ constexpr CategoryList::Traits Minors{
     .gridWidth = 5595,
     .grid = u"ms4",
     .editor = u"tx4",
-    .add = u"Command10",
-    .remove = u"Command11",
-    .save = u"Command12",
-    .columns = 2,
-    .firstField = 1, // field 0 is the major
+    .buttons = {.add = u"Command10", .remove = u"Command11", .save = u"Command12", .right = 5715, .top = 4695},
 };
 
 } // namespace
 
 struct CategoriesPage::Classification {
-    const char16_t* majorsSource;
-    const char16_t* minorsSource; ///< up to the major's name
-    std::array<const char16_t*, 1> majorsCaptions;
-    std::array<const char16_t*, 2> minorsCaptions;
+    QStringView majorsSource;
+    QStringView minorsSource; ///< %1 stands for the major
+    std::array<ListColumn, 1> majors;
+    std::array<ListColumn, 2> minors; ///< saved one field to the left of where they are shown from
 };
 
 const CategoriesPage::Classification& CategoriesPage::income() {
     static constexpr Classification classification{
         u"select distinct 收入大类 from srflb",
-        u"select 收入大类 ,收入细类,快速代码 from srflb where 收入大类 = '",
-        {u"收入大类"},
-        {u"收入细类", u"快速代码"},
+        u"select 收入大类 ,收入细类,快速代码 from srflb where 收入大类 = '%1'",
+        {{{u"收入大类", columns::IncomeMajor}}},
+        {{{u"收入细类", columns::IncomeMinor, columns::IncomeMajor},
+          {u"快速代码", columns::QuickCode, columns::IncomeMinor}}},
     };
     return classification;
 }
@@ -63,18 +57,19 @@ const CategoriesPage::Classification& CategoriesPage::income() {
 const CategoriesPage::Classification& CategoriesPage::expense() {
     static constexpr Classification classification{
         u"select distinct 支出大类 from zcflb",
-        u"select 支出大类 ,支出细类,快速代码 from zcflb where 支出大类 = '",
-        {u"消费大类"},
-        {u"消费细类", u"快速代码"},
+        u"select 支出大类 ,支出细类,快速代码 from zcflb where 支出大类 = '%1'",
+        {{{u"消费大类", columns::ExpenseMajor}}},
+        {{{u"消费细类", columns::ExpenseMinor, columns::ExpenseMajor},
+          {u"快速代码", columns::QuickCode, columns::ExpenseMinor}}},
     };
     return classification;
 }
 
-CategoriesPage::CategoriesPage(MainWindow& form)
-    : Page(form.navigation(), Categories),
-      m_shared(form.shared()),
-      Adodc1(*form.Adodc1),
-      Adodc2(*form.Adodc2),
+CategoriesPage::CategoriesPage(MainWindow& window)
+    : Page(window.navigation(), Categories),
+      m_shared(window.shared()),
+      Adodc1(*window.Adodc1),
+      Adodc2(*window.Adodc2),
       Frame3(frame()),
       Option3(new OptionButton(&Frame3, u"Option3"_s, u"收入分类"_s)),
       Option4(new OptionButton(&Frame3, u"Option4"_s, u"支出分类"_s)),
@@ -94,14 +89,12 @@ void CategoriesPage::bindEvents() {
     Option4->Click = [this] { Form2_Option4_Click(); };
     majors.grid->Click = [this] { Form2_ms3_Click(); };
     minors.grid->Click = [this] { Form2_ms4_Click(); };
-    majors.editor->KeyPress = [this](int key) { Form2_tx3_KeyPress(key); };
-    minors.editor->KeyPress = [this](int key) { Form2_tx4_KeyPress(key); };
-    majors.addButton->Click = [this] { Form2_Command7_Click(); };
-    majors.removeButton->Click = [this] { Form2_Command8_Click(); };
-    majors.saveButton->Click = [this] { Form2_Command9_Click(); };
-    minors.addButton->Click = [this] { Form2_Command10_Click(); };
-    minors.removeButton->Click = [this] { Form2_Command11_Click(); };
-    minors.saveButton->Click = [this] { Form2_Command12_Click(); };
+    majors.buttons.add->Click = [this] { Form2_Command7_Click(); };
+    majors.buttons.remove->Click = [this] { Form2_Command8_Click(); };
+    majors.buttons.save->Click = [this] { Form2_Command9_Click(); };
+    minors.buttons.add->Click = [this] { Form2_Command10_Click(); };
+    minors.buttons.remove->Click = [this] { Form2_Command11_Click(); };
+    minors.buttons.save->Click = [this] { Form2_Command12_Click(); };
     m_shared.openCategories = [this] { enter(); };
 }
 
@@ -130,31 +123,27 @@ void CategoriesPage::Form2_Option4_Click() {
 
 void CategoriesPage::open(const Classification& chosen) {
     minors.setUsable(false);
-    Adodc1.setVisible(false);
-    Adodc1.setConnectionString(m_shared.connection());
-    Recordset& records = Adodc1.open(QString::fromUtf16(chosen.majorsSource));
+    Recordset& records = Adodc1.open(chosen.majorsSource.toString());
     m_majors = Adodc1.loaded();
-    minors.layOut(chosen.minorsCaptions);
-    startRows(*minors.grid);
-    majors.layOut(chosen.majorsCaptions);
-    startRows(*majors.grid);
-    // An empty name is blanked in the row where the loan grid stands, wherever it was met here; meant.
-    majors.fill(records, loanRow(m_shared));
+    minors.layOut(chosen.minors);
+    majors.layOut(chosen.majors);
+    // An empty name goes to the row number that all lists share, wherever it was met here.
+    majors.fill(records, [this] { return m_shared.loanRow(); });
     blankRows(*minors.grid);
     navigation().bringForward(*this);
-    majors.hideEditor();
-    minors.hideEditor();
+    majors.editing.close();
+    minors.editing.close();
 }
 
 // ---- cells
 
 void CategoriesPage::Form2_ms3_Click() {
     minors.setUsable(true);
-    minors.hideEditor();
-    majors.edit();
+    minors.editing.close();
+    majors.editing.open();
     const Classification& chosen = Option4->Value() ? expense() : income();
-    Adodc2.setConnectionString(m_shared.connection());
-    Recordset& records = Adodc2.open(QString::fromUtf16(chosen.minorsSource) + majors.editor->Text() + u"'"_s);
+    // The name goes into the query as it stands: one with an apostrophe breaks it.
+    Recordset& records = Adodc2.open(chosen.minorsSource.toString().replace(u"%1"_s, majors.editing.box->Text()));
     m_minors = Adodc2.loaded();
     // A major without minors goes on showing the first one of the major before.
     startRows(*minors.grid);
@@ -162,30 +151,22 @@ void CategoriesPage::Form2_ms3_Click() {
 }
 
 void CategoriesPage::Form2_ms4_Click() {
-    minors.edit();
-}
-
-void CategoriesPage::Form2_tx3_KeyPress(int KeyAscii) {
-    majors.editorKey(KeyAscii);
-}
-
-void CategoriesPage::Form2_tx4_KeyPress(int KeyAscii) {
-    minors.editorKey(KeyAscii);
+    minors.editing.open();
 }
 
 // ---- rows
 
 void CategoriesPage::Form2_Command7_Click() {
-    majors.commitBox();
-    majors.editor->setBoxText({});
+    majors.editing.commitTyped();
+    majors.editing.box->setBoxText({});
     majors.addRow();
     majors.goToLastRow();
-    majors.editor->place();
-    majors.editor->setShown(true);
+    majors.editing.box->place();
+    majors.editing.box->setShown(true);
 }
 
 void CategoriesPage::Form2_Command10_Click() {
-    minors.commitBox();
+    minors.editing.commitTyped();
     minors.goToLastRow();
     minors.addRow();
 }
@@ -201,7 +182,7 @@ void CategoriesPage::Form2_Command11_Click() {
 }
 
 void CategoriesPage::Form2_Command9_Click() {
-    Adodc1.setRecordSource(u"ysb"_s); // named only: the save works on the majors that the page loaded
+    Adodc1.setRecordSource(tables::Budget.toString()); // named only: the save works on the majors that the page loaded
     majors.save(m_majors->records());
 }
 

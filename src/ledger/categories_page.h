@@ -10,7 +10,8 @@ namespace qinghe {
 /// a quick code stands for nothing.
 ///
 /// The two lists share a table and know nothing of each other. Saving the majors leaves no minor; saving minors writes
-/// them one column to the left, so that they are majors when the page is opened again. Both are meant.
+/// them one column to the left, so that they are majors when the page is opened again: what was saved last is what the
+/// table holds.
 class CategoriesPage : public Page {
     Q_OBJECT
 
@@ -23,8 +24,6 @@ public:
     void Form2_Option4_Click();
     void Form2_ms3_Click();
     void Form2_ms4_Click();
-    void Form2_tx3_KeyPress(int KeyAscii);
-    void Form2_tx4_KeyPress(int KeyAscii);
     void Form2_Command7_Click();
     void Form2_Command8_Click();
     void Form2_Command9_Click();

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "controls/cell_editor.h"
-#include "core/shared.h"
+#include "core/cell_editing.h"
+#include "core/list_records.h"
+#include "core/row_buttons.h"
 
 #include <span>
 
@@ -16,44 +17,29 @@ namespace qinghe {
 class CategoryList {
 public:
     struct Traits {
-        const char16_t* frame;
-        const char16_t* caption;
+        QStringView frame;
+        QStringView caption;
         double left;      ///< of the frame, twips
         double gridWidth; ///< twips
-        const char16_t* grid;
-        const char16_t* editor;
-        const char16_t* add;    // 增加
-        const char16_t* remove; // 删除
-        const char16_t* save;   // 保存
-        int columns;            ///< beside the marker
-        int firstField;         ///< which column 1 shows; the save writes from field 0 on, wherever the fill began
+        QStringView grid;
+        QStringView editor;
+        RowButtonTraits buttons;
     };
 
     CategoryList(Frame& page, Shared& shared, const Traits& traits);
 
     MSFlexGrid* const grid;
-    CellEditor* const editor;
-    CommandButton* const addButton;
-    CommandButton* const removeButton;
-    CommandButton* const saveButton;
+    CellEditing editing;
+    RowButtons buttons;
 
     /// Grid and buttons.
     void setUsable(bool usable);
 
-    /// Columns and their captions.
-    void layOut(std::span<const char16_t* const> captions);
+    /// Columns and their captions, two rows.
+    void layOut(std::span<const ListColumn> columns);
     /// One grid row a record, from the current row on. NULL and empty fields leave their cells as they are; an empty
-    /// one blanks the cell of `rowForEmptyText` instead, if that is not NoRow.
-    void fill(Recordset& records, int rowForEmptyText = NoRow);
-    static constexpr int NoRow = -1;
-
-    /// Opens the box over the current cell, with the cell's text.
-    void edit();
-    void hideEditor();
-    /// Esc drops the box. Enter writes it back and goes on to the next column, or closes it in the last one.
-    void editorKey(int key);
-    /// Writes the box into the current cell, unless it is empty.
-    void commitBox();
+    /// one blanks the cell of the row that `rowForEmptyText()` tells instead, where that is told.
+    void fill(Recordset& records, const std::function<int()>& rowForEmptyText = {});
 
     void goToLastRow();
     /// Appends a row below the current one and goes there, or says that there is a blank one already.
@@ -65,11 +51,12 @@ public:
     void save(Recordset& records);
 
 private:
+    void entered();
     /// Notes in emptyRowFlag when the row holds text, and tells whether the flag is set, by this row or ever before.
     bool filledOrMarked(int row);
 
-    const Traits& m_traits;
     Shared& m_shared;
+    std::span<const ListColumn> m_columns;
 };
 
 } // namespace qinghe

@@ -14,8 +14,7 @@ class IncomeExpensePage : public GridPage {
 public:
     explicit IncomeExpensePage(MainWindow& window);
 
-    void tabClicked(int code) override;
-    void formClicked() override;
+    void tabClicked(PageCode code) override;
 
     void Form2_Label2_Click(int index); ///< 0 income, 1 expense
     void Form2_Option7_Click();
@@ -24,17 +23,17 @@ public:
     void Form2_Frame2_Click();
 
 protected:
-    QString table() const override;
-    void beforeSave() override;
+    const List& list() const override;
     bool takesClicks() const override;
+    void frameClicked() override { Form2_Frame2_Click(); }
 
 private:
     /// What the two sides of the ledger differ in.
     struct Side;
     const Side& side() const;
+    void placeControls();
     void refillStatistics();
     void showTotal();
-    void captionPerson();
     void setEditing(bool allowed);
     void closeEditing();
     bool pickerIsVisible() const;

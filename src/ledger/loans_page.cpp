@@ -1,8 +1,8 @@
 #include "ledger/loans_page.h"
 
-#include "core/grid_rows.h"
 #include "core/hover.h"
-#include "runtime/number_format.h"
+#include "runtime/money.h"
+#include "store/tables.h"
 
 namespace qinghe {
 
@@ -10,76 +10,82 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageCode = 1;
-constexpr int AmountColumn = 3, NoteColumn = 8;
+using Kind = GridPage::Kind;
+
+constexpr int NoteColumn = 8;
 // When the picture brings the page up; twips.
 constexpr double WideNoteWidth = 3200, RaisedTop = 1560;
 
-constexpr PageTab Tabs[] = {{u"Label1", u"  暂借", 3240, PageCode}};
+constexpr PageTab Tabs[] = {{u"Label1", u"  暂借", 3240, PageCode::Loans}};
 
-constexpr std::array<GridPage::Column, 8> Columns{{
-    {u"账户", 1150},
-    {u"日期", 1150},
-    {u"借出金额", 1150},
-    {u"已还金额", 1150},
-    {u"余额", 1150},
-    {u"借出人", 1150},
-    {u"借给人", 1150},
-    {u"备注", 2800},
-}};
+constexpr std::array<GridPage::Column, 8> columnsOf(QStringView amountCaption, QStringView amountField) {
+    return {{
+        {{u"账户", columns::Account}, 1150},
+        {{u"日期", columns::Day}, 1150, Kind::Date},
+        {{amountCaption, amountField}, 1150, Kind::Amount},
+        {{u"已还金额", columns::PaidBack}, 1150, Kind::Amount},
+        {{u"余额", columns::Balance}, 1150, Kind::WorkedOut},
+        {{u"借出人", columns::Lender}, 1150},
+        {{u"借给人", columns::Borrower}, 1150},
+        {{u"备注", columns::Note}, 2800},
+    }};
+}
 
-const GridPage::Traits Loans{
+constexpr auto BorrowedColumns = columnsOf(u"借入金额", columns::BorrowedAmount);
+constexpr auto LentColumns = columnsOf(u"借出金额", columns::LentAmount);
+
+const GridPage::Traits LoanPage{
     .page = {u"Frame6", u"借入—借出", 120, 1680, 11655, 6255, Tabs},
-    .grid = u"ms1",
+    .grid = names::LoanGrid,
     .editor = u"tx1",
-    .add = u"Command1",
-    .remove = u"Command2",
-    .save = u"Command3",
-    .columns = Columns,
-    .date = {.column = 2, .target = 4, .opensOnEnter = true},
-    .amounts = {.onClick = {3, 4}, .onEnter = {}, .target = 2},
-    .shownAsAmounts = {3, 5},
-    .closedColumn = 5,
-    .addedBox = GridPage::AddedBox::KeepsText,
-    .lastRow = GridPage::LastRow::BlankedWhenFirst,
-    .rowInSave = GridPage::RowInSave::Stays,
-    .refreshWhenEmptied = true,
+    .buttons = {u"Command1", u"Command2", u"Command3"},
+    .list = {tables::Lent, LentColumns},
+    .dateField = DateField::Loans,
+    .amountField = AmountField::Loans,
+    .quirks = {.calculatorOnEnter = GridPage::CalculatorOnEnter::Never,
+               .addKeepsBoxText = true,
+               .deleteBlanksFirstRow = true,
+               .rowInSave = GridPage::RowInSave::Stays,
+               .saveReadsEmptied = true,
+               .formClickReachesHidden = true,
+               .formClickTakesKeyboard = true},
 };
 
 } // namespace
 
-struct LoansPage::List {
-    const char16_t* table;
-    const char16_t* amount; ///< caption of the first amount
-    const char16_t* frameCaption;
-    const char16_t* totalSource;
-    std::array<const char16_t*, 4> totalWords; ///< before, between and behind the sums
+struct LoansPage::Loans {
+    List list;
+    QStringView frameCaption;
+    QStringView totalSource;
+    QStringView total; ///< %1 and on stand for the sums, %4 for the sign
 };
 
-const LoansPage::List& LoansPage::borrowed() {
-    static constexpr List list{
-        u"jrb", u"借入金额", u"借入记录", u"select sum(借入金额) as 借入金额 from jrb ", {u"当前借入总额为：", u"元 "},
+const LoansPage::Loans& LoansPage::borrowed() {
+    static constexpr Loans loans{
+        {tables::Borrowed, BorrowedColumns},
+        u"借入记录",
+        u"select sum(借入金额) as 借入金额 from jrb ",
+        u"当前借入总额为：%1%4 ",
     };
-    return list;
+    return loans;
 }
 
-const LoansPage::List& LoansPage::lent() {
-    static constexpr List list{
-        u"jcb",
-        u"借出金额",
+const LoansPage::Loans& LoansPage::lent() {
+    static constexpr Loans loans{
+        {tables::Lent, LentColumns},
         u"借出表",
         u"select sum(借出金额) as 借出金额,sum(已还金额) as 已还金额,sum(余额) as 余额 from jcb ",
-        {u"当前借出总额为：", u"元 ，已还金额为：", u" 元，目前余额为", u" 元"},
+        u"当前借出总额为：%1%4 ，已还金额为：%2 %4，目前余额为%3 %4",
     };
-    return list;
+    return loans;
 }
 
-LoansPage::LoansPage(MainWindow& form)
-    : GridPage(form, Loans),
-      Option1(new OptionButton(&frame, u"Option1"_s, u"借入表"_s)),
-      Option2(new OptionButton(&frame, u"Option2"_s, u"借出表"_s)),
-      Label11(new Label(&frame, u"Label11"_s)),
-      Image1(new Image(&form, u"Image1"_s)) {
+LoansPage::LoansPage(MainWindow& window)
+    : GridPage(window, LoanPage),
+      Option1(new OptionButton(&m_frame, u"Option1"_s, u"借入表"_s)),
+      Option2(new OptionButton(&m_frame, u"Option2"_s, u"借出表"_s)),
+      Label11(new Label(&m_frame, u"Label11"_s)),
+      Image1(new Image(&window, u"Image1"_s)) {
     Option1->place(240, 390, 1200, 300);
     Option2->place(1560, 390, 1200, 300);
     Label11->place(240, 5760, 11000, 375);
@@ -100,82 +106,67 @@ void LoansPage::makeImage1() {
     showHandOver(Image1);
 }
 
-QString LoansPage::table() const {
-    return QString::fromUtf16((Option1->Value() ? borrowed() : lent()).table);
+const LoansPage::Loans& LoansPage::chosen() const {
+    return Option1->Value() ? borrowed() : lent();
+}
+
+const GridPage::List& LoansPage::list() const {
+    return chosen().list;
 }
 
 void LoansPage::Form2_Label1_Click() {
-    navigation().leaveOthers(*this, PageCode);
-    hideEditor();
+    navigation().leaveOthers(*this, PageCode::Loans);
+    m_editing.close();
     navigation().bringForward(*this);
-    bringUp(*Option2, lent());
+    Option2->setValue(true); // only where it was not set yet this runs its click, which writes the totals as well
+    loadTable();
 }
 
 void LoansPage::Form2_Image1_Click() {
     // Tools stay open, and neither the labels nor currentPage follow: the page is laid over the one that is chosen.
     navigation().hideOthers(*this);
-    hideEditor();
+    m_editing.close();
     const PageTraits& place = traits.page;
-    frame.place(place.left, RaisedTop, place.width, place.height);
+    m_frame.place(place.left, RaisedTop, place.width, place.height);
     navigation().show(*this);
-    bringUp(*Option1, borrowed());
-    grid->setColWidth(NoteColumn, WideNoteWidth);
-}
-
-void LoansPage::bringUp(OptionButton& option, const List& list) {
-    // Only an option that was not set yet runs its click, which writes the totals as well.
-    option.setValue(true);
-    loadList(list);
+    Option1->setValue(true);
+    loadTable();
+    m_grid->setColWidth(NoteColumn, WideNoteWidth);
 }
 
 void LoansPage::Form2_Option1_Click() {
-    choose(borrowed());
+    choose();
 }
 
 void LoansPage::Form2_Option2_Click() {
-    choose(lent());
+    choose();
 }
 
-void LoansPage::choose(const List& list) {
+void LoansPage::choose() {
     m_shared.unloadPickers();
-    hideEditor();
-    m_shared.editors.at(u"ms2"_s).box->setShown(false);
-    frame.setCaption(QString::fromUtf16(list.frameCaption));
-    startRows(*grid);
-    blankRow(*grid, 1);
-    loadList(list);
-    navigation().bringForward(*this);
-    showTotal(list);
-    // Whoever asks the control finds the bare table there, not the sum.
-    Adodc1.setConnectionString(m_shared.connection());
-    load(QString::fromUtf16(list.table));
-}
-
-void LoansPage::formClicked() {
-    // The list's own visibility decides, which stays while the page is hidden: its box is committed then as well.
-    if (!grid->Visible())
-        return;
-    commitAndHideBox();
-    grid->takeFocus();
-}
-
-void LoansPage::loadList(const List& list) {
+    m_editing.close();
+    m_shared.editors.at(names::LedgerGrid).box->setShown(false);
+    m_frame.setCaption(chosen().frameCaption.toString());
+    startRows(*m_grid);
+    blankRow(*m_grid, 1);
     loadTable();
-    captionColumn(AmountColumn, list.amount);
+    navigation().bringForward(*this);
+    showTotal();
+    // Whoever asks the control finds the bare table there, not the sum.
+    loadList();
 }
 
-void LoansPage::showTotal(const List& list) {
-    Recordset& sums = Adodc1.open(QString::fromUtf16(list.totalSource));
+void LoansPage::showTotal() {
+    Recordset& sums = Adodc1.open(chosen().totalSource.toString());
     if (!sums.field(0).differsFromEmpty()) {
-        // The word for lent stands on the borrowed list too, and is meant to.
-        Label11->setCaption(QString::fromUtf16(lent().totalWords[0]) + u"0.00元"_s);
+        // One line for both lists: that of a list without loans.
+        Label11->setCaption(u"当前借出总额为："_s + money::none());
         return;
     }
-    QString caption;
-    for (int i = 0; i < sums.fieldCount(); ++i)
-        caption += QString::fromUtf16(list.totalWords[static_cast<std::size_t>(i)]) +
-                   formatNumber(sums.field(i).value(), u"##.00"_s);
-    Label11->setCaption(caption + QString::fromUtf16(list.totalWords[static_cast<std::size_t>(sums.fieldCount())]));
+    QStringList amounts;
+    for (int i = 0; i < 3; ++i)
+        amounts << (i < sums.fieldCount() ? money::amount(sums.field(i).value()) : QString());
+    Label11->setCaption(chosen().total.toString().arg(amounts[0], amounts[1], amounts[2], money::Sign));
 }
 
 } // namespace qinghe

@@ -12,8 +12,7 @@ class LoansPage : public GridPage {
 public:
     explicit LoansPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label1_Click(); }
-    void formClicked() override;
+    void tabClicked(PageCode) override { Form2_Label1_Click(); }
 
     void Form2_Label1_Click(); ///< brings up the lent list
     void Form2_Image1_Click(); ///< brings up the borrowed list, over whatever page is chosen
@@ -21,22 +20,19 @@ public:
     void Form2_Option2_Click();
 
 protected:
-    QString table() const override;
+    const List& list() const override;
 
 private:
     /// What the two lists differ in.
-    struct List;
-    static const List& borrowed();
-    static const List& lent();
+    struct Loans;
+    static const Loans& borrowed();
+    static const Loans& lent();
+    const Loans& chosen() const;
 
     void makeImage1();
-    /// What both ways to the page share: option, table, columns, rows. The first row is not blanked.
-    void bringUp(OptionButton& option, const List& list);
     /// An option's click: list, captions and totals.
-    void choose(const List& list);
-    /// The rows of the list, with its caption of the amount.
-    void loadList(const List& list);
-    void showTotal(const List& list);
+    void choose();
+    void showTotal();
 
     OptionButton* Option1; // 借入表
     OptionButton* Option2; // 借出表

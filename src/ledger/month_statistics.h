@@ -8,10 +8,10 @@ namespace qinghe {
 /// and item. They read the statistics table `sztjlsb` alone, which is as old as the last opening of the page.
 ///
 /// The month's key has no leading zero while the table holds the first seven characters of a date, so that from January
-/// to September a report normally finds nothing; this is meant.
+/// to September a report normally finds nothing. Who changes the key changes which rows a household sees counted.
 class MonthStatistics {
 public:
-    /// ledgerSide: 1 income, 0 expense; with any other a report runs no query and shows what the last one found.
+    /// ledgerSide: 1 income, 0 expense.
     MonthStatistics(MainWindow& window, MSFlexGrid& grid, Label& total, const Int16& ledgerSide);
 
     void showItems();
@@ -19,10 +19,9 @@ public:
 
 private:
     struct Report;
-    bool hasSide() const { return m_side == 0 || m_side == 1; }
-    /// The month's sums, and their total under the table.
-    void query(const Report& report);
-    void layOut(std::initializer_list<const char16_t*> captions);
+    using Reports = std::array<Report, 2>; ///< by side
+    /// Asks for the month's sums and tells their total under the table, lays the grid out for them, and gives them.
+    Recordset& begin(const Reports& reports);
 
     MainWindow& m_window;
     MSFlexGrid& ms2;

@@ -17,12 +17,12 @@ struct Blade {
 };
 
 const std::array<Blade, 3>& blades() {
-    static const std::array<Blade, 3> drawn{{
+    static const std::array<Blade, 3> Drawn{{
         {pathOf("M3 0 Q-16 -34 -52 -50 Q-26 -22 -7 0 Z"), colour::fromRgb(0x8CC866)},
         {pathOf("M-4 0 Q18 -48 62 -70 Q32 -34 7 0 Z"), colour::fromRgb(0x6AAA40)},
         {pathOf("M-6 0 Q-7 -56 3 -100 Q9 -50 6 0 Z"), colour::fromRgb(0x68A83E)},
     }};
-    return drawn;
+    return Drawn;
 }
 
 } // namespace
@@ -40,10 +40,10 @@ void paintSeedling(QPainter& painter, const QPointF& foot, double height) {
 void paintSeedlings(QPainter& painter, const SeedlingRow& row) {
     painter.save();
     painter.setOpacity(painter.opacity() * row.opacity);
-    constexpr int swing = 6;
+    constexpr int Swing = 6;
     int n = 0;
     for (double x = row.left; x < row.right; x += row.pitch, ++n) {
-        const double grown = row.low + (row.high - row.low) * (n % swing) / (swing - 1);
+        const double grown = row.low + (row.high - row.low) * (n % Swing) / (Swing - 1);
         paintSeedling(painter, QPointF(x, row.foot), grown);
         // Every seventh has a neighbour, or the row would look planted with a ruler.
         if (n % 7 == 4)

@@ -11,6 +11,9 @@
 #include <algorithm>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The first family that is here, by just the name given: names that other families stand in for take long to find out
@@ -22,31 +25,29 @@ QString firstOf(const QStringList& families) {
 }
 
 const QString& sansFamily() {
-    static const QString family = firstOf(
-        {QStringLiteral("Microsoft YaHei UI"), QStringLiteral("PingFang SC"), QStringLiteral("WenQuanYi Micro Hei"),
-         QStringLiteral("文泉驿微米黑"), QStringLiteral("文泉驛微米黑"), QStringLiteral("Noto Sans CJK SC"),
-         QStringLiteral("WenQuanYi Zen Hei"), QStringLiteral("文泉驿正黑"), QStringLiteral("文泉驛正黑")});
-    return family;
+    static const QString Family =
+        firstOf({u"Microsoft YaHei UI"_s, u"PingFang SC"_s, u"WenQuanYi Micro Hei"_s, u"文泉驿微米黑"_s,
+                 u"文泉驛微米黑"_s, u"Noto Sans CJK SC"_s, u"WenQuanYi Zen Hei"_s, u"文泉驿正黑"_s, u"文泉驛正黑"_s});
+    return Family;
 }
 
 const QString& serifFamily() {
-    static const QString family = firstOf({QStringLiteral("SimSun"), QStringLiteral("宋体"),
-                                           QStringLiteral("Songti SC"), QStringLiteral("Noto Serif CJK SC"),
-                                           QStringLiteral("Source Han Serif SC"), QStringLiteral("AR PL UMing CN")});
-    return family;
+    static const QString Family = firstOf({u"SimSun"_s, u"宋体"_s, u"Songti SC"_s, u"Noto Serif CJK SC"_s,
+                                           u"Source Han Serif SC"_s, u"AR PL UMing CN"_s});
+    return Family;
 }
 
 /// UMing alone has no bold face and is not thickened by Qt.
 bool serifLacksBold() {
-    return serifFamily() == QLatin1String("AR PL UMing CN");
+    return serifFamily() == "AR PL UMing CN"_L1;
 }
 
 QFont fontOf(const QString& family, double points, bool bold) {
-    static const double dotsPerInch = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    static const double DotsPerInch = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
     QFont font;
     if (!family.isEmpty())
         font.setFamilies({family});
-    font.setPointSizeF(points * 96 / dotsPerInch);
+    font.setPointSizeF(points * 96 / DotsPerInch);
     font.setBold(bold);
     return font;
 }
@@ -57,7 +58,7 @@ struct Face {
     bool bold;
 };
 
-constexpr Face faces[] = {
+constexpr Face Faces[] = {
     {Role::ProductName, type::Product, true}, {Role::PageLabel, type::Page, false},
     {Role::ClockText, type::Small, false},    {Role::Link, type::Small, false},
     {Role::Total, type::Long, true},          {Role::SignInButton, type::Heading, true},
@@ -80,8 +81,8 @@ QFont figureFont() {
 QFont fontFor(Role role) {
     if (role == Role::Figure)
         return figureFont();
-    const auto face = std::find_if(std::begin(faces), std::end(faces), [=](const Face& f) { return f.role == role; });
-    return face == std::end(faces) ? sans(type::Body) : sans(face->points, face->bold);
+    const auto face = std::find_if(std::begin(Faces), std::end(Faces), [=](const Face& f) { return f.role == role; });
+    return face == std::end(Faces) ? sans(type::Body) : sans(face->points, face->bold);
 }
 
 double figureWidth(const QString& text) {

@@ -17,9 +17,9 @@ struct Drawing {
     const char* fine;
 };
 
-constexpr const char* coinMark = "M5.8 9.2 L8 12 L10.2 9.2 M8 12 V15 M6.2 12.4 H9.8";
+constexpr const char* CoinMark = "M5.8 9.2 L8 12 L10.2 9.2 M8 12 V15 M6.2 12.4 H9.8";
 
-constexpr Drawing drawings[] = {
+constexpr Drawing Drawings[] = {
     {Glyph::Borrow,
      "M2.5 13.6 C5 12.2 7.2 12.4 9.8 14.4 H13 C15 14.4 15 17 13 17 H9.5 "
      "M14.4 16.4 L19.6 13.6 C21.6 12.8 22.6 14.8 21 16 L16.2 19.6 C13 21.8 8 21.4 2.5 19.8",
@@ -41,8 +41,8 @@ constexpr Drawing drawings[] = {
      "M10 13.6 V16.8 M14 13.6 V16.8"},
     {Glyph::Budget, "R4.6 4.4 14.8 16.8 2.2 M9 3.2 H15 V5.8 H9 Z",
      "M8.2 11 L9.6 12.4 L12 9.8 M14 11.4 H15.8 M8.4 16.4 H15.6"},
-    {Glyph::Borrowed, "O8 12 6 M22 12 H17 M19.6 9.4 L17 12 L19.6 14.6", coinMark},
-    {Glyph::Lent, "O8 12 6 M16.6 12 H22 M19.4 9.4 L22 12 L19.4 14.6", coinMark},
+    {Glyph::Borrowed, "O8 12 6 M22 12 H17 M19.6 9.4 L17 12 L19.6 14.6", CoinMark},
+    {Glyph::Lent, "O8 12 6 M16.6 12 H22 M19.4 9.4 L22 12 L19.4 14.6", CoinMark},
     {Glyph::Calendar, "R3.6 5 16.8 15.6 2.2 M3.6 10 H20.4 M8 2.8 V6.4 M16 2.8 V6.4",
      "M7.8 13.6 L7.81 13.6 M12 13.6 L12.01 13.6 M16.2 13.6 L16.21 13.6 M7.8 17 L7.81 17 M12 17 L12.01 17"},
     {Glyph::Music, "O6.6 18 2.6 O17.2 16 2.6 M9.2 18 V6.4 L19.8 4.2 V16", "M9.2 10 L19.8 7.8"},
@@ -78,7 +78,7 @@ const Paths& pathsOf(Glyph glyph) {
     static std::array<Paths, static_cast<std::size_t>(Glyph::AppIcon) + 1> kept;
     Paths& paths = kept.at(static_cast<std::size_t>(glyph));
     if (paths.lines.isEmpty())
-        for (const Drawing& drawing : drawings)
+        for (const Drawing& drawing : Drawings)
             if (drawing.glyph == glyph)
                 paths = {pathOf(drawing.lines), pathOf(drawing.fine)};
     return paths;

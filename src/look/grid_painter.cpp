@@ -3,7 +3,7 @@
 #include "controls/ms_flex_grid.h"
 #include "look/colours.h"
 #include "look/drawing.h"
-#include "look/fields.h"
+#include "look/field_painter.h"
 #include "look/fonts.h"
 
 #include <QHeaderView>

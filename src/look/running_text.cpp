@@ -8,6 +8,9 @@
 #include <QTextLayout>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The layout of a text, its lines placed; gives their number.
@@ -26,9 +29,9 @@ int layOut(QTextLayout& layout, double width, double pitch, double above) {
 }
 
 QString withLineSeparators(QString text) {
-    text.replace(QLatin1String("\r\n"), QString(QChar::LineSeparator));
-    text.replace(QLatin1Char('\r'), QChar::LineSeparator);
-    text.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    text.replace("\r\n"_L1, QString(QChar::LineSeparator));
+    text.replace(u'\r', QChar::LineSeparator);
+    text.replace(u'\n', QChar::LineSeparator);
     // A break at the very end opens no line of its own.
     while (text.endsWith(QChar::LineSeparator))
         text.chop(1);
@@ -38,7 +41,7 @@ QString withLineSeparators(QString text) {
 /// The last line that has room, when more would follow.
 void paintRest(QPainter& painter, const QTextLayout& layout, int index, const QPointF& origin, double width) {
     const QTextLine line = layout.lineAt(index);
-    const QString rest = layout.text().mid(line.textStart()).replace(QChar::LineSeparator, QLatin1Char(' '));
+    const QString rest = layout.text().mid(line.textStart()).replace(QChar::LineSeparator, u' ');
     painter.setFont(layout.font());
     painter.drawText(origin + line.position() + QPointF(0, line.ascent()),
                      QFontMetricsF(layout.font()).elidedText(rest, Qt::ElideRight, width));

@@ -3,20 +3,20 @@
 #include "controls/controls.h"
 #include "controls/form.h"
 #include "controls/ms_flex_grid.h"
-#include "look/bars.h"
-#include "look/buttons.h"
+#include "look/bar_painter.h"
+#include "look/button_painter.h"
 #include "look/colours.h"
 #include "look/drawing.h"
-#include "look/fields.h"
+#include "look/field_painter.h"
 #include "look/fonts.h"
-#include "look/frames.h"
+#include "look/frame_painter.h"
 #include "look/grid_painter.h"
-#include "look/ground.h"
-#include "look/images.h"
-#include "look/lists.h"
+#include "look/ground_painter.h"
+#include "look/image_painter.h"
+#include "look/label_painter.h"
 #include "look/message_icons.h"
 #include "look/palette.h"
-#include "look/words.h"
+#include "look/popup_painter.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -30,6 +30,9 @@
 #include <QStyleOption>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int MessageIcon = 40;
@@ -84,7 +87,7 @@ void prepareBox(QLineEdit& box, Role role, QObject* watcher) {
 }
 
 void prepareMessage(QWidget& box) {
-    auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    auto* words = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
     if (!words)
         return;
     words->setFont(sans(type::Message));
@@ -94,7 +97,7 @@ void prepareMessage(QWidget& box) {
 
 } // namespace
 
-Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+Style::Style() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {

@@ -13,12 +13,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Texts {
-    const char16_t* caption;
-    const char16_t* explanation;
-    const char16_t* start; ///< the button's
-    const char16_t* question;
-    const char16_t* title; ///< of the question
-    const char16_t* done;
+    QStringView caption;
+    QStringView explanation;
+    QStringView start; ///< the button's
+    QStringView question;
+    QStringView title; ///< of the question
+    QStringView done;
     Glyph glyph;
 };
 
@@ -37,14 +37,10 @@ constexpr Texts RestoreTexts{
 
 constexpr qint64 RoomBehind = 5; ///< of the bar behind the last byte
 
-QString text(const char16_t* words) {
-    return QString::fromUtf16(words);
-}
-
 } // namespace
 
 BackupWindow::BackupWindow(Shared& shared)
-    : Form(u"Form13"_s, Kind::Dialog, Ground::Dialog, shared.forms.loaded(u"Form2"_s)),
+    : Form(names::Backup, Kind::Dialog, Ground::Dialog, shared.forms.loaded(names::Main)),
       m_shared(shared),
       Frame1(new Frame(this, u"Frame1"_s)),
       m_disc(new Image(Frame1, u"Image1"_s)),
@@ -63,29 +59,28 @@ BackupWindow::BackupWindow(Shared& shared)
     Command1->setRole(Role::Primary);
     Command1->Click = [this] { Form13_Command1_Click(); };
     markHovered(*this, {Command1}, {Frame1});
-    placeInMiddle(5400, 3000, shared.forms.loaded(u"Form2"_s));
+    placeInMiddle(5400, 3000, shared.forms.loaded(names::Main));
 }
 
 void BackupWindow::turnTo(Direction direction) {
     const Texts& texts = direction == Direction::Restore ? RestoreTexts : BackupTexts;
-    setCaption(text(texts.caption));
-    Frame1->setCaption(text(texts.caption));
-    Label1->setCaption(text(texts.explanation));
-    Command1->setText(text(texts.start));
+    setCaption(texts.caption.toString());
+    Frame1->setCaption(texts.caption.toString());
+    Label1->setCaption(texts.explanation.toString());
+    Command1->setText(texts.start.toString());
     Command1->setGlyph(texts.glyph);
     m_disc->setGlyph(texts.glyph);
 }
 
 void BackupWindow::unloaded() {
-    if (Unloaded)
-        Unloaded();
+    Gone.raise();
 }
 
 void BackupWindow::Form13_Command1_Click() {
-    const bool restoring = Command1->text() == text(RestoreTexts.start);
+    const bool restoring = Command1->text() == RestoreTexts.start.toString();
     const Texts& texts = restoring ? RestoreTexts : BackupTexts;
     Com1->setFilter(u"*.dat|*.dat"_s);
-    if (m_shared.services.say(text(texts.question), MessageStyle::OkCancel, text(texts.title)) != Answer::Ok)
+    if (m_shared.services.say(texts.question.toString(), MessageStyle::OkCancel, texts.title.toString()) != Answer::Ok)
         return;
     Com1->showOpen();
     const QString file = Com1->FileName();
@@ -95,19 +90,19 @@ void BackupWindow::Form13_Command1_Click() {
     restoring ? restore(file) : backUp(file);
     Pro1->setShown(false);
     Pro1->setValue(0);
-    m_shared.services.say(text(texts.done));
+    m_shared.services.say(texts.done.toString());
 }
 
 /// The file is only read, and all work stands in it since the last message: recordsets stay good.
 void BackupWindow::backUp(const QString& file) {
-    FileCopy copying(m_shared.beside(DataFileName.toString()), file);
+    FileCopy copying(m_shared.dataFile(), file);
     copy(copying);
 }
 
 void BackupWindow::restore(const QString& file) {
     requireKnownVersion(file); // a backup of a later program must not take the place of a book that can be read
     m_shared.store.close();    // the next use opens it anew, and what was read before is void
-    FileCopy copying(file, m_shared.beside(DataFileName.toString()));
+    FileCopy copying(file, m_shared.dataFile());
     files::deleteMatching(m_shared.services.appPath,
                           journalOf(DataFileName.toString())); // it belongs to the file that goes
     try {

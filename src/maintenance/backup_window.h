@@ -22,8 +22,7 @@ public:
     void turnTo(Direction direction);
     void unloaded() override;
 
-    /// Called when the window goes.
-    std::function<void()> Unloaded;
+    Event<> Gone; ///< the window goes
 
 private:
     void Form13_Command1_Click();

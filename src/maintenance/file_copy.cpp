@@ -10,6 +10,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 PieceSize = 1 << 20;
@@ -26,12 +28,12 @@ bool isSameFile(const QFile& one, const QFile& other) {
 
 void openSource(QFile& source) {
     if (!source.exists())
-        refuse(RuntimeError::FileNotFound, QStringLiteral("找不到文件“%1”。请检查文件名和所在的文件夹。"), source);
+        refuse(RuntimeError::FileNotFound, u"找不到文件“%1”。请检查文件名和所在的文件夹。"_s, source);
     files::requirePlainFile(source.fileName());
     if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        refuse(RuntimeError::PathFileAccess, QStringLiteral("无法读取文件“%1”。请检查它的权限。"), source);
+        refuse(RuntimeError::PathFileAccess, u"无法读取文件“%1”。请检查它的权限。"_s, source);
     if (source.size() == 0)
-        refuse(RuntimeError::PathFileAccess, QStringLiteral("文件“%1”是空的。请指定另一个文件。"), source);
+        refuse(RuntimeError::PathFileAccess, u"文件“%1”是空的。请指定另一个文件。"_s, source);
 }
 
 void openTarget(QFile& target) {
@@ -40,8 +42,8 @@ void openTarget(QFile& target) {
         files::requirePlainFile(target.fileName());
     constexpr auto mode = QIODevice::ReadWrite | QIODevice::Unbuffered;
     if (!target.open(mode, QFile::ReadOwner | QFile::WriteOwner)) // passwords in it are in clear
-        refuse(RuntimeError::PathFileAccess,
-               QStringLiteral("无法写入文件“%1”。请检查它和所在文件夹的权限，或者另选一个位置。"), target);
+        refuse(RuntimeError::PathFileAccess, u"无法写入文件“%1”。请检查它和所在文件夹的权限，或者另选一个位置。"_s,
+               target);
 }
 
 bool isFull(const QFile& target) {
@@ -53,8 +55,7 @@ bool isFull(const QFile& target) {
 FileCopy::FileCopy(const QString& source, const QString& target) : m_source(source), m_target(target) {
     openSource(m_source);
     if (isSameFile(m_source, m_target))
-        refuse(RuntimeError::PathFileAccess, QStringLiteral("“%1”和要复制的是同一个文件。请指定另一个文件。"),
-               m_target);
+        refuse(RuntimeError::PathFileAccess, u"“%1”和要复制的是同一个文件。请指定另一个文件。"_s, m_target);
     openTarget(m_target);
     m_length = m_source.size();
 }
@@ -69,14 +70,14 @@ void FileCopy::run(const std::function<void(qint64 written)>& progress) {
     append(last);
     progress(m_target.pos());
     if (!makeDurable(m_target))
-        breakOff(QStringLiteral("磁盘没有收下写入的内容"));
+        breakOff(u"磁盘没有收下写入的内容"_s);
 }
 
 QByteArray FileCopy::nextPiece() {
     QByteArray piece(PieceSize, Qt::Uninitialized);
     const qint64 got = m_source.read(piece.data(), PieceSize);
     if (got < 0)
-        breakOff(QStringLiteral("读取“%1”时出错").arg(QDir::toNativeSeparators(m_source.fileName())));
+        breakOff(u"读取“%1”时出错"_s.arg(QDir::toNativeSeparators(m_source.fileName())));
     piece.truncate(got);
     return piece;
 }
@@ -86,15 +87,15 @@ void FileCopy::append(const QByteArray& piece) {
     while (written < piece.size()) { // a disk takes what still fits before it says that it is full
         const qint64 taken = m_target.write(piece.constData() + written, piece.size() - written);
         if (taken <= 0)
-            breakOff(isFull(m_target) ? QStringLiteral("磁盘已满") : QStringLiteral("写入时出错"));
+            breakOff(isFull(m_target) ? u"磁盘已满"_s : u"写入时出错"_s);
         written += taken;
     }
 }
 
 void FileCopy::breakOff(const QString& reason) const {
     throw RuntimeError(isFull(m_target) ? RuntimeError::DiskFull : RuntimeError::PathFileAccess,
-                       QStringLiteral("%1，“%2”没有写完，现在的内容不完整。请腾出空间或检查磁盘后再试。")
-                           .arg(reason, QDir::toNativeSeparators(m_target.fileName())));
+                       u"%1，“%2”没有写完，现在的内容不完整。请腾出空间或检查磁盘后再试。"_s.arg(
+                           reason, QDir::toNativeSeparators(m_target.fileName())));
 }
 
 } // namespace qinghe

@@ -2,7 +2,9 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "maintenance/purge_window.h"
 #include "platform/files.h"
+#include "store/tables.h"
 
 namespace qinghe {
 
@@ -12,8 +14,9 @@ namespace {
 
 /// What initialising empties, in this order. Users, categories, the month statistics, settings and pictures stay, and
 /// so do the files of the diary.
-constexpr std::array<const char16_t*, 10> InitialisedTables{u"jcb", u"jrb", u"nsrb", u"nzcb", u"rcb",
-                                                            u"rjb", u"srb", u"ysb",  u"zcb",  u"zhb"};
+constexpr std::array InitialisedTables{
+    tables::Lent,  tables::Borrowed, tables::IncomeScratch, tables::ExpenseScratch, tables::Schedule,
+    tables::Diary, tables::Income,   tables::Budget,        tables::Expense,        tables::Accounts};
 
 } // namespace
 
@@ -62,8 +65,8 @@ void FileSettings::Form2_Option16_Click() {
 
 /// The options are cleared when the window goes, so that the same one can be chosen again.
 void FileSettings::openBackup(BackupWindow::Direction direction) {
-    auto& backup = m_shared.forms.get<BackupWindow>(u"Form13"_s);
-    backup.Unloaded = [this] {
+    auto& backup = m_shared.forms.get(names::Backup);
+    backup.Gone = [this] {
         Option14->setValue(false);
         Option16->setValue(false);
     };
@@ -73,8 +76,10 @@ void FileSettings::openBackup(BackupWindow::Direction direction) {
 
 void FileSettings::Form2_Check3_Click() {
     if (!Check3->Value())
-        return m_shared.forms.unload(u"Form3"_s);
-    Form& purge = m_shared.forms.get(u"Form3"_s);
+        return m_shared.forms.unload(names::Purge);
+    PurgeWindow& purge = m_shared.forms.get(names::Purge);
+    // The tick that opened the window goes with it; its click finds nothing more to unload.
+    purge.Gone = [this] { Check3->setValue(false); };
     purge.showForm();
     purge.keepOnScreen();
 }
@@ -84,11 +89,10 @@ void FileSettings::Form2_Check2_Click() {
         return;
     if (m_shared.services.say(u"是否删除所有日志？"_s, MessageStyle::OkCancelInformation, u"提示"_s) != Answer::Ok)
         return Check2->setValue(false);
-    Adodc1.setConnectionString(m_shared.connection());
-    Recordset& entries = Adodc1.open(u"rjb"_s);
+    Recordset& entries = Adodc1.open(tables::Diary.toString());
     // Files of which no row tells are left alone.
     if (entries.recordCount() != 0)
-        files::deleteMatching(m_shared.beside(u"mydiary"_s), u"*.dll"_s);
+        files::deleteMatching(m_shared.diaryFolder(), u"*.dll"_s);
     emptyTable(entries);
     m_shared.emptyDiaryPage();
     m_shared.services.say(u"格式化完成！"_s);
@@ -101,11 +105,9 @@ void FileSettings::Form2_Check4_Click() {
                                                 MessageStyle::YesNoQuestion, u"系统提示"_s);
     if (answer != Answer::Yes)
         return Check4->setValue(false);
-    Adodc1.setVisible(false);
-    Adodc1.setConnectionString(m_shared.connection());
-    for (const char16_t* table : InitialisedTables)
-        emptyTable(Adodc1.open(QString::fromUtf16(table)));
-    m_shared.services.say(u"初始化完毕"_s, MessageStyle::OkInformation, u"提示"_s);
+    for (QStringView table : InitialisedTables)
+        emptyTable(Adodc1.open(table.toString()));
+    m_shared.tell(u"初始化完毕"_s, u"提示"_s);
 }
 
 } // namespace qinghe

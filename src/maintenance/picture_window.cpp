@@ -12,11 +12,10 @@ namespace {
 
 constexpr PictureTarget Targets[] = {
     {
-        .form = u"Form8",
+        .form = names::InjectSkin,
         .entry = u"添加记账本皮肤",
         .caption = u"注入数据库皮肤",
-        .source = u"select * from 软件皮肤",
-        .bytesColumn = u"皮肤",
+        .table = pictures::OfferedSkins,
         .dialog = u"cmm1",
         .pathWords = u"选择图片",
         .nameWords = u"储存名称",
@@ -24,11 +23,10 @@ constexpr PictureTarget Targets[] = {
         .store = u"储存",
     },
     {
-        .form = u"Form10",
+        .form = names::InjectDesktopPicture,
         .entry = u"添加桌面图片",
         .caption = u"Form10",
-        .source = u"select * from 主界面",
-        .bytesColumn = u"文件",
+        .table = pictures::Desktop,
         .dialog = u"cmm1",
         .pathWords = u"打开文件",
         .nameWords = u"名称",
@@ -36,11 +34,10 @@ constexpr PictureTarget Targets[] = {
         .store = u"保存",
     },
     {
-        .form = u"Form11",
+        .form = names::InjectSignInPicture,
         .entry = u"添加登陆图片",
         .caption = u"Form11",
-        .source = u"select * from 登陆皮肤",
-        .bytesColumn = u"皮肤",
+        .table = pictures::SignIn,
         .dialog = u"Cmm1",
         .pathWords = u"文件",
         .nameWords = u"文件名",
@@ -49,10 +46,6 @@ constexpr PictureTarget Targets[] = {
     },
 };
 
-QString text(const char16_t* words) {
-    return QString::fromUtf16(words);
-}
-
 } // namespace
 
 std::span<const PictureTarget> pictureTargets() {
@@ -60,18 +53,18 @@ std::span<const PictureTarget> pictureTargets() {
 }
 
 PictureWindow::PictureWindow(Shared& shared, const PictureTarget& target)
-    : Form(text(target.form), Kind::Dialog, Ground::Dialog, shared.forms.loaded(u"Form2"_s)),
+    : Form(target.form, Kind::Dialog, Ground::Dialog, shared.forms.loaded(names::Main)),
       m_shared(shared),
       m_target(target),
-      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
-      m_dialog(new CommonDialog(*shared.services.chooser, text(target.dialog), this)),
-      Label1(new Label(this, u"Label1"_s, text(target.pathWords))),
+      Adodc1(shared.newControl(u"Adodc1"_s, this)),
+      m_dialog(new CommonDialog(*shared.services.chooser, target.dialog.toString(), this)),
+      Label1(new Label(this, u"Label1"_s, target.pathWords.toString())),
       Text1(new TextBox(this, u"Text1"_s)),
-      Label2(new Label(this, u"Label2"_s, text(target.nameWords))),
+      Label2(new Label(this, u"Label2"_s, target.nameWords.toString())),
       Text2(new TextBox(this, u"Text2"_s)),
-      Command1(new CommandButton(this, u"Command1"_s, text(target.browse))),
-      Command2(new CommandButton(this, u"Command2"_s, text(target.store))) {
-    setCaption(text(target.caption));
+      Command1(new CommandButton(this, u"Command1"_s, target.browse.toString())),
+      Command2(new CommandButton(this, u"Command2"_s, target.store.toString())) {
+    setCaption(target.caption.toString());
     Label1->place(240, 360, 1140, 330);
     Text1->place(1440, 360, 3000, 330);
     Command1->place(4560, 330, 1200, 390);
@@ -82,11 +75,7 @@ PictureWindow::PictureWindow(Shared& shared, const PictureTarget& target)
     Command1->Click = [this] { choosePicture(); };
     Command2->Click = [this] { storePicture(); };
     markHovered(*this, {Command1, Command2});
-    placeInMiddle(6000, 2400, shared.forms.loaded(u"Form2"_s));
-}
-
-void PictureWindow::load() {
-    Adodc1->setVisible(false);
+    placeInMiddle(6000, 2400, shared.forms.loaded(names::Main));
 }
 
 void PictureWindow::choosePicture() {
@@ -96,7 +85,7 @@ void PictureWindow::choosePicture() {
 
 void PictureWindow::storePicture() {
     if (Text2->Text().isEmpty()) {
-        m_shared.services.say(u"Box of filename can not be empty!"_s, MessageStyle::OkInformation, u"information"_s);
+        m_shared.tell(u"Box of filename can not be empty!"_s, u"information"_s);
         return;
     }
     addRow();
@@ -106,13 +95,12 @@ void PictureWindow::storePicture() {
 
 /// The bytes are stored with a zero byte behind them, which their size leaves out.
 void PictureWindow::addRow() {
-    Adodc1->setConnectionString(m_shared.connection());
-    Recordset& pictures = Adodc1->open(text(m_target.source));
+    Recordset& pictures = Adodc1->open(u"select * from "_s + m_target.table.table.toString());
     pictures.addNew();
     const QByteArray bytes = files::readAllOrMake(withoutBlanksAround(Text1->Text()));
-    pictures.field(u"大小"_s).setValue(static_cast<double>(static_cast<float>(bytes.size())));
-    pictures.field(text(m_target.bytesColumn)).appendChunk(bytes + '\0');
-    pictures.field(u"名称"_s).setValue(Text2->Text());
+    pictures.field(m_target.table.size).setValue(static_cast<double>(static_cast<float>(bytes.size())));
+    pictures.field(m_target.table.bytes).appendChunk(bytes + '\0');
+    pictures.field(m_target.table.name).setValue(Text2->Text());
     pictures.update();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/common_dialog.h"
+#include "core/picture_tables.h"
 #include "core/shared.h"
 
 #include <span>
@@ -9,16 +10,15 @@ namespace qinghe {
 
 /// What one of the three injection windows is: its captions, and the table that it puts pictures into.
 struct PictureTarget {
-    const char16_t* form;
-    const char16_t* entry; ///< in the menu of the settings page
-    const char16_t* caption;
-    const char16_t* source;
-    const char16_t* bytesColumn;
-    const char16_t* dialog; ///< the name of its file dialog
-    const char16_t* pathWords;
-    const char16_t* nameWords;
-    const char16_t* browse; ///< the caption of Command1
-    const char16_t* store;  ///< the caption of Command2
+    const FormName<>& form;
+    QStringView entry; ///< in the menu of the settings page
+    QStringView caption;
+    const PictureTable& table;
+    QStringView dialog; ///< the name of its file dialog
+    QStringView pathWords;
+    QStringView nameWords;
+    QStringView browse; ///< the caption of Command1
+    QStringView store;  ///< the caption of Command2
 };
 
 /// The skins on offer, the desktop's picture, the picture of the sign-in.
@@ -31,8 +31,6 @@ class PictureWindow : public Form {
 
 public:
     PictureWindow(Shared& shared, const PictureTarget& target);
-
-    void load() override;
 
 private:
     void choosePicture(); ///< Command1 clicked

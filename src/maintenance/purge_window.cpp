@@ -11,17 +11,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Accounts = 4, Plans = 6; ///< places among the kinds
-constexpr int DateTarget = 8;
-constexpr double PickerGap = 400; ///< twips from the foot of the box to the picker: the title bar's height
+constexpr double PickerGap = 400;      ///< twips from the foot of the box to the picker: the title bar's height
 
 } // namespace
 
 struct PurgeWindow::Records {
-    const char16_t* box;
-    const char16_t* caption;
-    const char16_t* source; ///< up to the date; a table by its name goes altogether
-    const char16_t* done;
-    const char16_t* none;
+    QStringView box;
+    QStringView caption;
+    QStringView source; ///< up to the date; a table by its name goes altogether
+    QStringView done;
+    QStringView none;
     bool dated = true;
 };
 
@@ -36,12 +35,12 @@ const std::array<PurgeWindow::Records, 7> PurgeWindow::Kinds{{
 }};
 
 PurgeWindow::PurgeWindow(Shared& shared)
-    : Form(u"Form3"_s, Kind::Dialog, Ground::Dialog, shared.forms.loaded(u"Form2"_s)),
+    : Form(names::Purge, Kind::Dialog, Ground::Dialog, shared.forms.loaded(names::Main)),
       m_shared(shared),
-      Adodc1(new Adodc(shared.store, u"Adodc1"_s, this)),
+      Adodc1(shared.newControl(u"Adodc1"_s, this)),
       Frame1(new Frame(this, u"Frame1"_s, u"（删除记录）项目"_s)) {
     setCaption(u"设置-删除"_s);
-    placeInMiddle(6600, 4680, shared.forms.loaded(u"Form2"_s));
+    placeInMiddle(6600, 4680, shared.forms.loaded(names::Main));
     Frame1->place(240, 240, 6120, 2160);
     Frame1->setRole(Role::InnerFrame);
     makeBoxes();
@@ -59,7 +58,7 @@ void PurgeWindow::makeBoxes() {
     constexpr int inARow = 4;
     for (int i = 0; i < static_cast<int>(Kinds.size()); ++i) {
         const Records& kind = Kinds[static_cast<std::size_t>(i)];
-        auto* box = new CheckBox(Frame1, QString::fromUtf16(kind.box), QString::fromUtf16(kind.caption));
+        auto* box = new CheckBox(Frame1, kind.box.toString(), kind.caption.toString());
         box->place(240 + 1440 * (i % inARow), 480 + 480 * (i / inARow), i == Plans ? 1740 : 1380, 330);
         box->Click = [this, i] { i == Plans ? Form3_Check2_Click() : Form3_Check1_Click(); };
         Checks[static_cast<std::size_t>(i)] = box;
@@ -90,21 +89,21 @@ void PurgeWindow::makeHelp() {
 }
 
 void PurgeWindow::load() {
-    Adodc1->setVisible(false);
-    Adodc1->setConnectionString(m_shared.connection());
+    // The date is typed nowhere: it is closed again as soon as the picker is gone.
+    m_shared.pickerGone = [window = QPointer(this)] {
+        if (window && window->Visible())
+            window->Text1->setUsable(false);
+    };
 }
 
 void PurgeWindow::unloaded() {
-    m_shared.forms.unload(u"Form1"_s);
-    // The tick that opened the window goes; its click finds nothing more to unload.
-    if (const Form* main = m_shared.forms.loaded(u"Form2"_s))
-        if (auto* tick = main->findChild<CheckBox*>(u"Check3"_s))
-            tick->setValue(false);
+    m_shared.unloadDatePicker();
+    m_shared.pickerGone = {};
+    Gone.raise();
 }
 
 void PurgeWindow::Form3_Text1_Click() {
-    m_shared.openDatePicker({DateTarget, Text1}, Frame1->Left() + Text1->Left() + Left(),
-                            Frame1->Top() + Text1->Top() + Top() + Text1->Height() + PickerGap);
+    m_shared.openDatePicker(DateField::Purge, FieldTarget(Text1), placeBelow(*Text1, Text1->Height() + PickerGap));
 }
 
 void PurgeWindow::setDateShown(bool shown) {
@@ -118,7 +117,7 @@ void PurgeWindow::Form3_Check1_Click() {
     Text1->setUsable(true);
     const bool accounts = Checks[Accounts]->Value();
     if (accounts) {
-        // Other kinds that are ticked are left without a date then, and are meant to.
+        // Accounts have no date, so none stands there; other kinds that are ticked ask for one then.
         Text1->setBoxText({});
         Frame2->setShown(true);
     }
@@ -129,8 +128,8 @@ void PurgeWindow::Form3_Check2_Click() {
     Text1->setUsable(true);
 }
 
-void PurgeWindow::tell(const QString& text) {
-    m_shared.services.say(text, MessageStyle::OkInformation, u"提示"_s);
+void PurgeWindow::tell(QStringView text) {
+    m_shared.tell(text.toString(), u"提示"_s);
 }
 
 void PurgeWindow::Form3_Command1_Click() {
@@ -143,15 +142,15 @@ void PurgeWindow::Form3_Command1_Click() {
 
 void PurgeWindow::purge(const Records& kind) {
     if (kind.dated && Text1->Text().isEmpty())
-        return tell(u"请选择日期！"_s);
-    QString source = QString::fromUtf16(kind.source);
+        return tell(u"请选择日期！");
+    QString source = kind.source.toString();
     if (kind.dated)
         source += u'#' + withoutBlanksAround(Text1->Text()) + u'#';
     Recordset& records = Adodc1->open(source);
     if (records.recordCount() == 0)
-        return tell(QString::fromUtf16(kind.none));
+        return tell(kind.none);
     emptyTable(records);
-    tell(QString::fromUtf16(kind.done));
+    tell(kind.done);
 }
 
 } // namespace qinghe

@@ -19,6 +19,8 @@ public:
     void load() override;
     void unloaded() override;
 
+    Event<> Gone; ///< the window goes
+
     void Form3_Text1_Click();
     void Form3_Check1_Click();
     void Form3_Check2_Click();
@@ -32,7 +34,7 @@ private:
     void makeDate();
     void makeHelp();
     void purge(const Records& kind);
-    void tell(const QString& text);
+    void tell(QStringView text);
     void setDateShown(bool shown);
 
     Shared& m_shared;

@@ -10,8 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageCode = 7;
-constexpr PageTab Tabs[] = {{u"Label7", u" 设置", 10920, PageCode}};
+constexpr PageTab Tabs[] = {{u"Label7", u" 设置", 10920, PageCode::Settings}};
 constexpr PageTraits Settings{u"Frame16", u"设置", 120, 1680, 11655, 6135, Tabs};
 
 } // namespace
@@ -52,10 +51,9 @@ void SettingsPage::placeBoxes() {
 
 void SettingsPage::makePictureMenu() {
     for (const PictureTarget& target : pictureTargets()) {
-        const QAction* entry = m_pictures->addAction(QString::fromUtf16(target.entry));
-        connect(entry, &QAction::triggered, this, [this, form = QString::fromUtf16(target.form)] {
-            handlers::enter([this, form] { m_shared.forms.get(form).showForm(); });
-        });
+        const QAction* entry = m_pictures->addAction(target.entry.toString());
+        connect(entry, &QAction::triggered, this,
+                [this, form = target.form] { handlers::enter([this, form] { m_shared.forms.get(form).showForm(); }); });
     }
 }
 
@@ -77,7 +75,7 @@ void SettingsPage::bindEvents() {
 }
 
 void SettingsPage::Form2_Label7_Click() {
-    navigation().leaveOthers(*this, PageCode);
+    navigation().leaveOthers(*this, PageCode::Settings);
     m_skins.hide();
     navigation().bringForward(*this);
 }

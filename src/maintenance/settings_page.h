@@ -16,7 +16,7 @@ class SettingsPage : public Page {
 public:
     explicit SettingsPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label7_Click(); }
+    void tabClicked(PageCode) override { Form2_Label7_Click(); }
     void windowLoads() override;
 
     void Form2_Label7_Click();

@@ -34,9 +34,8 @@ void SkinChoice::hide() {
 }
 
 void SkinChoice::listSkins() {
-    Adodc1.setConnectionString(m_shared.connection());
-    for (Recordset& skins = Adodc1.open(u"select * from 软件皮肤"_s); !skins.eof(); skins.moveNext())
-        Combo2->addEntry(skins.field(u"名称"_s).text());
+    for (Recordset& skins = Adodc1.open(OfferedSkins.source.toString()); !skins.eof(); skins.moveNext())
+        Combo2->addEntry(skins.field(OfferedSkins.table.name).text());
     Combo2->setShown(true);
 }
 
@@ -54,7 +53,6 @@ void SkinChoice::Form2_Check10_Click() {
 
 void SkinChoice::Form2_Combo2_Click() {
     Command30->setShown(true);
-    Adodc1.setConnectionString(m_shared.connection());
     // The name goes into the query as it stands: one with an apostrophe breaks it.
     const PictureBytes skin = readPicture(NamedSkin, Adodc1, Combo2->Text() + '\''_L1);
     skinSize = skin.size;
@@ -67,15 +65,15 @@ void SkinChoice::Form2_Command30_Click() {
     Check10->setValue(false); // whose click closes the list
     Command30->setShown(false);
     closeList();
-    Recordset& chosen = Adodc1.open(u"皮肤选择"_s);
+    Recordset& chosen = Adodc1.open(tables::ChosenSkin.toString());
     emptyTable(chosen);
     chosen.addNew();
     // The list is empty by now, and with it the name that is stored; nothing reads it.
-    chosen.field(u"皮肤名"_s).setValue(Combo2->Text());
-    chosen.field(u"文件大小"_s).setValue(static_cast<double>(skinSize));
-    chosen.field(u"皮肤文件"_s).appendChunk(skinBytes);
+    chosen.field(ChosenSkin.table.name).setValue(Combo2->Text());
+    chosen.field(ChosenSkin.table.size).setValue(static_cast<double>(skinSize));
+    chosen.field(ChosenSkin.table.bytes).appendChunk(skinBytes);
     chosen.update();
-    m_shared.services.say(u"设置已保存"_s, MessageStyle::OkInformation, u"提示"_s);
+    m_shared.tell(u"设置已保存"_s, u"提示"_s);
     hide();
 }
 

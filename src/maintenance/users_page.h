@@ -13,16 +13,7 @@ class UsersPage : public GridPage {
 public:
     explicit UsersPage(MainWindow& window);
 
-    void tabClicked(int) override { Form2_Label4_Click(); }
-    void formClicked() override;
-
-    void Form2_Label4_Click();
-
-protected:
-    QString table() const override;
-    QString source() const override;
-    void beforeSave() override;
-    int rowForEmptyText() const override;
+    void Form2_Label4_Click() { open(PageCode::Users); }
 };
 
 } // namespace qinghe

@@ -8,6 +8,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int ForEver = -1;
@@ -30,7 +32,7 @@ public:
     SoundDevice* device() {
         if (!m_device) {
             using Maker = SoundDevice* (*)();
-            QLibrary module(QDir(m_folder).filePath(QStringLiteral("qinghe_sound")));
+            QLibrary module(QDir(m_folder).filePath(u"qinghe_sound"_s));
             if (const auto make = reinterpret_cast<Maker>(module.resolve("qingheSoundDevice")))
                 m_device.reset(make());
         }
@@ -43,8 +45,8 @@ private:
     QThreadPool m_thread;
 };
 
-/// A piece that may not have been opened yet.
-class Piece {
+/// Holds a piece, which may not have been opened yet.
+class PieceSlot {
 public:
     void put(std::unique_ptr<Sound> sound) {
         const std::lock_guard lock(m_mutex);
@@ -89,7 +91,7 @@ private:
     }
 
     std::shared_ptr<Player> m_player;
-    std::shared_ptr<Piece> m_piece = std::make_shared<Piece>();
+    std::shared_ptr<PieceSlot> m_piece = std::make_shared<PieceSlot>();
 };
 
 class BackgroundSound : public SoundDevice {

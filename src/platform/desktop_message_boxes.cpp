@@ -10,6 +10,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QMessageBox::StandardButtons buttonsOf(MessageStyle style) {
@@ -38,13 +40,13 @@ QMessageBox::Icon iconOf(MessageStyle style) {
 
 /// The words of the buttons, without the marks for keys that Qt's own words carry.
 void captionButtons(QMessageBox& box) {
-    constexpr std::pair<QMessageBox::StandardButton, const char16_t*> captions[] = {{QMessageBox::Ok, u"确定"},
-                                                                                    {QMessageBox::Cancel, u"取消"},
-                                                                                    {QMessageBox::Yes, u"是"},
-                                                                                    {QMessageBox::No, u"否"}};
-    for (const auto& [kind, caption] : captions)
+    constexpr std::pair<QMessageBox::StandardButton, QStringView> Captions[] = {{QMessageBox::Ok, u"确定"},
+                                                                                {QMessageBox::Cancel, u"取消"},
+                                                                                {QMessageBox::Yes, u"是"},
+                                                                                {QMessageBox::No, u"否"}};
+    for (const auto& [kind, caption] : Captions)
         if (QAbstractButton* button = box.button(kind))
-            button->setText(QString::fromUtf16(caption));
+            button->setText(caption.toString());
 }
 
 Answer answerOf(int button) {
@@ -82,10 +84,10 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
 void DesktopMessageBoxes::showError(int number, const QString& text) {
     QMessageBox box(windowInFront());
     const QString ending = number == RuntimeError::StoreFailure
-                               ? QStringLiteral("程序将关闭。")
-                               : QStringLiteral("程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后"
-                                                "检查这一页。");
-    fill(box, QStringLiteral("运行时错误 %1：\n\n%2\n\n%3").arg(number).arg(text, ending), productName());
+                               ? u"程序将关闭。"_s
+                               : u"程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后"
+                                 "检查这一页。"_s;
+    fill(box, u"运行时错误 %1：\n\n%2\n\n%3"_s.arg(number).arg(text, ending), productName());
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     captionButtons(box);

@@ -22,12 +22,12 @@ int trayMessage(QSystemTrayIcon::ActivationReason reason) {
     return 0;
 }
 
-void DesktopTray::add(const TrayData&, std::function<void(int)> onMessage) {
+void DesktopTray::add(const QString& tip, std::function<void(int)> onMessage) {
     m_onMessage = std::move(onMessage);
     if (m_icon)
         return;
     m_icon = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
-    m_icon->setToolTip(productName());
+    m_icon->setToolTip(tip);
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(),
                      [this](QSystemTrayIcon::ActivationReason reason) {
                          handlers::enter([this, reason] { m_onMessage(trayMessage(reason)); });

@@ -10,11 +10,14 @@ namespace qinghe {
 /// two, 516 for the right and 519 for the middle button, 0 where the desktop does not say which.
 int trayMessage(QSystemTrayIcon::ActivationReason reason);
 
-/// The desktop's tray. Its icon stays until the process ends.
+/// The desktop's tray. Its icon stays until the process ends, with the tip it was first given.
 class DesktopTray : public Tray {
 public:
     bool available() const override { return QSystemTrayIcon::isSystemTrayAvailable(); }
-    void add(const TrayData& data, std::function<void(int message)> onMessage) override;
+    void add(const QString& tip, std::function<void(int message)> onMessage) override;
+
+    /// nullptr as long as none was added.
+    QSystemTrayIcon* icon() const { return m_icon.get(); }
 
 private:
     std::unique_ptr<QSystemTrayIcon> m_icon;

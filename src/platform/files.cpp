@@ -12,6 +12,8 @@
 
 namespace qinghe::files {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int LargestPictureMiB = 512; ///< decoded; 48 megapixels need 184
@@ -19,17 +21,17 @@ constexpr int LargestPictureMiB = 512; ///< decoded; 48 megapixels need 184
 [[noreturn]] void failAccess(const QFile& file, const QString& what) {
     if (file.error() == QFileDevice::ResourceError)
         throw RuntimeError(RuntimeError::DiskFull,
-                           QStringLiteral("磁盘空间不足，%1没有写完。请清理磁盘后再试。").arg(file.fileName()));
+                           u"磁盘空间不足，%1没有写完。请清理磁盘后再试。"_s.arg(file.fileName()));
     throw RuntimeError(RuntimeError::PathFileAccess,
-                       QStringLiteral("%1：%2。请检查文件夹的权限和磁盘空间。").arg(what, file.fileName()));
+                       u"%1：%2。请检查文件夹的权限和磁盘空间。"_s.arg(what, file.fileName()));
 }
 
 void write(const QString& path, QIODevice::OpenMode mode, const QByteArray& bytes) {
     QFile file(path);
     if (!file.open(mode))
-        failAccess(file, QStringLiteral("不能写入文件"));
+        failAccess(file, u"不能写入文件"_s);
     if (file.write(bytes) != bytes.size() || !file.flush())
-        failAccess(file, QStringLiteral("文件没有写完"));
+        failAccess(file, u"文件没有写完"_s);
 }
 
 } // namespace
@@ -42,30 +44,25 @@ void makeFolder(const QString& path) {
     if (QFileInfo(path).isFile())
         throw RuntimeError(
             RuntimeError::PathFileAccess,
-            QStringLiteral(
-                "“%1”是一个文件，程序却要在这个名字的文件夹里存放内容。请把这个文件改名或移到别处，再启动程序。")
-                .arg(path));
+            u"“%1”是一个文件，程序却要在这个名字的文件夹里存放内容。请把这个文件改名或移到别处，再启动程序。"_s.arg(
+                path));
     if (!QDir().mkdir(path))
-        throw RuntimeError(RuntimeError::PathFileAccess,
-                           QStringLiteral("不能建立文件夹：%1。请检查上级文件夹的权限。").arg(path));
+        throw RuntimeError(RuntimeError::PathFileAccess, u"不能建立文件夹：%1。请检查上级文件夹的权限。"_s.arg(path));
 }
 
 void requirePlainFile(const QString& path) {
     const QFileInfo info(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (info.isDir())
-        throw RuntimeError(RuntimeError::PathFileAccess,
-                           QStringLiteral("“%1”是一个文件夹。请指定一个文件。").arg(shown));
+        throw RuntimeError(RuntimeError::PathFileAccess, u"“%1”是一个文件夹。请指定一个文件。"_s.arg(shown));
     if (!info.isFile())
-        throw RuntimeError(RuntimeError::PathFileAccess,
-                           QStringLiteral("“%1”不是普通文件。请指定另一个文件。").arg(shown));
+        throw RuntimeError(RuntimeError::PathFileAccess, u"“%1”不是普通文件。请指定另一个文件。"_s.arg(shown));
 }
 
 void requireFolderOf(const QString& path) {
     if (!QFileInfo(path).dir().exists())
-        throw RuntimeError(
-            RuntimeError::PathNotFound,
-            QStringLiteral("“%1”所在的文件夹不存在。请另选一个位置。").arg(QDir::toNativeSeparators(path)));
+        throw RuntimeError(RuntimeError::PathNotFound,
+                           u"“%1”所在的文件夹不存在。请另选一个位置。"_s.arg(QDir::toNativeSeparators(path)));
 }
 
 void writeAll(const QString& path, const QByteArray& bytes) {
@@ -79,15 +76,15 @@ void writeOver(const QString& path, const QByteArray& bytes) {
 QByteArray readAll(const QString& path) {
     QFile file(path);
     if (!file.exists())
-        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到文件：%1。").arg(path));
+        throw RuntimeError(RuntimeError::FileNotFound, u"找不到文件：%1。"_s.arg(path));
     if (isFolder(path) || !file.open(QIODevice::ReadOnly))
-        failAccess(file, QStringLiteral("不能读取文件"));
+        failAccess(file, u"不能读取文件"_s);
     return file.readAll();
 }
 
 QByteArray readAllOrMake(const QString& path) {
     if (path.isEmpty())
-        throw RuntimeError(RuntimeError::PathFileAccess, QStringLiteral("没有指定文件。请先选择一个文件。"));
+        throw RuntimeError(RuntimeError::PathFileAccess, u"没有指定文件。请先选择一个文件。"_s);
     requireFolderOf(path);
     if (!QFileInfo::exists(path))
         writeAll(path, {});
@@ -97,16 +94,16 @@ QByteArray readAllOrMake(const QString& path) {
 
 void deleteMatching(const QString& folder, const QString& pattern) {
     QDir dir(folder);
-    const QString names = QString(pattern).replace(u'[', QStringLiteral("[[]")); // brackets are no wildcards here
+    const QString names = QString(pattern).replace(u'[', u"[[]"_s); // brackets are no wildcards here
     for (const QString& name : dir.entryList({names}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive))
         if (QFile file(dir.filePath(name)); !file.remove())
-            failAccess(file, QStringLiteral("不能删除文件"));
+            failAccess(file, u"不能删除文件"_s);
 }
 
 QImage loadPicture(const QString& path, const QSize& fill) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到图片文件：%1。").arg(path));
+        throw RuntimeError(RuntimeError::FileNotFound, u"找不到图片文件：%1。"_s.arg(path));
     QByteArray bytes = file.readAll();
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
@@ -119,7 +116,7 @@ QImage loadPicture(const QString& path, const QSize& fill) {
     QImage image = reader.read();
     if (image.isNull())
         throw RuntimeError(RuntimeError::InvalidPicture,
-                           QStringLiteral("这个文件不是能显示的图片：%1。请换一个 JPEG、PNG 或 BMP 图片。").arg(path));
+                           u"这个文件不是能显示的图片：%1。请换一个 JPEG、PNG 或 BMP 图片。"_s.arg(path));
     return image;
 }
 

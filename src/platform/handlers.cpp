@@ -6,6 +6,8 @@
 
 namespace qinghe::handlers {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Waiting {
@@ -72,11 +74,10 @@ void fail(const RuntimeError& error) {
 
 /// A fault of the program itself; `trace` says which, to whoever is asked for help.
 RuntimeError internalError(const char* trace) {
-    return RuntimeError(
-        RuntimeError::InternalError,
-        QStringLiteral("程序内部出错，无法继续。出错以前的改动已经保存。请重新启动程序，核对刚才的记录；"
-                       "如果再次出现，请先备份账本（复制 data.dll），再把下面这行文字告诉维护程序的人。\r\n%1")
-            .arg(QString::fromUtf8(trace)));
+    return RuntimeError(RuntimeError::InternalError,
+                        u"程序内部出错，无法继续。出错以前的改动已经保存。请重新启动程序，核对刚才的记录；"
+                        "如果再次出现，请先备份账本（复制 data.dll），再把下面这行文字告诉维护程序的人。\r\n%1"_s.arg(
+                            QString::fromUtf8(trace)));
 }
 
 /// The body of a guard: whatever leaves `call` ends here. Returns whether the program goes on.
@@ -91,7 +92,7 @@ bool guarded(const std::function<void()>& call) {
         state().ending = true;
         endProgram(end.code);
     } catch (const std::bad_alloc&) {
-        fail(RuntimeError(7, QStringLiteral("内存不足，程序无法继续。已经保存的记录不受影响。")));
+        fail(RuntimeError(RuntimeError::OutOfMemory, u"内存不足，程序无法继续。已经保存的记录不受影响。"_s));
     } catch (const std::exception& error) {
         fail(internalError(error.what()));
     } catch (...) {

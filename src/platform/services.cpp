@@ -15,6 +15,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DesktopClock : public Clock {
@@ -38,7 +40,7 @@ public:
 } // namespace
 
 QString productName() {
-    return QStringLiteral("青禾家庭记账本");
+    return u"青禾家庭记账本"_s;
 }
 
 Answer Services::say(const QString& text, MessageStyle style, const QString& title) const {

@@ -51,24 +51,13 @@ public:
     virtual std::optional<QString> choose(const QString& filter, const QString& name) = 0;
 };
 
-/// The tray: its icon is only ever added.
-struct TrayData {
-    qint32 cbSize = 88;
-    quintptr hWnd = 0;
-    quintptr uID = 0;
-    quint32 uFlags = 7;
-    quint32 uCallbackMessage = 512;
-    quintptr hIcon = 0;
-    QByteArray szTip; ///< 64 bytes, padded with blanks, in the 8-bit code page
-};
-
 class Tray {
 public:
     virtual ~Tray() = default;
     virtual bool available() const = 0;
-    /// Adds the icon, or adds it once more without any change for the user. Its events arrive at `onMessage` with the
-    /// message number of the mouse (513: the left button's press).
-    virtual void add(const TrayData& data, std::function<void(int message)> onMessage) = 0;
+    /// Adds the program's icon, which stays; once more changes nothing for the user. `tip` is shown under the pointer.
+    /// The icon's events arrive at `onMessage` with the message number of the mouse (513: the left button's press).
+    virtual void add(const QString& tip, std::function<void(int message)> onMessage) = 0;
 };
 
 class Launcher {

@@ -1,7 +1,7 @@
 #include "tools/calculator.h"
 
 #include "core/hover.h"
-#include "look/fields.h"
+#include "look/field_painter.h"
 
 #include <QKeyEvent>
 
@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Operator {
-    const char16_t* caption;
+    QStringView caption;
     double left, top, width, height; ///< twips
 };
 
@@ -42,7 +42,7 @@ void fill(TextBox& box, MSFlexGrid& grid, const FieldTarget& field, const QStrin
 } // namespace
 
 Calculator::Calculator(Shared& shared)
-    : FieldTool(u"Form9"_s, Kind::Tool, Ground::Calculator, shared.forms.loaded(u"Form2"_s)),
+    : FieldTool(names::Calculator, Kind::Tool, Ground::Calculator, shared.forms.loaded(names::Main)),
       m_shared(shared),
       Text1(new TextBox(this, u"Text1"_s)) {
     setCaption(u"数值输入-计算器"_s);
@@ -84,8 +84,8 @@ void Calculator::makeKeys() {
     }
     for (int i = 0; i < static_cast<int>(Operators.size()); ++i) {
         const Operator& entry = Operators[static_cast<std::size_t>(i)];
-        CommandButton* made = key(u"Command2(%1)"_s.arg(i), QString::fromUtf16(entry.caption), entry.left, entry.top,
-                                  entry.width, entry.height);
+        CommandButton* made =
+            key(u"Command2(%1)"_s.arg(i), entry.caption.toString(), entry.left, entry.top, entry.width, entry.height);
         made->setRole(Role::CalcOperator);
         made->Click = [this, i] { Form9_Command2_Click(i); };
         Command2[static_cast<std::size_t>(i)] = made;
@@ -114,7 +114,7 @@ void Calculator::Form9_Command1_Click(int index) {
 
 void Calculator::Form9_Command2_Click(int index) {
     if (m_machine.pressOperator(index) == CalculatorMachine::Outcome::DivisionRefused)
-        m_shared.services.say(u"被除数不能等于零!"_s, MessageStyle::OkInformation, u"温馨提示"_s);
+        m_shared.tell(u"被除数不能等于零!"_s, u"温馨提示"_s);
     showDisplay();
 }
 
@@ -151,7 +151,7 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
                 handBack();
             break;
         case Qt::Key_Escape:
-            m_shared.forms.unload(objectName());
+            unload();
             break;
         default:
             if (!event->text().isEmpty())
@@ -163,7 +163,7 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
 /// Goes away; what was reckoned goes into the field that asked. A glance hands nothing back.
 void Calculator::handBack() {
     const auto number = m_machine.touched() ? m_machine.handOver() : std::nullopt;
-    m_shared.forms.unload(objectName());
+    unload();
     TextBox* const box = m_field.box;
     MSFlexGrid* const grid = m_field.grid;
     if (number && box && grid && takesInput(*grid, m_field))

@@ -7,6 +7,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What an operator key writes behind the first operand. That the columns differ is meant.
@@ -25,9 +27,9 @@ constexpr Marks kMarks[] = {
 template<typename Number>
 Number checked(Number value) {
     if (std::isnan(value))
-        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("计算器：这个乘方没有结果。"));
+        throw RuntimeError(RuntimeError::InvalidCall, u"计算器：这个乘方没有结果。"_s);
     if (std::isinf(value))
-        throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：计算器的结果太大。"));
+        throw RuntimeError(RuntimeError::Overflow, u"溢出：计算器的结果太大。"_s);
     return value;
 }
 
@@ -37,8 +39,7 @@ float single(double value) {
 
 double quotient(double first, double second) {
     if (second == 0)
-        throw RuntimeError(RuntimeError::DivisionByZero,
-                           QStringLiteral("除数为零：%1 不能除以 0。").arg(numberText(first)));
+        throw RuntimeError(RuntimeError::DivisionByZero, u"除数为零：%1 不能除以 0。"_s.arg(numberText(first)));
     return first / second;
 }
 
@@ -62,7 +63,7 @@ double calculated(CalculatorMachine::Operator operation, double first, double se
 double squareRoot(const QString& operand) {
     const double value = leadingNumber(operand);
     if (value < 0)
-        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("计算器：%1 没有平方根。").arg(operand));
+        throw RuntimeError(RuntimeError::InvalidCall, u"计算器：%1 没有平方根。"_s.arg(operand));
     return std::sqrt(value);
 }
 
@@ -75,7 +76,7 @@ void CalculatorMachine::keyPressed(bool equals) {
 
 void CalculatorMachine::reset() {
     m_state = {};
-    m_display = QStringLiteral("0");
+    m_display = u"0"_s;
 }
 
 void CalculatorMachine::pressClear() {
@@ -85,7 +86,7 @@ void CalculatorMachine::pressClear() {
 
 void CalculatorMachine::pressKey(int key) {
     keyPressed();
-    const QString typed = key == PointKey ? QStringLiteral(".") : QString::number(key);
+    const QString typed = key == PointKey ? u"."_s : QString::number(key);
     if (m_state.displayText.size() == m_state.firstLength) {
         m_state.displayText += typed;
         m_state.firstOperand = m_state.displayText;

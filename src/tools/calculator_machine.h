@@ -58,7 +58,7 @@ private:
     bool unanswered() const;
 
     State m_state;
-    QString m_display = QStringLiteral("0");
+    QString m_display{u'0'};
     QString m_answer; ///< the display as "=" left it, less the zero that it puts before small numbers
     bool m_touched = false;
     bool m_answered = false; ///< the last key was "="

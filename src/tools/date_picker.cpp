@@ -1,18 +1,15 @@
 #include "tools/date_picker.h"
 
+#include "core/ink.h"
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr quint32 Pine = 0x2C4A1E, White = 0xFFFFFF; ///< the form's own colours
-constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
-
-} // namespace
+namespace {} // namespace
 
 DatePicker::DatePicker(Shared& shared)
-    : FieldTool(u"Form1"_s, Kind::QuietTool, Ground::Pine, shared.forms.loaded(u"Form2"_s)),
+    : FieldTool(names::DatePicker, Kind::QuietTool, Ground::Pine, shared.forms.loaded(names::Main)),
       m_shared(shared),
       m_month(shared.services.clock->today()),
       Command1(new CommandButton(this, u"Command1"_s, {})),
@@ -20,8 +17,8 @@ DatePicker::DatePicker(Shared& shared)
       Label1(new Label(this, u"Label1"_s)),
       Label2(new Label(this, u"Label2"_s, u" 日  一  二 三  四 五  六"_s)) {
     setCaption(m_month.captionText());
-    setForeColor(White);
-    setBackColor(Pine);
+    setForeColor(ink::White);
+    setBackColor(ink::Pine);
     place(0, 0, 3420, 3120);
     Command2->place(135, 75, 480, 390);
     Command1->place(2805, 75, 480, 390);
@@ -61,8 +58,8 @@ void DatePicker::showMonth() {
         const MonthGrid::Cell& cell = m_month.cell(i);
         Label& day = *Label3[static_cast<std::size_t>(i)];
         day.setCaption(cell.caption);
-        day.setForeColor(cell.neighbour ? Yellow : ForeColor());
-        day.setBackColor(cell.marked ? Blue : BackColor());
+        day.setForeColor(cell.neighbour ? ink::Yellow : ForeColor());
+        day.setBackColor(cell.marked ? ink::Blue : BackColor());
     }
 }
 
@@ -87,14 +84,12 @@ void DatePicker::Form1_Label3_DblClick(int index) {
         if (m_field.grid)
             m_field.grid->setText(m_field.box->Text());
     }
-    m_shared.forms.unload(objectName());
+    unload();
 }
 
 void DatePicker::unloaded() {
-    // The purge window's date is typed nowhere: it is closed again as soon as the picker is gone.
-    if (Form* purge = m_shared.forms.loaded(u"Form3"_s); purge && purge->Visible())
-        if (auto* date = purge->findChild<TextBox*>(u"Text1"_s))
-            date->setUsable(false);
+    if (m_shared.pickerGone)
+        m_shared.pickerGone();
 }
 
 } // namespace qinghe

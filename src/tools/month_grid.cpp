@@ -4,6 +4,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kWeek = 7;
@@ -130,11 +132,11 @@ void MonthGrid::select(int index) {
 }
 
 QString MonthGrid::dateTextOf(int index) const {
-    return QStringLiteral("%1-%2-").arg(shownYear()).arg(shownMonth()) + cell(index).caption;
+    return u"%1-%2-"_s.arg(shownYear()).arg(shownMonth()) + cell(index).caption;
 }
 
 QString MonthGrid::labelText() const {
-    const QString label = QStringLiteral("%1 年 %2月").arg(shownYear()).arg(shownMonth());
+    const QString label = u"%1 年 %2月"_s.arg(shownYear()).arg(shownMonth());
     return m_stepped ? label + u' ' : label;
 }
 

@@ -85,8 +85,8 @@ TEST_P(ChartMonthsTest, LeaveTheirSumsInTheSecondControl) {
     choose();
     EXPECT_EQ(adodc1().recordSource(), u"select 时间,金额 from %1"_s.arg(ledger()));
     EXPECT_EQ(adodc2().recordSource(), QString::fromUtf16(GetParam().sums));
-    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection(true));
-    EXPECT_EQ(adodc2().connectionString(), rig.program->shared().connection(true));
+    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
+    EXPECT_EQ(adodc2().connectionString(), rig.program->shared().connection());
     EXPECT_EQ(adodc2().recordset().recordCount(), 1);
     EXPECT_FALSE(adodc2().recordset().eof());
 }

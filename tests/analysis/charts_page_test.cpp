@@ -75,7 +75,7 @@ TEST_F(ChartsTest, OpensOnTheAccountsByItsLabel) {
     EXPECT_EQ(points(), u"现金=100 信用卡=-2310.5");
     EXPECT_EQ(caption(), u"账户对比分析");
     EXPECT_EQ(adodc1().recordSource(), u"select 账户名称,余额 from zhb");
-    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection(true));
+    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
     EXPECT_FALSE(adodc1().recordset().eof()); // back on the first row
     EXPECT_TRUE(chart().isVisible());
 }
@@ -83,7 +83,7 @@ TEST_F(ChartsTest, OpensOnTheAccountsByItsLabel) {
 TEST_F(ChartsTest, LeavesOtherPagesAndToolsBehind) {
     storeOneEach();
     rig.click(rig.onMain<Label>(u"Label2(0)"_s));
-    rig.program->shared().openDatePicker({}, 0, 0);
+    rig.program->shared().openDatePicker(DateField::None, {}, {0, 0});
     open();
     EXPECT_FALSE(rig.frame(u"Frame2"_s).Visible());
     EXPECT_FALSE(rig.loaded(u"Form1"_s));
@@ -142,7 +142,7 @@ TEST_F(ChartsTest, SumsTheIncomeByItem) {
     EXPECT_EQ(caption(), u"收入分类统计");
     EXPECT_TRUE(rig.frame(u"Frame1"_s).isVisible());
     EXPECT_EQ(adodc1().recordSource(), u"select 项目,sum(金额) as 总金额 from srb group by 项目");
-    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection(false));
+    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
 }
 
 TEST_F(ChartsTest, SumsTheExpenseByItem) {
@@ -153,7 +153,7 @@ TEST_F(ChartsTest, SumsTheExpenseByItem) {
     EXPECT_EQ(caption(), u"支出分类统计");
     EXPECT_TRUE(rig.frame(u"Frame1"_s).isVisible());
     EXPECT_EQ(adodc1().recordSource(), u"select 项目,sum(金额) as 总金额 from zcb group by 项目");
-    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection(true));
+    EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
 }
 
 TEST_F(ChartsTest, GivesAnItemWithoutANameAPointWithAnEmptyLabel) {

@@ -22,8 +22,9 @@ protected:
 
     FormsTest() {
         onCommit = [] {};
-        forms.define(u"Form3"_s, [this] { return new NotingForm(u"Form3"_s, log); });
-        forms.define(u"Form9"_s, [this] { return new NotingForm(u"Form9"_s, log, forms.loaded(u"Form3"_s)); });
+        forms.define(FormName<>{u"Form3"}, [this] { return new NotingForm(u"Form3"_s, log); });
+        forms.define(FormName<>{u"Form9"},
+                     [this] { return new NotingForm(u"Form9"_s, log, forms.loaded(u"Form3"_s)); });
     }
 
     Forms forms;
@@ -31,8 +32,8 @@ protected:
 
 TEST_F(FormsTest, AFormIsMadeAndLoadedByItsFirstUseAlone) {
     EXPECT_EQ(forms.loaded(u"Form3"_s), nullptr);
-    Form& form = forms.get(u"Form3"_s);
-    EXPECT_EQ(&forms.get(u"Form3"_s), &form);
+    Form& form = forms.get(FormName<>{u"Form3"});
+    EXPECT_EQ(&forms.get(FormName<>{u"Form3"}), &form);
     EXPECT_EQ(forms.loaded(u"Form3"_s), &form);
     EXPECT_EQ(log, QStringList{u"load Form3"_s});
     EXPECT_EQ(form.objectName(), u"Form3"_s);
@@ -47,15 +48,15 @@ TEST_F(FormsTest, UnloadingAFormThatIsNotLoadedOrNotKnownIsHarmless) {
 }
 
 TEST_F(FormsTest, AnUnloadedFormForgetsEverything) {
-    forms.get(u"Form3"_s).setCaption(u"记得"_s);
+    forms.get(FormName<>{u"Form3"}).setCaption(u"记得"_s);
     forms.unload(u"Form3"_s);
     forms.unload(u"Form3"_s);
     EXPECT_EQ(log, (QStringList{u"load Form3"_s, u"unload Form3"_s}));
-    EXPECT_EQ(forms.get(u"Form3"_s).Caption(), QString());
+    EXPECT_EQ(forms.get(FormName<>{u"Form3"}).Caption(), QString());
 }
 
 TEST_F(FormsTest, TheWindowGoesAtOnceAndTheObjectWhenTheHandlersHaveReturned) {
-    const QPointer<Form> form = &forms.get(u"Form3"_s);
+    const QPointer<Form> form = &forms.get(FormName<>{u"Form3"});
     form->showForm();
     handlers::enter([&] {
         forms.unload(u"Form3"_s);
@@ -68,7 +69,7 @@ TEST_F(FormsTest, TheWindowGoesAtOnceAndTheObjectWhenTheHandlersHaveReturned) {
 }
 
 TEST_F(FormsTest, AFormCanBeUnloadedInsideItsOwnHandler) {
-    Form& form = forms.get(u"Form3"_s);
+    Form& form = forms.get(FormName<>{u"Form3"});
     auto* label = new Label(&form, u"Label1"_s);
     label->place(0, 0, 1500, 1500);
     label->Click = [this, label] {
@@ -92,14 +93,14 @@ TEST_F(FormsTest, AnUnloadHandlerThatUnloadsItsOwnFormAgainRunsOnce) {
         Forms& forms;
         int times = 0;
     };
-    forms.define(u"Form4"_s, [this] { return new Stubborn(forms); });
-    auto& form = forms.get<Stubborn>(u"Form4"_s);
+    forms.define(FormName<Stubborn>{u"Form4"}, [this] { return new Stubborn(forms); });
+    auto& form = forms.get(FormName<Stubborn>{u"Form4"});
     forms.unload(u"Form4"_s);
     EXPECT_EQ(form.times, 1);
 }
 
 TEST_F(FormsTest, TheDesktopsCloseButtonUnloads) {
-    Form& form = forms.get(u"Form3"_s);
+    Form& form = forms.get(FormName<>{u"Form3"});
     form.showForm();
     form.close();
     EXPECT_EQ(forms.loaded(u"Form3"_s), nullptr);
@@ -107,7 +108,7 @@ TEST_F(FormsTest, TheDesktopsCloseButtonUnloads) {
 }
 
 TEST_F(FormsTest, AFormMayAnswerTheCloseButtonItself) {
-    Form& form = forms.get(u"Form3"_s);
+    Form& form = forms.get(FormName<>{u"Form3"});
     form.CloseAsked = [this] { log << u"asked"_s; };
     form.showForm();
     form.close();
@@ -118,9 +119,9 @@ TEST_F(FormsTest, AFormMayAnswerTheCloseButtonItself) {
 
 TEST_F(FormsTest, KnowsWhetherAnyFormIsLoaded) {
     EXPECT_FALSE(forms.anyLoaded());
-    forms.get(u"Form3"_s);
+    forms.get(FormName<>{u"Form3"});
     EXPECT_TRUE(forms.anyLoaded());
-    forms.get(u"Form9"_s);
+    forms.get(FormName<>{u"Form9"});
     forms.unload(u"Form3"_s);
     EXPECT_TRUE(forms.anyLoaded());
     forms.unload(u"Form9"_s);
@@ -128,7 +129,7 @@ TEST_F(FormsTest, KnowsWhetherAnyFormIsLoaded) {
 }
 
 TEST_F(FormsTest, ClearTakesAllAwayWithoutTheirUnloadHandlers) {
-    const QPointer<Form> owner = &forms.get(u"Form3"_s), owned = &forms.get(u"Form9"_s);
+    const QPointer<Form> owner = &forms.get(FormName<>{u"Form3"}), owned = &forms.get(FormName<>{u"Form9"});
     log.clear();
     forms.clear();
     EXPECT_FALSE(owner);
@@ -138,8 +139,8 @@ TEST_F(FormsTest, ClearTakesAllAwayWithoutTheirUnloadHandlers) {
 }
 
 TEST_F(FormsTest, AFormWhoseOwnerWasUnloadedIsStillUnloadedSafely) {
-    forms.get(u"Form3"_s);
-    forms.get(u"Form9"_s);
+    forms.get(FormName<>{u"Form3"});
+    forms.get(FormName<>{u"Form9"});
     forms.unload(u"Form3"_s);
     turnLoop();
     forms.unload(u"Form9"_s);
@@ -151,8 +152,8 @@ TEST_F(FormsTest, AnErrorInALoadLeavesTheFormForTheEndOfTheProgram) {
         Failing() : Form(u"Form4"_s, Kind::Dialog, Ground::Dialog) {}
         void load() override { throw RuntimeError(RuntimeError::FileNotFound, u"找不到文件"_s); }
     };
-    forms.define(u"Form4"_s, [] { return new Failing; });
-    handlers::enter([this] { forms.get(u"Form4"_s).showForm(); });
+    forms.define(FormName<>{u"Form4"}, [] { return new Failing; });
+    handlers::enter([this] { forms.get(FormName<>{u"Form4"}).showForm(); });
     EXPECT_EQ(log, (QStringList{u"report 53"_s, u"end 1"_s}));
 }
 

@@ -38,8 +38,8 @@ protected:
     /// Opens the date picker and the calculator.
     void openTools() {
         handlers::enter([this] {
-            rig.program->shared().openDatePicker({}, 3000, 3000);
-            rig.program->shared().openCalculator({}, 6000, 3000);
+            rig.program->shared().openDatePicker(DateField::None, {}, {3000, 3000});
+            rig.program->shared().openCalculator(AmountField::None, {}, {6000, 3000});
         });
         ASSERT_TRUE(rig.loaded(u"Form1"_s) && rig.loaded(u"Form9"_s));
     }

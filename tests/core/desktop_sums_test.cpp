@@ -34,22 +34,6 @@ protected:
     const QStringList nothing = QStringList(5, u"0.00元"_s);
 };
 
-TEST(DesktopKeys, LastMonthIsTheMonthBeforeBehindAZeroWithoutFurtherCare) {
-    EXPECT_EQ(lastMonthKey({2024, 6, 18}), u"2024-05"_s);
-    EXPECT_EQ(lastMonthKey({2024, 1, 31}), u"2024-00"_s);
-    EXPECT_EQ(lastMonthKey({2024, 2, 1}), u"2024-01"_s);
-    EXPECT_EQ(lastMonthKey({2024, 10, 1}), u"2024-09"_s);
-    EXPECT_EQ(lastMonthKey({2024, 11, 1}), u"2024-010"_s);
-    EXPECT_EQ(lastMonthKey({2024, 12, 1}), u"2024-011"_s);
-}
-
-TEST(DesktopKeys, ThisMonthHasNoLeadingZero) {
-    EXPECT_EQ(thisMonthKey({2024, 1, 31}), u"2024-1"_s);
-    EXPECT_EQ(thisMonthKey({2024, 6, 18}), u"2024-6"_s);
-    EXPECT_EQ(thisMonthKey({2024, 10, 1}), u"2024-10"_s);
-    EXPECT_EQ(thisMonthKey({2024, 12, 31}), u"2024-12"_s);
-}
-
 TEST_F(DesktopSums, TheFiguresStandInTheirPlaces) {
     rig.signIn();
     const std::array<double, 5> tops{1200, 2160, 3120, 4080, 4920};

@@ -48,7 +48,7 @@ TEST_F(Start, TheMainWindowHealsTheHeaderOnceMore) {
     rig.start();
     rig.program->shared().store.close();
     spoilHeader(rig.dataFile());
-    handlers::enter([this] { rig.program->shared().forms.get(u"Form2"_s); });
+    handlers::enter([this] { rig.program->shared().forms.get(names::Main); });
     EXPECT_EQ(rig.headerBytes(), Healed);
     EXPECT_TRUE(rig.messages->errors.empty());
 }

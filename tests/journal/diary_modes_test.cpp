@@ -58,7 +58,7 @@ TEST_F(DiaryModes, FindModePutsPickerAndBoxAway) {
 
 TEST_F(DiaryModes, WriteModePutsPickerAndBoxAway) {
     find();
-    rig.program->shared().openDatePicker({}, 0, 0);
+    rig.program->shared().openDatePicker(DateField::None, {}, {0, 0});
     tx9().setShown(true);
     write();
     EXPECT_TRUE(pickerIsGone());

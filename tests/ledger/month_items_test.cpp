@@ -100,7 +100,7 @@ TEST_F(MonthItemsTest, TakeAQuoteInAName) {
 TEST_F(MonthItemsTest, CloseBothToolsWhenThePickerIsOnView) {
     openWith(1);
     clickCell(1, 2);
-    shared().openCalculator({}, 0, 0);
+    shared().openCalculator(AmountField::None, {}, {0, 0});
     EXPECT_EQ(tools(), u"Form1+Form9");
     showItems();
     EXPECT_EQ(tools(), u"none");

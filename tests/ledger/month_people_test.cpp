@@ -109,7 +109,7 @@ TEST_F(MonthPeopleTest, AreSkippedWhereThereIsNoName) {
 TEST_F(MonthPeopleTest, CloseThePickerAndLeaveTheCalculatorOpen) {
     openWith(1);
     clickCell(1, 2);
-    shared().openCalculator({}, 0, 0);
+    shared().openCalculator(AmountField::None, {}, {0, 0});
     EXPECT_EQ(tools(), u"Form1+Form9");
     showPeople();
     EXPECT_EQ(tools(), u"Form9");

@@ -1,7 +1,7 @@
 #include "controls/controls.h"
 #include "controls/form.h"
 #include "look/colours.h"
-#include "look/frames.h"
+#include "look/frame_painter.h"
 #include "rendering.h"
 
 namespace qinghe::testing {
@@ -18,7 +18,7 @@ struct Frames : ::testing::Test {
 };
 
 TEST_F(Frames, TagsEndWhereControlsBegin) {
-    for (const Role role : {Role::PageFrame, Role::DesktopFrame, Role::InnerFrame}) {
+    for (const Role role : {Role::PageFrame, Role::InnerFrame}) {
         Frame frame(&window, u"Frame2"_s, u"收入记录"_s);
         frame.setRole(role);
         frame.place(120, 1680, 11655, 6255);

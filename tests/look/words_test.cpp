@@ -2,7 +2,7 @@
 #include "look/colours.h"
 #include "look/fonts.h"
 #include "look/running_text.h"
-#include "look/words.h"
+#include "look/label_painter.h"
 #include "rendering.h"
 
 #include <QPainter>

@@ -40,9 +40,9 @@ TEST_F(SettingsPageTest, OpensInItsPlaceInFrontOfAllOthers) {
 
 TEST_F(SettingsPageTest, UnloadsTheToolsOfOtherPages) {
     handlers::enter([this] {
-        rig.program->shared().openDatePicker({}, 3000, 3000);
-        rig.program->shared().openCalculator({}, 6000, 3000);
-        rig.program->shared().forms.get(u"Form3"_s).showForm();
+        rig.program->shared().openDatePicker(DateField::None, {}, {3000, 3000});
+        rig.program->shared().openCalculator(AmountField::None, {}, {6000, 3000});
+        rig.program->shared().forms.get(names::Purge).showForm();
     });
     open();
     for (const auto& tool : {u"Form1"_s, u"Form3"_s, u"Form9"_s})

@@ -162,7 +162,7 @@ TEST_F(UsersCellsTest, LeaveTheSchedulesDatePickerOpenWhenTheFrameIsClickedBehin
     clickCell(1, 1);
     press(rig.onMain<Label>(u"Label23"_s));
     ASSERT_TRUE(box().Visible());
-    handlers::enter([this] { shared().openDatePicker({}, 0, 0); });
+    handlers::enter([this] { shared().openDatePicker(DateField::None, {}, {0, 0}); });
     clickFrame(); // its lowest strip looks out under the schedule
     EXPECT_FALSE(box().Visible());
     EXPECT_EQ(tools(), u"Form1");

@@ -30,8 +30,8 @@ protected:
     WindowHover() {
         rig.signIn();
         handlers::enter([this] {
-            Form& form = rig.program->shared().forms.get(name());
-            form.showForm();
+            const QString form = name();
+            rig.program->shared().forms.get(FormName<>{form}).showForm();
         });
         rig.settle();
     }

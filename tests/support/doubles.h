@@ -57,15 +57,15 @@ public:
 class NotingTray : public Tray {
 public:
     bool available() const override { return present; }
-    void add(const TrayData& data, std::function<void(int)> onMessage) override {
-        added.push_back(data);
+    void add(const QString& tip, std::function<void(int)> onMessage) override {
+        added.push_back(tip);
         send = std::move(onMessage);
         if (whenAdded)
             whenAdded();
     }
 
     bool present = true;
-    std::vector<TrayData> added;
+    std::vector<QString> added;            ///< the tip of each time
     std::function<void(int message)> send; ///< an event of the icon, as the desktop brings it
     std::function<void()> whenAdded;
 };

@@ -1,3 +1,4 @@
+#include "maintenance/purge_window.h"
 #include "tools/tool_rig.h"
 
 #include <QApplication>
@@ -12,14 +13,8 @@ using namespace Qt::StringLiterals;
 class DateFieldsTest : public ToolTest {
 protected:
     void pick(int index) { rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(%1)"_s.arg(index))); }
-    /// Opens the purge window's stand-in with its date field.
     Form& openPurge() {
-        shared().forms.define(u"Form3"_s, [] {
-            auto* form = new Form(u"Form3"_s, Form::Kind::Dialog, Ground::Main);
-            new TextBox(form, u"Text1"_s);
-            return form;
-        });
-        Form& purge = shared().forms.get(u"Form3"_s);
+        Form& purge = shared().forms.get(names::Purge);
         purge.showForm();
         return purge;
     }
@@ -28,7 +23,7 @@ protected:
 TEST_F(DateFieldsTest, FillABoxWithoutGridAlone) {
     openDatePicker();
     TextBox box(&rig.mainWindow(), u"other"_s);
-    handlers::enter([&] { shared().openDatePicker({6, &box}, 0, 0); });
+    handlers::enter([&] { shared().openDatePicker(DateField::Schedule, FieldTarget(&box), {0, 0}); });
     pick(6);
     EXPECT_EQ(box.Text(), u"2024-6-1");
     EXPECT_EQ(tx2().Text(), u"2024-5-3");
@@ -39,7 +34,7 @@ TEST_F(DateFieldsTest, FillTheCurrentCellOfTheGridBehindTheBox) {
     openDatePicker();
     TextBox box(&rig.mainWindow(), u"other"_s);
     MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
-    handlers::enter([&] { shared().openDatePicker({7, &box, &grid}, 0, 0); });
+    handlers::enter([&] { shared().openDatePicker(DateField::Budget, FieldTarget(&box, &grid), {0, 0}); });
     pick(6);
     EXPECT_EQ(box.Text(), u"2024-6-1");
     EXPECT_EQ(grid.TextMatrix(1, 1), u"2024-6-1");
@@ -82,7 +77,9 @@ TEST_F(DateFieldsTest, StayAboveTheMainWindow) {
 TEST_F(DateFieldsTest, StayAboveTheWindowOfTheFieldThatAskedLast) {
     const Form& picker = openDatePicker();
     Form& purge = openPurge();
-    handlers::enter([&] { shared().openDatePicker({8, purge.findChild<TextBox*>(u"Text1"_s)}, 0, 0); });
+    handlers::enter([&] {
+        shared().openDatePicker(DateField::Purge, FieldTarget(purge.findChild<TextBox*>(u"Text1"_s)), {0, 0});
+    });
     EXPECT_EQ(picker.parentWidget(), &purge);
     EXPECT_TRUE(picker.isVisible());
     EXPECT_TRUE(picker.windowFlags() & Qt::WindowDoesNotAcceptFocus);
@@ -94,7 +91,7 @@ TEST_F(DateFieldsTest, StayAboveTheWindowOfTheFieldThatAskedLast) {
 TEST_F(DateFieldsTest, MayBeGoneBeforeADayIsPicked) {
     openDatePicker();
     auto box = std::make_unique<TextBox>(&rig.mainWindow(), u"other"_s);
-    handlers::enter([&] { shared().openDatePicker({6, box.get()}, 0, 0); });
+    handlers::enter([&] { shared().openDatePicker(DateField::Schedule, FieldTarget(box.get()), {0, 0}); });
     EXPECT_EQ(shared().dateTarget, 6);
     box.reset();
     pick(6);

@@ -230,7 +230,7 @@ TEST_F(HandBackTest, GoesToTheFieldThatAskedLast) {
     TextBox box(&rig.mainWindow(), u"other"_s);
     MSFlexGrid grid(&rig.mainWindow(), u"list"_s);
     grid.show();
-    handlers::enter([&] { shared().openCalculator({4, &box, &grid}, 0, 0); });
+    handlers::enter([&] { shared().openCalculator(AmountField::Budget, FieldTarget(&box, &grid), {0, 0}); });
     EXPECT_EQ(shared().calcTarget, 4);
     type(u"80"_s);
     press(Qt::Key_Return);

@@ -10,6 +10,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QtMessageHandler usual = nullptr;
@@ -18,23 +20,22 @@ QStringList noted; ///< what the display's plugin has said so far
 QString whatIsMissing() {
     const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM"), display = qEnvironmentVariable("DISPLAY");
     if (!platform.isEmpty())
-        return QStringLiteral("按 QT_QPA_PLATFORM=%1 打不开窗口。").arg(platform);
+        return u"按 QT_QPA_PLATFORM=%1 打不开窗口。"_s.arg(platform);
     if (display.isEmpty())
-        return QStringLiteral("找不到 X 显示：环境变量 DISPLAY 没有设置。");
-    return QStringLiteral("连不上 X 显示 %1。").arg(display);
+        return u"找不到 X 显示：环境变量 DISPLAY 没有设置。"_s;
+    return u"连不上 X 显示 %1。"_s.arg(display);
 }
 
 void passOnNoted() {
     for (const QString& line : std::exchange(noted, {}))
-        std::fputs((QStringLiteral("    ") + line + u'\n').toUtf8().constData(), stderr);
+        std::fputs((u"    "_s + line + u'\n').toUtf8().constData(), stderr);
     std::fflush(stderr);
 }
 
 [[noreturn]] void endWithoutDisplay() {
-    const QString text =
-        QStringLiteral("青禾家庭记账本不能启动：%1\n"
-                       "请在图形桌面里启动程序。Wayland 桌面要安装并启用 XWayland；用 SSH 登录时请用 ssh -X。"
-                       "没有显示器的机器可以另开一个虚拟屏幕（例如 VNC 服务器）。\n");
+    const QString text = u"青禾家庭记账本不能启动：%1\n"
+                         "请在图形桌面里启动程序。Wayland 桌面要安装并启用 XWayland；用 SSH 登录时请用 ssh -X。"
+                         "没有显示器的机器可以另开一个虚拟屏幕（例如 VNC 服务器）。\n"_s;
     std::fputs(text.arg(whatIsMissing()).toUtf8().constData(), stderr);
     passOnNoted();
     std::_Exit(1);

@@ -54,11 +54,11 @@ private:
             image->setRole(Role::Glyph);
             image->setGlyph(glyphs[i]);
         }
-        const char16_t* captions[] = {u"  桌面", u"  收入", u"  支出", u"  暂借", u"  储蓄", u"  预算",
-                                      u"  图表", u" 用户",  u"  日记", u"  日程", u" 设置"};
+        const QStringView captions[] = {u"  桌面", u"  收入", u"  支出", u"  暂借", u"  储蓄", u"  预算",
+                                        u"  图表", u" 用户",  u"  日记", u"  日程", u" 设置"};
         const double places[] = {0, 1080, 2160, 3240, 4320, 5400, 6480, 7680, 8640, 9720, 10920};
         for (int i = 0; i < 11; ++i) {
-            Label* label = words(this, Role::PageLabel, QString::fromUtf16(captions[i]), places[i], 1080, 960, 480);
+            Label* label = words(this, Role::PageLabel, captions[i].toString(), places[i], 1080, 960, 480);
             label->setForeColor(i == 1 || i == 7 ? 255 : 0);
         }
     }
@@ -84,15 +84,14 @@ private:
         button(u"保存"_s, Glyph::Accept, 5040, 1080)->setRole(Role::Primary);
         button(u"停用"_s, Glyph::Add, 6240, 1080)->setEnabled(false);
         button(u"A&B 保存日志"_s, Glyph::None, 7440, 1380);
-        const char16_t* names[] = {u"选项", u"选中", u"停用"};
+        const QStringView names[] = {u"选项", u"选中", u"停用"};
         for (int i = 0; i < 3; ++i) {
             auto* group = at(new Frame(m_page, u"group"_s), 240 + 1200 * i, 840, 1100, 300);
             group->setRole(Role::BareFrame);
-            auto* option = at(new OptionButton(group, u"option"_s, QString::fromUtf16(names[i])), 0, 0, 1100, 300);
+            auto* option = at(new OptionButton(group, u"option"_s, names[i].toString()), 0, 0, 1100, 300);
             option->setValue(i > 0);
             option->setEnabled(i < 2);
-            auto* tick =
-                at(new CheckBox(m_page, u"tick"_s, QString::fromUtf16(names[i])), 4000 + 1200 * i, 840, 1100, 300);
+            auto* tick = at(new CheckBox(m_page, u"tick"_s, names[i].toString()), 4000 + 1200 * i, 840, 1100, 300);
             tick->setValue(i > 0);
             tick->setEnabled(i < 2);
         }
@@ -101,7 +100,7 @@ private:
     void fields() {
         for (int i = 0; i < 3; ++i) {
             auto* box = at(new TextBox(m_page, u"box"_s), 240 + 2000 * i, 1260, 1800, 330);
-            box->setBoxText(QString::fromUtf16(i == 2 ? u"停用" : u"2024-6-18 文本框"));
+            box->setBoxText(i == 2 ? u"停用"_s : u"2024-6-18 文本框"_s);
             box->setEnabled(i < 2);
         }
         auto* typed = at(new ComboBox(m_page, u"typed"_s, true), 6240, 1260, 1500, 330);
@@ -140,14 +139,14 @@ private:
             grid->setCols(5);
             grid->setRows(which ? 20 : 5);
             const double widths[] = {300, 1150, 1150, which ? 847.0 : 1150.0, 1900};
-            const char16_t* captions[] = {u"", u"编号", u"时间", u"金额", u"备注"};
+            const QStringView captions[] = {u"", u"编号", u"时间", u"金额", u"备注"};
             for (int col = 0; col < 5; ++col) {
                 grid->setColWidth(col, widths[col]);
-                grid->setTextMatrix(0, col, QString::fromUtf16(captions[col]));
+                grid->setTextMatrix(0, col, captions[col].toString());
             }
             grid->setAmountColumns({3});
             for (int row = 1; row < grid->Rows(); ++row) {
-                grid->setTextMatrix(row, 1, u"06%1"_s.arg(row, 2, 10, QLatin1Char('0')));
+                grid->setTextMatrix(row, 1, u"06%1"_s.arg(row, 2, 10, u'0'));
                 grid->setTextMatrix(row, 2, u"2024-6-%1"_s.arg(row));
                 grid->setTextMatrix(row, 3, row == 2 ? u"123456789012.85"_s : u"%1.5"_s.arg(row * 137));
                 grid->setTextMatrix(row, 4, u"五月工资，含全勤"_s);

@@ -1,4 +1,4 @@
-#include "look/words.h"
+#include "look/label_painter.h"
 
 #include "controls/controls.h"
 #include "look/colours.h"
@@ -36,7 +36,7 @@ void paintTab(QPainter& painter, double centre, double top) {
 }
 
 void paintPageLabel(const QStyleOption& option, QPainter& painter, const Label& label) {
-    const Caption caption = pageCaption(label.Caption());
+    const PageCaption caption = pageCaption(label.Caption());
     const int centre = qRound(caption.centre);
     const bool red = label.ForeColor() == RedFore;
     QFont font = fontFor(Role::PageLabel);
@@ -58,7 +58,7 @@ void paintSignInButton(const QStyleOption& option, QPainter& painter, const Labe
 }
 
 void paintWeekRow(const QStyleOption& option, QPainter& painter, const Label& label) {
-    const QString days = QString(label.Caption()).remove(QLatin1Char(' '));
+    const QString days = QString(label.Caption()).remove(u' ');
     const QRect row = option.rect;
     for (int i = 0; i < days.size(); ++i) {
         const QRect column(row.left() + row.width() * i / 7, row.top(), row.width() / 7, row.height() - 1);
@@ -118,8 +118,7 @@ void paintPlain(const QStyleOption& option, QPainter& painter, const Label& labe
     const QFont font = fontFor(label.role());
     const QColor colour = wordsColour(option, label, label.role() == Role::Help ? colour::Ink2 : colour::Ink);
     const QString words = label.Caption();
-    const bool long_ =
-        QFontMetrics(font).horizontalAdvance(words) > option.rect.width() || words.contains(QLatin1Char('\n'));
+    const bool long_ = QFontMetrics(font).horizontalAdvance(words) > option.rect.width() || words.contains(u'\n');
     if (label.role() == Role::PlanList)
         paintRunning(painter, option.rect, words, font, colour);
     else if (long_ && option.rect.height() >= 2 * linePitch(font))
@@ -130,9 +129,9 @@ void paintPlain(const QStyleOption& option, QPainter& painter, const Label& labe
 
 } // namespace
 
-Caption pageCaption(const QString& caption) {
+PageCaption pageCaption(const QString& caption) {
     qsizetype blanks = 0;
-    while (blanks < caption.size() && caption[blanks] == QLatin1Char(' '))
+    while (blanks < caption.size() && caption[blanks] == u' ')
         ++blanks;
     return {caption.trimmed(), (static_cast<double>(blanks) * BlankTwips + HalfWordTwips) / TwipsPerPixel};
 }

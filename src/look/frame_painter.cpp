@@ -1,11 +1,11 @@
-#include "look/frames.h"
+#include "look/frame_painter.h"
 
 #include "controls/controls.h"
 #include "controls/form.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
-#include "look/ground.h"
+#include "look/ground_painter.h"
 
 #include <QFontInfo>
 #include <QFontMetrics>
@@ -22,7 +22,7 @@ constexpr double PagesTopTwips = 1680, PagesRightTwips = 11775;
 constexpr int TagHeight = 16, TagPadding = 7;
 
 bool isPage(Role role) {
-    return role == Role::PageFrame || role == Role::DesktopFrame;
+    return role == Role::PageFrame;
 }
 
 QFont tagFont(Role role) {

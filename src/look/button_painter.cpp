@@ -1,4 +1,4 @@
-#include "look/buttons.h"
+#include "look/button_painter.h"
 
 #include "controls/placed.h"
 #include "look/colours.h"
@@ -14,6 +14,9 @@
 #include <algorithm>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int IconSide = 14, IconGap = 2;
@@ -66,8 +69,8 @@ void paintButtonBody(const QStyleOptionButton& option, QPainter& painter, const 
 QString shownCaption(const QStyleOptionButton& option, const QWidget* widget) {
     if (Placed::of(widget))
         return option.text;
-    static const QRegularExpression shortCut(QStringLiteral("\\(&.\\)|&"));
-    return QString(option.text).remove(shortCut);
+    static const QRegularExpression ShortCut(u"\\(&.\\)|&"_s);
+    return QString(option.text).remove(ShortCut);
 }
 
 QColor captionColour(const QStyleOptionButton& option, const QWidget* widget) {
@@ -116,7 +119,7 @@ void paintDot(const QStyleOptionButton& option, QPainter& painter, const QRectF&
     paintPanel(painter, mark.adjusted(inset, inset, -inset, -inset), MarkSide / 2.0 - inset, markColour(option), {}, 0);
 }
 
-void paintBox(const QStyleOptionButton& option, QPainter& painter, const QRectF& mark) {
+void paintTickBox(const QStyleOptionButton& option, QPainter& painter, const QRectF& mark) {
     const QColor fill = checked(option) ? markColour(option) : enabled(option) ? colour::White : colour::OffBg;
     paintPanel(painter, mark, 3, fill, markColour(option), 1.4);
     if (!checked(option))
@@ -163,7 +166,7 @@ void paintOption(const QStyleOptionButton& option, QPainter& painter) {
 
 void paintTick(const QStyleOptionButton& option, QPainter& painter) {
     const QRectF mark = markRect(option);
-    paintBox(option, painter, mark);
+    paintTickBox(option, painter, mark);
     paintMarkCaption(option, painter, mark);
 }
 

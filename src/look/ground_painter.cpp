@@ -1,4 +1,4 @@
-#include "look/ground.h"
+#include "look/ground_painter.h"
 
 #include "controls/form.h"
 #include "look/app_icon.h"

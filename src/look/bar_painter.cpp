@@ -1,4 +1,4 @@
-#include "look/bars.h"
+#include "look/bar_painter.h"
 
 #include "controls/ms_flex_grid.h"
 #include "look/colours.h"

@@ -1,4 +1,4 @@
-#include "look/fields.h"
+#include "look/field_painter.h"
 
 #include "controls/ms_flex_grid.h"
 #include "look/colours.h"

@@ -1,4 +1,4 @@
-#include "look/lists.h"
+#include "look/popup_painter.h"
 
 #include "look/colours.h"
 #include "look/drawing.h"
@@ -19,13 +19,13 @@ bool isSeparator(const QStyleOptionMenuItem& option) {
 
 /// A menu's text without the mark of its short cut.
 QString wordsOf(const QStyleOptionMenuItem& option) {
-    QString words = option.text.section(QLatin1Char('\t'), 0, 0);
-    words.remove(QLatin1Char('&'));
+    QString words = option.text.section(u'\t', 0, 0);
+    words.remove(u'&');
     return words;
 }
 
 QString keysOf(const QStyleOptionMenuItem& option) {
-    return option.text.section(QLatin1Char('\t'), 1, 1);
+    return option.text.section(u'\t', 1, 1);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "look/images.h"
+#include "look/image_painter.h"
 
 #include "controls/controls.h"
 #include "look/colours.h"

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "controls/control.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace qinghe {
+
+/// The scheme of all buttons. Qt's swallow the mouse when they are disabled; here it is the container's.
+template<class Widget>
+class Button : public WithMoves<Widget> {
+public:
+    Button(QWidget* parent, const QString& name, const QString& caption) : WithMoves<Widget>(parent, name) {
+        this->setText(caption);
+    }
+
+    Event<> Click;
+
+protected:
+    bool event(QEvent* event) override {
+        const bool ofMouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease ||
+                             event->type() == QEvent::MouseButtonDblClick || event->type() == QEvent::MouseMove;
+        if (!ofMouse || this->isEnabled())
+            return Widget::event(event);
+        event->ignore();
+        return false;
+    }
+    /// Sets a state without the signal that stands for the user's click.
+    void setCheckedQuietly(bool on) {
+        const QSignalBlocker quiet(this);
+        this->setChecked(on);
+    }
+};
+
+/// A command button; hovering is marked by its BackColor. It clicks as Qt's button does, by mouse and Space, and by
+/// Enter while it has the keyboard.
+class CommandButton : public Button<QPushButton> {
+    Q_OBJECT
+    QINGHE_CONTROL
+
+public:
+    CommandButton(QWidget* parent, const QString& name, const QString& caption);
+
+protected:
+    void keyPressEvent(QKeyEvent*) override;
+};
+
+/// One of a group of options (those in the same container). Set by a user or by code, it raises its click once, and
+/// only when it was not set before.
+class OptionButton : public Button<QRadioButton> {
+    Q_OBJECT
+    QINGHE_CONTROL
+
+public:
+    OptionButton(QWidget* parent, const QString& name, const QString& caption);
+
+    bool Value() const { return isChecked(); }
+    void setValue(bool value);
+};
+
+/// A tick; every change raises the click, whoever made it.
+class CheckBox : public Button<QCheckBox> {
+    Q_OBJECT
+    QINGHE_CONTROL
+
+public:
+    CheckBox(QWidget* parent, const QString& name, const QString& caption);
+
+    bool Value() const { return isChecked(); }
+    void setValue(bool value);
+};
+
+} // namespace qinghe

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "controls/control.h"
+#include "controls/key_presses.h"
+
+namespace qinghe {
+
+/// The scheme of text boxes: KeyPress comes before the box acts on the key, with a character's code, 13 for Enter, 8
+/// for Backspace; text committed by an input method comes as one key press a character, each before it enters. A right
+/// click offers no menu.
+template<class Box>
+class TypedBox : public WithClicks<Control<Box>> {
+public:
+    TypedBox(QWidget* parent, const QString& name) : WithClicks<Control<Box>>(parent, name) {
+        this->setContextMenuPolicy(Qt::NoContextMenu);
+    }
+
+    Event<int> KeyPress;
+
+protected:
+    void inputMethodEvent(QInputMethodEvent* event) override {
+        key_presses::enterOneByOne(
+            *this, *event, [this](int code) { KeyPress.fromQt(code); },
+            [this](QInputMethodEvent& part) { Box::inputMethodEvent(&part); });
+    }
+};
+
+} // namespace qinghe

@@ -1,0 +1,66 @@
+#include "core/list_records.h"
+
+#include "store/tables.h"
+
+#include <algorithm>
+
+namespace qinghe {
+
+namespace {
+
+int ordinalOf(Recordset& records, QStringView name) {
+    for (int ordinal = 0; ordinal < records.fieldCount(); ++ordinal)
+        if (records.field(ordinal).name() == name)
+            return ordinal;
+    records.field(name); // says which one is missing
+    return -1;
+}
+
+} // namespace
+
+void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
+              const std::function<int()>& rowForEmptyText) {
+    std::vector<std::size_t> ordinals;
+    for (const QStringView field : fields)
+        ordinals.push_back(static_cast<std::size_t>(ordinalOf(records, field)));
+    std::vector<std::optional<QString>> texts(ordinals.empty() ? 0 : *std::ranges::max_element(ordinals) + 1);
+    fillRows(grid, records, [&] {
+        records.readTexts(texts);
+        for (int column = 1; const std::size_t ordinal : ordinals) {
+            const std::optional<QString>& text = texts[ordinal];
+            if (text && !text->isEmpty())
+                grid.setTextMatrix(grid.Row(), column, *text);
+            else if (text && rowForEmptyText)
+                grid.setTextMatrix(rowForEmptyText(), column, {});
+            ++column;
+        }
+    });
+}
+
+RowWriter::RowWriter(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields)
+    : m_grid(grid), m_records(records) {
+    for (const QStringView field : fields)
+        m_fields.push_back(records.field(field));
+}
+
+void RowWriter::begin(int row) {
+    m_records.addNew();
+    const QStringList texts = m_grid.rowTexts(row);
+    for (int column = 1; Field & field : m_fields) {
+        if (const QString& text = texts[column++]; !text.isEmpty())
+            field.setValue(text);
+    }
+}
+
+void RowWriter::add(int row) {
+    begin(row);
+    m_records.update();
+}
+
+void RowWriter::add(int row, int number) {
+    begin(row);
+    m_records.field(columns::RowNumber).setValue(number);
+    m_records.update();
+}
+
+} // namespace qinghe

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/grid_rows.h"
+
+#include <functional>
+
+namespace qinghe {
+
+// The way between the records of a table and the rows of a list. Which field a column shows stands in its entry, never
+// in its place; fields that no column names are not shown and not written.
+
+/// Fills the list from its current row on, one row a record, columns from 1 on with these fields. NULL leaves its cell
+/// as it is; an empty text goes into the row that `rowForEmptyText()` tells, or nowhere without one. Throws
+/// RuntimeError: NoSuchField for a field that the records do not have.
+void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
+              const std::function<int()>& rowForEmptyText);
+
+/// Adds rows of a list to its records. Grid and records outlive it.
+class RowWriter {
+public:
+    /// Throws RuntimeError: NoSuchField.
+    RowWriter(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields);
+
+    /// Adds a record of a row's texts; empty cells leave their fields NULL. Throws RuntimeError (TypeMismatch) for what
+    /// a field cannot hold, and what the store throws.
+    void add(int row);
+    /// The same with its number in 区别.
+    void add(int row, int number);
+
+private:
+    void begin(int row);
+
+    const MSFlexGrid& m_grid;
+    Recordset& m_records;
+    std::vector<Field> m_fields; ///< of the columns from 1 on
+};
+
+} // namespace qinghe
