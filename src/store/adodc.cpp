@@ -7,8 +7,6 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-Adodc::Adodc(Store& store, const QString& name, QObject* parent) : Adodc(store, name, QString(), parent) {}
-
 Adodc::Adodc(Store& store, const QString& name, const QString& home, QObject* parent)
     : QObject(parent), m_store(store), m_home(home), m_connection(home) {
     setObjectName(name);
@@ -27,8 +25,7 @@ Recordset& Adodc::recordset() {
 }
 
 Recordset& Adodc::open(const QString& source) {
-    if (!m_home.isEmpty())
-        setConnectionString(m_home);
+    setConnectionString(m_home);
     setRecordSource(source);
     refresh();
     return recordset();

@@ -29,10 +29,8 @@ QString programFile(const QString& appPath, const QString& name) {
     return appPath.endsWith(u'\\') ? appPath + name : appPath + u'\\' + name;
 }
 
-QString connectionText(const QString& appPath, bool trailingBlank) {
-    const QString text =
-        u"provider = %1;%2"_s.arg(Provider, SourceMark) + programFile(appPath, DataFileName.toString());
-    return trailingBlank ? text + u' ' : text;
+QString connectionText(const QString& appPath) {
+    return u"provider = %1;%2"_s.arg(Provider, SourceMark) + programFile(appPath, DataFileName.toString()) + u' ';
 }
 
 QString dataSource(const QString& connectionText) {

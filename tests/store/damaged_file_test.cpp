@@ -33,8 +33,8 @@ TEST_F(DamagedFile, MissingFileIsNamedAndNotMade) {
 }
 
 TEST_F(DamagedFile, MissingFolderIsNamed) {
-    control.setConnectionString(connectionText(folder.filePath(u"没有"_s), true));
-    EXPECT_EQ(opening(u"没有"_s), RuntimeError::FileNotFound);
+    control.setConnectionString(connectionText(folder.filePath(u"没有"_s)));
+    EXPECT_EQ(errorOf([&] { control.refresh(); }, u"没有"_s), RuntimeError::FileNotFound);
 }
 
 TEST_F(DamagedFile, FolderInItsPlaceIsNoFile) {

@@ -25,8 +25,7 @@ protected:
         if (child != 0)
             return child;
         Store own;
-        Adodc adodc(own, u"Adodc1"_s);
-        adodc.setConnectionString(connectionText(folder.path(), true));
+        Adodc adodc(own, u"Adodc1"_s, connectionText(folder.path()));
         for (int round = 0; errorOf([&] { rewriteTable(own, adodc, name + QString::number(round), Rows); }) == 0;)
             ++round;
         _exit(1);

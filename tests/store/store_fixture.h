@@ -50,8 +50,8 @@ protected:
 
     QTemporaryDir folder;
     Store store{[] { return 2024; }};
-    Adodc control{store, u"Adodc1"_s};
-    Adodc second{store, u"Adodc2"_s};
+    Adodc control{store, u"Adodc1"_s, connectionText(folder.path())};
+    Adodc second{store, u"Adodc2"_s, connectionText(folder.path()).chopped(1)}; // names the same file
 };
 
 } // namespace qinghe

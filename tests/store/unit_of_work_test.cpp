@@ -65,8 +65,7 @@ TEST_F(UnitOfWork, ClosingCommits) {
 TEST_F(UnitOfWork, AStoreThatGoesAwayCommitsNothing) {
     {
         Store other;
-        Adodc adodc(other, u"Adodc1"_s);
-        adodc.setConnectionString(connectionText(folder.path(), true));
+        Adodc adodc(other, u"Adodc1"_s, connectionText(folder.path()));
         add(adodc.open(u"srb"_s), {{u"项目"_s, u"工资"_s}});
     }
     EXPECT_EQ(outside(), u"0"_s);
