@@ -7,6 +7,7 @@
 #include "store/recordset.h"
 #include "store/schema.h"
 #include "store/store.h"
+#include "store/tables.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,26 +15,29 @@
 #include <initializer_list>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr const char16_t* firstUser = u"管理员";
-constexpr const char16_t* firstPassword = u"123456";
+constexpr QStringView FirstUser = u"管理员";
+constexpr QStringView FirstPassword = u"123456";
 
 /// Major class, minor class, quick code.
 struct Category {
-    const char16_t* major;
-    const char16_t* minor;
-    const char16_t* code;
+    QStringView major;
+    QStringView minor;
+    QStringView code;
 };
 
-constexpr Category incomeCategories[] = {
+constexpr Category IncomeCategories[] = {
     {u"工资薪金", u"基本工资", u"gz"}, {u"工资薪金", u"奖金", u"jj"},     {u"工资薪金", u"津贴补助", u"bt"},
     {u"投资理财", u"存款利息", u"lx"}, {u"投资理财", u"基金分红", u"fh"}, {u"投资理财", u"房屋租金", u"fz"},
     {u"兼职副业", u"稿费", u"gf"},     {u"兼职副业", u"家教", u"jz"},     {u"人情往来", u"节日红包", u"hb"},
     {u"其他收入", u"退款", u"tk"},     {u"其他收入", u"卖废品", u"fp"},
 };
 
-constexpr Category expenseCategories[] = {
+constexpr Category ExpenseCategories[] = {
     {u"餐饮食品", u"买菜", u"mc"},     {u"餐饮食品", u"在外就餐", u"jc"}, {u"餐饮食品", u"水果零食", u"sg"},
     {u"居家生活", u"水电燃气", u"sd"}, {u"居家生活", u"日用品", u"ry"},   {u"居家生活", u"房租物业", u"wy"},
     {u"居家生活", u"电话网络", u"dh"}, {u"交通出行", u"公交地铁", u"gj"}, {u"交通出行", u"加油停车", u"jy"},
@@ -42,8 +46,8 @@ constexpr Category expenseCategories[] = {
 };
 
 /// Adds one row, its values in the order of the columns.
-void addRow(Store& store, const QString& table, std::initializer_list<Value> values) {
-    Recordset rows(store, store.fetch(table));
+void addRow(Store& store, QStringView table, std::initializer_list<Value> values) {
+    Recordset rows(store, store.fetch(table.toString()));
     rows.addNew();
     int ordinal = 0;
     for (const Value& value : values) {
@@ -53,36 +57,36 @@ void addRow(Store& store, const QString& table, std::initializer_list<Value> val
 }
 
 void addUserAndSettings(Store& store) {
-    addRow(store, u"yhb"_qs, {firstUser, firstPassword, 1});
-    addRow(store, u"登陆用户记录表"_qs, {firstUser, firstPassword});
-    addRow(store, u"txb"_qs, {false});
-    addRow(store, u"systuopanb"_qs, {false});
+    addRow(store, tables::Users, {FirstUser.toString(), FirstPassword.toString(), 1});
+    addRow(store, tables::Remembered, {FirstUser.toString(), FirstPassword.toString()});
+    addRow(store, tables::Reminding, {false});
+    addRow(store, tables::Tray, {false});
 }
 
 void addCategories(Store& store) {
-    for (const auto& [major, minor, code] : incomeCategories) {
-        addRow(store, u"srflb"_qs, {major, minor, code});
+    for (const auto& [major, minor, code] : IncomeCategories) {
+        addRow(store, tables::IncomeClasses, {major.toString(), minor.toString(), code.toString()});
     }
-    for (const auto& [major, minor, code] : expenseCategories) {
-        addRow(store, u"zcflb"_qs, {major, minor, code});
+    for (const auto& [major, minor, code] : ExpenseCategories) {
+        addRow(store, tables::ExpenseClasses, {major.toString(), minor.toString(), code.toString()});
     }
 }
 
 /// Name, byte count, and the bytes with the one zero that stands behind every stored picture.
-void addPicture(Store& store, const QString& table, const Picture& picture, const QByteArray& jpeg) {
+void addPicture(Store& store, QStringView table, const Picture& picture, const QByteArray& jpeg) {
     addRow(store, table, {picture.name.toString(), static_cast<double>(jpeg.size()), jpeg + '\0'});
 }
 
 void addPictures(Store& store) {
     for (const Picture& skin : skins()) {
         const QByteArray jpeg = jpegOf(skin);
-        addPicture(store, u"软件皮肤"_qs, skin, jpeg);
+        addPicture(store, tables::OfferedSkins, skin, jpeg);
         if (&skin == &skins().front()) {
-            addPicture(store, u"皮肤选择"_qs, skin, jpeg);
+            addPicture(store, tables::ChosenSkin, skin, jpeg);
         }
     }
-    addPicture(store, u"主界面"_qs, desktopPicture(), jpegOf(desktopPicture()));
-    addPicture(store, u"登陆皮肤"_qs, signInPicture(), jpegOf(signInPicture()));
+    addPicture(store, tables::DesktopPicture, desktopPicture(), jpegOf(desktopPicture()));
+    addPicture(store, tables::SignInPicture, signInPicture(), jpegOf(signInPicture()));
 }
 
 void fill(const QString& path) {
@@ -102,14 +106,14 @@ bool deliverFirstData(const QString& folder) {
     if (QFile::exists(finished)) {
         return false;
     }
-    const QString unfinished = place.filePath(u"first_data.unfinished"_qs);
+    const QString unfinished = place.filePath(u"first_data.unfinished"_s);
     QFile::remove(unfinished);
     QFile::remove(journalOf(unfinished));
     createStore(unfinished);
     fill(unfinished);
     spoilHeader(unfinished);
     if (!QFile::rename(unfinished, finished)) {
-        throw RuntimeError(RuntimeError::PathFileAccess, u"无法写入账本文件“%1”。"_qs.arg(finished));
+        throw RuntimeError(RuntimeError::PathFileAccess, u"无法写入账本文件“%1”。"_s.arg(finished));
     }
     return true;
 }

@@ -10,6 +10,9 @@
 #include <cmath>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // ---- the instruments
@@ -105,7 +108,7 @@ QByteArray waveFile(const std::vector<double>& samples) {
 QStringList musicNames() {
     QStringList names;
     for (std::size_t i = 1; i <= Pieces.size(); ++i) {
-        names << u"音乐%1.wav"_qs.arg(i);
+        names << u"音乐%1.wav"_s.arg(i);
     }
     return names;
 }

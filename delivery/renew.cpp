@@ -7,6 +7,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 QByteArray contentOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -18,7 +20,7 @@ void renew(const QString& path, const QByteArray& content) {
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
-        throw RuntimeError(RuntimeError::PathFileAccess, u"无法写入文件“%1”：%2。"_qs.arg(path, file.errorString()));
+        throw RuntimeError(RuntimeError::PathFileAccess, u"无法写入文件“%1”：%2。"_s.arg(path, file.errorString()));
     }
 }
 

@@ -13,6 +13,9 @@ static void loadPages() {
 }
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray iconPng() {
@@ -33,17 +36,17 @@ QByteArray iconPng() {
 } // namespace
 
 QStringList webPageNames() {
-    return {u"index.htm"_qs, u"softs.htm"_qs, u"adetail.htm"_qs};
+    return {u"index.htm"_s, u"softs.htm"_s, u"adetail.htm"_s};
 }
 
 void deliverWebPages(const QString& folder) {
     loadPages();
-    const QDir web(QDir(folder).filePath(u"web"_qs));
-    web.mkpath(u"."_qs);
-    for (const QString& name : webPageNames() + QStringList(u"pages.css"_qs)) {
-        renew(web.filePath(name), contentOf(u":/web/"_qs + name));
+    const QDir web(QDir(folder).filePath(u"web"_s));
+    web.mkpath(u"."_s);
+    for (const QString& name : webPageNames() + QStringList(u"pages.css"_s)) {
+        renew(web.filePath(name), contentOf(u":/web/"_s + name));
     }
-    renew(web.filePath(u"qinghe.png"_qs), iconPng());
+    renew(web.filePath(u"qinghe.png"_s), iconPng());
 }
 
 } // namespace qinghe

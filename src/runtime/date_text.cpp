@@ -8,7 +8,7 @@ namespace qinghe {
 
 namespace {
 
-constexpr int kFirstYear = 100;
+constexpr int FirstYear = 100;
 
 /// A number as it was written, with the count of its digits; 0 digits when there is none.
 struct Written {
@@ -94,7 +94,7 @@ int yearOf(const Written& year) {
     constexpr int century = 100, lastOfTwoDigits = 29;
     if (year.digits == 2)
         return year.value + (year.value <= lastOfTwoDigits ? 20 : 19) * century;
-    return year.digits > 2 && year.value >= kFirstYear ? year.value : 0;
+    return year.digits > 2 && year.value >= FirstYear ? year.value : 0;
 }
 
 std::optional<ReadDay> validDay(int year, int month, int day, bool monthAlone = false) {
@@ -128,7 +128,7 @@ std::optional<ReadDay> readWords(Scanner& scanner, const Written& first, bool is
 std::optional<ReadDay> readDay(Scanner& scanner, const ThisYear& thisYear) {
     constexpr int allDigits = 8; // 20240503
     const Written first = scanner.written(1, allDigits);
-    if (first.digits == allDigits && first.value / 10000 >= kFirstYear)
+    if (first.digits == allDigits && first.value / 10000 >= FirstYear)
         return validDay(first.value / 10000, first.value / 100 % 100, first.value % 100);
     const auto separator = scanner.takeAny(u"-/.年月");
     if (!separator || first.digits > 4)
@@ -166,7 +166,7 @@ std::optional<DayNumbers> isoDay(View text) {
     if (text.size() != 10 || !hasMark(text, 4, u'-') || !hasMark(text, 7, u'-'))
         return std::nullopt;
     const DayNumbers read{digitsOf(text.first(4)), digitsOf(text.sliced(5, 2)), digitsOf(text.sliced(8))};
-    const bool valid = read.year >= kFirstYear && QDate::isValid(read.year, read.month, read.day);
+    const bool valid = read.year >= FirstYear && QDate::isValid(read.year, read.month, read.day);
     return valid ? std::optional(read) : std::nullopt;
 }
 

@@ -8,12 +8,14 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Limits = std::numeric_limits<std::int16_t>;
 
 [[noreturn]] void throwOverflow(const QString& number) {
-    throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：%1 超出了 -32768 到 32767 的范围。").arg(number));
+    throw RuntimeError(RuntimeError::Overflow, u"溢出：%1 超出了 -32768 到 32767 的范围。"_s.arg(number));
 }
 
 double roundedHalfToEven(double value) {

@@ -8,9 +8,11 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int kSignificantDigits = 15;
+constexpr int SignificantDigits = 15;
 
 /// The digits of a number that is not negative, before and behind the point.
 struct Decimal {
@@ -52,7 +54,7 @@ Pattern parsed(QStringView pattern) {
 Decimal decimalOf(double magnitude) {
     std::array<char, 32> text; // "d.ddddddddddddddE±xxx"
     const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific,
-                                   kSignificantDigits - 1);
+                                   SignificantDigits - 1);
     const QByteArray scientific(text.data(), end.ptr - text.data());
     const qsizetype mark = scientific.indexOf('e');
     const QByteArray digits = scientific.left(mark).replace(".", "");
@@ -98,7 +100,7 @@ QByteArray trimmedTo(QByteArray fraction, qsizetype least) {
 
 QString formatNumber(double value, const QString& pattern) {
     if (!std::isfinite(value))
-        throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：数字太大，无法显示。"));
+        throw RuntimeError(RuntimeError::Overflow, u"溢出：数字太大，无法显示。"_s);
     const Pattern form = parsed(pattern);
     const Decimal number = rounded(decimalOf(std::abs(value)), form.mostFraction);
     QByteArray text = value < 0 && !number.isZero() ? "-" : "";

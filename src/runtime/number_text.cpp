@@ -13,6 +13,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using NumberBuffer = std::array<char, 32>;
@@ -21,7 +23,7 @@ using NumberBuffer = std::array<char, 32>;
 template<typename Number>
 QString generalText(Number value, int digits) {
     if (value == 0)
-        return QStringLiteral("0"); // a negative zero has no sign
+        return u"0"_s; // a negative zero has no sign
     NumberBuffer text;
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
     return QString::fromLatin1(text.data(), end.ptr - text.data()).toUpper();
@@ -221,7 +223,7 @@ double leadingNumber(const QString& text) {
     reader.exponent();
     const double value = reader.value();
     if (std::isinf(value))
-        throw RuntimeError(RuntimeError::Overflow, QStringLiteral("溢出：“%1”太大，无法作为数字。").arg(text));
+        throw RuntimeError(RuntimeError::Overflow, u"溢出：“%1”太大，无法作为数字。"_s.arg(text));
     return value;
 }
 

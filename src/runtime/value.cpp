@@ -7,20 +7,22 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr double kTrueNumber = -1; // all bits set
+constexpr double TrueNumber = -1; // all bits set
 
 [[noreturn]] void throwMismatch(const QString& problem) {
-    throw RuntimeError(RuntimeError::TypeMismatch, QStringLiteral("类型不匹配：") + problem);
+    throw RuntimeError(RuntimeError::TypeMismatch, u"类型不匹配："_s + problem);
 }
 
 /// Names a value for an error's text.
 QString named(const Value& value) {
     if (value.isNull())
-        return QStringLiteral("空值");
+        return u"空值"_s;
     const bool binary = std::holds_alternative<QByteArray>(value.data());
-    return binary ? QStringLiteral("二进制数据") : u'“' + value.text() + u'”';
+    return binary ? u"二进制数据"_s : u'“' + value.text() + u'”';
 }
 
 template<class... Cases>
@@ -47,9 +49,9 @@ QString Value::text() const {
                           [](const QString& text) { return text; },
                           [](double number) { return numberText(number); },
                           [](qint64 integer) { return QString::number(integer); },
-                          [](bool flag) { return flag ? QStringLiteral("True") : QStringLiteral("False"); },
+                          [](bool flag) { return flag ? u"True"_s : u"False"_s; },
                           [](const DateValue& date) { return date.text(); },
-                          [](const QByteArray&) -> QString { throwMismatch(QStringLiteral("二进制数据没有文本。")); },
+                          [](const QByteArray&) -> QString { throwMismatch(u"二进制数据没有文本。"_s); },
                       },
                       m_data);
 }
@@ -63,9 +65,9 @@ double Value::number() const {
     else if (const auto* integer = std::get_if<qint64>(&m_data))
         number = static_cast<double>(*integer);
     else if (const auto* flag = std::get_if<bool>(&m_data))
-        number = *flag ? kTrueNumber : 0;
+        number = *flag ? TrueNumber : 0;
     if (!number)
-        throwMismatch(named(*this) + QStringLiteral("不是数字。"));
+        throwMismatch(named(*this) + u"不是数字。"_s);
     return *number;
 }
 
@@ -75,7 +77,7 @@ bool Value::truth() const {
     if (const auto* text = std::get_if<QString>(&m_data)) {
         const auto flag = truthOfText(*text);
         if (!flag)
-            throwMismatch(named(*this) + QStringLiteral("既不是真也不是假。"));
+            throwMismatch(named(*this) + u"既不是真也不是假。"_s);
         return *flag;
     }
     return number() != 0;
@@ -86,7 +88,7 @@ QByteArray Value::bytes() const {
         return {};
     const auto* bytes = std::get_if<QByteArray>(&m_data);
     if (!bytes)
-        throwMismatch(named(*this) + QStringLiteral("不是二进制数据。"));
+        throwMismatch(named(*this) + u"不是二进制数据。"_s);
     return *bytes;
 }
 

@@ -5,7 +5,7 @@
 
 namespace qinghe {
 
-Adodc::Adodc(Store& store, const QString& name, QObject* parent) : Adodc(store, name, QString(), parent) {}
+using namespace Qt::StringLiterals;
 
 Adodc::Adodc(Store& store, const QString& name, const QString& home, QObject* parent)
     : QObject(parent), m_store(store), m_home(home), m_connection(home) {
@@ -20,14 +20,12 @@ void Adodc::refresh() {
 
 Recordset& Adodc::recordset() {
     if (!m_loaded)
-        throw RuntimeError(RuntimeError::ObjectNotSet,
-                           QStringLiteral("数据控件“%1”还没有打开记录。").arg(objectName()));
+        throw RuntimeError(RuntimeError::ObjectNotSet, u"数据控件“%1”还没有打开记录。"_s.arg(objectName()));
     return m_loaded->asRead();
 }
 
 Recordset& Adodc::open(const QString& source) {
-    if (!m_home.isEmpty())
-        setConnectionString(m_home);
+    setConnectionString(m_home);
     setRecordSource(source);
     refresh();
     return recordset();

@@ -13,11 +13,10 @@ class Adodc : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString ConnectionString READ connectionString WRITE setConnectionString)
     Q_PROPERTY(QString RecordSource READ recordSource WRITE setRecordSource)
-    Q_PROPERTY(bool Visible READ isVisible WRITE setVisible)
+    Q_PROPERTY(bool Visible READ isVisible)
 
 public:
-    Adodc(Store& store, const QString& name, QObject* parent = nullptr);
-    /// `home` is the connection text to which open() points the control.
+    /// `home` is the connection text of the program's own file, where the control points at first.
     Adodc(Store& store, const QString& name, const QString& home, QObject* parent = nullptr);
     ~Adodc() override;
 
@@ -39,12 +38,11 @@ public:
     /// for in between; nothing before the first one.
     std::shared_ptr<LoadedSet> loaded() const { return m_loaded; }
 
-    /// Points the control home again, wherever it was pointed meanwhile, and runs the source. A control that was made
-    /// without a home stays where it is pointed.
+    /// Points the control home again, wherever it was pointed meanwhile, and runs the source.
     Recordset& open(const QString& source);
 
-    bool isVisible() const { return m_visible; }
-    void setVisible(bool visible) { m_visible = visible; }
+    /// Never: nothing of it is drawn.
+    bool isVisible() const { return false; }
 
 private:
     Store& m_store;
@@ -52,7 +50,6 @@ private:
     QString m_connection;
     QString m_source;
     std::shared_ptr<LoadedSet> m_loaded;
-    bool m_visible = true;
 };
 
 } // namespace qinghe

@@ -8,6 +8,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct KindRow {
@@ -16,7 +18,7 @@ struct KindRow {
     QStringView wanted; ///< what to say when a value is no such thing
 };
 
-constexpr std::array<KindRow, 6> kKinds{{
+constexpr std::array<KindRow, 6> Kinds{{
     {ColumnKind::Text, u"TEXT", u"文字"},
     {ColumnKind::Number, u"NUMBER", u"数字"},
     {ColumnKind::Integer, u"INTEGER", u"整数"},
@@ -26,15 +28,14 @@ constexpr std::array<KindRow, 6> kKinds{{
 }};
 
 const KindRow& rowOf(ColumnKind kind) {
-    return kKinds.at(static_cast<size_t>(kind));
+    return Kinds.at(static_cast<size_t>(kind));
 }
 
 [[noreturn]] void throwRefusal(const Column& column, const Value& value) {
     const bool binary = std::holds_alternative<QByteArray>(value.data());
-    const QString shown = binary ? QStringLiteral("二进制数据") : u'“' + value.text() + u'”';
-    throw RuntimeError(
-        RuntimeError::TypeMismatch,
-        QStringLiteral("类型不匹配：“%1”一栏需要%2，不能存放%3。").arg(column.name, rowOf(column.kind).wanted, shown));
+    const QString shown = binary ? u"二进制数据"_s : u'“' + value.text() + u'”';
+    throw RuntimeError(RuntimeError::TypeMismatch, u"类型不匹配：“%1”一栏需要%2，不能存放%3。"_s.arg(
+                                                       column.name, rowOf(column.kind).wanted, shown));
 }
 
 /// Rounds half to even, as everywhere in the runtime.
@@ -43,7 +44,7 @@ Value integerOf(const Column& column, double number) {
     const double rounded = std::nearbyint(number);
     if (rounded < Limits::min() || rounded > Limits::max())
         throw RuntimeError(RuntimeError::Overflow,
-                           QStringLiteral("溢出：“%1”一栏放不下 %2。").arg(column.name, Value(number).text()));
+                           u"溢出：“%1”一栏放不下 %2。"_s.arg(column.name, Value(number).text()));
     return static_cast<qint64>(rounded);
 }
 
@@ -93,12 +94,11 @@ QString declaredType(ColumnKind kind) {
 }
 
 ColumnKind kindOfDeclaredType(const QString& type) {
-    for (const KindRow& row : kKinds) {
+    for (const KindRow& row : Kinds) {
         if (type.compare(row.declared, Qt::CaseInsensitive) == 0)
             return row.kind;
     }
-    throw RuntimeError(RuntimeError::StoreFailure,
-                       QStringLiteral("账本文件的格式不对：不认识的列类型“%1”。").arg(type));
+    throw RuntimeError(RuntimeError::StoreFailure, u"账本文件的格式不对：不认识的列类型“%1”。"_s.arg(type));
 }
 
 Value converted(const Column& column, const Value& value, const ThisYear& thisYear) {

@@ -8,17 +8,19 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr QStringView kProvider = u"microsoft.jet.oledb.4.0";
-constexpr QStringView kSourceMark = u"data source=";
+constexpr QStringView Provider = u"microsoft.jet.oledb.4.0";
+constexpr QStringView SourceMark = u"data source=";
 
 /// "provider = name;", blanks anywhere between the parts.
 bool namesProvider(QStringView head) {
     const qsizetype equals = head.indexOf(u'=');
     const qsizetype end = head.indexOf(u';');
     return equals >= 0 && end > equals && head.first(equals).trimmed().compare(u"provider", Qt::CaseInsensitive) == 0 &&
-           head.sliced(equals + 1, end - equals - 1).trimmed().compare(kProvider, Qt::CaseInsensitive) == 0;
+           head.sliced(equals + 1, end - equals - 1).trimmed().compare(Provider, Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
@@ -27,20 +29,17 @@ QString programFile(const QString& appPath, const QString& name) {
     return appPath.endsWith(u'\\') ? appPath + name : appPath + u'\\' + name;
 }
 
-QString connectionText(const QString& appPath, bool trailingBlank) {
-    const QString text =
-        QStringLiteral("provider = %1;%2").arg(kProvider, kSourceMark) + programFile(appPath, DataFileName.toString());
-    return trailingBlank ? text + u' ' : text;
+QString connectionText(const QString& appPath) {
+    return u"provider = %1;%2"_s.arg(Provider, SourceMark) + programFile(appPath, DataFileName.toString()) + u' ';
 }
 
 QString dataSource(const QString& connectionText) {
-    const qsizetype mark = connectionText.indexOf(kSourceMark, 0, Qt::CaseInsensitive);
-    QString path = mark < 0 ? QString() : connectionText.mid(mark + kSourceMark.size());
+    const qsizetype mark = connectionText.indexOf(SourceMark, 0, Qt::CaseInsensitive);
+    QString path = mark < 0 ? QString() : connectionText.mid(mark + SourceMark.size());
     while (path.endsWith(u' '))
         path.chop(1);
     if (path.isEmpty() || !namesProvider(QStringView(connectionText).first(mark)))
-        throw RuntimeError(RuntimeError::ProviderUnknown,
-                           QStringLiteral("连接文字没有指明账本文件：%1").arg(connectionText));
+        throw RuntimeError(RuntimeError::ProviderUnknown, u"连接文字没有指明账本文件：%1"_s.arg(connectionText));
     return path;
 }
 

@@ -7,9 +7,8 @@ namespace qinghe {
 /// The name of a file beside the program: the folder, a "\" unless the folder's text ends in one, the file's name.
 QString programFile(const QString& appPath, const QString& name);
 
-/// The text that names the data file beside the program to a data control; with a blank behind it or without, both name
-/// the same file.
-QString connectionText(const QString& appPath, bool trailingBlank = true);
+/// The text that names the data file beside the program to a data control, with a blank behind it.
+QString connectionText(const QString& appPath);
 
 /// The path behind "data source=". All of it is path (folders may hold ";"), blanks at its end apart.
 /// Throws RuntimeError (3706) when the text names no provider of this store or no file.

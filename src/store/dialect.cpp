@@ -4,6 +4,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class TokenKind { Name, Number, Text, Date, Symbol, End };
@@ -18,13 +20,13 @@ struct Token {
 [[noreturn]] void throwRefusal(QStringView source, qsizetype at, const QString& problem) {
     constexpr qsizetype shown = 40;
     const QStringView rest = source.mid(at);
-    QString text = QStringLiteral("查询无法执行：") + problem;
+    QString text = u"查询无法执行："_s + problem;
     if (!rest.trimmed().isEmpty())
-        text += QStringLiteral("，问题出在“%1”处").arg(rest.left(shown));
+        text += u"，问题出在“%1”处"_s.arg(rest.left(shown));
     text += u'。';
     if (source.contains(u'\''))
-        text += QStringLiteral("用于查询的文字里不能有英文单引号（'）。");
-    throw RuntimeError(RuntimeError::QueryFailure, text + QStringLiteral("\r\n查询内容：%1").arg(source));
+        text += u"用于查询的文字里不能有英文单引号（'）。"_s;
+    throw RuntimeError(RuntimeError::QueryFailure, text + u"\r\n查询内容：%1"_s.arg(source));
 }
 
 bool isBlank(QChar c) {
@@ -51,7 +53,7 @@ Token enclosed(QStringView source, qsizetype at) {
     const QChar mark = source[at];
     const qsizetype close = source.indexOf(mark, at + 1);
     if (close < 0)
-        throwRefusal(source, at, QStringLiteral("“%1”没有成对").arg(mark));
+        throwRefusal(source, at, u"“%1”没有成对"_s.arg(mark));
     const TokenKind kind = mark == u'#' ? TokenKind::Date : TokenKind::Text;
     return {kind, source.sliced(at + 1, close - at - 1), at, close + 1};
 }
@@ -73,7 +75,7 @@ Token tokenAt(QStringView source, qsizetype from) {
         return run(TokenKind::Name, source, at, endOfRun(source, at, isNamePart));
     if (QStringView(u"(),*<>=").contains(c))
         return run(TokenKind::Symbol, source, at, at + 1);
-    throwRefusal(source, at, QStringLiteral("不能出现“%1”").arg(c));
+    throwRefusal(source, at, u"不能出现“%1”"_s.arg(c));
 }
 
 class Parser {
@@ -85,7 +87,7 @@ public:
         if (takeWord(u"select"))
             select(result);
         else
-            result.table = name(QStringLiteral("应为表名或 select 查询"));
+            result.table = name(u"应为表名或 select 查询"_s);
         expectEnd();
         return result;
     }
@@ -110,7 +112,7 @@ private:
         if (!takeSymbol(u'*'))
             result.items = list([this] { return item(); });
         expectWord(u"from");
-        result.table = name(QStringLiteral("应为表名"));
+        result.table = name(u"应为表名"_s);
         if (takeWord(u"where"))
             result.where = comparison();
         if (!takeWord(u"group"))
@@ -128,7 +130,7 @@ private:
         }
         const bool renamed = takeWord(u"as");
         if (result.isSum && !renamed)
-            fail(QStringLiteral("sum( ) 后应为 as"));
+            fail(u"sum( ) 后应为 as"_s);
         result.name = renamed ? column() : result.column;
         return result;
     }
@@ -152,21 +154,21 @@ private:
 
     QString sign() {
         if (takeWord(u"between"))
-            return QStringLiteral("between");
+            return u"between"_s;
         if (takeSymbol(u'='))
-            return QStringLiteral("=");
+            return u"="_s;
         if (takeSymbol(u'>'))
-            return takeSymbol(u'=') ? QStringLiteral(">=") : QStringLiteral(">");
+            return takeSymbol(u'=') ? u">="_s : u">"_s;
         if (!takeSymbol(u'<'))
-            fail(QStringLiteral("应为比较符号"));
+            fail(u"应为比较符号"_s);
         if (takeSymbol(u'>'))
-            return QStringLiteral("<>");
-        return takeSymbol(u'=') ? QStringLiteral("<=") : QStringLiteral("<");
+            return u"<>"_s;
+        return takeSymbol(u'=') ? u"<="_s : u"<"_s;
     }
 
     Literal literal() {
         if (m_next.kind != TokenKind::Text && m_next.kind != TokenKind::Date)
-            fail(QStringLiteral("应为引号中的文字或 # 号中的日期"));
+            fail(u"应为引号中的文字或 # 号中的日期"_s);
         const Token token = take();
         const bool isDate = token.kind == TokenKind::Date;
         return {isDate, (isDate ? token.text.trimmed() : token.text).toString()};
@@ -176,12 +178,12 @@ private:
         bool valid = m_next.kind == TokenKind::Number;
         const int result = valid ? m_next.text.toInt(&valid) : 0;
         if (!valid || result == 0)
-            fail(QStringLiteral("应为字符数"));
+            fail(u"应为字符数"_s);
         take();
         return result;
     }
 
-    QString column() { return name(QStringLiteral("应为列名")); }
+    QString column() { return name(u"应为列名"_s); }
 
     QString name(const QString& problem) {
         if (m_next.kind != TokenKind::Name)
@@ -211,17 +213,17 @@ private:
 
     void expectWord(QStringView word) {
         if (!takeWord(word))
-            fail(QStringLiteral("应为 %1").arg(word));
+            fail(u"应为 %1"_s.arg(word));
     }
 
     void expectSymbol(QChar symbol) {
         if (!takeSymbol(symbol))
-            fail(QStringLiteral("应为“%1”").arg(symbol));
+            fail(u"应为“%1”"_s.arg(symbol));
     }
 
     void expectEnd() {
         if (m_next.kind != TokenKind::End)
-            fail(QStringLiteral("后面多出了内容"));
+            fail(u"后面多出了内容"_s);
     }
 
     [[noreturn]] void fail(const QString& problem) const { throwRefusal(m_source, m_next.at, problem); }

@@ -8,10 +8,12 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr qint64 kMarkOffset = 1;
-const QByteArray kHealed("\x01\x00", 2), kSpoilt("\x00\x00", 2);
+constexpr qint64 MarkOffset = 1;
+const QByteArray Healed("\x01\x00", 2), Spoilt("\x00\x00", 2);
 
 [[noreturn]] void throwFor(int number, const QString& problem, const QString& path) {
     throw RuntimeError(number, problem.arg(QDir::toNativeSeparators(path)));
@@ -20,29 +22,28 @@ const QByteArray kHealed("\x01\x00", 2), kSpoilt("\x00\x00", 2);
 void writeMark(const QString& path, const QByteArray& mark) {
     QFile file(path);
     if (!file.exists())
-        throwFor(RuntimeError::FileNotFound, QStringLiteral("找不到账本文件“%1”。"), path);
+        throwFor(RuntimeError::FileNotFound, u"找不到账本文件“%1”。"_s, path);
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
-        throwFor(RuntimeError::PathFileAccess, QStringLiteral("无法写入账本文件“%1”，请检查它和所在文件夹的权限。"),
-                 path);
-    if (file.size() < kMarkOffset + mark.size())
-        throwFor(RuntimeError::StoreFailure, QStringLiteral("“%1”不是账本文件，或者已经损坏。"), path);
-    if (!file.seek(kMarkOffset) || file.write(mark) != mark.size())
-        throwFor(RuntimeError::PathFileAccess, QStringLiteral("写入账本文件“%1”失败。"), path);
+        throwFor(RuntimeError::PathFileAccess, u"无法写入账本文件“%1”，请检查它和所在文件夹的权限。"_s, path);
+    if (file.size() < MarkOffset + mark.size())
+        throwFor(RuntimeError::StoreFailure, u"“%1”不是账本文件，或者已经损坏。"_s, path);
+    if (!file.seek(MarkOffset) || file.write(mark) != mark.size())
+        throwFor(RuntimeError::PathFileAccess, u"写入账本文件“%1”失败。"_s, path);
 }
 
 } // namespace
 
 void healHeader(const QString& path) {
     requireKnownVersion(path);
-    writeMark(path, kHealed);
+    writeMark(path, Healed);
 }
 
 void spoilHeader(const QString& path) {
-    writeMark(path, kSpoilt);
+    writeMark(path, Spoilt);
 }
 
 bool headerIsSpoilt(const QString& path) {
-    const QByteArray head = "S" + kSpoilt + QByteArray("ite format 3\0", 13);
+    const QByteArray head = "S" + Spoilt + QByteArray("ite format 3\0", 13);
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && file.read(head.size()) == head;
 }

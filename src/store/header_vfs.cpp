@@ -12,10 +12,10 @@ namespace qinghe {
 namespace {
 
 using Mark = std::array<char, 2>;
-constexpr Mark kOnDisk{1, 0};
-constexpr Mark kShown{'Q', 'L'};
-constexpr sqlite3_int64 kMarkOffset = 1;
-constexpr const char* kName = "qinghe-header";
+constexpr Mark OnDisk{1, 0};
+constexpr Mark Shown{'Q', 'L'};
+constexpr sqlite3_int64 MarkOffset = 1;
+constexpr const char* Name = "qinghe-header";
 
 /// A main database file; the file of the VFS beneath lies right behind it in SQLite's allocation.
 struct ShimFile {
@@ -32,8 +32,8 @@ sqlite3_vfs* beneath = nullptr;
 /// The mark inside a piece of the file, if the piece holds both of its bytes.
 template<typename Byte>
 Byte* markIn(Byte* data, int amount, sqlite3_int64 offset) {
-    const bool whole = offset <= kMarkOffset && offset + amount >= kMarkOffset + 2;
-    return whole ? data + (kMarkOffset - offset) : nullptr;
+    const bool whole = offset <= MarkOffset && offset + amount >= MarkOffset + 2;
+    return whole ? data + (MarkOffset - offset) : nullptr;
 }
 
 bool holds(const char* mark, const Mark& expected) {
@@ -43,17 +43,17 @@ bool holds(const char* mark, const Mark& expected) {
 int readShim(sqlite3_file* file, void* data, int amount, sqlite3_int64 offset) {
     const int result = real(file)->pMethods->xRead(real(file), data, amount, offset);
     char* mark = markIn(static_cast<char*>(data), amount, offset);
-    if (holds(mark, kOnDisk))
-        std::ranges::copy(kShown, mark);
+    if (holds(mark, OnDisk))
+        std::ranges::copy(Shown, mark);
     return result;
 }
 
 int writeShim(sqlite3_file* file, const void* data, int amount, sqlite3_int64 offset) {
     const auto* bytes = static_cast<const char*>(data);
-    if (!holds(markIn(bytes, amount, offset), kShown))
+    if (!holds(markIn(bytes, amount, offset), Shown))
         return real(file)->pMethods->xWrite(real(file), data, amount, offset);
     std::vector<char> page(bytes, bytes + amount);
-    std::ranges::copy(kOnDisk, markIn(page.data(), amount, offset));
+    std::ranges::copy(OnDisk, markIn(page.data(), amount, offset));
     return real(file)->pMethods->xWrite(real(file), page.data(), amount, offset);
 }
 
@@ -63,7 +63,7 @@ int forward(sqlite3_file* file, Arguments... arguments) {
 }
 
 using Methods = sqlite3_io_methods;
-constexpr Methods kMethods{
+constexpr Methods ShimMethods{
     .iVersion = 1, // offers neither shared memory nor mapped pages: no WAL, no mmap behind the shim's back
     .xClose = forward<&Methods::xClose>,
     .xRead = readShim,
@@ -92,7 +92,7 @@ int openShim(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int*
     auto* shim = reinterpret_cast<ShimFile*>(file);
     shim->real = reinterpret_cast<sqlite3_file*>(shim + 1);
     const int result = beneath->xOpen(beneath, name, shim->real, flags, flagsOut);
-    shim->base.pMethods = shim->real->pMethods ? &kMethods : nullptr;
+    shim->base.pMethods = shim->real->pMethods ? &ShimMethods : nullptr;
     return result;
 }
 
@@ -100,11 +100,11 @@ const char* registered() {
     beneath = sqlite3_vfs_find(nullptr);
     static sqlite3_vfs vfs = *beneath;
     vfs.pNext = nullptr;
-    vfs.zName = kName;
+    vfs.zName = Name;
     vfs.szOsFile = static_cast<int>(sizeof(ShimFile)) + beneath->szOsFile;
     vfs.xOpen = openShim;
     sqlite3_vfs_register(&vfs, 0);
-    return kName;
+    return Name;
 }
 
 } // namespace

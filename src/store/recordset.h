@@ -29,7 +29,7 @@ class ResultSet;
 /// closed or replaced since, for writing and for values that are to be read again; and what the store throws.
 class Recordset {
 public:
-    Recordset(Store& store, std::shared_ptr<const ResultSet> rows);
+    Recordset(Store& store, std::shared_ptr<ResultSet> rows);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
@@ -64,7 +64,7 @@ public:
 private:
     friend class Field;
     struct Impl;
-    std::unique_ptr<Impl> m;
+    std::unique_ptr<Impl> m_impl;
 };
 
 /// Stays with the set, not with the row: after a move it is that column of the new current row.

@@ -7,10 +7,12 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void throwRefusal(const QString& problem) {
-    throw RuntimeError(RuntimeError::QueryFailure, QStringLiteral("查询无法执行：") + problem);
+    throw RuntimeError(RuntimeError::QueryFailure, u"查询无法执行："_s + problem);
 }
 
 class Translator {
@@ -36,7 +38,7 @@ private:
         for (const SelectItem& item : m_query.items)
             addColumn(item.column, item.name);
         if (m_query.distinct && m_result.shape.columns.size() != 1)
-            throwRefusal(QStringLiteral("distinct 只能用于一列。"));
+            throwRefusal(u"distinct 只能用于一列。"_s);
         const QByteArray order = m_query.distinct ? m_sqlItems.first() + ",rowid" : "rowid";
         m_sqlItems.prepend("rowid");
         compose(" ORDER BY " + order);
@@ -44,7 +46,7 @@ private:
 
     void grouped() {
         if (m_query.distinct || m_query.items.empty())
-            throwRefusal(QStringLiteral("分组查询要写明各列，并且不能用 distinct。"));
+            throwRefusal(u"分组查询要写明各列，并且不能用 distinct。"_s);
         for (const SelectItem& item : m_query.items)
             item.isSum ? addSum(item) : addGroupColumn(item);
         QByteArrayList keys;
@@ -63,7 +65,7 @@ private:
 
     void addGroupColumn(const SelectItem& item) {
         if (std::ranges::find(m_query.groupBy, item.column) == m_query.groupBy.end())
-            throwRefusal(QStringLiteral("“%1”既不是合计，也不在 group by 中。").arg(item.column));
+            throwRefusal(u"“%1”既不是合计，也不在 group by 中。"_s.arg(item.column));
         addColumn(item.column, item.name);
     }
 
@@ -71,7 +73,7 @@ private:
     void addSum(const SelectItem& item) {
         const Column& column = columnNamed(item.column);
         if (column.kind != ColumnKind::Number && column.kind != ColumnKind::Integer)
-            throwRefusal(QStringLiteral("“%1”不是数字，不能合计。").arg(item.column));
+            throwRefusal(u"“%1”不是数字，不能合计。"_s.arg(item.column));
         m_result.shape.columns.push_back({item.name, ColumnKind::Number});
         m_sqlItems += "sum(" + quotedName(column.name) + "+0.0)";
     }
@@ -95,20 +97,20 @@ private:
     QString boundText(const Column& column, bool cut, const Literal& literal) const {
         const bool dated = column.kind == ColumnKind::Date;
         if ((!dated && column.kind != ColumnKind::Text) || literal.isDate != (dated && !cut))
-            throwRefusal(QStringLiteral("“%1”一栏不能与“%2”比较，类型不符。").arg(column.name, literal.text));
+            throwRefusal(u"“%1”一栏不能与“%2”比较，类型不符。"_s.arg(column.name, literal.text));
         return literal.isDate ? dateText(column, literal.text) : literal.text;
     }
 
     QString dateText(const Column& column, const QString& text) const {
         if (!parseDate(text, m_thisYear))
-            throwRefusal(QStringLiteral("“%1”不是日期，日期应写成 2024-5-3 的样子。").arg(text));
+            throwRefusal(u"“%1”不是日期，日期应写成 2024-5-3 的样子。"_s.arg(text));
         return std::get<DateValue>(converted(column, text, m_thisYear).data()).iso();
     }
 
     const Column& columnNamed(const QString& name) const {
         const auto found = std::ranges::find(m_columns, name, &Column::name);
         if (found == m_columns.end())
-            throwRefusal(QStringLiteral("表“%1”里没有“%2”这一栏。").arg(m_query.table, name));
+            throwRefusal(u"表“%1”里没有“%2”这一栏。"_s.arg(m_query.table, name));
         return *found;
     }
 

@@ -10,14 +10,13 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr size_t kCachedResults = 3;
-constexpr size_t kCachedFootprint = 8 << 20; ///< larger results, pictures mostly, are not kept
+constexpr size_t DeletedAtOnce = 1000; ///< rows a statement: each statement costs as much as a row
 
-constexpr size_t kDeletedAtOnce = 1000; ///< rows a statement: each statement costs as much as a row
-
-constexpr qsizetype kKeptBytes = 64 * 1024; ///< of a value that may stay bound until the next row
+constexpr qsizetype KeptBytes = 64 * 1024; ///< of a value that may stay bound until the next row
 
 QByteArray placeholders(qsizetype count) {
     return QByteArray("?,").repeated(count).chopped(1);
@@ -30,19 +29,10 @@ Session::Session(const QString& path, const ThisYear& thisYear) : m_thisYear(thi
     m_dataVersion = m_connection.dataVersion();
 }
 
-std::shared_ptr<const ResultSet> Session::fetch(const QString& source) {
+std::shared_ptr<ResultSet> Session::fetch(const QString& source) {
     flushDeletions();
     if (!inTransaction())
         forgetIfChangedElsewhere();
-    const auto known = std::ranges::find(m_cache, source, &CachedResult::source);
-    if (known != m_cache.end())
-        return known->rows;
-    const auto rows = read(source);
-    remember(source, rows);
-    return rows;
-}
-
-std::shared_ptr<const ResultSet> Session::read(const QString& source) {
     const Query query = parsedQuery(source);
     const Selection selection = selectionOf(query, columns(query.table), m_thisYear);
     Statement statement = m_connection.prepare(selection.sql);
@@ -51,7 +41,7 @@ std::shared_ptr<const ResultSet> Session::read(const QString& source) {
     return rowsOf(statement, selection.shape);
 }
 
-std::shared_ptr<const ResultSet> Session::rowsOf(Statement& statement, const ResultShape& shape) {
+std::shared_ptr<ResultSet> Session::rowsOf(Statement& statement, const ResultShape& shape) {
     const auto rows = std::make_shared<ResultSet>(shape);
     const int first = shape.writable() ? 1 : 0; // behind the identity
     const int count = rows->columnCount();
@@ -60,11 +50,12 @@ std::shared_ptr<const ResultSet> Session::rowsOf(Statement& statement, const Res
             rows->appendCell(statement.column(first + column));
         shape.distinct ? rows->finishDistinctRow(statement.integer(0)) : rows->finishRow(statement.integer(0));
     }
-    restLater(rows);
+    std::erase_if(m_lent, [](const auto& lent) { return lent.expired(); });
+    m_lent.push_back(rows);
     return rows;
 }
 
-std::shared_ptr<const ResultSet> Session::fetchAgain(const ResultShape& shape, qint64 first, qint64 last) {
+std::shared_ptr<ResultSet> Session::fetchAgain(const ResultShape& shape, qint64 first, qint64 last) {
     flushDeletions();
     QByteArrayList names{"rowid"};
     for (const int ordinal : shape.ordinals)
@@ -76,11 +67,6 @@ std::shared_ptr<const ResultSet> Session::fetchAgain(const ResultShape& shape, q
     return rowsOf(statement, shape);
 }
 
-void Session::restLater(const std::shared_ptr<ResultSet>& rows) {
-    std::erase_if(m_lent, [](const auto& lent) { return lent.expired(); });
-    m_lent.push_back(rows);
-}
-
 size_t Session::rest() {
     size_t bytes = m_connection.giveBackPages();
     for (const auto& lent : m_lent) {
@@ -88,16 +74,7 @@ size_t Session::rest() {
             bytes += rows->letValuesGo();
     }
     m_lent.clear();
-    m_cache.clear();
     return bytes;
-}
-
-void Session::remember(const QString& source, const std::shared_ptr<const ResultSet>& rows) {
-    if (rows->footprint() > kCachedFootprint)
-        return;
-    m_cache.push_back({source, rows});
-    if (m_cache.size() > kCachedResults)
-        m_cache.pop_front();
 }
 
 const TableColumns& Session::columns(const QString& table) {
@@ -113,7 +90,7 @@ const TableColumns& Session::columns(const QString& table) {
         columns.push_back({QString::fromUtf8(statement.column(0).bytes),
                            kindOfDeclaredType(QString::fromUtf8(statement.column(1).bytes))});
     if (columns.empty())
-        throw RuntimeError(RuntimeError::QueryFailure, QStringLiteral("账本文件里没有“%1”这张表。").arg(table));
+        throw RuntimeError(RuntimeError::QueryFailure, u"账本文件里没有“%1”这张表。"_s.arg(table));
     return *m_columns.insert(table, columns);
 }
 
@@ -124,7 +101,6 @@ void Session::commit() {
 
 void Session::rollBack() noexcept {
     m_deletions = {};
-    m_cache.clear();
     m_connection.rollBack();
 }
 
@@ -143,7 +119,7 @@ qint64 Session::insertRow(const QString& table, std::span<const int> ordinals, s
     for (size_t i = 0; i < values.size(); ++i)
         target.statement.bind(ordinals[i] + 2, values[i]);
     target.statement.execute();
-    if (std::ranges::any_of(values, [](const StoredValue& value) { return value.bytes.size() > kKeptBytes; }))
+    if (std::ranges::any_of(values, [](const StoredValue& value) { return value.bytes.size() > KeptBytes; }))
         target.statement.clearBindings();
     target.lastRowid = rowid;
     return rowid;
@@ -188,7 +164,6 @@ void Session::deleteRow(const QString& table, qint64 rowid) {
 }
 
 void Session::beginWriting() {
-    m_cache.clear();
     if (inTransaction())
         return;
     m_connection.begin();
@@ -199,7 +174,6 @@ void Session::forgetIfChangedElsewhere() {
     const qint64 version = m_connection.dataVersion();
     if (version == std::exchange(m_dataVersion, version))
         return;
-    m_cache.clear();
     m_columns.clear();
     for (auto& [table, target] : m_inserters)
         target.lastRowid = std::max(target.lastRowid, highestRowid(table));
@@ -219,7 +193,7 @@ void Session::flushDeletions() {
     const QByteArray everything = "DELETE FROM " + quotedName(deletions.table);
     if (isWholeTable(deletions))
         return m_connection.run(everything);
-    const size_t count = deletions.rowids.size(), batch = std::min(count, kDeletedAtOnce);
+    const size_t count = deletions.rowids.size(), batch = std::min(count, DeletedAtOnce);
     Statement statement =
         m_connection.prepare(everything + " WHERE rowid IN (" + placeholders(static_cast<qsizetype>(batch)) + ')');
     for (size_t done = 0; done < count; done += batch) {

@@ -4,13 +4,13 @@ namespace qinghe {
 
 namespace {
 
-constexpr int kShortestDateAndBlank = 8; // "100-1-1 "
+constexpr int ShortestDateAndBlank = 8; // "100-1-1 "
 
 /// The text form of a date column: the ISO text without the zeros that pad year, month, day and hour. As long as the
 /// hour can not be among the first `length` characters it is left alone.
 QByteArray dateTextSql(const QByteArray& column, int length) {
     const QByteArray date = "replace(" + column + ",'-0','-')";
-    return "ltrim(" + (length > kShortestDateAndBlank ? "replace(" + date + ",' 0',' ')" : date) + ",'0')";
+    return "ltrim(" + (length > ShortestDateAndBlank ? "replace(" + date + ",' 0',' ')" : date) + ",'0')";
 }
 
 } // namespace

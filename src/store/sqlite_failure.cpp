@@ -12,6 +12,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct FailureRow {
@@ -20,7 +22,7 @@ struct FailureRow {
     QStringView text; ///< %1 is the file
 };
 
-constexpr std::array kFailures{
+constexpr std::array Failures{
     FailureRow{SQLITE_READONLY_DBMOVED, RuntimeError::StoreFailure,
                u"账本文件“%1”在使用中被移走或换掉了，请重新启动程序。"},
     FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure,
@@ -38,24 +40,24 @@ constexpr std::array kFailures{
 };
 
 /// A copy that was made while the program did not run, and was put here while it runs.
-constexpr FailureRow kSpoilt{SQLITE_NOTADB, RuntimeError::StoreFailure,
-                             u"账本文件“%1”是程序关闭以后的样子，现在还不能读。请重新启动程序，启动时会恢复。"};
-constexpr FailureRow kUnknown{0, RuntimeError::StoreFailure, u"使用账本文件“%1”时出错。"};
+constexpr FailureRow Spoilt{SQLITE_NOTADB, RuntimeError::StoreFailure,
+                            u"账本文件“%1”是程序关闭以后的样子，现在还不能读。请重新启动程序，启动时会恢复。"};
+constexpr FailureRow Unknown{0, RuntimeError::StoreFailure, u"使用账本文件“%1”时出错。"};
 
 const FailureRow& rowOf(int code, const QString& path) {
     if ((code & 0xff) == SQLITE_NOTADB && headerIsSpoilt(path))
-        return kSpoilt;
+        return Spoilt;
     const auto matches = [code](const FailureRow& row) { return row.code == code || row.code == (code & 0xff); };
-    const auto found = std::ranges::find_if(kFailures, matches);
-    return found == kFailures.end() ? kUnknown : *found;
+    const auto found = std::ranges::find_if(Failures, matches);
+    return found == Failures.end() ? Unknown : *found;
 }
 
 } // namespace
 
 void throwSqliteFailure(int code, const QString& path, const QString& detail) {
     const FailureRow& row = rowOf(code, path);
-    throw RuntimeError(row.number, row.text.toString().arg(QDir::toNativeSeparators(path)) +
-                                       QStringLiteral("（%1：%2）").arg(code).arg(detail));
+    throw RuntimeError(row.number,
+                       row.text.toString().arg(QDir::toNativeSeparators(path)) + u"（%1：%2）"_s.arg(code).arg(detail));
 }
 
 } // namespace qinghe

@@ -8,21 +8,22 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr qint64 kFileHeaderSize = 100;
+constexpr qint64 FileHeaderSize = 100;
 
 void requireStoreFile(const QString& path) {
     const QFileInfo file(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (!file.isFile())
-        throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("找不到账本文件“%1”。").arg(shown));
-    if (file.size() < kFileHeaderSize) // to SQLite a file of a few bytes is a store without tables
+        throw RuntimeError(RuntimeError::FileNotFound, u"找不到账本文件“%1”。"_s.arg(shown));
+    if (file.size() < FileHeaderSize) // to SQLite a file of a few bytes is a store without tables
         throw RuntimeError(
             RuntimeError::StoreFailure,
-            QStringLiteral(
-                "“%1”是空的，或者不完整，不是账本文件。请把一份备份文件复制到这里，改成这个名字，再启动程序。")
-                .arg(shown));
+            u"“%1”是空的，或者不完整，不是账本文件。请把一份备份文件复制到这里，改成这个名字，再启动程序。"_s.arg(
+                shown));
 }
 
 /// Whether an error leaves the file and the open unit of work sound.
@@ -80,90 +81,84 @@ struct Store::Impl {
     }
 };
 
-Store::Store(ThisYear thisYear) : m(std::make_unique<Impl>(std::move(thisYear))) {}
+Store::Store(ThisYear thisYear) : m_impl(std::make_unique<Impl>(std::move(thisYear))) {}
 Store::~Store() = default;
 
 void Store::use(const QString& path) {
-    if (path == m->path)
+    if (path == m_impl->path)
         return;
     close();
-    m->path = path;
+    m_impl->path = path;
 }
 
 const QString& Store::path() const {
-    return m->path;
+    return m_impl->path;
 }
 
-std::shared_ptr<const ResultSet> Store::fetch(const QString& source) {
-    return m->run([&](Session& session) { return session.fetch(source); });
+std::shared_ptr<ResultSet> Store::fetch(const QString& source) {
+    return m_impl->run([&](Session& session) { return session.fetch(source); });
 }
 
 size_t Store::rest() {
-    return m->open ? m->open->rest() : 0;
+    return m_impl->open ? m_impl->open->rest() : 0;
 }
 
 bool Store::inTransaction() const {
-    return m->open && m->open->inTransaction();
+    return m_impl->open && m_impl->open->inTransaction();
 }
 
 void Store::commit() {
     if (inTransaction())
-        m->run([](Session& session) { session.commit(); });
+        m_impl->run([](Session& session) { session.commit(); });
 }
 
 void Store::close() {
     try {
         commit();
     } catch (const RuntimeError&) {
-        m->drop();
+        m_impl->drop();
         throw;
     }
-    m->drop();
+    m_impl->drop();
 }
 
 int Store::generation() const {
-    return m->generation;
+    return m_impl->generation;
 }
 
 const ThisYear& Store::thisYear() const {
-    return m->thisYear;
+    return m_impl->thisYear;
 }
 
 bool Store::isCurrent(int generation) {
-    m->dropIfMoved();
-    return generation == m->generation;
+    m_impl->dropIfMoved();
+    return generation == m_impl->generation;
 }
 
 void Store::requireGeneration(int generation) {
     if (!isCurrent(generation))
-        throw RuntimeError(RuntimeError::StoreFailure,
-                           QStringLiteral("账本文件在这期间关闭或换掉了，原来读出的记录不能再用。"));
+        throw RuntimeError(RuntimeError::StoreFailure, u"账本文件在这期间关闭或换掉了，原来读出的记录不能再用。"_s);
 }
 
 std::shared_ptr<const ResultSet> Store::fetchAgain(const ResultShape& shape, qint64 first, qint64 last) {
-    return m->run([&](Session& session) { return session.fetchAgain(shape, first, last); });
-}
-
-void Store::restLater(const std::shared_ptr<ResultSet>& rows) {
-    if (m->open)
-        m->open->restLater(rows);
+    return m_impl->run([&](Session& session) { return session.fetchAgain(shape, first, last); });
 }
 
 qint64 Store::insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values) {
-    return m->run([&](Session& session) { return session.insertRow(table, ordinals, values); });
+    return m_impl->run([&](Session& session) { return session.insertRow(table, ordinals, values); });
 }
 
 void Store::updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
                       std::span<const StoredValue> values) {
-    m->run([&](Session& session) { session.updateRow(table, rowid, ordinals, values); });
+    m_impl->run([&](Session& session) { session.updateRow(table, rowid, ordinals, values); });
 }
 
 void Store::deleteRow(const QString& table, qint64 rowid) {
-    m->run([&](Session& session) { session.deleteRow(table, rowid); });
+    m_impl->run([&](Session& session) { session.deleteRow(table, rowid); });
 }
 
 const TableColumns& Store::columns(const QString& table) {
-    return m->run([&](Session& session) -> const TableColumns& { return session.columns(table); });
+    return m_impl->run([&](Session& session) -> const TableColumns& { return session.columns(table); });
 }
 
 } // namespace qinghe

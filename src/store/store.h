@@ -39,9 +39,9 @@ public:
     void use(const QString& path);
     const QString& path() const;
 
-    /// Runs a source (a table name or one SELECT of the dialect) and gives all its rows. A repeated source is answered
-    /// from the last result as long as nothing has been written since, by us or by another process.
-    std::shared_ptr<const ResultSet> fetch(const QString& source);
+    /// Runs a source (a table name or one SELECT of the dialect) and gives all its rows. The store keeps no result: the
+    /// same source is hardly ever run twice in a handler, and between handlers nothing would be left of it.
+    std::shared_ptr<ResultSet> fetch(const QString& source);
 
     /// Between handlers: lets go what was read. Results forget their values but for sums, groups and distinct ones;
     /// their rows keep their identities, and a value that is asked for later is read again. Gives about how many bytes
@@ -69,8 +69,6 @@ public:
     void requireGeneration(int generation);
     /// The stored rows between two identities, in the shape of a plain result.
     std::shared_ptr<const ResultSet> fetchAgain(const ResultShape& shape, qint64 first, qint64 last);
-    /// Lets a result that did not come from fetch rest like the others.
-    void restLater(const std::shared_ptr<ResultSet>& rows);
     /// Inserts a row and gives its identity. `values` stand beside the named columns; other columns stay NULL.
     qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
     void updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
@@ -81,7 +79,7 @@ public:
 
 private:
     struct Impl;
-    std::unique_ptr<Impl> m;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace qinghe

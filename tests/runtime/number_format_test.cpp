@@ -6,6 +6,8 @@
 #include <limits>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 struct Formatted {
@@ -24,7 +26,7 @@ TEST(FormatNumber, ShowsTwoPlacesAndNoZeroBeforeThePoint) {
         {0, u".00"},          {0.5, u".50"},          {-0.5, u"-.50"}, {1, u"1.00"},           {10, u"10.00"},
         {1234.5, u"1234.50"}, {-1234.5, u"-1234.50"}, {0.07, u".07"},  {100000, u"100000.00"},
     };
-    expectFormatted(table, u"##.00"_qs);
+    expectFormatted(table, u"##.00"_s);
 }
 
 TEST(FormatNumber, RoundsHalfAwayFromZeroOnTheDecimalText) {
@@ -33,17 +35,17 @@ TEST(FormatNumber, RoundsHalfAwayFromZeroOnTheDecimalText) {
         {0.005, u".01"},     {0.004999, u".00"}, {0.994, u".99"},  {0.995, u"1.00"},  {9.995, u"10.00"},
         {99.995, u"100.00"}, {2.3449, u"2.34"},  {8.345, u"8.35"}, {-0.005, u"-.01"},
     };
-    expectFormatted(table, u"##.00"_qs);
+    expectFormatted(table, u"##.00"_s);
 }
 
 TEST(FormatNumber, HasNoSignForWhatRoundsToNothing) {
     const Formatted table[] = {{-0.001, u".00"}, {-0.0049, u".00"}, {-0.0, u".00"}, {1e-300, u".00"}};
-    expectFormatted(table, u"##.00"_qs);
+    expectFormatted(table, u"##.00"_s);
 }
 
 TEST(FormatNumber, ShowsASinglesOwnValue) {
-    EXPECT_EQ(formatNumber(double(1234567.89F), u"##.00"_qs), u"1234567.88");
-    EXPECT_EQ(formatNumber(double(0.1F), u"##.00"_qs), u".10");
+    EXPECT_EQ(formatNumber(double(1234567.89F), u"##.00"_s), u"1234567.88");
+    EXPECT_EQ(formatNumber(double(0.1F), u"##.00"_s), u".10");
 }
 
 TEST(FormatNumber, FillsLargeNumbersWithZerosBehindFifteenDigits) {
@@ -53,33 +55,33 @@ TEST(FormatNumber, FillsLargeNumbersWithZerosBehindFifteenDigits) {
         {999999999999999, u"999999999999999.00"},
         {1234567890123456, u"1234567890123460.00"},
     };
-    expectFormatted(table, u"##.00"_qs);
+    expectFormatted(table, u"##.00"_s);
 }
 
 TEST(FormatNumber, WritesAVeryLargeNumberOutAndRefusesWhatIsBeyondAll) {
-    EXPECT_EQ(formatNumber(1e300, u"##.00"_qs), u'1' + QString(300, u'0') + u".00"_qs);
-    EXPECT_THROW(formatNumber(std::numeric_limits<double>::infinity(), u"##.00"_qs), RuntimeError);
+    EXPECT_EQ(formatNumber(1e300, u"##.00"_s), u'1' + QString(300, u'0') + u".00"_s);
+    EXPECT_THROW(formatNumber(std::numeric_limits<double>::infinity(), u"##.00"_s), RuntimeError);
 }
 
 TEST(FormatNumber, KeepsTheTextBehindThePattern) {
     const Formatted table[] = {{0.5, u".50元"}, {0, u".00元"}, {1250.5, u"1250.50元"}, {-3, u"-3.00元"}};
-    expectFormatted(table, u"##.00元"_qs);
-    EXPECT_EQ(formatNumber(1, u"##.00 元#0"_qs), u"1.00 元#0");
+    expectFormatted(table, u"##.00元"_s);
+    EXPECT_EQ(formatNumber(1, u"##.00 元#0"_s), u"1.00 元#0");
 }
 
 TEST(FormatNumber, PutsAZeroWhereThePatternDemandsOne) {
     const Formatted table[] = {{0, u"0.00元"}, {0.5, u"0.50元"}, {-0.5, u"-0.50元"}, {12, u"12.00元"}};
-    expectFormatted(table, u"0.00元"_qs);
-    EXPECT_EQ(formatNumber(7, u"000"_qs), u"007");
-    EXPECT_EQ(formatNumber(7, u"#00"_qs), u"07");
-    EXPECT_EQ(formatNumber(7, u"0#"_qs), u"07");
-    EXPECT_EQ(formatNumber(2.5, u"0"_qs), u"3");
+    expectFormatted(table, u"0.00元"_s);
+    EXPECT_EQ(formatNumber(7, u"000"_s), u"007");
+    EXPECT_EQ(formatNumber(7, u"#00"_s), u"07");
+    EXPECT_EQ(formatNumber(7, u"0#"_s), u"07");
+    EXPECT_EQ(formatNumber(2.5, u"0"_s), u"3");
 }
 
 TEST(FormatNumber, LeavesOutOptionalPlacesBehindThePoint) {
-    EXPECT_EQ(formatNumber(2.5, u"0.0##"_qs), u"2.5");
-    EXPECT_EQ(formatNumber(2, u"0.0##"_qs), u"2.0");
-    EXPECT_EQ(formatNumber(2.3456, u"0.0##"_qs), u"2.346");
+    EXPECT_EQ(formatNumber(2.5, u"0.0##"_s), u"2.5");
+    EXPECT_EQ(formatNumber(2, u"0.0##"_s), u"2.0");
+    EXPECT_EQ(formatNumber(2.3456, u"0.0##"_s), u"2.346");
 }
 
 } // namespace

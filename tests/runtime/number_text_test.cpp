@@ -131,8 +131,8 @@ TEST(LeadingNumber, ReadsATextAsFarAsItIsANumber) {
 }
 
 TEST(LeadingNumber, IsZeroForATextWithNoNumberAtItsHead) {
-    for (const QString& text : {u""_qs, u" "_qs, u"元12"_qs, u"."_qs, u"-"_qs, u"+."_qs, u"E5"_qs, u"１２"_qs, u"¥5"_qs,
-                                u"nan"_qs, u"inf"_qs, u"#5"_qs})
+    for (const QString& text :
+         {u""_s, u" "_s, u"元12"_s, u"."_s, u"-"_s, u"+."_s, u"E5"_s, u"１２"_s, u"¥5"_s, u"nan"_s, u"inf"_s, u"#5"_s})
         EXPECT_EQ(leadingNumber(text), 0) << text.toStdString();
 }
 
@@ -156,9 +156,9 @@ TEST(LeadingNumber, ReadsAnExponentOnlyWhenItHasDigits) {
 }
 
 TEST(LeadingNumber, OverflowsBeyondTheRangeOfADouble) {
-    EXPECT_EQ(leadingNumber(u"1E308"_qs), 1e308);
+    EXPECT_EQ(leadingNumber(u"1E308"_s), 1e308);
     for (const QString& text :
-         {u"1E309"_qs, u"-1E309"_qs, u"1E99999999999"_qs, QString(400, u'9'), QString(400, u'9') + u"E-9"_qs}) {
+         {u"1E309"_s, u"-1E309"_s, u"1E99999999999"_s, QString(400, u'9'), QString(400, u'9') + u"E-9"_s}) {
         try {
             leadingNumber(text);
             ADD_FAILURE() << text.toStdString();
@@ -170,10 +170,10 @@ TEST(LeadingNumber, OverflowsBeyondTheRangeOfADouble) {
 }
 
 TEST(LeadingNumber, IsZeroForANumberTooSmallForADouble) {
-    const QString tiny = u"0."_qs + QString(400, u'0') + u"1"_qs;
-    for (const QString& text : {tiny, u'-' + tiny, tiny + u"E"_qs, tiny + u"E+2"_qs, u"1E-400"_qs})
+    const QString tiny = u"0."_s + QString(400, u'0') + u"1"_s;
+    for (const QString& text : {tiny, u'-' + tiny, tiny + u"E"_s, tiny + u"E+2"_s, u"1E-400"_s})
         EXPECT_EQ(leadingNumber(text), 0) << text.toStdString();
-    EXPECT_EQ(leadingNumber(tiny + u"E+402"_qs), 10);
+    EXPECT_EQ(leadingNumber(tiny + u"E+402"_s), 10);
 }
 
 TEST(LeadingNumber, ReadsBackWhatEveryTextFormWrites) {
@@ -228,13 +228,13 @@ TEST(FullNumber, ReadsPlainDigitsAsTheMachineDoes) {
 
 TEST(FullNumber, RefusesATextThatIsNoNumberAsAWhole) {
     for (const QString& text :
-         {u""_qs,     u" "_qs,    u"12元"_qs,     u"1.2.3"_qs, u"0-3"_qs, u"12+"_qs,  u"12-"_qs,   u"-"_qs,  u"."_qs,
-          u"¥"_qs,    u"--5"_qs,  u"-¥-5"_qs,     u"¥¥5"_qs,   u"1 2"_qs, u",5"_qs,   u"1.2,3"_qs, u"1E"_qs, u"E5"_qs,
-          u"１２"_qs, u"True"_qs, u"2024-5-3"_qs, u"inf"_qs,   u"nan"_qs, u"0x10"_qs, u"1E309"_qs, u"12a"_qs}) {
+         {u""_s,     u" "_s,    u"12元"_s,     u"1.2.3"_s, u"0-3"_s, u"12+"_s,  u"12-"_s,   u"-"_s,  u"."_s,
+          u"¥"_s,    u"--5"_s,  u"-¥-5"_s,     u"¥¥5"_s,   u"1 2"_s, u",5"_s,   u"1.2,3"_s, u"1E"_s, u"E5"_s,
+          u"１２"_s, u"True"_s, u"2024-5-3"_s, u"inf"_s,   u"nan"_s, u"0x10"_s, u"1E309"_s, u"12a"_s}) {
         EXPECT_EQ(fullNumber(text), std::nullopt) << text.toStdString();
         EXPECT_FALSE(isNumeric(text)) << text.toStdString();
     }
-    EXPECT_TRUE(isNumeric(u"12"_qs));
+    EXPECT_TRUE(isNumeric(u"12"_s));
 }
 
 } // namespace

@@ -6,10 +6,12 @@
 #include <type_traits>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const DateValue kDay{QDate(2024, 5, 3), {}};
-const Value kBinary(QByteArray("\x00\xff", 2));
+const DateValue Day{QDate(2024, 5, 3), {}};
+const Value Binary(QByteArray("\x00\xff", 2));
 
 template<typename Action>
 void expectMismatch(Action action, const QString& atFault) {
@@ -42,13 +44,13 @@ TEST(Value, HasATextForEveryKindButBinary) {
         {Value(7), u"7"},
         {Value(true), u"True"},
         {Value(false), u"False"},
-        {Value(kDay), u"2024-5-3"},
+        {Value(Day), u"2024-5-3"},
         {Value(qint64(1) << 60), u"1152921504606846976"},
-        {Value(DateValue{kDay.day, QTime(8, 5, 9)}), u"2024-5-3 8:05:09"},
+        {Value(DateValue{Day.day, QTime(8, 5, 9)}), u"2024-5-3 8:05:09"},
     };
     for (const auto& [value, text] : table)
         EXPECT_EQ(value.text(), text);
-    expectMismatch([] { kBinary.text(); }, u"二进制"_qs);
+    expectMismatch([] { Binary.text(); }, u"二进制"_s);
 }
 
 TEST(Value, ReadsAsANumber) {
@@ -60,11 +62,11 @@ TEST(Value, ReadsAsANumber) {
 }
 
 TEST(Value, IsNoNumberWhenItIsNullOrAnyOtherText) {
-    expectMismatch([] { Value().number(); }, u"空值"_qs);
-    expectMismatch([] { Value(u"12元").number(); }, u"12元"_qs);
-    expectMismatch([] { Value(u"").number(); }, u"“”"_qs);
-    expectMismatch([] { Value(kDay).number(); }, u"2024-5-3"_qs);
-    expectMismatch([] { kBinary.number(); }, u"二进制数据"_qs);
+    expectMismatch([] { Value().number(); }, u"空值"_s);
+    expectMismatch([] { Value(u"12元").number(); }, u"12元"_s);
+    expectMismatch([] { Value(u"").number(); }, u"“”"_s);
+    expectMismatch([] { Value(Day).number(); }, u"2024-5-3"_s);
+    expectMismatch([] { Binary.number(); }, u"二进制数据"_s);
 }
 
 TEST(Value, IsTrueForTrueAndEveryNumberButZero) {
@@ -76,23 +78,23 @@ TEST(Value, IsTrueForTrueAndEveryNumberButZero) {
 }
 
 TEST(Value, IsNeitherTrueNorFalseForOtherTextsAndKinds) {
-    expectMismatch([] { Value(u"是").truth(); }, u"是"_qs);
-    expectMismatch([] { Value(u"").truth(); }, u"“”"_qs);
-    expectMismatch([] { Value(kDay).truth(); }, u"2024-5-3"_qs);
-    expectMismatch([] { kBinary.truth(); }, u"二进制数据"_qs);
+    expectMismatch([] { Value(u"是").truth(); }, u"是"_s);
+    expectMismatch([] { Value(u"").truth(); }, u"“”"_s);
+    expectMismatch([] { Value(Day).truth(); }, u"2024-5-3"_s);
+    expectMismatch([] { Binary.truth(); }, u"二进制数据"_s);
 }
 
 TEST(Value, GivesTheBytesOfABinaryValue) {
-    EXPECT_EQ(kBinary.bytes(), QByteArray("\x00\xff", 2));
+    EXPECT_EQ(Binary.bytes(), QByteArray("\x00\xff", 2));
     EXPECT_EQ(Value().bytes(), QByteArray());
-    expectMismatch([] { Value(u"字").bytes(); }, u"字"_qs);
-    expectMismatch([] { Value(1).bytes(); }, u"1"_qs);
+    expectMismatch([] { Value(u"字").bytes(); }, u"字"_s);
+    expectMismatch([] { Value(1).bytes(); }, u"1"_s);
 }
 
 TEST(Value, HoldsTextUnlessNullOrEmpty) {
     EXPECT_FALSE(Value().holdsText());
     EXPECT_FALSE(Value(u"").holdsText());
-    for (const Value& value : {Value(u" "), Value(0), Value(false), Value(0.0), Value(kDay)})
+    for (const Value& value : {Value(u" "), Value(0), Value(false), Value(0.0), Value(Day)})
         EXPECT_TRUE(value.holdsText()) << value.text().toStdString();
 }
 
@@ -100,7 +102,7 @@ TEST(Value, EqualsAValueOfTheSameKindAndContent) {
     EXPECT_EQ(Value(1), Value(qint64(1)));
     EXPECT_NE(Value(1), Value(1.0));
     EXPECT_NE(Value(), Value(u""));
-    EXPECT_EQ(Value(kDay), Value(kDay));
+    EXPECT_EQ(Value(Day), Value(Day));
 }
 
 TEST(Value, TakesNoPointerForABoolean) {

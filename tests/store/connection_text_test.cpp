@@ -15,9 +15,8 @@ TEST(ProgramFile, AddsASeparatorUnlessTheFolderEndsInOne) {
 }
 
 TEST(ConnectionText, NamesProviderAndFile) {
-    EXPECT_EQ(connectionText(u"C:\\记账"_s, false),
-              u"provider = microsoft.jet.oledb.4.0;data source=C:\\记账\\data.dll"_s);
-    EXPECT_EQ(connectionText(u"C:\\"_s, true), u"provider = microsoft.jet.oledb.4.0;data source=C:\\data.dll "_s);
+    EXPECT_EQ(connectionText(u"C:\\记账"_s), u"provider = microsoft.jet.oledb.4.0;data source=C:\\记账\\data.dll "_s);
+    EXPECT_EQ(connectionText(u"C:\\"_s), u"provider = microsoft.jet.oledb.4.0;data source=C:\\data.dll "_s);
 }
 
 TEST(DataSource, IsAllThatStandsBehindTheMarkButTheBlanksAtItsEnd) {
@@ -58,10 +57,10 @@ TEST(ConnectionText, LeadsToTheFileInFoldersWithOddNames) {
         const QString folder = parent.filePath(name);
         ASSERT_TRUE(QDir().mkpath(folder));
         createStore(folder + u"/data.dll"_s);
-        Store store;
-        Adodc control(store, u"Adodc1"_s);
-        for (const bool blank : {true, false}) {
-            control.setConnectionString(connectionText(folder, blank));
+        const QString text = connectionText(folder);
+        for (const QString& same : {text, text.chopped(1)}) {
+            Store store;
+            Adodc control(store, u"Adodc1"_s, same);
             EXPECT_EQ(control.open(u"yhb"_s).recordCount(), 0) << name;
             EXPECT_EQ(store.path(), folder + u"/data.dll"_s);
         }
@@ -88,8 +87,7 @@ TEST(SystemPath, MeansTheFileInUseWhereTwoFoldersWouldDo) {
     for (const QString& folder : {plain, odd}) {
         Store store;
         store.use(folder + u"/data.dll"_s);
-        Adodc control(store, u"Adodc1"_s);
-        control.setConnectionString(connectionText(folder, true));
+        Adodc control(store, u"Adodc1"_s, connectionText(folder));
         control.open(u"yhb"_s);
         EXPECT_EQ(store.path(), folder + u"/data.dll"_s);
     }

@@ -22,9 +22,9 @@ protected:
     }
 };
 
-constexpr auto kReadOnly = QFile::ReadOwner | QFile::ReadUser;
-constexpr auto kWritable = kReadOnly | QFile::WriteOwner | QFile::WriteUser;
-constexpr auto kEnter = QFile::ExeOwner | QFile::ExeUser;
+constexpr auto ReadOnly = QFile::ReadOwner | QFile::ReadUser;
+constexpr auto Writable = ReadOnly | QFile::WriteOwner | QFile::WriteUser;
+constexpr auto Enter = QFile::ExeOwner | QFile::ExeUser;
 
 TEST_F(DamagedFile, MissingFileIsNamedAndNotMade) {
     ASSERT_TRUE(QFile::remove(path()));
@@ -33,8 +33,8 @@ TEST_F(DamagedFile, MissingFileIsNamedAndNotMade) {
 }
 
 TEST_F(DamagedFile, MissingFolderIsNamed) {
-    control.setConnectionString(connectionText(folder.filePath(u"没有"_s), true));
-    EXPECT_EQ(opening(u"没有"_s), RuntimeError::FileNotFound);
+    control.setConnectionString(connectionText(folder.filePath(u"没有"_s)));
+    EXPECT_EQ(errorOf([&] { control.refresh(); }, u"没有"_s), RuntimeError::FileNotFound);
 }
 
 TEST_F(DamagedFile, FolderInItsPlaceIsNoFile) {
@@ -153,7 +153,7 @@ TEST_F(DamagedFile, FileCopiedOverAfterClosingIsReadAnew) {
 
 TEST_F(DamagedFile, FileThatMayNotBeWrittenIsRefusedBeforeTheFirstRow) {
     const testing::AsOrdinaryUser user({folder.path(), path()});
-    ASSERT_TRUE(QFile::setPermissions(path(), kReadOnly));
+    ASSERT_TRUE(QFile::setPermissions(path(), ReadOnly));
     EXPECT_EQ(errorOf([&] { healHeader(path()); }, u"权限"_s), RuntimeError::PathFileAccess);
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
     EXPECT_EQ(errorOf([&] { addIncome(u"2024-5-3"_s, u"甲"_s, 1); }, u"权限"_s), RuntimeError::PathFileAccess);
@@ -168,7 +168,7 @@ TEST_F(DamagedFile, FileThatMayNotBeReadIsRefused) {
 
 TEST_F(DamagedFile, FolderThatMayNotBeWrittenHoldsTheWorkBack) {
     const testing::AsOrdinaryUser user({folder.path(), path()});
-    ASSERT_TRUE(QFile::setPermissions(folder.path(), kReadOnly | kEnter));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), ReadOnly | Enter));
     EXPECT_EQ(errorOf(
                   [&] {
                       addIncome(u"2024-5-3"_s, u"甲"_s, 1);
@@ -177,7 +177,7 @@ TEST_F(DamagedFile, FolderThatMayNotBeWrittenHoldsTheWorkBack) {
                   u"权限"_s),
               RuntimeError::PathFileAccess);
     EXPECT_FALSE(store.inTransaction());
-    ASSERT_TRUE(QFile::setPermissions(folder.path(), kWritable | kEnter));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), Writable | Enter));
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.close();

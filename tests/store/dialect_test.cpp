@@ -35,7 +35,7 @@ struct Reading {
 };
 
 // Every query that the program sends, with the texts that it joins in.
-const std::vector<Reading> kReadings{
+const std::vector<Reading> Readings{
     {u"srb"_s, u" from srb"_s},
     {u" nzcb"_s, u" from nzcb"_s},
     {u"登陆用户记录表"_s, u" from 登陆用户记录表"_s},
@@ -72,7 +72,7 @@ const std::vector<Reading> kReadings{
 };
 
 TEST(Dialect, UnderstandsWhatTheProgramSends) {
-    for (const Reading& reading : kReadings)
+    for (const Reading& reading : Readings)
         EXPECT_EQ(normal(reading.source), reading.understood) << reading.source;
 }
 
@@ -97,7 +97,7 @@ struct Refusal {
     QString named; ///< what the error's text points at
 };
 
-const std::vector<Refusal> kRefusals{
+const std::vector<Refusal> Refusals{
     {u""_s, u"表名"_s},
     {u"   "_s, u"表名"_s},
     {u"srb; delete from srb"_s, u"; delete"_s},
@@ -138,7 +138,7 @@ const std::vector<Refusal> kRefusals{
 };
 
 TEST(Dialect, RefusesEverythingElseAndPointsAtIt) {
-    for (const Refusal& refusal : kRefusals)
+    for (const Refusal& refusal : Refusals)
         EXPECT_EQ(errorOf([&] { parsedQuery(refusal.source); }, refusal.named), RuntimeError::QueryFailure)
             << refusal.source;
 }

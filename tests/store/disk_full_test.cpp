@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 namespace qinghe {
 namespace {
 
-constexpr int kRows = 150;
+constexpr int Rows = 150;
 
 class DiskFull : public StoreTest, public testing::WithParamInterface<bool> {
 protected:
@@ -16,17 +16,17 @@ protected:
 };
 
 TEST_P(DiskFull, AtAnyWriteOfASaveLeavesTheOldTableOrTheNewOne) {
-    rewriteTable(store, control, u"0"_s, kRows);
+    rewriteTable(store, control, u"0"_s, Rows);
     int failures = 0;
     for (bool failed = true; failed; ++failures) {
-        const QString before = markOfTable(control, kRows);
+        const QString before = markOfTable(control, Rows);
         const QString mark = QString::number(failures + 1);
         failing_disk::fillUpAfter(failures, once());
-        const int error = errorOf([&] { rewriteTable(store, control, mark, kRows); });
+        const int error = errorOf([&] { rewriteTable(store, control, mark, Rows); });
         EXPECT_FALSE(store.inTransaction());
         failed = failing_disk::makeSpace();
         EXPECT_EQ(error, failed ? RuntimeError::DiskFull : 0);
-        EXPECT_EQ(markOfTable(control, kRows), error ? before : mark) << "after write " << failures;
+        EXPECT_EQ(markOfTable(control, Rows), error ? before : mark) << "after write " << failures;
         if (::testing::Test::HasFailure())
             return;
     }
@@ -56,13 +56,13 @@ TEST_P(DiskFull, InASaveLargerThanTheMemoryKeptForItLeavesTheOldTable) {
 }
 
 TEST_P(DiskFull, LeavesTheStoreUsableOnceThereIsSpace) {
-    rewriteTable(store, control, u"旧"_s, kRows);
+    rewriteTable(store, control, u"旧"_s, Rows);
     failing_disk::fillUpAfter(5, once());
-    EXPECT_EQ(errorOf([&] { rewriteTable(store, control, u"新"_s, kRows); }, u"data.dll"_s), RuntimeError::DiskFull);
+    EXPECT_EQ(errorOf([&] { rewriteTable(store, control, u"新"_s, Rows); }, u"data.dll"_s), RuntimeError::DiskFull);
     failing_disk::makeSpace();
-    rewriteTable(store, control, u"新"_s, kRows);
+    rewriteTable(store, control, u"新"_s, Rows);
     store.close();
-    EXPECT_EQ(markOfTable(control, kRows), u"新"_s);
+    EXPECT_EQ(markOfTable(control, Rows), u"新"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(OnceAndLasting, DiskFull, testing::Bool());

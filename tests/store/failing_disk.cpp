@@ -15,7 +15,7 @@ namespace qinghe::failing_disk {
 
 namespace {
 
-constexpr int kNever = -1;
+constexpr int Never = -1;
 using Bytes = std::string;
 
 Bytes contentOf(const std::string& path) {
@@ -62,20 +62,20 @@ struct File {
 };
 
 struct Disk {
-    int healthyWrites = kNever;
+    int healthyWrites = Never;
     bool once = false;
     bool writeFailed = false;
-    int healthyChanges = kNever;
+    int healthyChanges = Never;
     bool dead = false;
     std::map<std::string, File> files;
     std::mt19937 chance{1};
 
-    bool remembering() const { return healthyChanges != kNever; }
+    bool remembering() const { return healthyChanges != Never; }
 
     bool isFull() {
-        if (healthyWrites == kNever || healthyWrites-- > 0)
+        if (healthyWrites == Never || healthyWrites-- > 0)
             return false;
-        healthyWrites = once ? kNever : 0;
+        healthyWrites = once ? Never : 0;
         return writeFailed = true;
     }
     bool isDead() {
@@ -157,7 +157,7 @@ int forward(sqlite3_file* file, Arguments... arguments) {
 }
 
 using Methods = sqlite3_io_methods;
-constexpr Methods kMethods{
+constexpr Methods ShimMethods{
     1,
     closeFile,
     forward<&Methods::xRead>,
@@ -184,7 +184,7 @@ int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int*
     open->real = reinterpret_cast<sqlite3_file*>(open + 1);
     open->path = nullptr;
     const int result = beneath->xOpen(beneath, name, open->real, flags, flagsOut);
-    open->base.pMethods = open->real->pMethods ? &kMethods : nullptr;
+    open->base.pMethods = open->real->pMethods ? &ShimMethods : nullptr;
     if (result == SQLITE_OK)
         open->path = new std::string(name ? name : "");
     return result;
@@ -223,7 +223,7 @@ void fillUpAfter(int healthyWrites, bool once) {
 }
 
 bool makeSpace() {
-    disk.healthyWrites = kNever;
+    disk.healthyWrites = Never;
     return disk.writeFailed;
 }
 
@@ -240,7 +240,7 @@ bool restorePower() {
         if (file.exists)
             std::ofstream(path, std::ios::binary) << file.content;
     }
-    disk.healthyChanges = kNever;
+    disk.healthyChanges = Never;
     return std::exchange(disk.dead, false);
 }
 

@@ -24,11 +24,11 @@ protected:
     }
 };
 
-const QByteArray kHealed("\x01\x00", 2);
-const QByteArray kSpoiled("\x00\x00", 2);
+const QByteArray Healed("\x01\x00", 2);
+const QByteArray Spoiled("\x00\x00", 2);
 
 TEST_F(Header, OfANewFileIsHealed) {
-    EXPECT_EQ(mark(), kHealed);
+    EXPECT_EQ(mark(), Healed);
     EXPECT_EQ(fileBytes().first(1), "S");
     EXPECT_EQ(fileBytes().mid(3, 13), QByteArray("ite format 3\0", 13));
 }
@@ -36,13 +36,13 @@ TEST_F(Header, OfANewFileIsHealed) {
 TEST_F(Header, StaysHealedWhenRowsAreWritten) {
     addIncome(u"2024-5-3"_s, u"工资"_s, 100);
     store.commit();
-    EXPECT_EQ(mark(), kHealed);
+    EXPECT_EQ(mark(), Healed);
 }
 
 TEST_F(Header, SpoilingAndHealingChangeTwoBytesOnly) {
     const QByteArray before = fileBytes();
     spoilHeader(path());
-    EXPECT_EQ(mark(), kSpoiled);
+    EXPECT_EQ(mark(), Spoiled);
     EXPECT_EQ(fileBytes().mid(3), before.mid(3));
     healHeader(path());
     EXPECT_EQ(fileBytes(), before);
@@ -107,7 +107,7 @@ TEST_F(Header, OfAPlainFileIsReadAndBecomesOursWithTheFirstWrite) {
     EXPECT_EQ(mark(), "QL");
     addIncome(u"2024-5-3"_s, u"工资"_s, 100);
     store.commit();
-    EXPECT_EQ(mark(), kHealed);
+    EXPECT_EQ(mark(), Healed);
 }
 
 TEST_F(Header, TogglesMakeNoFile) {
@@ -130,7 +130,7 @@ TEST_F(Header, TogglesLeaveAFileThatIsTooShortAsItIs) {
     }
     setFileBytes("SQL");
     healHeader(path());
-    EXPECT_EQ(fileBytes(), "S" + kHealed);
+    EXPECT_EQ(fileBytes(), "S" + Healed);
 }
 
 TEST_F(Header, ShimOffersNoWriteAheadLog) {

@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 namespace qinghe {
 namespace {
 
-constexpr int kRows = 2000;
-constexpr int kKills = 120;
+constexpr int Rows = 2000;
+constexpr int Kills = 120;
 
 class Kill : public StoreTest {
 protected:
@@ -25,9 +25,8 @@ protected:
         if (child != 0)
             return child;
         Store own;
-        Adodc adodc(own, u"Adodc1"_s);
-        adodc.setConnectionString(connectionText(folder.path(), true));
-        for (int round = 0; errorOf([&] { rewriteTable(own, adodc, name + QString::number(round), kRows); }) == 0;)
+        Adodc adodc(own, u"Adodc1"_s, connectionText(folder.path()));
+        for (int round = 0; errorOf([&] { rewriteTable(own, adodc, name + QString::number(round), Rows); }) == 0;)
             ++round;
         _exit(1);
     }
@@ -35,13 +34,13 @@ protected:
 
 TEST_F(Kill, AtAnyMomentLeavesTheOldTableOrTheNewOne) {
     const auto start = std::chrono::steady_clock::now();
-    rewriteTable(store, control, u"begin"_s, kRows);
+    rewriteTable(store, control, u"begin"_s, Rows);
     const auto oneRewriting = std::chrono::steady_clock::now() - start;
     std::mt19937 chance(1);
     std::uniform_real_distribution<double> moments(0, 2.5);
     int interrupted = 0;
     int rewritten = 0;
-    for (int i = 0; i < kKills; ++i) {
+    for (int i = 0; i < Kills; ++i) {
         store.close();
         const QString name = u"%1-"_s.arg(i);
         const pid_t child = startRewriting(name);
@@ -52,12 +51,12 @@ TEST_F(Kill, AtAnyMomentLeavesTheOldTableOrTheNewOne) {
         ASSERT_EQ(waitpid(child, &status, 0), child);
         ASSERT_TRUE(WIFSIGNALED(status)) << "the child gave up by itself";
         interrupted += QFile::exists(path() + u"-journal"_s);
-        rewritten += markOfTable(control, kRows).startsWith(name);
+        rewritten += markOfTable(control, Rows).startsWith(name);
         EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
         ASSERT_FALSE(HasFailure()) << "after kill " << i;
     }
-    EXPECT_GT(rewritten, kKills / 10);   // the moments did fall among the rewritings,
-    EXPECT_GT(interrupted, kKills / 10); // and inside them
+    EXPECT_GT(rewritten, Kills / 10);   // the moments did fall among the rewritings,
+    EXPECT_GT(interrupted, Kills / 10); // and inside them
     EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s);
 }
 

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 namespace qinghe {
 namespace {
 
-constexpr int kRows = 150;
+constexpr int Rows = 150;
 
 class PowerCut : public StoreTest {
 protected:
@@ -14,16 +14,16 @@ protected:
 };
 
 TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBackACommit) {
-    rewriteTable(store, control, u"0"_s, kRows);
+    rewriteTable(store, control, u"0"_s, Rows);
     int cuts = 0;
     for (bool cut = true; cut; ++cuts) {
-        const QString before = markOfTable(control, kRows);
+        const QString before = markOfTable(control, Rows);
         const QString mark = QString::number(cuts + 1);
         failing_disk::cutPowerAfter(cuts);
-        const int error = errorOf([&] { rewriteTable(store, control, mark, kRows); });
+        const int error = errorOf([&] { rewriteTable(store, control, mark, Rows); });
         store.close();
         cut = failing_disk::restorePower();
-        const QString after = markOfTable(control, kRows);
+        const QString after = markOfTable(control, Rows);
         EXPECT_TRUE(after == mark || (error && after == before)) << "after change " << cuts;
         EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
         if (::testing::Test::HasFailure())
@@ -36,10 +36,10 @@ TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBack
 TEST_F(PowerCut, RightAfterACommitTakesNothingBack) {
     for (int round = 0; round < 20; ++round) {
         failing_disk::cutPowerAfter(1'000'000);
-        rewriteTable(store, control, QString::number(round), kRows);
+        rewriteTable(store, control, QString::number(round), Rows);
         store.close();
         failing_disk::restorePower();
-        EXPECT_EQ(markOfTable(control, kRows), QString::number(round));
+        EXPECT_EQ(markOfTable(control, Rows), QString::number(round));
         store.close();
     }
 }

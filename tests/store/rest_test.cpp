@@ -1,4 +1,3 @@
-#include "store/result_set.h"
 #include "store/store_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -165,14 +164,6 @@ TEST_F(Rest, NothingIsReadAgainFromAClosedFile) {
     EXPECT_EQ(fresh.field(0).text(), u"1"_s);
     EXPECT_EQ(errorOf([&] { set.field(0).text(); }), RuntimeError::StoreFailure);
     EXPECT_EQ(set.recordCount(), 2);
-}
-
-TEST_F(Rest, ResultsAreNoLongerRemembered) {
-    store.use(path());
-    const std::weak_ptr<const ResultSet> remembered = store.fetch(u"srb"_s);
-    EXPECT_FALSE(remembered.expired());
-    store.rest();
-    EXPECT_TRUE(remembered.expired());
 }
 
 TEST_F(Rest, TellsHowMuchWasLetGo) {

@@ -18,7 +18,7 @@ QChar letterOf(ColumnKind kind) {
     return declaredType(kind) == u"BLOB"_s ? u'B' : declaredType(kind) == u"BOOLEAN"_s ? u'?' : declaredType(kind)[0];
 }
 
-const std::vector<Expected> kExpected{
+const std::vector<Expected> ExpectedTables{
     {u"srb"_s, u"编号,时间,项目,收款人,金额,账户,备注,区别"_s, u"TDTTNTTI"_s},
     {u"zcb"_s, u"编号,时间,项目,付款人,金额,账户,备注,区别"_s, u"TDTTNTTI"_s},
     {u"jrb"_s, u"账户,日期,借入金额,已还金额,余额,借出人,借给人,备注,区别"_s, u"TDNNNTTTI"_s},
@@ -45,8 +45,8 @@ const std::vector<Expected> kExpected{
 class Schema : public StoreTest {};
 
 TEST_F(Schema, HasEveryTableWithItsColumnsInOrder) {
-    ASSERT_EQ(schemaTables().size(), kExpected.size());
-    for (const Expected& expected : kExpected) {
+    ASSERT_EQ(schemaTables().size(), ExpectedTables.size());
+    for (const Expected& expected : ExpectedTables) {
         QStringList names;
         QString kinds;
         for (const Column& column : (control.open(expected.table), store.columns(expected.table))) {
@@ -59,7 +59,7 @@ TEST_F(Schema, HasEveryTableWithItsColumnsInOrder) {
 }
 
 TEST_F(Schema, RecordsetOfATableHasItsColumnsInOrder) {
-    for (const Expected& expected : kExpected) {
+    for (const Expected& expected : ExpectedTables) {
         Recordset& set = control.open(expected.table);
         QStringList names;
         for (int i = 0; i < set.fieldCount(); ++i)

@@ -66,8 +66,6 @@ const QByteArray& freshFile() {
 
 StoreTest::StoreTest() {
     setFileBytes(freshFile());
-    control.setConnectionString(connectionText(folder.path(), true));
-    second.setConnectionString(connectionText(folder.path(), false));
 }
 
 QByteArray StoreTest::fileBytes() const {

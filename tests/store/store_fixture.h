@@ -14,6 +14,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 /// The number of the run-time error that `action` throws, 0 when it throws none. The error's text must hold `named`.
 int errorOf(const std::function<void()>& action, const QString& named = {});
 
@@ -36,7 +38,7 @@ class StoreTest : public testing::Test {
 protected:
     StoreTest();
 
-    QString path() const { return folder.filePath(QStringLiteral("data.dll")); }
+    QString path() const { return folder.filePath(u"data.dll"_s); }
     QByteArray fileBytes() const;
     void setFileBytes(const QByteArray& bytes) const;
     /// Adds a row through `control` to its open recordset.
@@ -48,8 +50,8 @@ protected:
 
     QTemporaryDir folder;
     Store store{[] { return 2024; }};
-    Adodc control{store, QStringLiteral("Adodc1")};
-    Adodc second{store, QStringLiteral("Adodc2")};
+    Adodc control{store, u"Adodc1"_s, connectionText(folder.path())};
+    Adodc second{store, u"Adodc2"_s, connectionText(folder.path()).chopped(1)}; // names the same file
 };
 
 } // namespace qinghe

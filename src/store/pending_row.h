@@ -1,0 +1,35 @@
+#pragma once
+
+#include "store/stored_value.h"
+
+#include <optional>
+#include <vector>
+
+namespace qinghe {
+
+/// What was set in a row of a recordset and is not stored yet: a new row, or changed fields of the current one. Values
+/// are those that the columns hold; who sets them has converted them.
+class PendingRow {
+public:
+    explicit PendingRow(int columns) : m_values(static_cast<size_t>(columns)) {}
+
+    bool isNew() const { return m_new; }
+    bool isEmpty() const { return !m_new && !m_edited; }
+    void begin() { m_new = true; }
+    void set(int column, const Value& value);
+    void clear();
+
+    /// What was set in a column.
+    const std::optional<Value>& value(int column) const { return m_values[static_cast<size_t>(column)]; }
+    /// The columns in which something was set.
+    std::vector<int> columns() const;
+    /// The values of all columns as they are stored; NULL where nothing was set.
+    std::vector<StoredValue> stored() const;
+
+private:
+    std::vector<std::optional<Value>> m_values; ///< by column
+    bool m_new = false;
+    bool m_edited = false;
+};
+
+} // namespace qinghe
