@@ -6,11 +6,11 @@ namespace qinghe {
 
 PressTracker::~PressTracker() {
     if (isLast())
-        s_last = nullptr;
+        lastPressed = nullptr;
 }
 
 void PressTracker::press(const QMouseEvent& event) {
-    s_last = this;
+    lastPressed = this;
     m_at.reset();
     if (event.button() == Qt::LeftButton)
         m_at = event.position().toPoint();

@@ -27,10 +27,10 @@ public:
 
     /// Whether the last press that was followed anywhere began here. The second press of a double click that began
     /// elsewhere is nobody's: by then another control may lie under the pointer, such as the box over a cell.
-    bool isLast() const { return s_last == this; }
+    bool isLast() const { return lastPressed == this; }
 
 private:
-    static inline const PressTracker* s_last = nullptr;
+    static inline const PressTracker* lastPressed = nullptr;
 
     std::optional<QPoint> m_at; ///< in the control's pixels
 };

@@ -118,10 +118,10 @@ void paintPlain(const QStyleOption& option, QPainter& painter, const Label& labe
     const QFont font = fontFor(label.role());
     const QColor colour = wordsColour(option, label, label.role() == Role::Help ? colour::Ink2 : colour::Ink);
     const QString words = label.Caption();
-    const bool long_ = QFontMetrics(font).horizontalAdvance(words) > option.rect.width() || words.contains(u'\n');
+    const bool tooLong = QFontMetrics(font).horizontalAdvance(words) > option.rect.width() || words.contains(u'\n');
     if (label.role() == Role::PlanList)
         paintRunning(painter, option.rect, words, font, colour);
-    else if (long_ && option.rect.height() >= 2 * linePitch(font))
+    else if (tooLong && option.rect.height() >= 2 * linePitch(font))
         paintRunning(painter, option.rect, words, font, colour, Qt::AlignVCenter);
     else
         paintLine(painter, option.rect, label.alignment(), words, font, colour);

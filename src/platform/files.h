@@ -22,8 +22,8 @@ void writeAll(const QString& path, const QByteArray& bytes);
 void writeOver(const QString& path, const QByteArray& bytes);
 /// Reads the whole file. FileNotFound, PathFileAccess.
 QByteArray readAll(const QString& path);
-/// Opens the file as binary files are opened, which makes a missing one, empty, and is meant to; reads the whole of it.
-/// PathNotFound, PathFileAccess.
+/// Opens the file as binary files are opened, for writing as well, so that one that is missing is made, empty, and
+/// stays; reads the whole of it. PathNotFound, PathFileAccess.
 QByteArray readAllOrMake(const QString& path);
 /// Deletes the files that a pattern with "*" and "?" names, hidden ones included; finding none is harmless.
 void deleteMatching(const QString& folder, const QString& pattern);

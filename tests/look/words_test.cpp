@@ -1,8 +1,8 @@
 #include "controls/controls.h"
 #include "look/colours.h"
 #include "look/fonts.h"
-#include "look/running_text.h"
 #include "look/label_painter.h"
+#include "look/running_text.h"
 #include "rendering.h"
 
 #include <QPainter>

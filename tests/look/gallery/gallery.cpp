@@ -146,7 +146,7 @@ private:
             }
             grid->setAmountColumns({3});
             for (int row = 1; row < grid->Rows(); ++row) {
-                grid->setTextMatrix(row, 1, u"06%1"_s.arg(row, 2, 10, u'0'));
+                grid->setTextMatrix(row, 1, u"06%1"_s.arg(row, 2, 10, QChar(u'0')));
                 grid->setTextMatrix(row, 2, u"2024-6-%1"_s.arg(row));
                 grid->setTextMatrix(row, 3, row == 2 ? u"123456789012.85"_s : u"%1.5"_s.arg(row * 137));
                 grid->setTextMatrix(row, 4, u"五月工资，含全勤"_s);

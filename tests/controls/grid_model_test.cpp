@@ -1,5 +1,6 @@
 #include "controls/grid_model.h"
 #include "qt_printing.h"
+#include "runtime/runtime_error.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,27 @@ TEST(GridModel, RowsThatWentUnannouncedShowNothing) {
     model.resize(2, 1);
     EXPECT_EQ(shown(model, 2, 0), QString());
     EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).isValid());
+}
+
+TEST(GridModel, RefusesRowsAndColumnsThatAreNotThere) {
+    GridModel model(nullptr);
+    model.resize(3, 4);
+    const auto refused = [](const auto& call) {
+        try {
+            call();
+        } catch (const RuntimeError& error) {
+            return error.number() == RuntimeError::SubscriptOutOfRange;
+        }
+        return false;
+    };
+    EXPECT_TRUE(refused([&] { model.cell(3, 0); }));
+    EXPECT_TRUE(refused([&] { model.setCell(0, 4, u"甲"_s); }));
+    EXPECT_TRUE(refused([&] { model.rowTexts(-1); }));
+    EXPECT_TRUE(refused([&] { model.isEmpty(0, -1); }));
+    EXPECT_TRUE(refused([&] { model.firstEmpty(1, 1, 5); }));
+    EXPECT_TRUE(refused([&] { model.resize(0, 4); }));
+    EXPECT_TRUE(refused([&] { model.resize(3, 0); }));
+    EXPECT_FALSE(refused([&] { model.firstEmpty(1, 1, 4); }));
 }
 
 } // namespace
