@@ -12,8 +12,6 @@ class AccountsPage : public GridPage {
 public:
     explicit AccountsPage(MainWindow& window);
 
-    void Form2_Label6_Click() { open(PageCode::Accounts); }
-
 protected:
     void moved() override;
 };

@@ -11,8 +11,6 @@ class BudgetPage : public GridPage {
 
 public:
     explicit BudgetPage(MainWindow& window);
-
-    void Form2_Label5_Click() { open(PageCode::Budget); }
 };
 
 } // namespace qinghe

@@ -12,8 +12,6 @@ class UsersPage : public GridPage {
 
 public:
     explicit UsersPage(MainWindow& window);
-
-    void Form2_Label4_Click() { open(PageCode::Users); }
 };
 
 } // namespace qinghe

@@ -1,5 +1,6 @@
 #include "store/schema.h"
 
+#include "store/column.h"
 #include "store/connection.h"
 #include "store/migrations.h"
 #include "store/sql_text.h"
@@ -7,10 +8,21 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace qinghe {
 
 namespace {
+
+struct SchemaColumn {
+    QStringView name;
+    ColumnKind kind;
+};
+
+struct SchemaTable {
+    QStringView name;
+    std::span<const SchemaColumn> columns; ///< in ordinal order
+};
 
 using enum ColumnKind;
 
@@ -121,15 +133,12 @@ QByteArray indexSql(const SchemaIndex& index) {
 
 } // namespace
 
-std::span<const SchemaTable> schemaTables() {
-    return Tables;
-}
-
 void createStore(const QString& path) {
     Connection connection = Connection::made(path);
     connection.begin();
     std::ranges::for_each(Tables, [&](const SchemaTable& table) { connection.run(tableSql(table)); });
     std::ranges::for_each(Indexes, [&](const SchemaIndex& index) { connection.run(indexSql(index)); });
+    std::ranges::for_each(Migrations, [&](const Migration& step) { step.run(connection); });
     connection.setVersion(CurrentVersion);
     connection.commit();
 }

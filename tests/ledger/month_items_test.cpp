@@ -44,7 +44,7 @@ TEST_F(MonthItemsTest, AskTheStatisticsTableInTheseWords) {
     EXPECT_EQ(adodc3().recordSource(),
               u"select 项目,sum(金额)as 总金额 from sztjlsb where 时间= '2024-10' group by 项目");
     EXPECT_EQ(adodc2().recordSource(), u"select sum(金额) as 总金额 from sztjlsb where 时间= '2024-10'");
-    EXPECT_TRUE(adodc3().connectionString().endsWith("data.dll"_L1)); // and no blank, on this side alone
+    EXPECT_TRUE(adodc3().connectionString().endsWith("data.dll "_L1));
     EXPECT_TRUE(adodc2().connectionString().endsWith("data.dll "_L1));
     open(1);
     showItems();

@@ -134,24 +134,5 @@ TEST_F(MonthStatisticsTest, SaveTheBareTableAfterTheyWereLookedAt) {
     EXPECT_EQ(stored(u"时间, 项目, 金额"_s), before);
 }
 
-TEST_F(MonthStatisticsTest, AskNothingAndCaptionNothingForASideThatIsNeither) {
-    storeHousehold();
-    open();
-    showPeople();
-    const QString label = total(), source = adodc3().recordSource();
-    rig.sql(u"delete from sztjlsb"_s);
-    const Int16 neither = 2;
-    MonthStatistics statistics(rig.mainWindow(), ms2(), rig.onMain<Label>(u"Label10"_s), neither);
-    handlers::enter([&] { statistics.showItems(); });
-    EXPECT_EQ(total(), label);
-    EXPECT_EQ(adodc3().recordSource(), source);
-    EXPECT_EQ(row(0), u"收款人|项目");                                                     // as it stood
-    EXPECT_EQ(rows(), (QStringList{u"利息|.50"_s, u"工资|1234.50"_s, u"工资|8000.00"_s})); // of the query before
-    handlers::enter([&] { statistics.showPeople(); });
-    EXPECT_EQ(total(), label);
-    EXPECT_EQ(rows(), QStringList{u"利息|.50|"_s}); // that set had come to its end
-    EXPECT_FALSE(rig.ended());
-}
-
 } // namespace
 } // namespace qinghe::testing

@@ -62,7 +62,7 @@ TEST_P(OldVersion, HasAllItsRows) {
         {u"nzcb"_s, u"2024-5-|35.9|1"_s},
         {u"sztjlsb"_s, u"2024-5-|35.8|买菜|1|小禾"_s}};
     for (const auto& [table, texts] : first)
-        EXPECT_EQ(row(table), texts) << table;
+        EXPECT_TRUE(row(table).startsWith(texts)) << row(table); // columns of later versions stand behind
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 3);
     EXPECT_EQ(row(u"srb"_s, 2), u"B2|2024-12-31|奖金|老周|1000|现金|NULL|2"_s);
     EXPECT_EQ(row(u"srb"_s, 3), u"NULL|NULL|NULL|NULL|NULL|NULL|NULL|3"_s);
@@ -72,14 +72,12 @@ TEST_P(OldVersion, HasAllItsRows) {
 }
 
 TEST_P(OldVersion, HasTheTablesOfANewFile) {
-    for (const SchemaTable& table : schemaTables()) {
-        QStringList had, made;
-        for (const Column& column : (control.open(table.name.toString()), store.columns(table.name.toString())))
-            had += column.name + u' ' + declaredType(column.kind);
-        for (const SchemaColumn& column : table.columns)
-            made += column.name.toString() + u' ' + declaredType(column.kind);
-        EXPECT_EQ(had, made) << table.name;
-    }
+    const QString fresh = folder.filePath(u"new.data"_s);
+    createStore(fresh);
+    control.open(u"srb"_s); // brings it up to date
+    const QString tables = u"select s.name, c.name, c.type from sqlite_schema s, pragma_table_info(s.name) c "
+                           "where s.type = 'table' order by s.name, c.cid"_s;
+    EXPECT_EQ(OtherProgram(path()).rows(tables), OtherProgram(fresh).rows(tables));
 }
 
 TEST_P(OldVersion, IsSavedIntoLikeAnyOther) {
@@ -103,9 +101,9 @@ TEST_P(OldVersion, IsHealedWhereItsProgramHasEnded) {
 INSTANTIATE_TEST_SUITE_P(Delivered, OldVersion, testing::Range(FirstVersion, CurrentVersion + 1),
                          [](const auto& version) { return "Number" + std::to_string(version.param); });
 
-/// The only version so far needs no step.
-TEST_F(StoreTest, AFileOfTheFirstVersionIsNotWrittenToBeRead) {
-    OtherProgram(path()).run(u"PRAGMA user_version = 0"_s);
+TEST_F(StoreTest, AFileOfThisVersionIsNotWrittenToBeRead) {
+    if (CurrentVersion == FirstVersion) // whose files bear no number
+        OtherProgram(path()).run(u"PRAGMA user_version = 0"_s);
     const QByteArray before = fileBytes();
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
     store.close();

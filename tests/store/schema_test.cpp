@@ -45,7 +45,8 @@ const std::vector<Expected> ExpectedTables{
 class Schema : public StoreTest {};
 
 TEST_F(Schema, HasEveryTableWithItsColumnsInOrder) {
-    ASSERT_EQ(schemaTables().size(), ExpectedTables.size());
+    const QString count = u"select count(*) from sqlite_schema where type = 'table'"_s;
+    EXPECT_EQ(OtherProgram(path()).row(count), QString::number(ExpectedTables.size()));
     for (const Expected& expected : ExpectedTables) {
         QStringList names;
         QString kinds;
