@@ -84,13 +84,13 @@ void runSteps(Connection& connection, int version, std::span<const Migration> st
 } // namespace
 
 void requireKnownVersion(const QString& path) {
-    constexpr qsizetype numberAt = 60;
+    constexpr qsizetype NumberAt = 60;
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return;
-    const QByteArray head = file.read(numberAt + 4);
-    if (head.size() == numberAt + 4 && head.startsWith('S') && head.sliced(3, 13) == QByteArray("ite format 3\0", 13))
-        versionOf(qFromBigEndian<qint32>(head.constData() + numberAt), path, CurrentVersion);
+    const QByteArray head = file.read(NumberAt + 4);
+    if (head.size() == NumberAt + 4 && head.startsWith('S') && head.sliced(3, 13) == QByteArray("ite format 3\0", 13))
+        versionOf(qFromBigEndian<qint32>(head.constData() + NumberAt), path, CurrentVersion);
 }
 
 void bringUpToDate(Connection& connection, std::span<const Migration> steps) {
