@@ -18,13 +18,13 @@ struct Written {
 
 /// What a Chinese keyboard writes for the digits and marks of a date, as the plain one.
 QChar plain(QChar c) {
-    constexpr char16_t fullWidthFirst = 0xFF01, fullWidthLast = 0xFF5E, fullWidthOffset = 0xFEE0;
-    constexpr char16_t fullWidthBlank = 0x3000;
+    constexpr char16_t FullWidthFirst = 0xFF01, FullWidthLast = 0xFF5E, FullWidthOffset = 0xFEE0;
+    constexpr char16_t FullWidthBlank = 0x3000;
     const char16_t code = c.unicode();
-    if (code >= fullWidthFirst && code <= fullWidthLast)
-        return QChar(static_cast<char16_t>(code - fullWidthOffset));
+    if (code >= FullWidthFirst && code <= FullWidthLast)
+        return QChar(static_cast<char16_t>(code - FullWidthOffset));
     switch (code) {
-    case fullWidthBlank:
+    case FullWidthBlank:
         return u' ';
     case u'。':
         return u'.';
@@ -91,9 +91,9 @@ struct ReadDay {
 /// The year that is meant by one of three or four digits, or of two: 00 to 29 are 2000 to 2029, the others before
 /// 2000. 0 when it is none.
 int yearOf(const Written& year) {
-    constexpr int century = 100, lastOfTwoDigits = 29;
+    constexpr int Century = 100, LastOfTwoDigits = 29;
     if (year.digits == 2)
-        return year.value + (year.value <= lastOfTwoDigits ? 20 : 19) * century;
+        return year.value + (year.value <= LastOfTwoDigits ? 20 : 19) * Century;
     return year.digits > 2 && year.value >= FirstYear ? year.value : 0;
 }
 
@@ -126,9 +126,9 @@ std::optional<ReadDay> readWords(Scanner& scanner, const Written& first, bool is
 }
 
 std::optional<ReadDay> readDay(Scanner& scanner, const ThisYear& thisYear) {
-    constexpr int allDigits = 8; // 20240503
-    const Written first = scanner.written(1, allDigits);
-    if (first.digits == allDigits && first.value / 10000 >= FirstYear)
+    constexpr int AllDigits = 8; // 20240503
+    const Written first = scanner.written(1, AllDigits);
+    if (first.digits == AllDigits && first.value / 10000 >= FirstYear)
         return validDay(first.value / 10000, first.value / 100 % 100, first.value % 100);
     const auto separator = scanner.takeAny(u"-/.年月");
     if (!separator || first.digits > 4)
@@ -270,13 +270,13 @@ std::optional<DateValue> parseDate(const QString& text, const ThisYear& thisYear
 }
 
 std::optional<DateValue> parseIsoDate(const QString& iso) {
-    constexpr qsizetype dayLength = 10;
+    constexpr qsizetype DayLength = 10;
     const QStringView text = iso;
-    const auto read = isoDay(text.left(dayLength));
+    const auto read = isoDay(text.left(DayLength));
     if (!read)
         return std::nullopt;
-    const QTime time = isoTime(text.mid(dayLength));
-    if (text.size() > dayLength && !time.isValid())
+    const QTime time = isoTime(text.mid(DayLength));
+    if (text.size() > DayLength && !time.isValid())
         return std::nullopt;
     return DateValue{QDate(read->year, read->month, read->day), time};
 }

@@ -32,8 +32,8 @@ QString generalText(Number value, int digits) {
 /// The same text for a double that is a whole number of hundredths, as amounts are; they need no search for digits.
 /// A decimal of at most 15 digits that reads as the double is its text. Nothing for others.
 std::optional<QString> amountText(double value) {
-    constexpr double most = 1e13;
-    if (!(std::abs(value) < most))
+    constexpr double Most = 1e13;
+    if (!(std::abs(value) < Most))
         return std::nullopt;
     const double hundredths = std::nearbyint(value * 100);
     if (hundredths / 100 != value)

@@ -39,9 +39,9 @@ void Connection::Closer::operator()(sqlite3* database) const {
 }
 
 sqlite3* Connection::opened(const QString& path) {
-    constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    constexpr int Flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
     sqlite3* handle = nullptr;
-    int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, headerVfsName());
+    int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, Flags, headerVfsName());
     std::unique_ptr<sqlite3, Closer> database(handle);
     if (code == SQLITE_OK) {
         sqlite3_busy_timeout(handle, BusyTimeoutMs);

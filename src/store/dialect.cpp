@@ -18,11 +18,11 @@ struct Token {
 };
 
 [[noreturn]] void throwRefusal(QStringView source, qsizetype at, const QString& problem) {
-    constexpr qsizetype shown = 40;
+    constexpr qsizetype Shown = 40;
     const QStringView rest = source.mid(at);
     QString text = u"查询无法执行："_s + problem;
     if (!rest.trimmed().isEmpty())
-        text += u"，问题出在“%1”处"_s.arg(rest.left(shown));
+        text += u"，问题出在“%1”处"_s.arg(rest.left(Shown));
     text += u'。';
     if (source.contains(u'\''))
         text += u"用于查询的文字里不能有英文单引号（'）。"_s;

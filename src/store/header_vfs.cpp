@@ -110,8 +110,8 @@ const char* registered() {
 } // namespace
 
 const char* headerVfsName() {
-    static const char* const name = registered();
-    return name;
+    static const char* const Registered = registered();
+    return Registered;
 }
 
 } // namespace qinghe

@@ -21,31 +21,30 @@ constexpr int LastVersion = 9999; ///< beyond it a number is no version but dama
 
 /// Gives the version that a number in the file stands for.
 int versionOf(int number, const QString& path, int newest) {
-    const QString shown = QDir::toNativeSeparators(path);
+    const QString shown = QDir::toNativeSeparators(path), told = QString::number(number);
     if (number < 0 || number > LastVersion)
         throw RuntimeError(
             RuntimeError::StoreFailure,
-            u"“%1”的版本号是 %2，不是账本的版本号，文件可能已经损坏。请改用一份备份文件。"_s.arg(shown).arg(number));
+            u"“%1”的版本号是 %2，不是账本的版本号，文件可能已经损坏。请改用另一份备份文件。"_s.arg(shown, told));
     if (number > newest)
         throw RuntimeError(RuntimeError::StoreFailure,
                            u"“%1”是第 %2 版的账本，这个程序只能读到第 %3 版。请安装新版的程序，再使用它。"
-                           u"账本没有改动。"_s.arg(shown)
-                               .arg(number)
-                               .arg(newest));
+                           u"账本没有改动。"_s.arg(shown, told, QString::number(newest)));
     return std::max(number, FirstVersion);
 }
 
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+/// Whether both can be read and hold the same bytes.
+bool holdTheSame(const QString& one, const QString& other) {
+    QFile first(one), second(other);
+    return first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) && first.readAll() == second.readAll();
 }
 
-/// A name beside the file that is free, or that a file of the same content bears.
-QString nameForCopy(const QString& path, int version, const QByteArray& content) {
+/// A name beside the file that is free, or that a copy of the same content bears already.
+QString nameForCopy(const QString& path, int version, const QString& copy) {
     const QFileInfo file(path);
-    const QString base = file.dir().filePath(u"%1.版本%2"_s.arg(file.completeBaseName()).arg(version));
+    const QString base = file.dir().filePath(u"%1.版本%2"_s.arg(file.completeBaseName(), QString::number(version)));
     QString name = base + u".dat"_s;
-    for (int number = 2; QFileInfo::exists(name) && contentOf(name) != content; ++number)
+    for (int number = 2; QFileInfo::exists(name) && !holdTheSame(name, copy); ++number)
         name = base + u"-%1.dat"_s.arg(number);
     return name;
 }
@@ -61,7 +60,7 @@ void keepCopy(Connection& connection, int version) {
     removeUnfinished();
     try {
         connection.copyTo(unfinished);
-        const QString name = nameForCopy(connection.path(), version, contentOf(unfinished));
+        const QString name = nameForCopy(connection.path(), version, unfinished);
         if (!QFileInfo::exists(name) && !QFile::rename(unfinished, name))
             throw RuntimeError(RuntimeError::PathFileAccess,
                                u"无法写入文件“%1”。"_s.arg(QDir::toNativeSeparators(name)));
@@ -84,13 +83,13 @@ void runSteps(Connection& connection, int version, std::span<const Migration> st
 } // namespace
 
 void requireKnownVersion(const QString& path) {
-    constexpr qsizetype numberAt = 60;
+    constexpr qsizetype NumberAt = 60;
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return;
-    const QByteArray head = file.read(numberAt + 4);
-    if (head.size() == numberAt + 4 && head.startsWith('S') && head.sliced(3, 13) == QByteArray("ite format 3\0", 13))
-        versionOf(qFromBigEndian<qint32>(head.constData() + numberAt), path, CurrentVersion);
+    const QByteArray head = file.read(NumberAt + 4);
+    if (head.size() == NumberAt + 4 && head.startsWith('S') && head.sliced(3, 13) == QByteArray("ite format 3\0", 13))
+        versionOf(qFromBigEndian<qint32>(head.constData() + NumberAt), path, CurrentVersion);
 }
 
 void bringUpToDate(Connection& connection, std::span<const Migration> steps) {

@@ -55,8 +55,7 @@ struct Recordset::Impl {
     void storeAddedRow() {
         const std::vector<StoredValue> values = pending.stored();
         const qint64 identity = store.insertRow(rows.shape().table, rows.shape().ordinals, values);
-        if (cursor.count() ==
-            0) { // a save has deleted all: places need not be counted around the deleted rows for ever
+        if (cursor.count() == 0) { // a save has deleted all: places are no longer counted around the deleted rows
             rows.clear();
             cursor.clear();
         }

@@ -20,7 +20,7 @@ struct StoredRow {
 /// The rows of a recordset, which keep their identities, and their values only as long as the handler lasts
 /// (Store::rest): a value that is asked for later is read again, with those of the rows behind it. Without it a page
 /// would hold its list twice, in the grid and here: 0.6 MB for a book of ten years, 22 MB for 100,000 rows. Reading all
-/// of them again costs a tenth more than reading them did.
+/// of them again costs a quarter more than reading them did.
 class RestingRows {
 public:
     RestingRows(Store& store, std::shared_ptr<ResultSet> rows);

@@ -40,16 +40,16 @@ constexpr std::array Failures{
 };
 
 /// A copy that was made while the program did not run, and was put here while it runs.
-constexpr FailureRow Spoilt{SQLITE_NOTADB, RuntimeError::StoreFailure,
-                            u"账本文件“%1”是程序关闭以后的样子，现在还不能读。请重新启动程序，启动时会恢复。"};
-constexpr FailureRow Unknown{0, RuntimeError::StoreFailure, u"使用账本文件“%1”时出错。"};
+constexpr FailureRow SpoiltHeader{SQLITE_NOTADB, RuntimeError::StoreFailure,
+                                  u"账本文件“%1”是程序关闭以后的样子，现在还不能读。请重新启动程序，启动时会恢复。"};
+constexpr FailureRow UnknownFailure{0, RuntimeError::StoreFailure, u"使用账本文件“%1”时出错。"};
 
 const FailureRow& rowOf(int code, const QString& path) {
     if ((code & 0xff) == SQLITE_NOTADB && headerIsSpoilt(path))
-        return Spoilt;
+        return SpoiltHeader;
     const auto matches = [code](const FailureRow& row) { return row.code == code || row.code == (code & 0xff); };
     const auto found = std::ranges::find_if(Failures, matches);
-    return found == Failures.end() ? Unknown : *found;
+    return found == Failures.end() ? UnknownFailure : *found;
 }
 
 } // namespace
