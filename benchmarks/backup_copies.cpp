@@ -7,7 +7,7 @@
 namespace qinghe::benchmarks {
 
 using namespace Qt::StringLiterals;
-using qinghe::testing::ProgramRig;
+using namespace qinghe::testing;
 
 namespace {
 
@@ -39,13 +39,13 @@ double systemCopyTime(const QString& source, const QString& target) {
 class Window {
 public:
     Window(ProgramRig& rig, const QString& option) : m_rig(rig) {
-        rig.click(rig.onMain<Label>(u"Label7"_s));
+        rig.click(rig.at(pages::Settings));
         rig.onMain<OptionButton>(option).click();
         rig.settle();
     }
     double copyTime(const QString& file) {
         m_rig.chooser->names = {file};
-        auto& start = m_rig.control<CommandButton>(u"Form13"_s, u"Command1"_s);
+        auto& start = m_rig.at(backup::Start);
         const double time = milliseconds([&] { m_rig.click(start); });
         if (!m_rig.messages->errors.empty())
             qFatal("the copy was refused");
@@ -63,7 +63,7 @@ void measureBackupCopies(Report& report) {
     lengthen(rig.dataFile());
     rig.signIn();
     const QString ours = rig.file(u"ours.dat"_s), theirs = rig.file(u"theirs.dat"_s);
-    Window backup(rig, u"Option14"_s);
+    Window backup(rig, settings::Backup);
     report.add(u"backup of 100 MB, durable, against cp and sync"_s,
                inTurn(
                    Runs,
@@ -76,7 +76,7 @@ void measureBackupCopies(Report& report) {
                        return systemCopyTime(rig.dataFile(), theirs);
                    }),
                2);
-    Window restore(rig, u"Option16"_s);
+    Window restore(rig, settings::Restore);
     report.add(u"restore of 100 MB, durable, against cp and sync"_s,
                inTurn(
                    Runs, [&] { return restore.copyTime(ours); }, [&] { return systemCopyTime(ours, theirs); }),

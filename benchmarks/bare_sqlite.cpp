@@ -7,6 +7,8 @@
 
 namespace qinghe::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::string_view NumberType = "NUMBER";
@@ -20,8 +22,8 @@ const char* textOf(sqlite3_stmt* statement, int column) {
 Bare::Bare(const QString& path, const char* vfs) {
     if (sqlite3_open_v2(QFile::encodeName(path).constData(), &m_db, SQLITE_OPEN_READWRITE, vfs) != SQLITE_OK)
         qFatal("cannot open %s", qPrintable(path));
-    run(QStringLiteral("pragma journal_mode=delete"));
-    run(QStringLiteral("pragma synchronous=extra"));
+    run(u"pragma journal_mode=delete"_s);
+    run(u"pragma synchronous=extra"_s);
 }
 
 Bare::~Bare() {
@@ -54,11 +56,11 @@ void Bare::read(const QString& sql) {
 }
 
 void openIncomeBare(Bare& db) {
-    db.run(QStringLiteral("begin immediate"));
-    db.read(QStringLiteral("select * from sztjlsb"));
-    db.run(QStringLiteral("delete from sztjlsb"));
-    sqlite3_stmt* from = db.prepare(QStringLiteral("select 时间,项目,收款人,金额 from srb order by rowid"));
-    sqlite3_stmt* to = db.prepare(QStringLiteral("insert into sztjlsb(时间,金额,项目,区别,人员) values(?,?,?,?,?)"));
+    db.run(u"begin immediate"_s);
+    db.read(u"select * from sztjlsb"_s);
+    db.run(u"delete from sztjlsb"_s);
+    sqlite3_stmt* from = db.prepare(u"select 时间,项目,收款人,金额 from srb order by rowid"_s);
+    sqlite3_stmt* to = db.prepare(u"insert into sztjlsb(时间,金额,项目,区别,人员) values(?,?,?,?,?)"_s);
     for (int n = 1; sqlite3_step(from) == SQLITE_ROW; ++n) {
         sqlite3_bind_text(to, 1, textOf(from, 0), 7, SQLITE_STATIC);
         sqlite3_bind_double(to, 2, sqlite3_column_double(from, 3));
@@ -70,16 +72,16 @@ void openIncomeBare(Bare& db) {
     }
     sqlite3_finalize(from);
     sqlite3_finalize(to);
-    db.read(QStringLiteral("select * from srb order by rowid"));
-    db.read(QStringLiteral("select sum(金额) from srb"));
-    db.read(QStringLiteral("select * from srb order by rowid"));
-    db.run(QStringLiteral("commit"));
+    db.read(u"select * from srb order by rowid"_s);
+    db.read(u"select sum(金额) from srb"_s);
+    db.read(u"select * from srb order by rowid"_s);
+    db.run(u"commit"_s);
 }
 
 Cells readCells(Bare& db, const QString& table) {
     Cells cells;
     cells.table = table;
-    sqlite3_stmt* from = db.prepare(QStringLiteral("select * from %1 order by rowid").arg(table));
+    sqlite3_stmt* from = db.prepare(u"select * from %1 order by rowid"_s.arg(table));
     cells.columns = sqlite3_column_count(from) - 1;
     for (int i = 0; i < cells.columns; ++i)
         cells.numbers.push_back(std::string_view(sqlite3_column_decltype(from, i)) == NumberType);
@@ -93,10 +95,9 @@ Cells readCells(Bare& db, const QString& table) {
 }
 
 void saveBare(Bare& db, const Cells& cells) {
-    db.run(QStringLiteral("begin immediate"));
-    db.run(QStringLiteral("delete from ") + cells.table);
-    sqlite3_stmt* to = db.prepare(
-        QStringLiteral("insert into %1 values(%2?)").arg(cells.table, QStringLiteral("?,").repeated(cells.columns)));
+    db.run(u"begin immediate"_s);
+    db.run(u"delete from "_s + cells.table);
+    sqlite3_stmt* to = db.prepare(u"insert into %1 values(%2?)"_s.arg(cells.table, u"?,"_s.repeated(cells.columns)));
     auto text = cells.texts.begin();
     for (int row = 1; row <= cells.rows; ++row) {
         for (int i = 0; i < cells.columns; ++i, ++text) {
@@ -112,15 +113,15 @@ void saveBare(Bare& db, const Cells& cells) {
         sqlite3_reset(to);
     }
     sqlite3_finalize(to);
-    db.run(QStringLiteral("commit"));
+    db.run(u"commit"_s);
 }
 
 void saveNamesBare(Bare& db, const Cells& cells, const QString& columns) {
     const auto count = static_cast<int>(columns.count(u',')) + 1;
-    db.run(QStringLiteral("begin immediate"));
-    db.run(QStringLiteral("delete from ") + cells.table);
-    sqlite3_stmt* to = db.prepare(QStringLiteral("insert into %1(%2) values(%3?)")
-                                      .arg(cells.table, columns, QStringLiteral("?,").repeated(count - 1)));
+    db.run(u"begin immediate"_s);
+    db.run(u"delete from "_s + cells.table);
+    sqlite3_stmt* to =
+        db.prepare(u"insert into %1(%2) values(%3?)"_s.arg(cells.table, columns, u"?,"_s.repeated(count - 1)));
     for (int row = 0; row < cells.rows; ++row) {
         for (int i = 0; i < count; ++i) {
             const std::string& text = cells.texts[static_cast<std::size_t>(row * cells.columns + i)];
@@ -130,15 +131,15 @@ void saveNamesBare(Bare& db, const Cells& cells, const QString& columns) {
         sqlite3_reset(to);
     }
     sqlite3_finalize(to);
-    db.run(QStringLiteral("commit"));
+    db.run(u"commit"_s);
 }
 
 void gatherMonthsBare(Bare& db) {
-    db.run(QStringLiteral("begin immediate"));
-    db.read(QStringLiteral("select * from nsrb"));
-    db.run(QStringLiteral("delete from nsrb"));
-    sqlite3_stmt* from = db.prepare(QStringLiteral("select 时间,金额 from srb order by rowid"));
-    sqlite3_stmt* to = db.prepare(QStringLiteral("insert into nsrb(时间,金额,区别) values(?,?,?)"));
+    db.run(u"begin immediate"_s);
+    db.read(u"select * from nsrb"_s);
+    db.run(u"delete from nsrb"_s);
+    sqlite3_stmt* from = db.prepare(u"select 时间,金额 from srb order by rowid"_s);
+    sqlite3_stmt* to = db.prepare(u"insert into nsrb(时间,金额,区别) values(?,?,?)"_s);
     for (int n = 1; sqlite3_step(from) == SQLITE_ROW; ++n) {
         sqlite3_bind_text(to, 1, textOf(from, 0), 7, SQLITE_STATIC);
         sqlite3_bind_double(to, 2, sqlite3_column_double(from, 1));
@@ -148,10 +149,10 @@ void gatherMonthsBare(Bare& db) {
     }
     sqlite3_finalize(from);
     sqlite3_finalize(to);
-    db.read(QStringLiteral("select * from nsrb order by rowid"));
-    db.read(QStringLiteral("select 时间,sum(金额) as 金额 from nsrb group by 时间"));
-    db.read(QStringLiteral("select 时间,sum(金额) as 金额 from nsrb group by 时间"));
-    db.run(QStringLiteral("commit"));
+    db.read(u"select * from nsrb order by rowid"_s);
+    db.read(u"select 时间,sum(金额) as 金额 from nsrb group by 时间"_s);
+    db.read(u"select 时间,sum(金额) as 金额 from nsrb group by 时间"_s);
+    db.run(u"commit"_s);
 }
 
 } // namespace qinghe::benchmarks

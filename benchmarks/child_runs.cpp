@@ -23,6 +23,8 @@ namespace qinghe::benchmarks {
 
 using namespace Qt::StringLiterals;
 
+using namespace qinghe::testing;
+
 namespace {
 
 constexpr auto ChildMark = "--child"; ///< first argument of a process that was started to be measured
@@ -82,7 +84,7 @@ void startProgram(QApplication& application, const QString& folder) {
         QApplication::installTranslator(&chinese);
     dress(application);
     Program program(servicesIn(folder));
-    Painted painted(u"Form5"_s, [] { endNow(); });
+    Painted painted(forms::SignIn, [] { endNow(); });
     program.start();
     QApplication::exec();
 }
@@ -95,12 +97,12 @@ void signIn(QApplication& application, const QString& folder, bool open) {
     program.start();
     QApplication::processEvents();
     QElapsedTimer timer;
-    Painted painted(u"Form2"_s, [&] {
+    Painted painted(forms::Main, [&] {
         if (!open) {
             std::printf("%f\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
             endNow();
         }
-        auto* label = program.shared().forms.loaded(u"Form2"_s)->findChild<Label*>(u"Label2(0)"_s);
+        auto* label = program.shared().forms.loaded(forms::Main)->findChild<Label*>(pages::Income);
         QTest::mouseClick(label, Qt::LeftButton);
         QApplication::processEvents();
         QApplication::processEvents();
@@ -108,7 +110,7 @@ void signIn(QApplication& application, const QString& folder, bool open) {
         endNow();
     });
     timer.start();
-    QTest::mouseClick(program.shared().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
+    QTest::mouseClick(program.shared().forms.loaded(forms::SignIn)->findChild<Label*>(sign_in::Enter), Qt::LeftButton);
     QApplication::exec();
 }
 
@@ -117,7 +119,7 @@ void rest(QApplication& application, const QString& folder) {
     dress(application);
     Program program(servicesIn(folder));
     program.start();
-    QTest::mouseClick(program.shared().forms.loaded(u"Form5"_s)->findChild<Label*>(u"Label1"_s), Qt::LeftButton);
+    QTest::mouseClick(program.shared().forms.loaded(forms::SignIn)->findChild<Label*>(sign_in::Enter), Qt::LeftButton);
     QTest::qWait(5000); // what the start sets off
     const std::clock_t before = std::clock();
     QTimer::singleShot(RestSeconds * 1000, &application, [before] {

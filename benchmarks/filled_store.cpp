@@ -8,17 +8,18 @@
 
 namespace qinghe::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Rows 1 to `rows` of a table in one go, their values by n.
 QString insertMany(const QString& table, const QString& values, int rows) {
-    return QStringLiteral("with recursive c(n) as (select 1 union all select n+1 from c where n<") +
-           QString::number(rows) + QStringLiteral(") insert into ") + table + QStringLiteral(" select ") + values +
-           QStringLiteral(" from c");
+    return u"with recursive c(n) as (select 1 union all select n+1 from c where n<"_s + QString::number(rows) +
+           u") insert into "_s + table + u" select "_s + values + u" from c"_s;
 }
 
 /// Some day of ten years.
-const QString Day = QStringLiteral("date('2015-01-01', '+'||(n*7919%3650)||' days')");
+const QString Day = u"date('2015-01-01', '+'||(n*7919%3650)||' days')"_s;
 
 } // namespace
 
@@ -26,29 +27,24 @@ void fillTables(const QString& dataFile, int rows) {
     healHeader(dataFile);
     {
         Bare db(dataFile, headerVfsName());
-        db.run(QStringLiteral("begin"));
-        const QString money = QStringLiteral("round(n*37%99991/7.0,2)");
+        db.run(u"begin"_s);
+        const QString money = u"round(n*37%99991/7.0,2)"_s;
         for (const char* table : {"srb", "zcb"})
             db.run(insertMany(QString::fromUtf8(table),
-                              QStringLiteral("'B'||n,%1,'项目'||(n%40),'家人'||(n%5),%2,'账户'||(n%6),"
-                                             "case when n%3 then '备注'||n end,n")
-                                  .arg(Day, money),
+                              u"'B'||n,%1,'项目'||(n%40),'家人'||(n%5),%2,'账户'||(n%6),"
+                              "case when n%3 then '备注'||n end,n"_s.arg(Day, money),
                               rows));
         for (const char* table : {"jrb", "jcb"})
             db.run(insertMany(QString::fromUtf8(table),
-                              QStringLiteral("'账户'||(n%6),%1,%2,1,%2-1,'甲','乙','备注'||n,n").arg(Day, money),
-                              rows));
-        db.run(insertMany(QStringLiteral("ysb"), QStringLiteral("%1,'预算'||(n%40),%2,'备注'||n,n").arg(Day, money),
-                          rows));
-        db.run(insertMany(QStringLiteral("zhb"),
-                          QStringLiteral("'账户'||n,%1,n%100,n%50,0,0,n%7,n%3,%1+n%53,'备注'||n,n").arg(money), rows));
+                              u"'账户'||(n%6),%1,%2,1,%2-1,'甲','乙','备注'||n,n"_s.arg(Day, money), rows));
+        db.run(insertMany(u"ysb"_s, u"%1,'预算'||(n%40),%2,'备注'||n,n"_s.arg(Day, money), rows));
+        db.run(insertMany(u"zhb"_s, u"'账户'||n,%1,n%100,n%50,0,0,n%7,n%3,%1+n%53,'备注'||n,n"_s.arg(money), rows));
         for (const char* table : {"srflb", "zcflb"}) {
-            db.run(QStringLiteral("delete from ") + QString::fromUtf8(table));
-            db.run(insertMany(QString::fromUtf8(table), QStringLiteral("'大类'||n,'细类'||n,'dm'||n"), rows));
+            db.run(u"delete from "_s + QString::fromUtf8(table));
+            db.run(insertMany(QString::fromUtf8(table), u"'大类'||n,'细类'||n,'dm'||n"_s, rows));
         }
-        db.run(insertMany(QStringLiteral("rcb"),
-                          QStringLiteral("%1,n%9,%1,'8:'||(n%60),'日程内容'||n,'音乐1',n").arg(Day), rows));
-        db.run(QStringLiteral("commit"));
+        db.run(insertMany(u"rcb"_s, u"%1,n%9,%1,'8:'||(n%60),'日程内容'||n,'音乐1',n"_s.arg(Day), rows));
+        db.run(u"commit"_s);
     }
     spoilHeader(dataFile);
 }

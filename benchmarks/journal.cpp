@@ -11,7 +11,7 @@
 namespace qinghe::benchmarks {
 
 using namespace Qt::StringLiterals;
-using qinghe::testing::ProgramRig;
+using namespace qinghe::testing;
 
 namespace {
 
@@ -42,9 +42,9 @@ void measureFinding(Report& report) {
     MSFlexGrid bareGrid(nullptr, u"bare"_s);
     bareGrid.setCols(3);
     rig.signIn();
-    rig.click(rig.onMain<Label>(u"Label8"_s));
-    auto& Option5 = rig.onMain<OptionButton>(u"Option5"_s);
-    auto& Option6 = rig.onMain<OptionButton>(u"Option6"_s);
+    rig.click(rig.at(pages::Diary));
+    auto& Option5 = rig.at(diary_page::Find);
+    auto& Option6 = rig.at(diary_page::Write);
     report.add(u"listing 10000 diary entries without their painting, against bare SQLite and a bare grid"_s,
                inTurn(
                    Runs,
@@ -58,7 +58,7 @@ void measureFinding(Report& report) {
                            [&] { listBare(bare, bareGrid, u"select 日期,日记标题 from rjb order by rowid"_s); });
                    }),
                1.6);
-    if (rig.onMain<MSFlexGrid>(u"ms8"_s).Rows() != Entries + 1 || bareGrid.Rows() != Entries + 1)
+    if (rig.at(diary_page::Grid).Rows() != Entries + 1 || bareGrid.Rows() != Entries + 1)
         qFatal("not all entries");
 }
 
@@ -76,10 +76,10 @@ void measureShowing(Report& report) {
     rig.sql(u"insert into rjb values('2024-05-03','长'),('2024-05-04','短')"_s);
     rig.signIn();
     writeDiary(rig.file(u"mydiary/长.dll"_s));
-    rig.click(rig.onMain<Label>(u"Label8"_s));
-    rig.click(rig.onMain<OptionButton>(u"Option5"_s));
-    auto& ms8 = rig.onMain<MSFlexGrid>(u"ms8"_s);
-    auto& tx8 = rig.onMain<LongTextBox>(u"tx8"_s);
+    rig.click(rig.at(pages::Diary));
+    rig.click(rig.at(diary_page::Find));
+    auto& ms8 = rig.at(diary_page::Grid);
+    auto& tx8 = rig.at(diary_page::Text);
     std::vector<double> times;
     for (int i = 0; i < Runs; ++i) {
         rig.clickCell(ms8, 1, 1); // the date shows nothing

@@ -8,7 +8,7 @@
 namespace qinghe::benchmarks {
 
 using namespace Qt::StringLiterals;
-using qinghe::testing::ProgramRig;
+using namespace qinghe::testing;
 
 namespace {
 
@@ -38,16 +38,16 @@ struct FullBook {
 
 /// A page that shows one whole table and saves it. It is opened again, so no option changes.
 struct PageOfOneTable {
-    const char16_t* name;
-    const char16_t* label;
-    const char16_t* save;
-    const char16_t* table;
+    QStringView name;
+    Name<Label> label;
+    Name<CommandButton> save;
+    QStringView table;
 };
 
 void measurePage(Report& report, FullBook& book, const PageOfOneTable& page) {
-    const QString name = QString::fromUtf16(page.name), table = QString::fromUtf16(page.table);
-    auto& label = book.rig.onMain<Label>(QString::fromUtf16(page.label));
-    auto& save = book.rig.onMain<CommandButton>(QString::fromUtf16(page.save));
+    const QString name = page.name.toString(), table = page.table.toString();
+    auto& label = book.rig.at(page.label);
+    auto& save = book.rig.at(page.save);
     const Cells cells = readCells(*book.bare, table);
     report.add(u"opening %1, 32767 rows, against bare SQLite"_s.arg(name),
                inTurn(
@@ -65,11 +65,11 @@ void measurePage(Report& report, FullBook& book, const PageOfOneTable& page) {
 
 void measureReports(Report& report, FullBook& book) {
     book.rig.clock->time = QDateTime(QDate(2024, 11, 18), QTime(20, 36, 8));
-    book.rig.click(book.rig.onMain<Label>(u"Label2(0)"_s));
+    book.rig.click(book.rig.at(pages::Income));
     book.bare->run(u"delete from sztjlsb"_s);
     book.bare->run(u"insert into sztjlsb select substr(时间,1,7),金额,项目,区别,收款人 from srb order by rowid"_s);
-    auto& Option8 = book.rig.onMain<OptionButton>(u"Option8"_s);
-    auto& Option9 = book.rig.onMain<OptionButton>(u"Option9"_s);
+    auto& Option8 = book.rig.at(income::ByItem);
+    auto& Option9 = book.rig.at(income::ByPerson);
     const QString total = u"select sum(金额) from sztjlsb where 时间= '2024-11'"_s;
     const auto turns = [&](OptionButton& option, OptionButton& other, const QString& query) {
         return inTurn(
@@ -94,10 +94,10 @@ void measureReports(Report& report, FullBook& book) {
 
 /// The categories: a list of as many majors as rows, and one major with as many minors.
 void measureCategories(Report& report, FullBook& book) {
-    auto& Option3 = book.rig.onMain<OptionButton>(u"Option3"_s);
-    auto& Option4 = book.rig.onMain<OptionButton>(u"Option4"_s);
-    book.rig.click(book.rig.onMain<Label>(u"Label7"_s));
-    book.rig.click(book.rig.onMain<CommandButton>(u"Command31"_s));
+    auto& Option3 = book.rig.at(categories::Income);
+    auto& Option4 = book.rig.at(categories::Expense);
+    book.rig.click(book.rig.at(pages::Settings));
+    book.rig.click(book.rig.at(settings::Categories));
     const QString majors = u"select distinct 收入大类 from srflb"_s;
     report.add(u"opening categories, 32767 majors, against bare SQLite"_s,
                inTurn(
@@ -115,29 +115,30 @@ void measureCategories(Report& report, FullBook& book) {
             Runs, [&] { return book.clickTime(save); },
             [&] { return milliseconds([&] { saveNamesBare(*book.bare, names, into); }); });
     };
-    report.add(u"saving 32767 majors, durable, against bare SQLite"_s, saveTimes(u"Command9"_s, u"收入大类"_s), 1.6);
+    report.add(u"saving 32767 majors, durable, against bare SQLite"_s, saveTimes(categories::SaveMajors, u"收入大类"_s),
+               1.6);
 
     book.rig.sql(u"update srflb set 收入大类='一', 收入细类='细'||rowid, 快速代码='dm'||rowid"_s);
     book.bare->run(u"update srflb set 收入大类='一', 收入细类='细'||rowid, 快速代码='dm'||rowid"_s);
     book.rig.click(Option4);
     book.rig.click(Option3);
-    auto& ms3 = book.rig.onMain<MSFlexGrid>(u"ms3"_s);
+    auto& ms3 = book.rig.at(categories::Majors);
     report.add(u"opening one major with 32767 minors, against bare SQLite"_s,
                inTurn(
                    Runs, [&] { return milliseconds([&] { book.rig.clickCell(ms3, 1, 1); }); },
                    [&] { return book.readTime({u"select * from srflb where 收入大类='一' order by rowid"_s}); }),
                1.6);
     report.add(u"saving 32767 minors, durable, against bare SQLite"_s,
-               saveTimes(u"Command12"_s, u"收入大类,收入细类"_s), 1.6);
+               saveTimes(categories::SaveMinors, u"收入大类,收入细类"_s), 1.6);
 }
 
 /// What a chart of months reads and rewrites, and one drawing of it.
 void measureCharts(Report& report, FullBook& book) {
-    auto& Option10 = book.rig.onMain<OptionButton>(u"Option10"_s);
-    auto& Option11 = book.rig.onMain<OptionButton>(u"Option11"_s);
-    auto& MSC1 = book.rig.onMain<MSChart>(u"MSC1"_s);
+    auto& Option10 = book.rig.at(charts::Accounts);
+    auto& Option11 = book.rig.at(charts::YearsIncome);
+    auto& MSC1 = book.rig.at(charts::Chart);
     book.rig.sql(u"delete from zhb where 区别 > 300"_s);
-    book.rig.click(book.rig.onMain<Label>(u"Label12"_s));
+    book.rig.click(book.rig.at(pages::Charts));
     QImage image(MSC1.size(), QImage::Format_ARGB32_Premultiplied);
     const auto drawing = [&] { return milliseconds([&] { MSC1.paintOn(image); }); };
     std::vector<double> drawings;
@@ -166,9 +167,9 @@ void measureCharts(Report& report, FullBook& book) {
 void measureLedgerPages(Report& report) {
     FullBook book;
     for (const PageOfOneTable& page : {
-             PageOfOneTable{u"loans", u"Label1", u"Command3", u"jcb"},
-             PageOfOneTable{u"accounts", u"Label6", u"Command21", u"zhb"},
-             PageOfOneTable{u"budget", u"Label5", u"Command18", u"ysb"},
+             PageOfOneTable{u"loans", pages::Loans, loans::Save, u"jcb"},
+             PageOfOneTable{u"accounts", pages::Accounts, accounts::Save, u"zhb"},
+             PageOfOneTable{u"budget", pages::Budget, budget::Save, u"ysb"},
          })
         measurePage(report, book, page);
     measureReports(report, book);

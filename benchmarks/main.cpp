@@ -17,6 +17,7 @@
 using namespace qinghe;
 using namespace qinghe::benchmarks;
 using namespace Qt::StringLiterals;
+using namespace qinghe::testing;
 
 namespace {
 
@@ -66,8 +67,8 @@ IncomeTimes incomeTimes(int rows) {
     Bare bare(rig.file(u"plain.db"_s));
     const Cells cells = readCells(bare, u"srb"_s);
     rig.signIn();
-    auto& income = rig.onMain<Label>(u"Label2(0)"_s);
-    auto& save = rig.onMain<CommandButton>(u"Command6"_s);
+    auto& income = rig.at(pages::Income);
+    auto& save = rig.at(income::Save);
     IncomeTimes times;
     times.open = inTurn(
         Runs, [&] { return milliseconds([&] { rig.click(income); }); },
@@ -107,7 +108,7 @@ void measureIncome(Report& report) {
 }
 
 struct Chapter {
-    const char16_t* name;
+    QStringView name;
     void (*measure)(Report&);
 };
 constexpr Chapter Chapters[] = {
@@ -131,7 +132,7 @@ int main(int argc, char** argv) {
     Report report;
     const QStringList wanted = QApplication::arguments().mid(1);
     for (const Chapter& chapter : Chapters)
-        if (wanted.isEmpty() || wanted.contains(QString::fromUtf16(chapter.name)))
+        if (wanted.isEmpty() || wanted.contains(chapter.name.toString()))
             chapter.measure(report);
     return report.close();
 }

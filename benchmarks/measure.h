@@ -7,6 +7,8 @@
 
 namespace qinghe::benchmarks {
 
+using namespace Qt::StringLiterals;
+
 /// How long a call takes, in ms.
 double milliseconds(const std::function<void()>& call);
 
@@ -23,7 +25,7 @@ Pair inTurn(int runs, const std::function<double()>& ours, const std::function<d
 /// Prints one line a measure, and at last how many there were and how many are over their bound.
 class Report {
 public:
-    void add(const QString& name, const Pair& figures, double bound, const QString& unit = QStringLiteral("ms"));
+    void add(const QString& name, const Pair& figures, double bound, const QString& unit = u"ms"_s);
     /// A figure that stands by itself against its bound.
     void addPlain(const QString& name, double figure, double bound);
     void note(const QString& line);

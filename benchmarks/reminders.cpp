@@ -11,7 +11,7 @@
 namespace qinghe::benchmarks {
 
 using namespace Qt::StringLiterals;
-using qinghe::testing::ProgramRig;
+using namespace qinghe::testing;
 
 namespace {
 
@@ -80,9 +80,8 @@ void measureTicks(Report& report, FullSchedule& schedule) {
         const auto reference = [&] {
             return milliseconds([&] {
                 for (int i = 0; i < Ticks; ++i)
-                    for (const char16_t* columns : {u"*", u"提醒时间,提醒音乐,日程内容"})
-                        schedule.bare->read(
-                            u"select %1 from rcb where 日程日期='%2'"_s.arg(QString::fromUtf16(columns), day));
+                    for (QStringView columns : {u"*", u"提醒时间,提醒音乐,日程内容"})
+                        schedule.bare->read(u"select %1 from rcb where 日程日期='%2'"_s.arg(columns.toString(), day));
             });
         };
         report.add(u"500 ticks with %1 plans today among 32767, against their two queries"_s.arg(plans),
@@ -111,7 +110,7 @@ void runManyDays(Report& report) {
     rig.signIn();
     rig.clock->time = QDateTime(first, QTime(0, 0)).addSecs(-1);
     MainWindow& window = rig.mainWindow();
-    auto &watch = rig.onMain<Timer>(u"Timer2"_s), &pause = rig.onMain<Timer>(u"Timer3"_s);
+    auto &watch = rig.at(schedule::Watch), &pause = rig.at(schedule::Pause);
     watch.setEnabled(true);
     const auto tick = [](Timer& timer) {
         if (timer.Enabled())
@@ -126,10 +125,10 @@ void runManyDays(Report& report) {
             tick(*window.Timer1);
             tick(watch);
             tick(pause);
-            if (Form* popup = rig.loaded(u"Form6"_s)) {
-                tick(*popup->findChild<Timer*>(u"Timer1"_s));
-                ++rung[popup->findChild<Label*>(u"Label1"_s)->Caption()];
-                popup->findChild<CommandButton*>(u"Command1"_s)->click();
+            if (Form* popup = rig.loaded(forms::Reminder)) {
+                tick(*popup->findChild<Timer*>(reminder::Clock));
+                ++rung[popup->findChild<Label*>(reminder::Plan)->Caption()];
+                popup->findChild<CommandButton*>(reminder::Understood)->click();
                 ProgramRig::settle();
                 rig.sound->calls.clear();
             }

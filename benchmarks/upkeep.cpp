@@ -9,7 +9,7 @@
 namespace qinghe::benchmarks {
 
 using namespace Qt::StringLiterals;
-using qinghe::testing::ProgramRig;
+using namespace qinghe::testing;
 
 namespace {
 
@@ -18,17 +18,17 @@ constexpr double Bound = 1.6;
 
 /// A kind of record with a date: its box in the purge window, table and column.
 struct Dated {
-    const char16_t* box;
-    const char16_t* table;
-    const char16_t* date;
+    Name<CheckBox> box;
+    QStringView table;
+    QStringView date;
 };
 constexpr std::array<Dated, 6> DatedKinds{{
-    {u"Check1(0)", u"srb", u"时间"},
-    {u"Check1(1)", u"zcb", u"时间"},
-    {u"Check1(2)", u"jrb", u"日期"},
-    {u"Check1(3)", u"jcb", u"日期"},
-    {u"Check1(5)", u"ysb", u"预算时间"},
-    {u"Check2", u"rcb", u"日程日期"},
+    {purge::Kind[0], u"srb", u"时间"},
+    {purge::Kind[1], u"zcb", u"时间"},
+    {purge::Kind[2], u"jrb", u"日期"},
+    {purge::Kind[3], u"jcb", u"日期"},
+    {purge::Kind[5], u"ysb", u"预算时间"},
+    {purge::Plans, u"rcb", u"日程日期"},
 }};
 
 /// Fills full tables, then purges all six dated kinds up to a day; each kind is one durable transaction.
@@ -36,12 +36,12 @@ double purgeTime(const QDate& last) {
     ProgramRig rig;
     fillTables(rig.dataFile(), FullTable);
     rig.signIn();
-    rig.click(rig.onMain<Label>(u"Label7"_s));
-    rig.click(rig.onMain<CheckBox>(u"Check3"_s));
+    rig.click(rig.at(pages::Settings));
+    rig.click(rig.at(settings::Purge));
     for (const Dated& kind : DatedKinds)
-        rig.click(rig.control<CheckBox>(u"Form3"_s, QString::fromUtf16(kind.box)));
-    rig.control<TextBox>(u"Form3"_s, u"Text1"_s).setBoxText(dateText(last));
-    auto& start = rig.control<CommandButton>(u"Form3"_s, u"Command1"_s);
+        rig.click(rig.at(kind.box));
+    rig.at(purge::Date).setBoxText(dateText(last));
+    auto& start = rig.at(purge::Start);
     const double time = milliseconds([&] { rig.click(start); });
     if (rig.messages->shown.size() != 1 + DatedKinds.size() || rig.lastMessage().text != u"日程记录已清空"_s)
         qFatal("the purge was not done");
@@ -57,8 +57,8 @@ double purgeTimeBare(const QDate& last) {
     return milliseconds([&] {
         for (const Dated& kind : DatedKinds) {
             bare.run(u"begin immediate"_s);
-            bare.run(u"delete from %1 where %2<='%3'"_s.arg(QString::fromUtf16(kind.table),
-                                                            QString::fromUtf16(kind.date), last.toString(Qt::ISODate)));
+            bare.run(u"delete from %1 where %2<='%3'"_s.arg(kind.table.toString(), kind.date.toString(),
+                                                            last.toString(Qt::ISODate)));
             bare.run(u"commit"_s);
         }
     });
@@ -72,8 +72,8 @@ void measurePurge(Report& report, const QString& share, const QDate& last) {
 }
 
 /// What initialising empties.
-constexpr std::array<const char16_t*, 10> InitialisedTables{u"jcb", u"jrb", u"nsrb", u"nzcb", u"rcb",
-                                                            u"rjb", u"srb", u"ysb",  u"zcb",  u"zhb"};
+constexpr std::array<QStringView, 10> InitialisedTables{u"jcb", u"jrb", u"nsrb", u"nzcb", u"rcb",
+                                                        u"rjb", u"srb", u"ysb",  u"zcb",  u"zhb"};
 
 /// Fills all that is initialised: the ledgers, the work tables of the charts, and the diary's titles.
 void fillBook(ProgramRig& rig) {
@@ -90,8 +90,8 @@ double initialiseTime() {
     ProgramRig rig;
     fillBook(rig);
     rig.signIn();
-    rig.click(rig.onMain<Label>(u"Label7"_s));
-    auto& initialise = rig.onMain<CheckBox>(u"Check4"_s);
+    rig.click(rig.at(pages::Settings));
+    auto& initialise = rig.at(settings::Initialise);
     const double time = milliseconds([&] { initialise.click(); });
     if (rig.lastMessage().text != u"初始化完毕"_s)
         qFatal("nothing was initialised");
@@ -106,8 +106,8 @@ double initialiseTimeBare() {
     bare.run(u"pragma user_version=1"_s); // brings the copy to the disk, as the other file is
     return milliseconds([&] {
         bare.run(u"begin immediate"_s);
-        for (const char16_t* table : InitialisedTables)
-            bare.run(u"delete from %1 where 1"_s.arg(QString::fromUtf16(table)));
+        for (QStringView table : InitialisedTables)
+            bare.run(u"delete from %1 where 1"_s.arg(table.toString()));
         bare.run(u"commit"_s);
     });
 }

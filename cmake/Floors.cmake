@@ -15,6 +15,20 @@ if(QINGHE_SANITIZE)
     target_link_options(qinghe_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# qinghe_precompile(<target> <header>...) compiles the headers of the libraries once for the target, and for the others that
+# take them from there with qinghe_precompiled_like(<target> <first>). Only where QINGHE_PRECOMPILE asks for it: a build
+# without shows that every file includes what it uses. No header of a floor is among them, so they open no way upward.
+function(qinghe_precompile target)
+    if(QINGHE_PRECOMPILE)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
+function(qinghe_precompiled_like target first)
+    if(QINGHE_PRECOMPILE)
+        target_precompile_headers(${target} REUSE_FROM ${first})
+    endif()
+endfunction()
+
 # AUTOMOC looks again only at the files that it knew: lets it start afresh when the list of a target's files has changed.
 function(qinghe_notice_new_files target files)
     set(known ${CMAKE_CURRENT_BINARY_DIR}/${target}_files.txt)
@@ -47,6 +61,12 @@ function(qinghe_floor name)
     file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${headers}/${name} SYMBOLIC)
     target_include_directories(${name} PUBLIC ${headers})
     target_link_libraries(${name} PUBLIC ${floor_UNPARSED_ARGUMENTS} PRIVATE qinghe_flags)
+    if(name STREQUAL "platform")
+        qinghe_precompile(platform <QtWidgets> <algorithm> <array> <cmath> <functional> <map> <memory> <optional>
+            <span> <string> <utility> <variant> <vector>)
+    elseif(TARGET platform)
+        qinghe_precompiled_like(${name} platform)
+    endif()
 endfunction()
 
 # qinghe_module(<name> <folder> <library>...) makes a module of the sources in a folder: a part that is loaded only when it

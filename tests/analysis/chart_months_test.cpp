@@ -10,20 +10,20 @@ using namespace Qt::StringLiterals;
 /// The two months' charts and what they are made of.
 struct Side {
     const char* name;
-    const char16_t* option;
-    const char16_t* ledger;
-    const char16_t* work;
-    const char16_t* caption;
-    const char16_t* sums;
+    Name<OptionButton> option;
+    QStringView ledger;
+    QStringView work;
+    QStringView caption;
+    QStringView sums;
 };
 
 class ChartMonthsTest : public ChartsTest, public ::testing::WithParamInterface<Side> {
 protected:
     ChartMonthsTest() { storeAccount(u"'现金'"_s, u"100"_s); }
 
-    QString ledger() const { return QString::fromUtf16(GetParam().ledger); }
-    QString work() const { return QString::fromUtf16(GetParam().work); }
-    void choose() { ChartsTest::choose(QString::fromUtf16(GetParam().option)); }
+    QString ledger() const { return GetParam().ledger.toString(); }
+    QString work() const { return GetParam().work.toString(); }
+    void choose() { ChartsTest::choose(GetParam().option); }
     void store(const QString& date, double amount) { ChartsTest::store(ledger(), date, u"'项'"_s, amount); }
     QStringList workRows() { return rig.sql(u"select * from %1 order by rowid"_s.arg(work())); }
 };
@@ -35,8 +35,8 @@ TEST_P(ChartMonthsTest, GiveEachMonthOfEachYearAPoint) {
     store(u"'2007-09-05'"_s, 8);
     choose();
     EXPECT_EQ(points(), u"2006-10=2 2006-9-=5 2007-9-=8"); // in the order of the key's text
-    EXPECT_EQ(caption(), QString::fromUtf16(GetParam().caption));
-    EXPECT_FALSE(rig.frame(u"Frame1"_s).Visible());
+    EXPECT_EQ(caption(), GetParam().caption.toString());
+    EXPECT_FALSE(rig.at(charts::Range).Visible());
     EXPECT_EQ(chart().places().label(1).lines, QStringList(u"2006-9"_s));
 }
 
@@ -53,8 +53,8 @@ TEST_P(ChartMonthsTest, EmptyTheWorkTableFirst) {
     choose();
     EXPECT_EQ(workRows(), QStringList(u"2024-5-|1.5|1"_s));
     store(u"'2024-06-03'"_s, 1);
-    click(u"Option10"_s);
-    click(QString::fromUtf16(GetParam().option));
+    click(charts::Accounts);
+    click(GetParam().option);
     EXPECT_EQ(workRows(), (QStringList{u"2024-5-|1.5|1"_s, u"2024-6-|1|2"_s}));
     EXPECT_EQ(points(), u"2024-5-=1.5 2024-6-=1");
 }
@@ -84,7 +84,7 @@ TEST_P(ChartMonthsTest, LeaveTheirSumsInTheSecondControl) {
     store(u"'2024-05-03'"_s, 1.5);
     choose();
     EXPECT_EQ(adodc1().recordSource(), u"select 时间,金额 from %1"_s.arg(ledger()));
-    EXPECT_EQ(adodc2().recordSource(), QString::fromUtf16(GetParam().sums));
+    EXPECT_EQ(adodc2().recordSource(), GetParam().sums.toString());
     EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
     EXPECT_EQ(adodc2().connectionString(), rig.program->shared().connection());
     EXPECT_EQ(adodc2().recordset().recordCount(), 1);
@@ -109,9 +109,9 @@ TEST_P(ChartMonthsTest, TouchNoOtherTable) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sides, ChartMonthsTest,
-                         ::testing::Values(Side{"Income", u"Option11", u"srb", u"nsrb", u"年度收入统计",
+                         ::testing::Values(Side{"Income", charts::YearsIncome, u"srb", u"nsrb", u"年度收入统计",
                                                 u"select 时间,sum(金额)as 金额 from nsrb group by 时间"},
-                                           Side{"Expense", u"Option12", u"zcb", u"nzcb", u"年度年支出统计",
+                                           Side{"Expense", charts::YearsExpense, u"zcb", u"nzcb", u"年度年支出统计",
                                                 u"select 时间,sum(金额)as 金额 from nzcb group by 时间"}),
                          [](const auto& side) { return side.param.name; });
 

@@ -24,11 +24,11 @@ protected:
     /// Picks the day in a cell of the picker that a click on a box opens.
     void pick(TextBox& box, int cell) {
         rig.click(box);
-        rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(%1)"_s.arg(cell)));
+        rig.doubleClick(rig.at(date_picker::Day[cell]));
         rig.settle();
     }
     void expectRefusedAsNoDate(const QString& from, const QString& to) {
-        choose(u"Option13"_s);
+        choose(charts::IncomeByItem);
         query(from, to);
         EXPECT_TRUE(rig.ended()) << from.toStdString() << ", " << to.toStdString();
         EXPECT_EQ(rig.exitCode(), 1);
@@ -38,7 +38,7 @@ protected:
 };
 
 TEST_F(ChartRangeTest, NarrowsTheIncomeToTypedDates) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     EXPECT_EQ(points(), u"乙=4 甲=3");
     query(u"2024-6-1"_s, u"2024-6-18"_s);
     EXPECT_EQ(points(), u"乙=4 甲=2");
@@ -48,7 +48,7 @@ TEST_F(ChartRangeTest, NarrowsTheIncomeToTypedDates) {
 }
 
 TEST_F(ChartRangeTest, NarrowsTheExpenseToTypedDates) {
-    choose(u"Option15"_s);
+    choose(charts::ExpenseByItem);
     EXPECT_EQ(points(), u"乙=40 甲=30");
     query(u"2024-5-1"_s, u"2024-6-17"_s);
     EXPECT_EQ(points(), u"甲=30");
@@ -58,7 +58,7 @@ TEST_F(ChartRangeTest, NarrowsTheExpenseToTypedDates) {
 }
 
 TEST_F(ChartRangeTest, NarrowsToDatesAsAHouseholdWritesThem) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     query(u"5-4"_s, u"6月17日"_s);
     EXPECT_EQ(points(), u"甲=2");
     query(u"24-5-3"_s, u"２０２４０６０１"_s);
@@ -67,23 +67,23 @@ TEST_F(ChartRangeTest, NarrowsToDatesAsAHouseholdWritesThem) {
 }
 
 TEST_F(ChartRangeTest, NarrowsToPickedDates) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     pick(Text1(), 6);  // June 2024 begins in cell 6
     pick(Text2(), 22); // the seventeenth
     EXPECT_EQ(Text1().Text(), u"2024-6-1");
     EXPECT_EQ(Text2().Text(), u"2024-6-17");
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
-    rig.click(rig.onMain<CommandButton>(u"Command25"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
+    rig.click(rig.at(charts::Query));
     EXPECT_EQ(points(), u"甲=2");
 }
 
 TEST_F(ChartRangeTest, HangsThePickerUnderTheBoxThatWasClicked) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     rig.mainWindow().moveTo(0, 0);
     int target = 1;
     for (TextBox* box : {&Text1(), &Text2()}) {
         rig.click(*box);
-        const Form& picker = *rig.loaded(u"Form1"_s);
+        const Form& picker = *rig.loaded(forms::DatePicker);
         EXPECT_TRUE(picker.isVisible());
         EXPECT_EQ(rig.program->shared().dateTarget, target++);
         EXPECT_EQ(picker.Left(), rig.mainWindow().Left() + 120 + 5280 + box->Left());
@@ -92,8 +92,8 @@ TEST_F(ChartRangeTest, HangsThePickerUnderTheBoxThatWasClicked) {
 }
 
 TEST_F(ChartRangeTest, AsksForTwoDates) {
-    choose(u"Option13"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command25"_s));
+    choose(charts::IncomeByItem);
+    rig.click(rig.at(charts::Query));
     EXPECT_EQ(rig.messages->shown, std::vector{TwoDatesWanted});
     query(u"2024-6-1"_s, u"日期2"_s);
     query(u"日期1"_s, u"2024-6-1"_s);
@@ -103,7 +103,7 @@ TEST_F(ChartRangeTest, AsksForTwoDates) {
 }
 
 TEST_F(ChartRangeTest, FindsNothingBetweenDatesInTheWrongOrder) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     query(u"2024-6-18"_s, u"2024-6-1"_s);
     EXPECT_EQ(rig.messages->shown, std::vector{NothingInRange});
     EXPECT_EQ(points(), u"乙=4 甲=3");
@@ -111,43 +111,45 @@ TEST_F(ChartRangeTest, FindsNothingBetweenDatesInTheWrongOrder) {
 }
 
 TEST_F(ChartRangeTest, HidesThePickerWithTheQuery) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     rig.click(Text1());
-    ASSERT_TRUE(rig.loaded(u"Form1"_s)->isVisible());
-    rig.messages->whileShown = [this](const ShownMessage&) { EXPECT_FALSE(rig.loaded(u"Form1"_s)->isVisible()); };
-    rig.click(rig.onMain<CommandButton>(u"Command25"_s));
+    ASSERT_TRUE(rig.loaded(forms::DatePicker)->isVisible());
+    rig.messages->whileShown = [this](const ShownMessage&) {
+        EXPECT_FALSE(rig.loaded(forms::DatePicker)->isVisible());
+    };
+    rig.click(rig.at(charts::Query));
     EXPECT_EQ(rig.lastMessage(), TwoDatesWanted);
-    EXPECT_FALSE(rig.loaded(u"Form1"_s)->Visible());
+    EXPECT_FALSE(rig.loaded(forms::DatePicker)->Visible());
 }
 
 TEST_F(ChartRangeTest, ShowsTheWholeTableAgainByTheOptionAndKeepsTheDates) {
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     query(u"2024-6-1"_s, u"2024-6-2"_s);
     EXPECT_EQ(points(), u"甲=2");
-    click(u"Option15"_s);
+    click(charts::ExpenseByItem);
     EXPECT_EQ(points(), u"乙=40 甲=30");
     EXPECT_EQ(Text1().Text(), u"2024-6-1");
     EXPECT_EQ(Text2().Text(), u"2024-6-2");
-    rig.click(rig.onMain<Label>(u"Label24"_s));
+    rig.click(rig.at(pages::Desktop));
     open();
-    click(u"Option13"_s);
+    click(charts::IncomeByItem);
     EXPECT_EQ(Text1().Text(), u"2024-6-1");
     EXPECT_EQ(points(), u"乙=4 甲=3");
 }
 
 TEST_F(ChartRangeTest, AsksTheLedgerOfTheLastItemChart) {
-    choose(u"Option15"_s);
-    click(u"Option13"_s);
+    choose(charts::ExpenseByItem);
+    click(charts::IncomeByItem);
     query(u"2024-6-18"_s, u"2024-6-18"_s);
     EXPECT_EQ(points(), u"乙=4");
-    click(u"Option15"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command25"_s));
+    click(charts::ExpenseByItem);
+    rig.click(rig.at(charts::Query));
     EXPECT_EQ(points(), u"乙=40");
 }
 
 TEST_F(ChartRangeTest, TakesItemsWithQuotes) {
     store(u"srb"_s, u"'2024-06-18'"_s, u"'引''号#'"_s, 5);
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     query(u"2024-6-18"_s, u"2024-6-18"_s);
     EXPECT_EQ(points(), u"乙=4 引'号#=5");
 }
@@ -174,17 +176,17 @@ TEST_F(ChartRangeTest, EndsTheProgramOnADateFromAnEmptyCell) {
 
 class ChartStripTest : public ChartRangeTest {
 protected:
-    MSFlexGrid& ms1() { return rig.onMain<MSFlexGrid>(u"ms1"_s); }
-    MSFlexGrid& ms2() { return rig.onMain<MSFlexGrid>(u"ms2"_s); }
-    TextBox& tx1() { return rig.onMain<TextBox>(u"tx1"_s); }
-    TextBox& tx2() { return rig.onMain<TextBox>(u"tx2"_s); }
+    MSFlexGrid& ms1() { return rig.at(loans::Grid); }
+    MSFlexGrid& ms2() { return rig.at(income::Grid); }
+    TextBox& tx1() { return rig.at(loans::Box); }
+    TextBox& tx2() { return rig.at(income::Box); }
     void clickStrip() {
-        choose(u"Option13"_s);
+        choose(charts::IncomeByItem);
         tx1().setText(u"借款"_s);
         tx2().setText(u"收入"_s);
         tx1().setShown(true);
         tx2().setShown(true);
-        QTest::mouseClick(&rig.frame(u"Frame1"_s), Qt::LeftButton, {}, {10, 30});
+        QTest::mouseClick(&rig.at(charts::Range), Qt::LeftButton, {}, {10, 30});
     }
 };
 
@@ -205,7 +207,7 @@ TEST_F(ChartStripTest, LeavesAGridThatIsHiddenItself) {
     ms1().setShown(true);
     ms2().setShown(false);
     ms2().setText(u""_s);
-    QTest::mouseClick(&rig.frame(u"Frame1"_s), Qt::LeftButton, {}, {10, 30});
+    QTest::mouseClick(&rig.at(charts::Range), Qt::LeftButton, {}, {10, 30});
     EXPECT_EQ(ms1().Text(), u"借款");
     EXPECT_EQ(ms2().Text(), u"");
 }

@@ -10,34 +10,34 @@ using namespace Qt::StringLiterals;
 constexpr quint32 Red = 255, Black = 0;
 
 struct PlacedControl {
-    const char16_t* name;
-    const char16_t* caption;
-    const char16_t* container;
+    QString name;
+    QStringView caption;
+    QString container;
     double left, top, width, height;
 };
 
-constexpr PlacedControl Controls[]{
-    {u"Frame11", u"", u"Frame15", 240, 240, 11055, 615},
-    {u"Option10", u"账户对比分析", u"Frame11", 120, 240, 1815, 255},
-    {u"Option11", u"年度收入统计", u"Frame11", 2280, 240, 1815, 255},
-    {u"Option12", u"年度年支出统计", u"Frame11", 4560, 240, 2055, 255},
-    {u"Option13", u"收入分类统计", u"Frame11", 7080, 240, 1815, 255},
-    {u"Option15", u"支出分类统计", u"Frame11", 9120, 240, 1815, 255},
-    {u"Frame1", u"查询", u"Frame15", 5280, 840, 6135, 615},
-    {u"Label13", u"在", u"Frame1", 720, 240, 255, 255},
-    {u"Text1", u"日期1", u"Frame1", 1080, 240, 1215, 270},
-    {u"Label14", u"和", u"Frame1", 2400, 240, 255, 255},
-    {u"Text2", u"日期2", u"Frame1", 2760, 240, 1215, 270},
-    {u"Label15", u"之间", u"Frame1", 4080, 240, 495, 255},
-    {u"Command25", u"查询", u"Frame1", 5040, 240, 615, 255},
-    {u"Frame12", u"", u"Frame15", 360, 1440, 11055, 4695},
-    {u"MSC1", u"", u"Frame12", 120, 240, 10815, 4335},
+const PlacedControl Controls[]{
+    {charts::Kinds, u"", charts::Page, 240, 240, 11055, 615},
+    {charts::Accounts, u"账户对比分析", charts::Kinds, 120, 240, 1815, 255},
+    {charts::YearsIncome, u"年度收入统计", charts::Kinds, 2280, 240, 1815, 255},
+    {charts::YearsExpense, u"年度年支出统计", charts::Kinds, 4560, 240, 2055, 255},
+    {charts::IncomeByItem, u"收入分类统计", charts::Kinds, 7080, 240, 1815, 255},
+    {charts::ExpenseByItem, u"支出分类统计", charts::Kinds, 9120, 240, 1815, 255},
+    {charts::Range, u"查询", charts::Page, 5280, 840, 6135, 615},
+    {charts::In, u"在", charts::Range, 720, 240, 255, 255},
+    {charts::From, u"日期1", charts::Range, 1080, 240, 1215, 270},
+    {charts::And, u"和", charts::Range, 2400, 240, 255, 255},
+    {charts::To, u"日期2", charts::Range, 2760, 240, 1215, 270},
+    {charts::Between, u"之间", charts::Range, 4080, 240, 495, 255},
+    {charts::Query, u"查询", charts::Range, 5040, 240, 615, 255},
+    {charts::ChartFrame, u"", charts::Page, 360, 1440, 11055, 4695},
+    {charts::Chart, u"", charts::ChartFrame, 120, 240, 10815, 4335},
 };
 
 TEST_F(ChartsTest, HasEveryControlInItsPlaceWithItsWords) {
     for (const PlacedControl& told : Controls) {
-        const QString name = QString::fromUtf16(told.name);
-        QWidget& container = rig.frame(QString::fromUtf16(told.container));
+        const QString name = told.name;
+        QWidget& container = rig.onMain<Frame>(told.container);
         const auto* widget = container.findChild<QWidget*>(name, Qt::FindDirectChildrenOnly);
         ASSERT_TRUE(widget) << name.toStdString();
         EXPECT_EQ(widget->property("Left").toDouble(), told.left) << name.toStdString();
@@ -51,10 +51,11 @@ TEST_F(ChartsTest, HasEveryControlInItsPlaceWithItsWords) {
 }
 
 TEST_F(ChartsTest, HasNoOptionChosenAndNoQueryRowBeforeItIsOpened) {
-    for (const QString& name : {u"Option10"_s, u"Option11"_s, u"Option12"_s, u"Option13"_s, u"Option15"_s})
+    for (const QString& name : QStringList{charts::Accounts, charts::YearsIncome, charts::YearsExpense,
+                                           charts::IncomeByItem, charts::ExpenseByItem})
         EXPECT_FALSE(option(name).Value()) << name.toStdString();
-    EXPECT_FALSE(rig.frame(u"Frame1"_s).Visible());
-    EXPECT_FALSE(rig.frame(u"Frame15"_s).Visible());
+    EXPECT_FALSE(rig.at(charts::Range).Visible());
+    EXPECT_FALSE(rig.at(charts::Page).Visible());
     EXPECT_EQ(chart().ChartData(), QVariantList());
 }
 
@@ -62,16 +63,16 @@ TEST_F(ChartsTest, OpensOnTheAccountsByItsLabel) {
     storeOneEach();
     storeAccount(u"'信用卡'"_s, u"-2310.5"_s);
     open();
-    const Frame& frame = rig.frame(u"Frame15"_s);
+    const Frame& frame = rig.at(charts::Page);
     EXPECT_TRUE(frame.isVisible());
     EXPECT_EQ(frame.Left(), 120);
     EXPECT_EQ(frame.Top(), 1680);
     EXPECT_EQ(frame.Width(), 11655);
     EXPECT_EQ(frame.Height(), 6225);
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 12);
-    EXPECT_EQ(rig.onMain<Label>(u"Label12"_s).ForeColor(), Red);
-    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), Black);
-    EXPECT_TRUE(option(u"Option10"_s).Value());
+    EXPECT_EQ(rig.at(pages::Charts).ForeColor(), Red);
+    EXPECT_EQ(rig.at(pages::Desktop).ForeColor(), Black);
+    EXPECT_TRUE(option(charts::Accounts).Value());
     EXPECT_EQ(points(), u"现金=100 信用卡=-2310.5");
     EXPECT_EQ(caption(), u"账户对比分析");
     EXPECT_EQ(adodc1().recordSource(), u"select 账户名称,余额 from zhb");
@@ -82,27 +83,28 @@ TEST_F(ChartsTest, OpensOnTheAccountsByItsLabel) {
 
 TEST_F(ChartsTest, LeavesOtherPagesAndToolsBehind) {
     storeOneEach();
-    rig.click(rig.onMain<Label>(u"Label2(0)"_s));
+    rig.click(rig.at(pages::Income));
     rig.program->shared().openDatePicker(DateField::None, {}, {0, 0});
     open();
-    EXPECT_FALSE(rig.frame(u"Frame2"_s).Visible());
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.at(income::Page).Visible());
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
 }
 
 TEST_F(ChartsTest, RefusesAnEmptyTableOfAccountsAndKeepsTheSample) {
-    rig.messages->whileShown = [this](const ShownMessage&) { EXPECT_TRUE(rig.frame(u"Frame15"_s).Visible()); };
+    rig.messages->whileShown = [this](const ShownMessage&) { EXPECT_TRUE(rig.at(charts::Page).Visible()); };
     open();
     EXPECT_EQ(rig.messages->shown, std::vector{NothingToChart});
     EXPECT_EQ(chart().ChartData(), QVariantList());
     EXPECT_EQ(chart().places().matrix().rows.join(u' '), u"R1 R2 R3 R4 R5");
     EXPECT_EQ(caption(), u"");
-    EXPECT_TRUE(rig.frame(u"Frame15"_s).isVisible());
+    EXPECT_TRUE(rig.at(charts::Page).isVisible());
 }
 
 TEST_F(ChartsTest, KeepsTheLastChartWhenAnOptionHasNothingToShow) {
     storeAccount(u"'现金'"_s, u"100"_s);
     open();
-    for (const QString& name : {u"Option11"_s, u"Option12"_s, u"Option13"_s, u"Option15"_s}) {
+    for (const QString& name :
+         QStringList{charts::YearsIncome, charts::YearsExpense, charts::IncomeByItem, charts::ExpenseByItem}) {
         click(name);
         EXPECT_EQ(rig.lastMessage(), NothingToChart) << name.toStdString();
         EXPECT_EQ(points(), u"现金=100") << name.toStdString();
@@ -122,11 +124,11 @@ TEST_F(ChartsTest, KeepsTheOldChartWhenItIsOpenedAgain) {
     storeOneEach();
     open();
     storeAccount(u"'支付宝'"_s, u"5"_s);
-    rig.click(rig.onMain<Label>(u"Label24"_s));
+    rig.click(rig.at(pages::Desktop));
     open();
     EXPECT_EQ(points(), u"现金=100"); // the option was set already and raises no click
-    click(u"Option13"_s);
-    rig.click(rig.onMain<Label>(u"Label24"_s));
+    click(charts::IncomeByItem);
+    rig.click(rig.at(pages::Desktop));
     open();
     EXPECT_EQ(points(), u"现金=100 支付宝=5"); // set anew by the label
     EXPECT_EQ(caption(), u"账户对比分析");
@@ -137,10 +139,10 @@ TEST_F(ChartsTest, SumsTheIncomeByItem) {
     store(u"srb"_s, u"'2023-01-03'"_s, u"'奖金'"_s, 5);
     store(u"srb"_s, u"'2024-06-03'"_s, u"'工资'"_s, 2.5);
     store(u"zcb"_s, u"'2024-06-03'"_s, u"'买菜'"_s, 7);
-    choose(u"Option13"_s);
+    choose(charts::IncomeByItem);
     EXPECT_EQ(points(), u"奖金=5 工资=12.5");
     EXPECT_EQ(caption(), u"收入分类统计");
-    EXPECT_TRUE(rig.frame(u"Frame1"_s).isVisible());
+    EXPECT_TRUE(rig.at(charts::Range).isVisible());
     EXPECT_EQ(adodc1().recordSource(), u"select 项目,sum(金额) as 总金额 from srb group by 项目");
     EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
 }
@@ -148,10 +150,10 @@ TEST_F(ChartsTest, SumsTheIncomeByItem) {
 TEST_F(ChartsTest, SumsTheExpenseByItem) {
     storeOneEach();
     store(u"zcb"_s, u"'2024-06-03'"_s, u"'买菜'"_s, 7);
-    choose(u"Option15"_s);
+    choose(charts::ExpenseByItem);
     EXPECT_EQ(points(), u"买菜=27");
     EXPECT_EQ(caption(), u"支出分类统计");
-    EXPECT_TRUE(rig.frame(u"Frame1"_s).isVisible());
+    EXPECT_TRUE(rig.at(charts::Range).isVisible());
     EXPECT_EQ(adodc1().recordSource(), u"select 项目,sum(金额) as 总金额 from zcb group by 项目");
     EXPECT_EQ(adodc1().connectionString(), rig.program->shared().connection());
 }
@@ -161,7 +163,7 @@ TEST_F(ChartsTest, GivesAnItemWithoutANameAPointWithAnEmptyLabel) {
     store(u"zcb"_s, u"'2024-06-03'"_s, u"NULL"_s, 1);
     store(u"zcb"_s, u"'2024-06-03'"_s, u"''"_s, 5);
     store(u"zcb"_s, u"'2024-06-03'"_s, u"'买菜'"_s, 3);
-    choose(u"Option15"_s);
+    choose(charts::ExpenseByItem);
     EXPECT_EQ(points(), u"=8 =5 买菜=3");
     EXPECT_TRUE(chart().places().label(0).lines.isEmpty());
     EXPECT_EQ(chart().places().valueText(0), u"8.00");
@@ -192,39 +194,40 @@ TEST_F(ChartsTest, LeavesTheDashAtTheEndOfAnyLabelThatIsNoMonth) {
     const auto label = [this] { return chart().places().label(0).lines.join(u'/'); };
     open();
     EXPECT_EQ(label(), u"备用-");
-    click(u"Option13"_s);
+    click(charts::IncomeByItem);
     EXPECT_EQ(label(), u"奖金-");
     query(u"2024-5-1"_s, u"2024-5-9"_s);
     EXPECT_EQ(label(), u"奖金-");
-    click(u"Option11"_s);
+    click(charts::YearsIncome);
     EXPECT_EQ(label(), u"2024-5");
     EXPECT_EQ(points(), u"2024-5-=2");
-    click(u"Option15"_s);
+    click(charts::ExpenseByItem);
     EXPECT_EQ(label(), u"杂项-");
 }
 
 TEST_F(ChartsTest, HidesTheQueryRowUnderChartsThatHaveNoRange) {
     storeOneEach();
     open();
-    for (const QString& name : {u"Option11"_s, u"Option12"_s, u"Option10"_s}) {
-        click(u"Option13"_s);
-        EXPECT_TRUE(rig.frame(u"Frame1"_s).isVisible());
+    for (const QString& name : QStringList{charts::YearsIncome, charts::YearsExpense, charts::Accounts}) {
+        click(charts::IncomeByItem);
+        EXPECT_TRUE(rig.at(charts::Range).isVisible());
         click(name);
-        EXPECT_FALSE(rig.frame(u"Frame1"_s).Visible()) << name.toStdString();
+        EXPECT_FALSE(rig.at(charts::Range).Visible()) << name.toStdString();
     }
 }
 
 TEST_F(ChartsTest, ShowsTheQueryRowEvenWhereThereIsNothingToShow) {
     storeAccount(u"'现金'"_s, u"100"_s);
-    choose(u"Option15"_s);
+    choose(charts::ExpenseByItem);
     EXPECT_EQ(rig.lastMessage(), NothingToChart);
-    EXPECT_TRUE(rig.frame(u"Frame1"_s).isVisible());
+    EXPECT_TRUE(rig.at(charts::Range).isVisible());
 }
 
 TEST_F(ChartsTest, HasTheHandOverItsOptions) {
     storeOneEach();
     open();
-    for (const QString& name : {u"Option10"_s, u"Option11"_s, u"Option12"_s, u"Option13"_s, u"Option15"_s}) {
+    for (const QString& name : QStringList{charts::Accounts, charts::YearsIncome, charts::YearsExpense,
+                                           charts::IncomeByItem, charts::ExpenseByItem}) {
         rig.hover(option(name));
         EXPECT_EQ(option(name).cursor().shape(), Qt::PointingHandCursor) << name.toStdString();
     }
@@ -232,11 +235,11 @@ TEST_F(ChartsTest, HasTheHandOverItsOptions) {
 
 TEST_F(ChartsTest, TakesTheHoverColourOffItsButton) {
     storeOneEach();
-    choose(u"Option13"_s);
-    auto& button = rig.onMain<CommandButton>(u"Command25"_s);
+    choose(charts::IncomeByItem);
+    auto& button = rig.at(charts::Query);
     rig.hover(button);
     EXPECT_EQ(button.BackColor(), 0xE0E0E0u);
-    rig.hover(rig.frame(u"Frame1"_s));
+    rig.hover(rig.at(charts::Range));
     EXPECT_EQ(button.BackColor(), 0xFFFFFFu);
 }
 

@@ -19,7 +19,7 @@ void ChartsTest::storeOneEach() {
 }
 
 void ChartsTest::open() {
-    rig.click(rig.onMain<Label>(u"Label12"_s));
+    rig.click(rig.at(pages::Charts));
     rig.settle();
 }
 
@@ -40,7 +40,7 @@ void ChartsTest::query(const QString& from, const QString& to) {
             rig.press(*box, Qt::Key_Delete);
         rig.type(*box, text);
     }
-    rig.click(rig.onMain<CommandButton>(u"Command25"_s));
+    rig.click(rig.at(charts::Query));
     rig.settle();
 }
 

@@ -25,11 +25,11 @@ protected:
     void click(const QString& option);
     void query(const QString& from, const QString& to);
 
-    MSChart& chart() { return rig.onMain<MSChart>(QStringLiteral("MSC1")); }
+    MSChart& chart() { return rig.at(charts::Chart); }
     OptionButton& option(const QString& name) { return rig.onMain<OptionButton>(name); }
-    TextBox& Text1() { return *rig.frame(QStringLiteral("Frame1")).findChild<TextBox*>(QStringLiteral("Text1")); }
-    TextBox& Text2() { return *rig.frame(QStringLiteral("Frame1")).findChild<TextBox*>(QStringLiteral("Text2")); }
-    QString caption() { return rig.frame(QStringLiteral("Frame12")).Caption(); }
+    TextBox& Text1() { return rig.at(charts::From); }
+    TextBox& Text2() { return rig.at(charts::To); }
+    QString caption() { return rig.at(charts::ChartFrame).Caption(); }
     Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
     Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
 
@@ -39,9 +39,8 @@ protected:
     ProgramRig rig;
 };
 
-inline const ShownMessage NothingToChart{QStringLiteral("目前没有提供给图表统计的记录数据！"), 64,
-                                         QStringLiteral("提示")};
-inline const ShownMessage TwoDatesWanted{QStringLiteral("请选择两个日期"), 64, QStringLiteral("输入提示")};
-inline const ShownMessage NothingInRange{QStringLiteral("当前日期范围内不存在记录"), 64, QStringLiteral("查询提示")};
+inline const ShownMessage NothingToChart{u"目前没有提供给图表统计的记录数据！"_s, 64, u"提示"_s};
+inline const ShownMessage TwoDatesWanted{u"请选择两个日期"_s, 64, u"输入提示"_s};
+inline const ShownMessage NothingInRange{u"当前日期范围内不存在记录"_s, 64, u"查询提示"_s};
 
 } // namespace qinghe::testing

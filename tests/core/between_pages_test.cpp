@@ -39,10 +39,10 @@ protected:
     }
 
     void enterCategories() {
-        click(u"Label7"_s);
-        rig.click(rig.onMain<CommandButton>(u"Command31"_s));
+        click(pages::Settings);
+        rig.click(rig.at(settings::Categories));
     }
-    void enterBorrowed() { rig.click(rig.onMain<Image>(u"Image1"_s)); }
+    void enterBorrowed() { rig.click(rig.at(loans::Picture)); }
 
     Frame& front() {
         for (const Page* page : main().navigation().pages())
@@ -155,21 +155,21 @@ TEST_F(BetweenPagesTest, TheBorrowedListLeavesNoControlWithTheKeyboard) {
 }
 
 TEST_F(BetweenPagesTest, TheWayToTheCategoriesLeavesNoControlWithTheKeyboard) {
-    click(u"Label7"_s);
-    auto& way = rig.onMain<CommandButton>(u"Command31"_s);
+    click(pages::Settings);
+    auto& way = rig.at(settings::Categories);
     way.setFocus();
     key(Qt::Key_Space, u" "_s);
-    ASSERT_TRUE(rig.frame(u"Frame3"_s).isVisible());
+    ASSERT_TRUE(rig.at(categories::Page).isVisible());
     expectNobodyAnswers();
 }
 
 TEST_F(BetweenPagesTest, TheButtonThatKeepsASkinGoesAndTheKeyboardWithIt) {
-    click(u"Label7"_s);
-    rig.onMain<CheckBox>(u"Check10"_s).setValue(true);
-    auto& list = rig.onMain<ComboBox>(u"Combo2"_s);
+    click(pages::Settings);
+    rig.at(settings::ChangeSkin).setValue(true);
+    auto& list = rig.at(settings::Skins);
     list.setFocus();
     key(Qt::Key_Down);
-    auto& keep = rig.onMain<CommandButton>(u"Command30"_s);
+    auto& keep = rig.at(settings::KeepSkin);
     ASSERT_TRUE(keep.isVisible());
     keep.setFocus();
     key(Qt::Key_Space, u" "_s);
@@ -181,44 +181,44 @@ TEST_F(BetweenPagesTest, TheButtonThatKeepsASkinGoesAndTheKeyboardWithIt) {
 }
 
 TEST_F(BetweenPagesTest, ABoxThatIsUntickedTakesTheKeyboardFromItsList) {
-    click(u"Label7"_s);
-    auto& box = rig.onMain<CheckBox>(u"Check10"_s);
+    click(pages::Settings);
+    auto& box = rig.at(settings::ChangeSkin);
     box.setValue(true);
-    rig.onMain<ComboBox>(u"Combo2"_s).setFocus();
+    rig.at(settings::Skins).setFocus();
     box.setValue(false);
     EXPECT_EQ(QApplication::focusWidget(), &main());
 }
 
 TEST_F(BetweenPagesTest, AReportLeavesTheKeyboardWithTheOptionThatWasChosen) {
-    click(u"Label2(0)"_s);
-    rig.click(rig.onMain<OptionButton>(u"Option8"_s));
-    rig.click(rig.onMain<OptionButton>(u"Option7"_s));
-    EXPECT_EQ(QApplication::focusWidget(), &rig.onMain<OptionButton>(u"Option7"_s));
+    click(pages::Income);
+    rig.click(rig.at(income::ByItem));
+    rig.click(rig.at(income::Records));
+    EXPECT_EQ(QApplication::focusWidget(), &rig.at(income::Records));
 }
 
 TEST_F(BetweenPagesTest, TheUsersPageBehindTheScheduleIsOutOfViewAndTakesNoKey) {
-    click(u"Label4"_s);
-    auto& save = rig.onMain<CommandButton>(u"Command15"_s);
+    click(pages::Users);
+    auto& save = rig.at(users::Save);
     save.setFocus();
-    click(u"Label23"_s);
-    EXPECT_TRUE(rig.frame(u"Frame7"_s).Visible());
-    EXPECT_FALSE(rig.frame(u"Frame7"_s).isVisible());
+    click(pages::Schedule);
+    EXPECT_TRUE(rig.at(users::Page).Visible());
+    EXPECT_FALSE(rig.at(users::Page).isVisible());
     QTest::keyClick(&save, Qt::Key_Space); // even one that reaches it
     EXPECT_TRUE(rig.messages->shown.empty());
     QTest::mouseClick(&main(), Qt::LeftButton, {},
                       QPoint(30, 3)); // the bare form, which gives the users' list the keyboard
     EXPECT_EQ(QApplication::focusWidget(), &main());
-    click(u"Label4"_s);
-    EXPECT_TRUE(rig.frame(u"Frame7"_s).isVisible());
+    click(pages::Users);
+    EXPECT_TRUE(rig.at(users::Page).isVisible());
 }
 
 TEST_F(BetweenPagesTest, AKeyThatReachesAControlOutOfViewIsDropped) {
-    click(u"Label2(0)"_s);
-    auto& save = rig.onMain<CommandButton>(u"Command6"_s);
-    auto& remove = rig.onMain<CommandButton>(u"Command5"_s);
-    auto& option = rig.onMain<OptionButton>(u"Option8"_s);
-    auto& box = rig.onMain<TextBox>(u"tx2"_s);
-    click(u"Label24"_s);
+    click(pages::Income);
+    auto& save = rig.at(income::Save);
+    auto& remove = rig.at(income::Remove);
+    auto& option = rig.at(income::ByItem);
+    auto& box = rig.at(income::Box);
+    click(pages::Desktop);
     const QString before = box.Text();
     for (QWidget* control : {static_cast<QWidget*>(&save), static_cast<QWidget*>(&remove),
                              static_cast<QWidget*>(&option), static_cast<QWidget*>(&box)})
@@ -233,14 +233,14 @@ TEST_F(BetweenPagesTest, AKeyThatReachesAControlOutOfViewIsDropped) {
 }
 
 TEST_F(BetweenPagesTest, TheKeyboardStaysWithTheWindowWhileItIsNotTheActiveOne) {
-    click(u"Label2(0)"_s);
-    rig.onMain<CommandButton>(u"Command6"_s).setFocus();
+    click(pages::Income);
+    rig.at(income::Save).setFocus();
     QWidget other;
     other.show();
     other.activateWindow();
     rig.settle();
     ASSERT_EQ(QApplication::activeWindow(), &other);
-    click(u"Label24"_s);
+    click(pages::Desktop);
     other.hide();
     main().activateWindow();
     rig.settle();

@@ -73,7 +73,7 @@ TEST_F(BrokenStart, AFileThatIsSpoiltWhileTheProgramRunsIsToldAtTheNextQuery) {
     rig.signIn();
     keepAside();
     write(u"data.dll"_s, QByteArray("overwritten by something else\n").repeated(3000));
-    click(u"Label24"_s);
+    click(pages::Desktop);
     expectError(RuntimeError::StoreFailure, u"data.dll"_s);
     putBack();
     expectNextStartGood();
@@ -83,7 +83,7 @@ TEST_F(BrokenStart, AFileThatIsRemovedWhileTheProgramRunsIsToldAtTheNextQuery) {
     rig.signIn();
     keepAside();
     QFile::remove(rig.dataFile());
-    click(u"Label24"_s);
+    click(pages::Desktop);
     expectError(RuntimeError::FileNotFound, u"data.dll"_s);
     EXPECT_FALSE(folder().contains(u"data.dll"_s));
     putBack();
@@ -97,8 +97,8 @@ TEST_F(BrokenStart, AMissingTableIsToldWithItsName) {
 }
 
 TEST_F(BrokenStart, APictureTableWithoutItsRowIsTold) {
-    for (const auto* table : {u"登陆皮肤", u"皮肤选择", u"主界面"}) {
-        const QString name = QString::fromUtf16(table);
+    for (const QStringView table : {u"登陆皮肤", u"皮肤选择", u"主界面"}) {
+        const QString name = table.toString();
         rig.stop();
         rig.sql(u"create table kept as select * from %1"_s.arg(name));
         rig.sql(u"delete from %1"_s.arg(name));
@@ -129,8 +129,8 @@ TEST_F(BrokenStart, ASignInPictureThatCannotBeWrittenIsTold) {
 }
 
 TEST_F(BrokenStart, APictureOfTheMainWindowThatCannotBeWrittenIsTold) {
-    for (const auto* file : {u"pf.jpg", u"zjm.jpg"}) {
-        const QString name = QString::fromUtf16(file);
+    for (const QStringView file : {u"pf.jpg", u"zjm.jpg"}) {
+        const QString name = file.toString();
         rig.stop();
         blockWithFolder(name);
         rig.signIn();
@@ -170,7 +170,7 @@ TEST_F(BrokenStart, AFailureInTheMidstOfLeavingKeepsTheLedger) {
     QFile::remove(rig.file(u"aside"_s));
     keepAside();
     QFile::remove(rig.dataFile());
-    click(u"Image3"_s);
+    click(title::Close);
     expectError(RuntimeError::FileNotFound, u"data.dll"_s);
     putBack();
     expectNextStartGood();

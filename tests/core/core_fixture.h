@@ -16,10 +16,10 @@ constexpr quint32 Red = 255, Black = 0;
 class CoreTest : public ::testing::Test {
 protected:
     // The sign-in.
-    ComboBox& name() { return rig.control<ComboBox>(u"Form5"_s, u"Combo1"_s); }
-    TextBox& password() { return rig.control<TextBox>(u"Form5"_s, u"Text2"_s); }
-    CheckBox& remember() { return rig.control<CheckBox>(u"Form5"_s, u"Check1"_s); }
-    Label& signInButton() { return rig.control<Label>(u"Form5"_s, u"Label1"_s); }
+    ComboBox& name() { return rig.at(sign_in::User); }
+    TextBox& password() { return rig.at(sign_in::Password); }
+    CheckBox& remember() { return rig.at(sign_in::Remember); }
+    Label& signInButton() { return rig.at(sign_in::Enter); }
     /// Types name and password and presses the sign-in button.
     void trySignIn(const QString& user, const QString& word) {
         name().setText(user);
@@ -41,9 +41,9 @@ protected:
             rig.program->shared().openDatePicker(DateField::None, {}, {3000, 3000});
             rig.program->shared().openCalculator(AmountField::None, {}, {6000, 3000});
         });
-        ASSERT_TRUE(rig.loaded(u"Form1"_s) && rig.loaded(u"Form9"_s));
+        ASSERT_TRUE(rig.loaded(forms::DatePicker) && rig.loaded(forms::Calculator));
     }
-    bool toolsOpen() { return rig.loaded(u"Form1"_s) || rig.loaded(u"Form9"_s); }
+    bool toolsOpen() { return rig.loaded(forms::DatePicker) || rig.loaded(forms::Calculator); }
 
     QStringList texts() const {
         QStringList texts;

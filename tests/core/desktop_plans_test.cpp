@@ -10,12 +10,12 @@ protected:
     void plan(const QString& day, const QString& text) {
         rig.sql(u"insert into rcb values('2024-06-01 08:00:00',1,'%1','9:30','%2','音乐1',1)"_s.arg(day, text));
     }
-    QString plans() { return caption(u"Label36"_s); }
+    QString plans() { return caption(desktop::Plans); }
 };
 
 TEST_F(DesktopPlans, TheListStandsInItsPlace) {
     rig.signIn();
-    const Label& list = label(u"Label36"_s);
+    const Label& list = label(desktop::Plans);
     EXPECT_EQ(list.Left(), 8160);
     EXPECT_EQ(list.Top(), 1680);
     EXPECT_EQ(list.Width(), 2775);
@@ -27,8 +27,8 @@ TEST_F(DesktopPlans, WithoutPlansForTodayItSaysSoAtTheStartAndOnTheDesktopsLabel
     plan(u"2024-06-19"_s, u"明天"_s);
     rig.signIn();
     EXPECT_EQ(plans(), NoPlans);
-    label(u"Label36"_s).setCaption(u"?"_s);
-    click(u"Label24"_s);
+    label(desktop::Plans).setCaption(u"?"_s);
+    click(pages::Desktop);
     EXPECT_EQ(plans(), NoPlans);
 }
 
@@ -41,8 +41,8 @@ TEST_F(DesktopPlans, TodaysPlansAreNumberedBehindABlankAndEachEndsItsLine) {
 }
 
 TEST_F(DesktopPlans, AreListedInTheOrderOfWriting) {
-    for (const auto* text : {u"丙", u"甲", u"乙"})
-        plan(u"2024-06-18"_s, QString::fromUtf16(text));
+    for (const QStringView text : {u"丙", u"甲", u"乙"})
+        plan(u"2024-06-18"_s, text.toString());
     rig.signIn();
     EXPECT_EQ(plans(), u"日程 1：丙\r\n日程 2：甲\r\n日程 3：乙\r\n"_s);
 }
@@ -58,8 +58,8 @@ TEST_F(DesktopPlans, TheDesktopsLabelFillsTheListAnewAndNotTwice) {
     plan(u"2024-06-18"_s, u"买菜"_s);
     rig.signIn();
     plan(u"2024-06-18"_s, u"做饭"_s);
-    click(u"Label24"_s);
-    click(u"Label24"_s);
+    click(pages::Desktop);
+    click(pages::Desktop);
     EXPECT_EQ(plans(), u"日程 1：买菜\r\n日程 2：做饭\r\n"_s);
 }
 
@@ -67,9 +67,9 @@ TEST_F(DesktopPlans, PlansThatAreGoneAreGoneWithTheNextClick) {
     plan(u"2024-06-18"_s, u"买菜"_s);
     rig.signIn();
     rig.sql(u"delete from rcb"_s);
-    click(u"Label8"_s);
+    click(pages::Diary);
     EXPECT_EQ(plans(), u"日程 1：买菜\r\n"_s);
-    click(u"Label24"_s);
+    click(pages::Desktop);
     EXPECT_EQ(plans(), NoPlans);
 }
 
@@ -77,7 +77,7 @@ TEST_F(DesktopPlans, TodayIsTheDayOfTheClick) {
     plan(u"2024-06-19"_s, u"明天"_s);
     rig.signIn();
     rig.clock->time = QDateTime(QDate(2024, 6, 19), QTime(0, 0, 5));
-    click(u"Label24"_s);
+    click(pages::Desktop);
     EXPECT_EQ(plans(), u"日程 1：明天\r\n"_s);
 }
 

@@ -3,8 +3,9 @@
 namespace qinghe::testing {
 namespace {
 
-const QStringList LastMonth{u"Label25"_s, u"Label27"_s, u"Label28"_s, u"Label29"_s, u"Label30"_s};
-const QStringList ThisMonth{u"Label31"_s, u"Label32"_s, u"Label33"_s, u"Label34"_s, u"Label35"_s};
+const QStringList LastMonth{desktop::LastIncome, desktop::LastExpense, desktop::LastBudget, desktop::LastBorrowed,
+                            desktop::LastLent};
+const QStringList ThisMonth{desktop::Income, desktop::Expense, desktop::Budget, desktop::Borrowed, desktop::Lent};
 
 class DesktopSums : public CoreTest {
 protected:
@@ -43,7 +44,7 @@ TEST_F(DesktopSums, TheFiguresStandInTheirPlaces) {
         EXPECT_EQ(label(LastMonth[row]).Top(), tops[static_cast<std::size_t>(row)]);
         EXPECT_EQ(label(ThisMonth[row]).Top(), tops[static_cast<std::size_t>(row)]);
     }
-    EXPECT_EQ(rig.frame(u"Frame13"_s).Caption(), u"桌面"_s);
+    EXPECT_EQ(rig.at(desktop::Page).Caption(), u"桌面"_s);
 }
 
 TEST_F(DesktopSums, WithoutRowsAllFiguresAreNought) {
@@ -83,8 +84,8 @@ TEST_F(DesktopSums, InTheOtherMonthsTheDatesOwnTextKeepsTheRowsOut) {
 }
 
 TEST_F(DesktopSums, InJanuaryTheLeftHandFiguresAreNoughtWhateverTheTablesHold) {
-    for (const auto* day : {u"2023-12-31", u"2024-01-01", u"2024-10-10", u"2023-10-10"})
-        book(QString::fromUtf16(day), {5, 5, 5, 5, 5});
+    for (const QStringView day : {u"2023-12-31", u"2024-01-01", u"2024-10-10", u"2023-10-10"})
+        book(day.toString(), {5, 5, 5, 5, 5});
     startOn({2024, 1, 15});
     EXPECT_EQ(figures(LastMonth), nothing);
 }
@@ -92,19 +93,19 @@ TEST_F(DesktopSums, InJanuaryTheLeftHandFiguresAreNoughtWhateverTheTablesHold) {
 TEST_F(DesktopSums, HalfAYuanHasNoDigitBeforeThePoint) {
     bookIncome(u"2024-10-01"_s, u"0.5"_s);
     startOn({2024, 10, 18});
-    EXPECT_EQ(caption(u"Label31"_s), u".50元"_s);
+    EXPECT_EQ(caption(desktop::Income), u".50元"_s);
 }
 
 TEST_F(DesktopSums, ALongFigureHasTheRestOfItsCardAndAnyOtherItsUsualWidth) {
     const auto widthWith = [this](const QString& amount) {
         bookIncome(u"2024-10-01"_s, amount);
         startOn({2024, 10, 18});
-        return label(u"Label31"_s).Width();
+        return label(desktop::Income).Width();
     };
     EXPECT_EQ(widthWith(u"12345.5"_s), 1560);
     EXPECT_EQ(widthWith(u"1234567890123456"_s), 1680);
-    EXPECT_EQ(label(u"Label31"_s).Left(), 6000);
-    EXPECT_EQ(label(u"Label32"_s).Width(), 1560);
+    EXPECT_EQ(label(desktop::Income).Left(), 6000);
+    EXPECT_EQ(label(desktop::Expense).Width(), 1560);
     rig.sql(u"delete from srb"_s);
     EXPECT_EQ(widthWith(u"1"_s), 1560);
 }
@@ -112,7 +113,7 @@ TEST_F(DesktopSums, ALongFigureHasTheRestOfItsCardAndAnyOtherItsUsualWidth) {
 TEST_F(DesktopSums, ASumBelowNoughtKeepsItsSign) {
     bookIncome(u"2024-10-01"_s, u"-12.5"_s);
     startOn({2024, 10, 18});
-    EXPECT_EQ(caption(u"Label31"_s), u"-12.50元"_s);
+    EXPECT_EQ(caption(desktop::Income), u"-12.50元"_s);
 }
 
 TEST_F(DesktopSums, RowsThatCancelOutOrHoldNothingAreNought) {
@@ -120,29 +121,29 @@ TEST_F(DesktopSums, RowsThatCancelOutOrHoldNothingAreNought) {
     bookIncome(u"2024-10-02"_s, u"-5"_s);
     rig.sql(u"insert into zcb values('1','2024-10-01','饭','我',null,'','',1)"_s);
     startOn({2024, 10, 18});
-    EXPECT_EQ(caption(u"Label31"_s), u"0.00元"_s);
-    EXPECT_EQ(caption(u"Label32"_s), u"0.00元"_s);
+    EXPECT_EQ(caption(desktop::Income), u"0.00元"_s);
+    EXPECT_EQ(caption(desktop::Expense), u"0.00元"_s);
 }
 
 TEST_F(DesktopSums, WorkOnTheOtherPagesLeavesTheFiguresAloneUntilTheNextStart) {
     bookIncome(u"2024-10-01"_s, u"100"_s);
     startOn({2024, 10, 18});
-    click(u"Label2(0)"_s);
+    click(pages::Income);
     bookIncome(u"2024-10-02"_s, u"11"_s);
-    click(u"Label24"_s);
-    EXPECT_EQ(caption(u"Label31"_s), u"100.00元"_s);
+    click(pages::Desktop);
+    EXPECT_EQ(caption(desktop::Income), u"100.00元"_s);
     startOn({2024, 10, 18});
-    EXPECT_EQ(caption(u"Label31"_s), u"111.00元"_s);
+    EXPECT_EQ(caption(desktop::Income), u"111.00元"_s);
 }
 
 TEST_F(DesktopSums, ComingBackWritesTheSameFiguresAgain) {
     bookIncome(u"2024-10-01"_s, u"100"_s);
     startOn({2024, 10, 18});
-    label(u"Label31"_s).setCaption(u"?"_s);
-    label(u"Label25"_s).setCaption(u"?"_s);
-    click(u"Label24"_s);
-    EXPECT_EQ(caption(u"Label31"_s), u"100.00元"_s);
-    EXPECT_EQ(caption(u"Label25"_s), u"0.00元"_s);
+    label(desktop::Income).setCaption(u"?"_s);
+    label(desktop::LastIncome).setCaption(u"?"_s);
+    click(pages::Desktop);
+    EXPECT_EQ(caption(desktop::Income), u"100.00元"_s);
+    EXPECT_EQ(caption(desktop::LastIncome), u"0.00元"_s);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ protected:
         rig.sql(u"insert into 软件皮肤 values('%1',%2,%3)"_s.arg(name).arg(skin.size()).arg(hex(skin + '\0')));
     }
     void emptyChosenSkin() { rig.sql(u"update 皮肤选择 set 文件大小=0, 皮肤文件=x'00'"_s); }
-    QImage desktop() { return rig.onMain<Image>(u"Image2"_s).picture(); }
+    QImage desktop() { return rig.at(desktop::Picture).picture(); }
     void expectStarted() {
         EXPECT_TRUE(rig.messages->errors.empty()) << rig.messages->errors.front().second.toStdString();
         EXPECT_TRUE(main().isVisible());
@@ -84,17 +84,17 @@ TEST_F(EmptyPictures, TheSignInTakesTheFirstRowWithBytesOrNone) {
     rig.sql(u"update 登陆皮肤 set 大小=0"_s);
     rig.start();
     EXPECT_TRUE(rig.messages->errors.empty());
-    EXPECT_TRUE(rig.loaded(u"Form5"_s)->picture().isNull());
+    EXPECT_TRUE(rig.loaded(forms::SignIn)->picture().isNull());
     EXPECT_FALSE(folder().contains(u"dlpf.jpg"_s));
     rig.stop();
     rig.sql(u"insert into 登陆皮肤 values('蓝',%1,%2)"_s.arg(picture(Qt::blue).size()).arg(hex(picture(Qt::blue))));
     rig.start();
-    EXPECT_EQ(rig.loaded(u"Form5"_s)->picture().pixelColor(5, 5), QColor(Qt::blue));
+    EXPECT_EQ(rig.loaded(forms::SignIn)->picture().pixelColor(5, 5), QColor(Qt::blue));
 }
 
 TEST_F(EmptyPictures, ASizeThatNoPictureHasIsToldInClearWords) {
-    for (const auto* size : {u"2147483648", u"5e9", u"-1"}) {
-        const QString text = QString::fromUtf16(size);
+    for (const QStringView size : {u"2147483648", u"5e9", u"-1"}) {
+        const QString text = size.toString();
         rig.stop();
         rig.sql(u"update 皮肤选择 set 文件大小="_s + text);
         rig.signIn();

@@ -8,13 +8,13 @@ class Leaving : public CoreTest {};
 TEST_F(Leaving, ThePicturesLieBesideTheProgramWhileItRuns) {
     rig.signIn();
     struct Picture {
-        const char16_t *file, *query;
+        QStringView file, query;
     };
     for (const Picture& picture : {Picture{u"pf.jpg", u"select hex(皮肤文件) from 皮肤选择"},
                                    Picture{u"zjm.jpg", u"select hex(文件) from 主界面"},
                                    Picture{u"dlpf.jpg", u"select hex(皮肤) from 登陆皮肤"}}) {
-        const QByteArray written = bytes(QString::fromUtf16(picture.file));
-        EXPECT_EQ(QString::fromLatin1(written.toHex().toUpper()), rig.sql(QString::fromUtf16(picture.query)).value(0));
+        const QByteArray written = bytes(picture.file.toString());
+        EXPECT_EQ(QString::fromLatin1(written.toHex().toUpper()), rig.sql(picture.query.toString()).value(0));
     }
 }
 
@@ -23,7 +23,7 @@ TEST_F(Leaving, TheWindowsBearThePictures) {
     const QColor skin = main().picture().pixelColor(4, 4);
     EXPECT_GT(skin.green(), 200);
     EXPECT_LT(skin.red(), 50);
-    const QColor desktop = rig.onMain<Image>(u"Image2"_s).picture().pixelColor(4, 4);
+    const QColor desktop = rig.at(desktop::Picture).picture().pixelColor(4, 4);
     EXPECT_GT(desktop.red(), 200);
     EXPECT_GT(desktop.green(), 200);
 }
@@ -38,27 +38,27 @@ TEST_F(Leaving, AsManyBytesAsTheSizeSaysAreWritten) {
 TEST_F(Leaving, TheCloseImageDeletesThePicturesSpoilsTheHeaderAndEndsWithoutAQuestion) {
     rig.signIn();
     EXPECT_EQ(rig.headerBytes(), Healed);
-    click(u"Image3"_s);
+    click(title::Close);
     expectEndedWell();
     EXPECT_TRUE(rig.messages->shown.empty());
     EXPECT_EQ(rig.headerBytes(), Spoilt);
     EXPECT_EQ(folder(), (QStringList{u"data.dll"_s, u"mydiary"_s}));
-    EXPECT_TRUE(rig.loaded(u"Form2"_s));
+    EXPECT_TRUE(rig.loaded(forms::Main));
 }
 
 TEST_F(Leaving, TheCloseImageUnloadsTheToolsFirst) {
     rig.signIn();
     openTools();
-    click(u"Image3"_s);
+    click(title::Close);
     EXPECT_FALSE(toolsOpen());
     expectEndedWell();
 }
 
 TEST_F(Leaving, PicturesThatAreGoneAlreadyDoNoHarm) {
     rig.signIn();
-    for (const auto* name : {u"pf.jpg", u"zjm.jpg", u"dlpf.jpg"})
-        QFile::remove(rig.file(QString::fromUtf16(name)));
-    click(u"Image3"_s);
+    for (const QStringView name : {u"pf.jpg", u"zjm.jpg", u"dlpf.jpg"})
+        QFile::remove(rig.file(name.toString()));
+    click(title::Close);
     expectEndedWell();
     EXPECT_EQ(rig.headerBytes(), Spoilt);
 }
@@ -67,13 +67,13 @@ TEST_F(Leaving, OtherFilesBesideTheProgramStay) {
     write(u"家.jpg"_s, "a photo");
     write(u"apf.jpg"_s, "another");
     rig.signIn();
-    click(u"Image3"_s);
+    click(title::Close);
     EXPECT_EQ(folder(), (QStringList{u"apf.jpg"_s, u"data.dll"_s, u"mydiary"_s, u"家.jpg"_s}));
 }
 
 TEST_F(Leaving, ANewStartAfterTheCloseImageHealsTheHeaderBeforeTheFirstQuery) {
     rig.signIn();
-    click(u"Image3"_s);
+    click(title::Close);
     rig.stop();
     ASSERT_EQ(rig.headerBytes(), Spoilt);
     rig.start();
@@ -86,8 +86,8 @@ TEST_F(Leaving, ANewStartAfterTheCloseImageHealsTheHeaderBeforeTheFirstQuery) {
 
 TEST_F(Leaving, NothingRunsAfterTheEnd) {
     rig.signIn();
-    click(u"Image3"_s);
-    click(u"Label8"_s);
+    click(title::Close);
+    click(pages::Diary);
     EXPECT_EQ(main().navigation().currentPage, 24);
     EXPECT_EQ(rig.process->codes.size(), 1u);
 }
@@ -112,7 +112,7 @@ TEST_F(Leaving, AProgramThatStopsDeadStartsAgain) {
 
 TEST_F(Leaving, OnlyTheJournalMayLieBesideTheDataFile) {
     rig.signIn();
-    click(u"Label2(0)"_s);
+    click(pages::Income);
     EXPECT_EQ(QDir(rig.folder()).entryList({u"data.dll*"_s}), QStringList{u"data.dll"_s});
 }
 

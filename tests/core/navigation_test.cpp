@@ -12,17 +12,17 @@ struct ExpectedPage {
 };
 
 const std::array<ExpectedPage, 11> Expected{{
-    {u"Label24"_s, u"  桌面"_s, 0, 24, u"Frame13"_s, 200, 1680, 11535, 6135},
-    {u"Label2(0)"_s, u"  收入"_s, 1080, 20, u"Frame2"_s, 120, 1680, 11655, 6255},
-    {u"Label2(1)"_s, u"  支出"_s, 2160, 21, u"Frame2"_s, 120, 1680, 11655, 6255},
-    {u"Label1"_s, u"  暂借"_s, 3240, 1, u"Frame6"_s, 120, 1680, 11655, 6255},
-    {u"Label6"_s, u"  储蓄"_s, 4320, 6, u"frame9"_s, 120, 1680, 11655, 6255},
-    {u"Label5"_s, u"  预算"_s, 5400, 5, u"Frame8"_s, 120, 1680, 11655, 6255},
-    {u"Label12"_s, u"  图表"_s, 6480, 12, u"Frame15"_s, 120, 1680, 11655, 6225},
-    {u"Label4"_s, u" 用户"_s, 7680, 4, u"Frame7"_s, 120, 1680, 11655, 6255},
-    {u"Label8"_s, u"  日记"_s, 8640, 8, u"Frame10"_s, 120, 1680, 11655, 6255},
-    {u"Label23"_s, u"  日程"_s, 9720, 23, u"Frame17"_s, 120, 1680, 11655, 6015},
-    {u"Label7"_s, u" 设置"_s, 10920, 7, u"Frame16"_s, 120, 1680, 11655, 6135},
+    {pages::Desktop, u"  桌面"_s, 0, 24, desktop::Page, 200, 1680, 11535, 6135},
+    {pages::Income, u"  收入"_s, 1080, 20, income::Page, 120, 1680, 11655, 6255},
+    {pages::Expense, u"  支出"_s, 2160, 21, income::Page, 120, 1680, 11655, 6255},
+    {pages::Loans, u"  暂借"_s, 3240, 1, loans::Page, 120, 1680, 11655, 6255},
+    {pages::Accounts, u"  储蓄"_s, 4320, 6, accounts::Page, 120, 1680, 11655, 6255},
+    {pages::Budget, u"  预算"_s, 5400, 5, budget::Page, 120, 1680, 11655, 6255},
+    {pages::Charts, u"  图表"_s, 6480, 12, charts::Page, 120, 1680, 11655, 6225},
+    {pages::Users, u" 用户"_s, 7680, 4, users::Page, 120, 1680, 11655, 6255},
+    {pages::Diary, u"  日记"_s, 8640, 8, diary_page::Page, 120, 1680, 11655, 6255},
+    {pages::Schedule, u"  日程"_s, 9720, 23, schedule::Page, 120, 1680, 11655, 6015},
+    {pages::Settings, u" 设置"_s, 10920, 7, settings::Page, 120, 1680, 11655, 6135},
 }};
 
 class NavigationTest : public CoreTest {
@@ -38,10 +38,11 @@ protected:
     }
     QStringList framesOnView() {
         QStringList shown;
-        for (const auto* name : {u"Frame13", u"Frame2", u"Frame6", u"frame9", u"Frame8", u"Frame15", u"Frame7",
-                                 u"Frame10", u"Frame17", u"Frame16", u"Frame3"})
-            if (rig.frame(QString::fromUtf16(name)).Visible())
-                shown << QString::fromUtf16(name);
+        for (const QString& name :
+             QStringList{desktop::Page, income::Page, loans::Page, accounts::Page, budget::Page, charts::Page,
+                         users::Page, diary_page::Page, schedule::Page, settings::Page, categories::Page})
+            if (rig.onMain<Frame>(name).Visible())
+                shown << name;
         return shown;
     }
 };
@@ -58,15 +59,15 @@ TEST_F(NavigationTest, TheLabelsStandInOneRow) {
 
 TEST_F(NavigationTest, AClickBringsThePagesFrameIntoItsPlaceAndHidesTheOthers) {
     for (const ExpectedPage& page : Expected) {
-        rig.frame(u"Frame3"_s).setShown(true);
+        rig.at(categories::Page).setShown(true);
         click(page.label);
         EXPECT_EQ(framesOnView(), QStringList{page.frame}) << page.label.toStdString();
-        const Frame& frame = rig.frame(page.frame);
+        const Frame& frame = rig.onMain<Frame>(page.frame);
         EXPECT_EQ(frame.Left(), page.left) << page.label.toStdString();
         EXPECT_EQ(frame.Top(), page.top) << page.label.toStdString();
         EXPECT_EQ(frame.Width(), page.width) << page.label.toStdString();
         EXPECT_EQ(frame.Height(), page.height) << page.label.toStdString();
-        rig.frame(u"Frame7"_s).setShown(false); // the schedule's page leaves it as it stands
+        rig.at(users::Page).setShown(false); // the schedule's page leaves it as it stands
     }
 }
 
@@ -96,22 +97,22 @@ TEST_F(NavigationTest, TheLabelsStayReachableOverEveryPage) {
 }
 
 TEST_F(NavigationTest, TheScheduleLeavesTheUsersPageVisibleBehindIt) {
-    click(u"Label4"_s);
-    click(u"Label23"_s);
-    EXPECT_EQ(framesOnView(), (QStringList{u"Frame7"_s, u"Frame17"_s}));
-    const QPoint middle = rig.frame(u"Frame17"_s).geometry().center();
+    click(pages::Users);
+    click(pages::Schedule);
+    EXPECT_EQ(framesOnView(), (QStringList{users::Page, schedule::Page}));
+    const QPoint middle = rig.at(schedule::Page).geometry().center();
     const QWidget* front = main().childAt(middle);
-    EXPECT_TRUE(front == &rig.frame(u"Frame17"_s) || rig.frame(u"Frame17"_s).isAncestorOf(front));
+    EXPECT_TRUE(front == &rig.at(schedule::Page) || rig.at(schedule::Page).isAncestorOf(front));
 }
 
 TEST_F(NavigationTest, EveryOtherPageHidesTheUsersPage) {
     for (const ExpectedPage& page : Expected) {
         if (page.number == 23 || page.number == 4)
             continue;
-        click(u"Label4"_s);
-        click(u"Label23"_s);
+        click(pages::Users);
+        click(pages::Schedule);
         click(page.label);
-        EXPECT_FALSE(rig.frame(u"Frame7"_s).Visible()) << page.label.toStdString();
+        EXPECT_FALSE(rig.at(users::Page).Visible()) << page.label.toStdString();
     }
 }
 
@@ -119,14 +120,14 @@ TEST_F(NavigationTest, ThePageInFrontCanBeOpenedOnceMore) {
     for (const ExpectedPage& page : Expected) {
         click(page.label);
         click(page.label);
-        EXPECT_TRUE(rig.frame(page.frame).isVisible()) << page.label.toStdString();
+        EXPECT_TRUE(rig.onMain<Frame>(page.frame).isVisible()) << page.label.toStdString();
         EXPECT_EQ(redLabels(), QStringList{page.label});
     }
 }
 
 TEST_F(NavigationTest, AGridStandsInItsPlaceInsideItsPage) {
-    click(u"Label2(0)"_s);
-    const auto& grid = rig.onMain<MSFlexGrid>(u"ms2"_s);
+    click(pages::Income);
+    const auto& grid = rig.at(income::Grid);
     EXPECT_EQ(grid.Left(), 120);
     EXPECT_EQ(grid.Top(), 840);
     EXPECT_EQ(grid.Width(), 11415);

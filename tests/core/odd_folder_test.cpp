@@ -16,15 +16,15 @@ protected:
     void saveABudgetRow() {
         rig.signIn();
         ASSERT_FALSE(rig.ended()) << rig.messages->errors.front().second.toStdString();
-        rig.click(rig.onMain<Label>(u"Label5"_s));
+        rig.click(rig.at(pages::Budget));
         rig.settle();
-        auto& grid = rig.onMain<MSFlexGrid>(u"ms6"_s);
+        auto& grid = rig.at(budget::Grid);
         const QStringList texts{u"2024-6-18"_s, u"米"_s, u"12.5"_s, u"五斤"_s};
         handlers::enter([&] {
             for (int col = 1; col <= texts.size(); ++col)
                 grid.setTextMatrix(1, col, texts.at(col - 1));
         });
-        rig.click(rig.onMain<CommandButton>(u"Command18"_s));
+        rig.click(rig.at(budget::Save));
         rig.settle();
     }
 
@@ -36,7 +36,7 @@ TEST_P(OddFolder, HoldsAProgramThatFindsItsDataAndKeepsARecord) {
     ASSERT_TRUE(rig.messages->errors.empty()) << rig.messages->errors.front().second.toStdString();
     EXPECT_EQ(rig.lastMessage().text, u"保存成功");
     EXPECT_EQ(rig.sql(u"select 预算时间,预算项目,预算金额 from ysb"_s), QStringList{u"2024-06-18|米|12.5"_s});
-    rig.click(rig.onMain<Image>(u"Image3"_s));
+    rig.click(rig.at(title::Close));
     EXPECT_EQ(rig.exitCode(), 0);
     EXPECT_EQ(QDir(rig.folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               (QStringList{u"data.dll"_s, u"mydiary"_s}));

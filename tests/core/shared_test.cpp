@@ -33,7 +33,7 @@ TEST_F(SharedTest, UnloadingToolsThatAreNotOpenIsHarmless) {
 TEST_F(SharedTest, AToolIsShownWhereItWasAskedForAndKeptOnTheScreen) {
     rig.signIn();
     handlers::enter([this] { rig.program->shared().openDatePicker(DateField::None, {}, {1500, 1200}); });
-    const Form& picker = *rig.loaded(u"Form1"_s);
+    const Form& picker = *rig.loaded(forms::DatePicker);
     EXPECT_TRUE(picker.isVisible());
     EXPECT_EQ(picker.Left(), 1500);
     EXPECT_EQ(picker.Top(), 1200);
@@ -44,8 +44,8 @@ TEST_F(SharedTest, AToolIsShownWhereItWasAskedForAndKeptOnTheScreen) {
 TEST_F(SharedTest, TheTwoToolsStayAboveTheMainWindow) {
     rig.signIn();
     openTools();
-    EXPECT_EQ(rig.loaded(u"Form1"_s)->parentWidget(), &main());
-    EXPECT_EQ(rig.loaded(u"Form9"_s)->parentWidget(), &main());
+    EXPECT_EQ(rig.loaded(forms::DatePicker)->parentWidget(), &main());
+    EXPECT_EQ(rig.loaded(forms::Calculator)->parentWidget(), &main());
 }
 
 } // namespace

@@ -15,9 +15,9 @@ class SignInChecks : public CoreTest {
 protected:
     using Messages = std::vector<ShownMessage>;
     const QString me = u"管理员"_s;
-    bool signedIn() { return rig.loaded(u"Form2"_s) && !rig.loaded(u"Form5"_s); }
+    bool signedIn() { return rig.loaded(forms::Main) && !rig.loaded(forms::SignIn); }
     /// A program of its own may end before the test does.
-    bool signInStands() { return rig.loaded(u"Form5"_s) != nullptr; }
+    bool signInStands() { return rig.loaded(forms::SignIn) != nullptr; }
 };
 
 TEST_F(SignInChecks, NameAndPasswordThatAreRightLoadTheMainWindowAndUnloadTheSignIn) {
@@ -78,7 +78,7 @@ TEST_F(SignInChecks, TheThirdUnknownNameTellsMoreAndTheWindowStays) {
     EXPECT_EQ(rig.messages->shown.size(), 5u);
     EXPECT_EQ(rig.lastMessage(), UnknownName);
     trySignIn(me, u"123456"_s);
-    EXPECT_TRUE(rig.loaded(u"Form2"_s));
+    EXPECT_TRUE(rig.loaded(forms::Main));
 }
 
 TEST_F(SignInChecks, CancelAfterAnUnknownNameEndsTheProgramWithTheHeaderHealed) {
@@ -171,7 +171,7 @@ TEST_F(SignInChecks, CapitalsCountInPasswordsAndNames) {
     trySignIn(u"anna"_s, u"Geheim"_s);
     EXPECT_EQ(rig.lastMessage(), UnknownName);
     trySignIn(u"Anna"_s, u"Geheim"_s);
-    EXPECT_TRUE(rig.loaded(u"Form2"_s));
+    EXPECT_TRUE(rig.loaded(forms::Main));
 }
 
 TEST_F(SignInChecks, BlanksAroundANameOrPasswordCount) {
@@ -207,7 +207,7 @@ TEST_F(SignInChecks, AQuoteInThePasswordIsAPasswordLikeAnyOther) {
     rig.sql(u"update yhb set 用户密码='it''s'"_s);
     rig.start();
     trySignIn(me, u"it's"_s);
-    EXPECT_TRUE(rig.loaded(u"Form2"_s));
+    EXPECT_TRUE(rig.loaded(forms::Main));
 }
 
 } // namespace

@@ -13,9 +13,9 @@ protected:
 
 TEST_F(SignInLoad, IsTheFirstWindowAndTheOnlyOne) {
     rig.start();
-    EXPECT_TRUE(rig.loaded(u"Form5"_s)->isVisible());
-    EXPECT_EQ(rig.loaded(u"Form5"_s)->Caption(), u"青禾家庭记账本登陆"_s);
-    EXPECT_EQ(rig.loaded(u"Form2"_s), nullptr);
+    EXPECT_TRUE(rig.loaded(forms::SignIn)->isVisible());
+    EXPECT_EQ(rig.loaded(forms::SignIn)->Caption(), u"青禾家庭记账本登陆"_s);
+    EXPECT_EQ(rig.loaded(forms::Main), nullptr);
 }
 
 TEST_F(SignInLoad, HealsTheHeaderBeforeItsFirstQuery) {
@@ -31,10 +31,11 @@ TEST_F(SignInLoad, ItsControlsStandInTheirPlaces) {
         QString name;
         double left, top, width, height;
     };
-    for (const Place& place : {Place{u"Combo1"_s, 1320, 1560, 3255, 300}, Place{u"Text2"_s, 1320, 2160, 3255, 375},
-                               Place{u"Label1"_s, 3600, 3420, 1335, 375}, Place{u"Image1"_s, 4320, 0, 375, 375},
-                               Place{u"Image2"_s, 4680, 0, 495, 375}}) {
-        const auto& control = rig.control<QWidget>(u"Form5"_s, place.name);
+    for (const Place& place :
+         {Place{sign_in::User, 1320, 1560, 3255, 300}, Place{sign_in::Password, 1320, 2160, 3255, 375},
+          Place{sign_in::Enter, 3600, 3420, 1335, 375}, Place{sign_in::Minimise, 4320, 0, 375, 375},
+          Place{sign_in::Close, 4680, 0, 495, 375}}) {
+        const auto& control = rig.control<QWidget>(forms::SignIn, place.name);
         EXPECT_EQ(control.property("Left").toDouble(), place.left) << place.name.toStdString();
         EXPECT_EQ(control.property("Top").toDouble(), place.top) << place.name.toStdString();
         EXPECT_EQ(control.property("Width").toDouble(), place.width) << place.name.toStdString();
@@ -43,7 +44,7 @@ TEST_F(SignInLoad, ItsControlsStandInTheirPlaces) {
     EXPECT_EQ(remember().Left(), 2280);
     EXPECT_EQ(remember().Top(), 2760);
     EXPECT_EQ(signInButton().Caption(), u"   登录"_s);
-    EXPECT_EQ(rig.control<Label>(u"Form5"_s, u"Label3"_s).Caption(), u"记住用户名和密码"_s);
+    EXPECT_EQ(rig.at(sign_in::RememberWords).Caption(), u"记住用户名和密码"_s);
 }
 
 TEST_F(SignInLoad, ThePasswordIsShownAsStars) {
@@ -98,8 +99,8 @@ TEST_F(SignInLoad, WritesItsPictureBesideTheProgramAndShowsIt) {
     rig.start();
     EXPECT_EQ(QString::fromLatin1(bytes(u"dlpf.jpg"_s).toHex().toUpper()),
               rig.sql(u"select hex(皮肤) from 登陆皮肤"_s).value(0));
-    EXPECT_EQ(rig.loaded(u"Form5"_s)->picture().pixelColor(4, 4).blue() < 30, true);
-    EXPECT_FALSE(rig.loaded(u"Form5"_s)->picture().isNull());
+    EXPECT_EQ(rig.loaded(forms::SignIn)->picture().pixelColor(4, 4).blue() < 30, true);
+    EXPECT_FALSE(rig.loaded(forms::SignIn)->picture().isNull());
 }
 
 TEST_F(SignInLoad, TheTimesOfAnOldPictureFileDoNotMatter) {

@@ -6,7 +6,7 @@ namespace {
 class SignInRemember : public CoreTest {
 protected:
     QStringList pairs() { return rig.sql(u"select 用户名, 密码 from 登陆用户记录表"_s); }
-    void clickWords() { rig.click(rig.control<Label>(u"Form5"_s, u"Label3"_s)); }
+    void clickWords() { rig.click(rig.at(sign_in::RememberWords)); }
     void forgetPair() { rig.sql(u"delete from 登陆用户记录表"_s); }
 };
 
@@ -14,7 +14,7 @@ TEST_F(SignInRemember, PressingTheButtonRightAwaySignsInAndRewritesTheSamePair) 
     rig.start();
     rig.click(signInButton());
     rig.settle();
-    EXPECT_TRUE(rig.loaded(u"Form2"_s));
+    EXPECT_TRUE(rig.loaded(forms::Main));
     EXPECT_EQ(pairs(), QStringList{u"管理员|123456"_s});
 }
 
@@ -49,7 +49,7 @@ TEST_F(SignInRemember, WithoutAPairAndWithoutATickNothingIsRemembered) {
     forgetPair();
     rig.start();
     trySignIn(u"管理员"_s, u"123456"_s);
-    EXPECT_TRUE(rig.loaded(u"Form2"_s));
+    EXPECT_TRUE(rig.loaded(forms::Main));
     EXPECT_EQ(pairs(), QStringList{});
 }
 

@@ -7,19 +7,19 @@ namespace {
 class SignInWindow : public CoreTest {
 protected:
     void SetUp() override { rig.start(); }
-    Form& form() { return *rig.loaded(u"Form5"_s); }
-    Image& image(const QString& name) { return rig.control<Image>(u"Form5"_s, name); }
+    Form& form() { return *rig.loaded(forms::SignIn); }
+    Image& image(const QString& name) { return rig.control<Image>(forms::SignIn, name); }
 };
 
 TEST_F(SignInWindow, TheMinimiseImageMinimises) {
-    rig.click(image(u"Image1"_s));
+    rig.click(image(sign_in::Minimise));
     EXPECT_EQ(form().WindowState(), 1);
     EXPECT_FALSE(rig.ended());
 }
 
 TEST_F(SignInWindow, TheExitImageDeletesThePictureAndEndsWithTheHeaderHealed) {
     ASSERT_TRUE(folder().contains(u"dlpf.jpg"_s));
-    rig.click(image(u"Image2"_s));
+    rig.click(image(sign_in::Close));
     expectEndedWell();
     EXPECT_EQ(folder(), QStringList{u"data.dll"_s});
     EXPECT_EQ(rig.headerBytes(), Healed);
@@ -41,9 +41,9 @@ TEST_F(SignInWindow, TheButtonIsRedUnderThePointerAndBlackWhenItIsOnTheWindow) {
 }
 
 TEST_F(SignInWindow, ImagesAndWordsShowTheHand) {
-    auto& words = rig.control<Label>(u"Form5"_s, u"Label3"_s);
+    auto& words = rig.at(sign_in::RememberWords);
     for (Label* control :
-         {static_cast<Label*>(&image(u"Image1"_s)), static_cast<Label*>(&image(u"Image2"_s)), &words}) {
+         {static_cast<Label*>(&image(sign_in::Minimise)), static_cast<Label*>(&image(sign_in::Close)), &words}) {
         rig.hover(*control);
         EXPECT_TRUE(handOver(*control)) << control->objectName().toStdString();
     }
@@ -52,7 +52,7 @@ TEST_F(SignInWindow, ImagesAndWordsShowTheHand) {
 
 TEST_F(SignInWindow, TheSignInButtonStaysRedUntilThePointerIsOnTheBareWindow) {
     rig.hover(signInButton());
-    rig.hover(image(u"Image1"_s));
+    rig.hover(image(sign_in::Minimise));
     EXPECT_EQ(signInButton().ForeColor(), Red);
 }
 
@@ -60,7 +60,7 @@ TEST_F(SignInWindow, ThePictureStaysAfterTheSignInUntilTheMainWindowIsLeft) {
     rig.click(signInButton());
     rig.settle();
     EXPECT_TRUE(folder().contains(u"dlpf.jpg"_s));
-    click(u"Image3"_s);
+    click(title::Close);
     EXPECT_FALSE(folder().contains(u"dlpf.jpg"_s));
 }
 

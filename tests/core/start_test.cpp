@@ -70,52 +70,52 @@ TEST_F(Start, TheHeaderIsHealedWhileNoWorkIsOpenInTheFile) {
 TEST_F(Start, TheDesktopStandsInFront) {
     rig.signIn();
     EXPECT_EQ(main().navigation().currentPage, 24);
-    EXPECT_EQ(label(u"Label24"_s).ForeColor(), Red);
-    const Frame& desktop = rig.frame(u"Frame13"_s);
+    EXPECT_EQ(label(pages::Desktop).ForeColor(), Red);
+    const Frame& desktop = rig.at(desktop::Page);
     EXPECT_TRUE(desktop.isVisible());
     EXPECT_EQ(desktop.Left(), 200);
     EXPECT_EQ(desktop.Top(), 1680);
     EXPECT_EQ(desktop.Width(), 11535);
     EXPECT_EQ(desktop.Height(), 6135);
-    auto& band = rig.onMain<Image>(u"Picture3"_s);
+    auto& band = rig.at(title::Band);
     EXPECT_EQ(band.Left(), 120);
     EXPECT_EQ(band.Width(), 11655);
 }
 
 TEST_F(Start, AllOtherFramesAreHidden) {
     rig.signIn();
-    for (const auto* name : {u"Frame7", u"Frame8", u"frame9", u"Frame10", u"Frame15", u"Frame16", u"Frame6", u"Frame3",
-                             u"Frame2", u"Frame17"})
-        EXPECT_FALSE(rig.frame(QString::fromUtf16(name)).Visible()) << QString::fromUtf16(name).toStdString();
+    for (const QString& name : QStringList{users::Page, budget::Page, accounts::Page, diary_page::Page, charts::Page,
+                                           settings::Page, loans::Page, categories::Page, income::Page, schedule::Page})
+        EXPECT_FALSE(rig.onMain<Frame>(name).Visible()) << name.toStdString();
 }
 
 TEST_F(Start, TheDataControlsAndTheSpareTickAreOutOfSight) {
     rig.signIn();
     for (const Adodc* control : {main().Adodc1, main().Adodc2, main().Adodc3})
         EXPECT_FALSE(control->isVisible());
-    EXPECT_FALSE(rig.onMain<CheckBox>(u"Check5"_s).Visible());
+    EXPECT_FALSE(rig.at(settings::AtSystemStart).Visible());
 }
 
 TEST_F(Start, DateAndTimeStandInTheBandAndTheTimeGoesOn) {
     rig.signIn();
-    EXPECT_EQ(caption(u"Label16"_s), u"系统时间：2024-6-18"_s);
-    EXPECT_EQ(caption(u"Label17"_s), u"20:36:08"_s);
-    auto& clock = rig.onMain<Timer>(u"Timer1"_s);
+    EXPECT_EQ(caption(title::Date), u"系统时间：2024-6-18"_s);
+    EXPECT_EQ(caption(title::Time), u"20:36:08"_s);
+    auto& clock = rig.at(title::Clock);
     EXPECT_TRUE(clock.Enabled());
     EXPECT_EQ(clock.interval(), 1000);
     rig.clock->time = QDateTime(QDate(2024, 6, 19), QTime(7, 5, 9));
     clock.setInterval(1);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return caption(u"Label17"_s) == u"7:05:09"_s; }));
-    EXPECT_EQ(caption(u"Label16"_s), u"系统时间：2024-6-18"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return caption(title::Time) == u"7:05:09"_s; }));
+    EXPECT_EQ(caption(title::Date), u"系统时间：2024-6-18"_s);
 }
 
 TEST_F(Start, TheCaptionRowBearsTheProgramsName) {
     rig.signIn();
-    EXPECT_EQ(caption(u"Label26"_s), u"青禾家庭记账本"_s);
-    EXPECT_EQ(label(u"Label26"_s).Left(), 960);
-    EXPECT_EQ(label(u"Label26"_s).Top(), 240);
-    EXPECT_EQ(label(u"Label26"_s).Width(), 2175);
-    EXPECT_EQ(label(u"Label26"_s).Height(), 375);
+    EXPECT_EQ(caption(title::Product), u"青禾家庭记账本"_s);
+    EXPECT_EQ(label(title::Product).Left(), 960);
+    EXPECT_EQ(label(title::Product).Top(), 240);
+    EXPECT_EQ(label(title::Product).Width(), 2175);
+    EXPECT_EQ(label(title::Product).Height(), 375);
 }
 
 TEST_F(Start, TheSharedNumbersBeginAtZero) {
@@ -134,9 +134,9 @@ protected:
         if (!rows.isEmpty())
             rig.sql(u"insert into txb values "_s + rows);
         rig.signIn();
-        auto& comparer = rig.onMain<Timer>(u"Timer2"_s);
-        const bool first = rig.onMain<CheckBox>(u"Check1"_s).Value();
-        EXPECT_EQ(rig.onMain<CheckBox>(u"Check8"_s).Value(), first);
+        auto& comparer = rig.at(schedule::Watch);
+        const bool first = rig.at(schedule::Remind).Value();
+        EXPECT_EQ(rig.at(settings::Remind).Value(), first);
         EXPECT_EQ(comparer.Enabled(), first);
         EXPECT_EQ(comparer.interval(), 1000);
         return first;

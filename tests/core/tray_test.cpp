@@ -29,15 +29,15 @@ TEST_F(TrayIcon, StartingWithTheSettingOnTheWindowAppearsForAMomentThenOnlyTheIc
     EXPECT_TRUE(seen);
     EXPECT_FALSE(main().isVisible());
     EXPECT_EQ(added(), 1u);
-    EXPECT_TRUE(rig.onMain<CheckBox>(u"Check7"_s).Value());
+    EXPECT_TRUE(rig.at(settings::ToTray).Value());
     EXPECT_FALSE(rig.ended());
 }
 
 TEST_F(TrayIcon, AStartIntoTheTrayStillFillsTheDesktop) {
     want(true);
     rig.signIn();
-    EXPECT_EQ(caption(u"Label36"_s), u"您还未添加今日日程！"_s);
-    EXPECT_EQ(caption(u"Label25"_s), u"0.00元"_s);
+    EXPECT_EQ(caption(desktop::Plans), u"您还未添加今日日程！"_s);
+    EXPECT_EQ(caption(desktop::LastIncome), u"0.00元"_s);
     EXPECT_TRUE(folder().contains(u"zjm.jpg"_s));
 }
 
@@ -45,7 +45,7 @@ TEST_F(TrayIcon, WithTheSettingOffOrMissingThereIsNoIcon) {
     rig.signIn();
     EXPECT_EQ(added(), 0u);
     EXPECT_TRUE(main().isVisible());
-    EXPECT_FALSE(rig.onMain<CheckBox>(u"Check7"_s).Value());
+    EXPECT_FALSE(rig.at(settings::ToTray).Value());
     rig.sql(u"delete from systuopanb"_s);
     minimise();
     EXPECT_EQ(added(), 0u);
@@ -90,7 +90,7 @@ TEST_F(TrayIcon, AMinimiseLooksIntoTheProgramsOwnFileWhateverTheControlWasPointe
 TEST_F(TrayIcon, TheMinimiseImageGoesToTheTrayToo) {
     rig.signIn();
     want(true);
-    click(u"Image4"_s);
+    click(title::Minimise);
     EXPECT_EQ(added(), 1u);
     EXPECT_FALSE(main().Visible());
 }
@@ -156,8 +156,8 @@ TEST_F(TrayIcon, ThePressOnTheIconBringsACoveredWindowToTheFront) {
     rig.signIn();
     for (const int message : {513, 130}) {
         send(message);
-        click(u"Image5"_s);
-        Form& tools = *rig.loaded(u"Form7"_s);
+        click(title::Tools);
+        Form& tools = *rig.loaded(forms::Web);
         ASSERT_TRUE(tools.isActiveWindow());
         send(message);
         EXPECT_TRUE(main().isActiveWindow()) << message;
@@ -169,7 +169,7 @@ TEST_F(TrayIcon, OtherEventsOfTheIconLeaveACoveredWindowWhereItIs) {
     want(true);
     rig.signIn();
     send(513);
-    click(u"Image5"_s);
+    click(title::Tools);
     for (const int message : {512, 514, 515, 516, 519, 0}) {
         send(message);
         EXPECT_FALSE(main().isActiveWindow()) << message;
@@ -178,10 +178,10 @@ TEST_F(TrayIcon, OtherEventsOfTheIconLeaveACoveredWindowWhereItIs) {
 
 TEST_F(TrayIcon, ThePointerOnItsWayOverTheWindowDoesNotPullItToTheFront) {
     rig.signIn();
-    click(u"Image5"_s);
+    click(title::Tools);
     for (const int x : {130, 513})
         pointer::move(main(), {x, 20});
-    EXPECT_TRUE(rig.loaded(u"Form7"_s)->isActiveWindow());
+    EXPECT_TRUE(rig.loaded(forms::Web)->isActiveWindow());
 }
 
 TEST_F(TrayIcon, AMinimisedWindowComesBackUpright) {
@@ -196,10 +196,10 @@ TEST_F(TrayIcon, AMinimisedWindowComesBackUpright) {
 TEST_F(TrayIcon, AnEventOfTheIconDoesTheOtherWorkOfAMoveToo) {
     want(true);
     rig.signIn();
-    label(u"Label1"_s).setForeColor(Red);
+    label(pages::Loans).setForeColor(Red);
     send(513);
-    EXPECT_EQ(label(u"Label1"_s).ForeColor(), Black);
-    EXPECT_EQ(label(u"Label24"_s).ForeColor(), Red);
+    EXPECT_EQ(label(pages::Loans).ForeColor(), Black);
+    EXPECT_EQ(label(pages::Desktop).ForeColor(), Red);
 }
 
 TEST_F(TrayIcon, TwoMinimisesInARowAddTheSameIconOnceMore) {
@@ -230,7 +230,7 @@ TEST_F(TrayIcon, TheProgramEndsWellOutOfATrayWindow) {
     want(true);
     rig.signIn();
     send(513);
-    click(u"Image3"_s);
+    click(title::Close);
     expectEndedWell();
 }
 

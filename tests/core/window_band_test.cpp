@@ -12,7 +12,7 @@ constexpr QPoint BareBand{400, 20}; ///< between the program's name and the wind
 class WindowBand : public CoreTest {
 protected:
     void SetUp() override { rig.signIn(); }
-    Form& web() { return *rig.loaded(u"Form7"_s); }
+    Form& web() { return *rig.loaded(forms::Web); }
 };
 
 TEST(WindowShape, RoundsTheUpperCornersByFivePixelsAndUsesWidthAndHeightThemselves) {
@@ -44,15 +44,15 @@ TEST_F(WindowBand, TheMainWindowHasItsShapeAndNoFrame) {
 }
 
 TEST_F(WindowBand, EachOfTheFourImagesUnloadsTheTools) {
-    for (const auto* image : {u"Image4", u"Image5", u"Image7", u"Image3"}) {
+    for (const QString& image : QStringList{title::Minimise, title::Tools, title::About, title::Close}) {
         openTools();
-        click(QString::fromUtf16(image));
-        EXPECT_FALSE(toolsOpen()) << QString::fromUtf16(image).toStdString();
+        click(image);
+        EXPECT_FALSE(toolsOpen()) << image.toStdString();
     }
 }
 
 TEST_F(WindowBand, TheMinimiseImageMinimises) {
-    click(u"Image4"_s);
+    click(title::Minimise);
     EXPECT_EQ(main().WindowState(), 1);
     EXPECT_TRUE(main().Visible());
     EXPECT_TRUE(rig.tray->added.empty());
@@ -62,46 +62,46 @@ TEST_F(WindowBand, TheMinimiseImageMinimises) {
 
 TEST_F(WindowBand, TheToolsWindowStandsToTheRightOfTheMainWindowInItsSize) {
     main().moveTo(1500, 900);
-    click(u"Image5"_s);
+    click(title::Tools);
     EXPECT_TRUE(web().isVisible());
     EXPECT_EQ(web().Caption(), u"软件工具"_s);
     EXPECT_EQ(web().Left(), 1500 + main().Width());
     EXPECT_EQ(web().Top(), 900);
     EXPECT_EQ(web().Width(), main().Width());
     EXPECT_EQ(web().Height(), main().Height());
-    EXPECT_EQ(rig.control<WebBrowser>(u"Form7"_s, u"Web1"_s).size(), web().size());
+    EXPECT_EQ(rig.at(web::Browser).size(), web().size());
 }
 
 TEST_F(WindowBand, TheToolsWindowFollowsWhenItIsAskedForAgainAndCanBeClosed) {
-    click(u"Image5"_s);
+    click(title::Tools);
     main().moveTo(300, 600);
-    click(u"Image5"_s);
+    click(title::Tools);
     EXPECT_EQ(web().Left(), 300 + main().Width());
     EXPECT_EQ(web().Top(), 600);
     web().close();
-    EXPECT_EQ(rig.loaded(u"Form7"_s), nullptr);
+    EXPECT_EQ(rig.loaded(forms::Web), nullptr);
     EXPECT_FALSE(rig.ended());
 }
 
 TEST_F(WindowBand, TheToolsWindowShowsTheDeliveredPage) {
     deliverWebPages(rig.folder());
-    click(u"Image5"_s);
-    auto& browser = rig.control<WebBrowser>(u"Form7"_s, u"Web1"_s);
+    click(title::Tools);
+    auto& browser = rig.at(web::Browser);
     EXPECT_EQ(browser.source(), QUrl::fromLocalFile(rig.file(u"web/softs.htm"_s)));
     EXPECT_FALSE(browser.toPlainText().isEmpty());
 }
 
 TEST_F(WindowBand, ALinkOutOfTheToolsWindowOpensInTheSystemsBrowser) {
     deliverWebPages(rig.folder());
-    click(u"Image5"_s);
-    emit rig.control<WebBrowser>(u"Form7"_s, u"Web1"_s).anchorClicked(QUrl(u"http://qinghe.example/"_s));
+    click(title::Tools);
+    emit rig.at(web::Browser).anchorClicked(QUrl(u"http://qinghe.example/"_s));
     EXPECT_EQ(rig.launcher->opened, std::vector<QUrl>{QUrl(u"http://qinghe.example/"_s)});
 }
 
 TEST_F(WindowBand, IntroductionAndAddressOpenPagesThatAreThere) {
     deliverWebPages(rig.folder());
-    click(u"Image7"_s);
-    click(u"Label20"_s);
+    click(title::About);
+    click(title::WebAddress);
     const QUrl introduction = QUrl::fromLocalFile(rig.file(u"web/adetail.htm"_s));
     const QUrl home = QUrl::fromLocalFile(rig.file(u"web/index.htm"_s));
     EXPECT_EQ(rig.launcher->opened, (std::vector<QUrl>{introduction, home}));
@@ -111,9 +111,9 @@ TEST_F(WindowBand, IntroductionAndAddressOpenPagesThatAreThere) {
 
 TEST_F(WindowBand, TheAddressLeavesTheToolsOpen) {
     openTools();
-    click(u"Label20"_s);
-    EXPECT_TRUE(rig.loaded(u"Form1"_s) && rig.loaded(u"Form9"_s));
-    EXPECT_FALSE(caption(u"Label20"_s).isEmpty());
+    click(title::WebAddress);
+    EXPECT_TRUE(rig.loaded(forms::DatePicker) && rig.loaded(forms::Calculator));
+    EXPECT_FALSE(caption(title::WebAddress).isEmpty());
 }
 
 TEST_F(WindowBand, ADragMovesTheWindowByTheWayOfThePointer) {
@@ -176,9 +176,9 @@ TEST_F(WindowBand, ADragThatBeginsWithTheDatePickerOpenHidesItFirstAndKeepsItLoa
     openTools();
     const double left = main().Left();
     pointer::press(main(), BareBand);
-    ASSERT_TRUE(rig.loaded(u"Form1"_s));
-    EXPECT_FALSE(rig.loaded(u"Form1"_s)->Visible());
-    EXPECT_TRUE(rig.loaded(u"Form9"_s)->Visible());
+    ASSERT_TRUE(rig.loaded(forms::DatePicker));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker)->Visible());
+    EXPECT_TRUE(rig.loaded(forms::Calculator)->Visible());
     EXPECT_EQ(main().Left(), left);
     pointer::move(main(), BareBand + QPoint(2, 0));
     EXPECT_EQ(main().Left(), left + 30);
@@ -193,11 +193,11 @@ TEST_F(WindowBand, TheStartOfADragIsKeptWithTheMarkOfAFilledRow) {
 
 TEST_F(WindowBand, APressOnAnImageOrALabelDragsNothing) {
     const double left = main().Left();
-    for (const auto* name : {u"Image5", u"Label26", u"Label1", u"Picture3"}) {
-        auto& control = label(QString::fromUtf16(name));
+    for (const QString& name : QStringList{title::Tools, title::Product, pages::Loans, title::Band}) {
+        auto& control = label(name);
         pointer::press(control);
         pointer::move(control, control.rect().center() + QPoint(9, 0));
-        EXPECT_EQ(main().Left(), left) << QString::fromUtf16(name).toStdString();
+        EXPECT_EQ(main().Left(), left) << name.toStdString();
         pointer::release(main(), BareBand);
     }
 }

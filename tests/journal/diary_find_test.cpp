@@ -48,7 +48,7 @@ TEST_F(DiaryFinding, AClickOnTheDateShowsNothing) {
     shown(1);
     rig.clickCell(ms8(), 1, 1);
     EXPECT_EQ(tx8().Text(), QString());
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
     EXPECT_FALSE(tx9().Visible());
     EXPECT_FALSE(rig.ended());
 }
@@ -64,7 +64,7 @@ TEST_F(DiaryFinding, AnEmptyDiaryKeepsTheRowAsItStoodAndReadsNoFile) {
 TEST_F(DiaryFinding, AnEmptyTitleBlanksTheRowWhereTheLoanGridStands) {
     rig.sql(u"insert into rjb values('2024-05-01','a'),('2024-05-02','b'),('2024-05-03',''),('2024-05-04',null)"_s);
     find();
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms1"_s).Row(), 1);
+    EXPECT_EQ(rig.at(loans::Grid).Row(), 1);
     EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"2024-5-1|"_s);
     EXPECT_EQ(ProgramRig::rowText(ms8(), 2), u"2024-5-2|b"_s);
     EXPECT_EQ(ProgramRig::rowText(ms8(), 4), u"2024-5-4|"_s);
@@ -74,7 +74,7 @@ TEST_F(DiaryFinding, AnEmptyTitleBlanksTheRowWhereTheLoanGridStands) {
 
 TEST_F(DiaryFinding, AnEmptyTitleBlanksWhateverRowTheLoanGridHas) {
     rig.sql(u"insert into rjb values('2024-05-01','a'),('2024-05-02','b'),('2024-05-03','')"_s);
-    auto& ms1 = rig.onMain<MSFlexGrid>(u"ms1"_s);
+    auto& ms1 = rig.at(loans::Grid);
     ms1.setRows(3);
     ms1.setRow(2);
     find();
@@ -107,9 +107,9 @@ TEST_F(DiaryFinding, ComingBackToThePageIsWriteModeAgain) {
     saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});
     find();
     shown(1);
-    rig.click(rig.onMain<Label>(u"Label5"_s));
+    rig.click(rig.at(pages::Budget));
     open();
-    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option6"_s).Value());
+    EXPECT_TRUE(rig.at(diary_page::Write).Value());
     EXPECT_EQ(tx8().Text(), QString());
     EXPECT_TRUE(save().isEnabled());
 }

@@ -12,16 +12,15 @@ class DiaryModes : public DiaryTest {
 protected:
     void openPicker() {
         rig.clickCell(ms8(), 1, 1);
-        ASSERT_TRUE(rig.loaded(u"Form1"_s));
+        ASSERT_TRUE(rig.loaded(forms::DatePicker));
         ASSERT_TRUE(tx9().Visible());
     }
-    bool pickerIsGone() { return !rig.loaded(u"Form1"_s); }
+    bool pickerIsGone() { return !rig.loaded(forms::DatePicker); }
     Adodc& data() { return *rig.mainWindow().Adodc1; }
     /// As another page leaves the data control.
     void turnDataElsewhere() {
         data().open(u"yhb"_s);
         data().setConnectionString(u"elsewhere"_s);
-        data().setVisible(true);
     }
     void expectData(const QString& source) {
         EXPECT_EQ(data().recordSource(), source);
@@ -31,14 +30,14 @@ protected:
 };
 
 TEST_F(DiaryModes, OpeningThePagePutsTheOthersAwayAndTheToolsWithThem) {
-    rig.click(rig.onMain<Label>(u"Label5"_s));
-    rig.clickCell(rig.onMain<MSFlexGrid>(u"ms6"_s), 1, 3);
-    ASSERT_TRUE(rig.loaded(u"Form9"_s));
+    rig.click(rig.at(pages::Budget));
+    rig.clickCell(rig.at(budget::Grid), 1, 3);
+    ASSERT_TRUE(rig.loaded(forms::Calculator));
     open();
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
-    EXPECT_FALSE(rig.frame(u"Frame8"_s).isVisible());
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
+    EXPECT_FALSE(rig.at(budget::Page).isVisible());
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 8);
-    const Frame& page = rig.frame(u"Frame10"_s);
+    const Frame& page = rig.at(diary_page::Page);
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ(QRectF(page.Left(), page.Top(), page.Width(), page.Height()), QRectF(120, 1680, 11655, 6255));
 }

@@ -18,16 +18,16 @@ protected:
         open();
     }
 
-    void open() { rig.click(rig.onMain<Label>(QStringLiteral("Label8"))); }
-    void find() { rig.click(rig.onMain<OptionButton>(QStringLiteral("Option5"))); }
-    void write() { rig.click(rig.onMain<OptionButton>(QStringLiteral("Option6"))); }
+    void open() { rig.click(rig.at(pages::Diary)); }
+    void find() { rig.click(rig.at(diary_page::Find)); }
+    void write() { rig.click(rig.at(diary_page::Write)); }
 
-    MSFlexGrid& ms8() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms8")); }
-    TextBox& tx9() { return rig.onMain<TextBox>(QStringLiteral("tx9")); }
-    LongTextBox& tx8() { return rig.onMain<LongTextBox>(QStringLiteral("tx8")); }
-    CommandButton& add() { return rig.onMain<CommandButton>(QStringLiteral("Command22")); }
-    CommandButton& remove() { return rig.onMain<CommandButton>(QStringLiteral("Command23")); }
-    CommandButton& save() { return rig.onMain<CommandButton>(QStringLiteral("Command24")); }
+    MSFlexGrid& ms8() { return rig.at(diary_page::Grid); }
+    TextBox& tx9() { return rig.at(diary_page::Box); }
+    LongTextBox& tx8() { return rig.at(diary_page::Text); }
+    CommandButton& add() { return rig.at(diary_page::Add); }
+    CommandButton& remove() { return rig.at(diary_page::Remove); }
+    CommandButton& save() { return rig.at(diary_page::Save); }
 
     /// Types date and title along the row, and the text behind them; Enter in the text is a line end.
     void fill(const QString& date, const QString& title, const QStringList& lines = {}) {
@@ -52,8 +52,8 @@ protected:
         rig.clickCell(ms8(), row, 2);
         return tx8().Text();
     }
-    QStringList rows() { return rig.sql(QStringLiteral("select * from rjb order by rowid")); }
-    QString path(const QString& title) { return rig.file(QStringLiteral("mydiary/%1.dll").arg(title)); }
+    QStringList rows() { return rig.sql(u"select * from rjb order by rowid"_s); }
+    QString path(const QString& title) { return rig.file(u"mydiary/%1.dll"_s.arg(title)); }
     QByteArray bytes(const QString& title) {
         QFile file(path(title));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
@@ -68,6 +68,6 @@ private:
     }
 };
 
-inline const ShownMessage DiarySaved{QStringLiteral("日志已经保存！"), 0, QStringLiteral("保存提示")};
+inline const ShownMessage DiarySaved{u"日志已经保存！"_s, 0, u"保存提示"_s};
 
 } // namespace qinghe::testing

@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 class DiaryWriting : public DiaryTest {};
 
 TEST_F(DiaryWriting, ThePageOpensInWriteModeOnOneBlankRow) {
-    EXPECT_TRUE(rig.frame(u"Frame10"_s).isVisible());
-    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option6"_s).Value());
+    EXPECT_TRUE(rig.at(diary_page::Page).isVisible());
+    EXPECT_TRUE(rig.at(diary_page::Write).Value());
     EXPECT_EQ(ms8().Rows(), 2);
     EXPECT_EQ(ms8().Cols(), 3);
     EXPECT_EQ(ms8().ColWidth(0), 300);
@@ -95,11 +95,11 @@ TEST_F(DiaryWriting, AClickInTheGridDropsTheTextTypedBefore) {
 
 TEST_F(DiaryWriting, EnterGoesFromTheDateToTheTitleAndClosesThere) {
     rig.clickCell(ms8(), 1, 1);
-    EXPECT_TRUE(rig.loaded(u"Form1"_s));
+    EXPECT_TRUE(rig.loaded(forms::DatePicker));
     EXPECT_EQ(rig.program->shared().dateTarget, 5);
     rig.press(tx9(), Qt::Key_Return);
     EXPECT_EQ(ms8().Col(), 2);
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
     EXPECT_EQ(QApplication::focusWidget(), &tx9());
     rig.press(tx9(), Qt::Key_Return);
     EXPECT_FALSE(tx9().Visible());
@@ -118,16 +118,16 @@ TEST_F(DiaryWriting, EscDropsWhatWasTyped) {
 
 TEST_F(DiaryWriting, APickedDateGoesIntoBoxAndCell) {
     rig.clickCell(ms8(), 1, 1);
-    Form& picker = *rig.loaded(u"Form1"_s);
+    Form& picker = *rig.loaded(forms::DatePicker);
     EXPECT_EQ(picker.Left(), 120 + tx9().Left() + rig.mainWindow().Left());
     EXPECT_EQ(picker.Top(), 1680 + tx9().Top() + rig.mainWindow().Top() + 300);
-    rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(6)"_s));
+    rig.doubleClick(rig.at(date_picker::Day[6]));
     EXPECT_EQ(ms8().TextMatrix(1, 1), u"2024-6-1"_s);
     EXPECT_EQ(tx9().Text(), u"2024-6-1"_s);
     rig.click(tx9());
-    EXPECT_TRUE(rig.loaded(u"Form1"_s));
-    rig.click(rig.frame(u"Frame10"_s));
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_TRUE(rig.loaded(forms::DatePicker));
+    rig.click(rig.at(diary_page::Page));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
 }
 
 TEST_F(DiaryWriting, DeletingTakesTheFirstEntryAndLeavesItsFileSoThatTheTitleIsFree) {

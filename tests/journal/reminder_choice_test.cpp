@@ -9,8 +9,8 @@ const ShownMessage Done{u"设置完毕！"_s, 64, u"系统提示"_s};
 
 class ReminderChoice : public ReminderTest {
 protected:
-    CheckBox& onSchedule() { return rig.onMain<CheckBox>(u"Check1"_s); }
-    CheckBox& onSettings() { return rig.onMain<CheckBox>(u"Check8"_s); }
+    CheckBox& onSchedule() { return rig.at(schedule::Remind); }
+    CheckBox& onSettings() { return rig.at(settings::Remind); }
     QStringList stored() { return rig.sql(u"select * from txb"_s); }
     void startAgain() {
         rig.stop();

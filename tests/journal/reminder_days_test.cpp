@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 /// chapter of the benchmarks.
 TEST_F(ReminderTest, EveryPlanOfSeveralHoursRingsOnceOrIsSwallowedByAPause) {
     struct Planned {
-        const char16_t* day;
-        const char16_t* time;
+        QStringView day;
+        QStringView time;
     };
     constexpr std::array<Planned, 7> rung{{{u"2024-02-28", u"22 0"},
                                            {u"2024-02-28", u"22 30"},
@@ -21,8 +21,8 @@ TEST_F(ReminderTest, EveryPlanOfSeveralHoursRingsOnceOrIsSwallowedByAPause) {
                                            {u"2024-02-29", u"1 2"}}};
     QStringList expected;
     for (const Planned& plan : rung) {
-        const QString name = QString::fromUtf16(plan.day) + ' '_L1 + QString::fromUtf16(plan.time);
-        plant(QString::fromUtf16(plan.day), QString::fromUtf16(plan.time), name);
+        const QString name = plan.day.toString() + ' '_L1 + plan.time.toString();
+        plant(plan.day.toString(), plan.time.toString(), name);
         expected << name;
     }
     plant(u"2024-02-28"_s, u"22 0"_s, u"in the same minute"_s);

@@ -19,8 +19,8 @@ protected:
     void tickAll() {
         tick(timer2());
         tick(timer3());
-        if (Form* popup = rig.loaded(QStringLiteral("Form6")))
-            tick(*popup->findChild<Timer*>(QStringLiteral("Timer1")));
+        if (Form* popup = rig.loaded(forms::Reminder))
+            tick(*popup->findChild<Timer*>(reminder::Clock));
     }
     static void tick(Timer& timer) {
         if (timer.Enabled())
@@ -29,15 +29,15 @@ protected:
     /// The watch runs, as after a sign-in with reminders.
     void watch() { timer2().setEnabled(true); }
 
-    bool rings() { return rig.loaded(QStringLiteral("Form6")) && rig.loaded(QStringLiteral("Form6"))->isVisible(); }
-    QString shownPlan() { return rig.control<Label>(QStringLiteral("Form6"), QStringLiteral("Label1")).Caption(); }
-    void understand() { press(QStringLiteral("Command1")); }
-    void endMusic() { press(QStringLiteral("Command2")); }
-    void closePopup() { rig.loaded(QStringLiteral("Form6"))->close(); }
+    bool rings() { return rig.loaded(forms::Reminder) && rig.loaded(forms::Reminder)->isVisible(); }
+    QString shownPlan() { return rig.at(reminder::Plan).Caption(); }
+    void understand() { press(reminder::Understood); }
+    void endMusic() { press(reminder::EndMusic); }
+    void closePopup() { rig.loaded(forms::Reminder)->close(); }
     QStringList takeCalls() { return std::exchange(rig.sound->calls, {}); }
 
 private:
-    void press(const QString& button) { rig.click(rig.control<CommandButton>(QStringLiteral("Form6"), button)); }
+    void press(const QString& button) { rig.click(rig.control<CommandButton>(forms::Reminder, button)); }
 };
 
 } // namespace qinghe::testing

@@ -38,7 +38,7 @@ TEST_F(ReminderWatch, APlanRingsInItsMinuteAndShowsItsText) {
     pass();
     ASSERT_TRUE(rings());
     EXPECT_EQ(shownPlan(), u"给爷爷打电话"_s);
-    EXPECT_FALSE(rig.loaded(u"Form6"_s)->isModal());
+    EXPECT_FALSE(rig.loaded(forms::Reminder)->isModal());
 }
 
 TEST_F(ReminderWatch, EverySecondOfTheMinuteMatches) {
@@ -81,7 +81,7 @@ TEST_F(ReminderWatch, OfTwoPlansInOneMinuteTheFirstInTheTableRings) {
     watch();
     pass(3);
     EXPECT_EQ(shownPlan(), u"first"_s);
-    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).FileName(), rig.file(u"音乐2.wav"_s));
+    EXPECT_EQ(rig.at(schedule::Player).FileName(), rig.file(u"音乐2.wav"_s));
     understand();
     // The pause swallows the rest of the minute, and with it the second plan.
     pass(200);
@@ -121,7 +121,7 @@ TEST_F(ReminderWatch, ThePauseBeginsAtOnceAndLastsSeventyTicks) {
     ASSERT_TRUE(rings());
     timer3().setInterval(5);
     understand();
-    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_FALSE(rig.loaded(forms::Reminder));
     EXPECT_FALSE(timer2().Enabled());
     EXPECT_TRUE(timer3().Enabled());
     EXPECT_EQ(timer3().interval(), 1000);
@@ -247,12 +247,12 @@ TEST_F(ReminderWatch, NoTickRunsInsideAnotherHandler) {
 TEST_F(ReminderWatch, ASaveBehindATickGoesIntoThePagesOwnTable) {
     plant(u"2024-06-18"_s, u"20 36"_s, u"plan"_s);
     rig.sql(u"insert into srb(编号,时间,项目,收款人,金额,账户) values('1','2024-06-01','工资','我',5,'现金')"_s);
-    rig.click(rig.onMain<Label>(u"Label2(0)"_s));
+    rig.click(rig.at(pages::Income));
     watch();
     pass();
     ASSERT_TRUE(rings());
     understand();
-    rig.click(rig.onMain<CommandButton>(u"Command6"_s));
+    rig.click(rig.at(income::Save));
     EXPECT_EQ(plans(u"日程内容"_s), QStringList{u"plan"_s});
     EXPECT_EQ(rig.sql(u"select 项目 from srb"_s), QStringList{u"工资"_s});
     EXPECT_TRUE(rig.messages->errors.empty());
@@ -280,7 +280,7 @@ TEST_F(ReminderWatch, APopupThatStandsIsNotShownAnewAtEveryTick) {
         }
         int count = 0;
     } risings;
-    rig.loaded(u"Form6"_s)->installEventFilter(&risings);
+    rig.loaded(forms::Reminder)->installEventFilter(&risings);
     pass(10);
     EXPECT_EQ(risings.count, 0);
 }

@@ -24,8 +24,8 @@ protected:
             qFatal("the plan does not ring");
     }
     void ringWith(const QString& plan);
-    Form& popup() { return *rig.loaded(u"Form6"_s); }
-    Label& planLabel() { return rig.control<Label>(u"Form6"_s, u"Label1"_s); }
+    Form& popup() { return *rig.loaded(forms::Reminder); }
+    Label& planLabel() { return rig.at(reminder::Plan); }
     /// All of the label is on view, and its words need no more than its room.
     void expectWholeTextInView() {
         Label& label = planLabel();
@@ -38,21 +38,21 @@ protected:
 };
 
 TEST_F(ReminderWindowTest, ItIsCalledTodaysPlanAndHasTwoButtons) {
-    EXPECT_EQ(rig.loaded(u"Form6"_s)->Caption(), u"今日日程"_s);
-    EXPECT_EQ(rig.control<CommandButton>(u"Form6"_s, u"Command1"_s).text(), u"知道了"_s);
-    EXPECT_EQ(rig.control<CommandButton>(u"Form6"_s, u"Command2"_s).text(), u"停止音乐"_s);
-    EXPECT_TRUE(rig.control<Timer>(u"Form6"_s, u"Timer1"_s).Enabled());
-    EXPECT_EQ(rig.control<Timer>(u"Form6"_s, u"Timer1"_s).interval(), 1000);
+    EXPECT_EQ(rig.loaded(forms::Reminder)->Caption(), u"今日日程"_s);
+    EXPECT_EQ(rig.at(reminder::Understood).text(), u"知道了"_s);
+    EXPECT_EQ(rig.at(reminder::EndMusic).text(), u"停止音乐"_s);
+    EXPECT_TRUE(rig.at(reminder::Clock).Enabled());
+    EXPECT_EQ(rig.at(reminder::Clock).interval(), 1000);
 }
 
 TEST_F(ReminderWindowTest, ItLeavesTheKeyboardWhereItIs) {
-    const Form& popup = *rig.loaded(u"Form6"_s);
+    const Form& popup = *rig.loaded(forms::Reminder);
     EXPECT_TRUE(popup.testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_TRUE(popup.windowFlags() & Qt::WindowStaysOnTopHint);
 }
 
 TEST_F(ReminderWindowTest, ItComesUpInTheMiddleOfTheScreenAndCannotBeMinimised) {
-    const Form& popup = *rig.loaded(u"Form6"_s);
+    const Form& popup = *rig.loaded(forms::Reminder);
     const QRectF screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_NEAR(popup.geometry().center().x(), screen.center().x(), 1);
     EXPECT_NEAR(popup.geometry().center().y(), screen.center().y(), 1);
@@ -62,8 +62,8 @@ TEST_F(ReminderWindowTest, ItComesUpInTheMiddleOfTheScreenAndCannotBeMinimised) 
 }
 
 TEST_F(ReminderWindowTest, OverItsButtonsThePointerIsAHand) {
-    for (const QString& name : {u"Command1"_s, u"Command2"_s}) {
-        auto& button = rig.control<CommandButton>(u"Form6"_s, name);
+    for (const QString& name : QStringList{reminder::Understood, reminder::EndMusic}) {
+        auto& button = rig.control<CommandButton>(forms::Reminder, name);
         rig.hover(button);
         EXPECT_EQ(button.cursor().shape(), Qt::PointingHandCursor);
     }
@@ -81,7 +81,7 @@ TEST_F(ReminderWindowTest, APieceAtItsEndBeginsAgain) {
     rig.sound->position = rig.sound->length;
     pass();
     EXPECT_EQ(takeCalls(), (QStringList{u"play"_s, u"rewind"_s}));
-    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).Command(), u"prev"_s);
+    EXPECT_EQ(rig.at(schedule::Player).Command(), u"prev"_s);
     pass();
     EXPECT_EQ(takeCalls(), kept);
 }
@@ -89,9 +89,9 @@ TEST_F(ReminderWindowTest, APieceAtItsEndBeginsAgain) {
 TEST_F(ReminderWindowTest, UnderstoodEndsTheMusicAndTheWindow) {
     takeCalls();
     understand();
-    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_FALSE(rig.loaded(forms::Reminder));
     EXPECT_EQ(takeCalls(), (QStringList{u"stop"_s, u"close"_s}));
-    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).Command(), u"close"_s);
+    EXPECT_EQ(rig.at(schedule::Player).Command(), u"close"_s);
     EXPECT_TRUE(timer3().Enabled());
     EXPECT_FALSE(rig.ended());
 }
@@ -109,7 +109,7 @@ TEST_F(ReminderWindowTest, TheMusicCanBeEndedAlone) {
 TEST_F(ReminderWindowTest, EndingTheMusicAndThenUnderstoodIsHarmlessAndThePauseBegins) {
     endMusic();
     understand();
-    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_FALSE(rig.loaded(forms::Reminder));
     EXPECT_TRUE(timer3().Enabled());
     pass(70);
     EXPECT_TRUE(timer2().Enabled());
@@ -121,7 +121,7 @@ TEST_F(ReminderWindowTest, ClosedByItsWindowButtonItComesBackWithTheMusicFromThe
     pass(4);
     takeCalls();
     closePopup();
-    EXPECT_FALSE(rig.loaded(u"Form6"_s));
+    EXPECT_FALSE(rig.loaded(forms::Reminder));
     EXPECT_EQ(takeCalls(), (QStringList{u"stop"_s, u"close"_s}));
     EXPECT_FALSE(timer3().Enabled());
     pass();
@@ -188,7 +188,7 @@ TEST_F(ReminderWindowTest, MarkUpInAPlanIsShownAsItWasTyped) {
     setClock(u"2024-06-18T20:40:00"_s);
     pass();
     EXPECT_EQ(shownPlan(), u"<b>3 & 4</b>"_s);
-    EXPECT_EQ(rig.control<Label>(u"Form6"_s, u"Label1"_s).textFormat(), Qt::PlainText);
+    EXPECT_EQ(rig.at(reminder::Plan).textFormat(), Qt::PlainText);
 }
 
 TEST_F(ReminderWindowTest, APlanOfManyThousandCharactersIsShown) {
@@ -198,7 +198,7 @@ TEST_F(ReminderWindowTest, APlanOfManyThousandCharactersIsShown) {
     setClock(u"2024-06-18T20:40:00"_s);
     pass();
     EXPECT_EQ(shownPlan().size(), 100000);
-    rig.loaded(u"Form6"_s)->grab();
+    rig.loaded(forms::Reminder)->grab();
 }
 
 /// Lets another plan ring, with this text.
@@ -230,8 +230,8 @@ TEST_F(ReminderWindowTest, TheWindowGrowsWithItsPlan) {
     expectWholeTextInView();
     const QRectF screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_NEAR(popup().geometry().center().y(), screen.center().y(), 1);
-    for (const QString& name : {u"Command1"_s, u"Command2"_s}) {
-        const auto& button = rig.control<CommandButton>(u"Form6"_s, name);
+    for (const QString& name : QStringList{reminder::Understood, reminder::EndMusic}) {
+        const auto& button = rig.control<CommandButton>(forms::Reminder, name);
         EXPECT_EQ(popup().Height() - button.Top(), 615);
         EXPECT_EQ(popup().childAt(button.geometry().center()), &button);
     }

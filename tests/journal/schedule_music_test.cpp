@@ -15,7 +15,7 @@ TEST_F(ScheduleMusic, APieceThatIsChosenIsPlayed) {
     rig.press(music(), Qt::Key_Down);
     EXPECT_EQ(music().Text(), u"音乐2"_s);
     EXPECT_EQ(takeCalls(), (QStringList{u"open 音乐1.wav"_s, u"play"_s, u"close"_s, u"open 音乐2.wav"_s, u"play"_s}));
-    EXPECT_EQ(rig.onMain<MMControl>(u"MM1"_s).FileName(), rig.file(u"音乐2.wav"_s));
+    EXPECT_EQ(rig.at(schedule::Player).FileName(), rig.file(u"音乐2.wav"_s));
 }
 
 TEST_F(ScheduleMusic, ThePieceThatPlaysBeginsAgainWhenItIsChosenAgain) {
@@ -33,7 +33,7 @@ TEST_F(ScheduleMusic, ThePieceThatPlaysBeginsAgainWhenItIsChosenAgain) {
 TEST_F(ScheduleMusic, ChoosingClosesTheDatePicker) {
     rig.click(date());
     rig.press(music(), Qt::Key_Down);
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
 }
 
 TEST_F(ScheduleMusic, ATypedNameIsNoChoice) {
@@ -49,15 +49,15 @@ TEST_F(ScheduleMusic, TheButtonEchoesTheChoicesAndStopsThePiece) {
     hour().setText(u"8"_s);
     minute().setText(u"5"_s);
     rig.click(date());
-    rig.click(rig.onMain<CommandButton>(u"Command29"_s));
-    EXPECT_EQ(rig.onMain<Label>(u"Label22"_s).Caption(), u"设置为：2024-6-20日8时 5分，提醒音乐为：音乐1"_s);
+    rig.click(rig.at(schedule::TakeMusic));
+    EXPECT_EQ(rig.at(schedule::Taken).Caption(), u"设置为：2024-6-20日8时 5分，提醒音乐为：音乐1"_s);
     EXPECT_EQ(takeCalls(), QStringList{u"stop"_s});
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
 }
 
 TEST_F(ScheduleMusic, TheEchoIsStaleUntilItIsAskedForAndSavingReadsTheLists) {
-    auto& echo = rig.onMain<Label>(u"Label22"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command29"_s));
+    auto& echo = rig.at(schedule::Taken);
+    rig.click(rig.at(schedule::TakeMusic));
     const QString before = echo.Caption();
     write(u"a"_s, u"2024-6-20"_s, u"9"_s, u"30"_s);
     rig.press(music(), Qt::Key_End);
@@ -68,7 +68,7 @@ TEST_F(ScheduleMusic, TheEchoIsStaleUntilItIsAskedForAndSavingReadsTheLists) {
 }
 
 TEST_F(ScheduleMusic, ThePageIsOpenedAndLeftWithoutASound) {
-    rig.click(rig.onMain<Label>(u"Label24"_s));
+    rig.click(rig.at(pages::Desktop));
     open();
     EXPECT_TRUE(takeCalls().isEmpty());
 }
@@ -76,7 +76,7 @@ TEST_F(ScheduleMusic, ThePageIsOpenedAndLeftWithoutASound) {
 TEST_F(ScheduleMusic, WithoutASoundDeviceAChoiceIsSilent) {
     rig.sound->present = false;
     rig.press(music(), Qt::Key_Down);
-    rig.click(rig.onMain<CommandButton>(u"Command29"_s));
+    rig.click(rig.at(schedule::TakeMusic));
     EXPECT_EQ(takeCalls(), QStringList{u"open 音乐1.wav"_s});
     EXPECT_TRUE(rig.messages->shown.empty());
     EXPECT_FALSE(rig.ended());

@@ -17,18 +17,18 @@ protected:
         open();
     }
 
-    void open() { rig.click(rig.onMain<Label>(QStringLiteral("Label23"))); }
-    LongTextBox& text() { return rig.onMain<LongTextBox>(QStringLiteral("Text3")); }
-    TextBox& date() { return rig.onMain<TextBox>(QStringLiteral("Text4")); }
-    ComboBox& hour() { return rig.onMain<ComboBox>(QStringLiteral("Combo3")); }
-    ComboBox& minute() { return rig.onMain<ComboBox>(QStringLiteral("Combo4")); }
-    ComboBox& music() { return rig.onMain<ComboBox>(QStringLiteral("Combo1")); }
-    CommandButton& fresh() { return rig.onMain<CommandButton>(QStringLiteral("Command26")); }
-    CommandButton& today() { return rig.onMain<CommandButton>(QStringLiteral("Command27")); }
-    CommandButton& save() { return rig.onMain<CommandButton>(QStringLiteral("Command28")); }
-    QString counter() { return rig.onMain<Label>(QStringLiteral("Label3")).Caption(); }
-    Timer& timer2() { return rig.onMain<Timer>(QStringLiteral("Timer2")); }
-    Timer& timer3() { return rig.onMain<Timer>(QStringLiteral("Timer3")); }
+    void open() { rig.click(rig.at(pages::Schedule)); }
+    LongTextBox& text() { return rig.at(schedule::Plan); }
+    TextBox& date() { return rig.at(schedule::Date); }
+    ComboBox& hour() { return rig.at(schedule::Hour); }
+    ComboBox& minute() { return rig.at(schedule::Minute); }
+    ComboBox& music() { return rig.at(schedule::Music); }
+    CommandButton& fresh() { return rig.at(schedule::New); }
+    CommandButton& today() { return rig.at(schedule::Today); }
+    CommandButton& save() { return rig.at(schedule::Save); }
+    QString counter() { return rig.at(schedule::Counter).Caption(); }
+    Timer& timer2() { return rig.at(schedule::Watch); }
+    Timer& timer3() { return rig.at(schedule::Pause); }
 
     /// Puts a plan on the page, without saving it.
     void write(const QString& plan, const QString& day, const QString& atHour = {}, const QString& atMinute = {}) {
@@ -38,20 +38,19 @@ protected:
         minute().setText(atMinute);
     }
     /// Rows of `rcb` in the order of writing.
-    QStringList plans(const QString& columns = QStringLiteral("*")) {
-        return rig.sql(QStringLiteral("select %1 from rcb order by rowid").arg(columns));
+    QStringList plans(const QString& columns = u"*"_s) {
+        return rig.sql(u"select %1 from rcb order by rowid"_s.arg(columns));
     }
     /// A row that stands in the table already.
     void plant(const QString& day, const QString& time, const QString& plan, const QString& piece = {}) {
-        rig.sql(QStringLiteral("insert into rcb(日程日期,提醒时间,日程内容,提醒音乐) values('%1','%2','%3','%4')")
-                    .arg(day, time, plan, piece.isEmpty() ? QStringLiteral("音乐1") : piece));
+        rig.sql(u"insert into rcb(日程日期,提醒时间,日程内容,提醒音乐) values('%1','%2','%3','%4')"_s.arg(
+            day, time, plan, piece.isEmpty() ? u"音乐1"_s : piece));
     }
 
     ProgramRig rig;
 };
 
-inline const ShownMessage PlanSaved{QStringLiteral("保存成功！"), 64, QStringLiteral("保存提示")};
-inline const ShownMessage PlanIncomplete{QStringLiteral("日程安排和提醒日期不能为空，请输入提醒内容！"), 64,
-                                         QStringLiteral("提示")};
+inline const ShownMessage PlanSaved{u"保存成功！"_s, 64, u"保存提示"_s};
+inline const ShownMessage PlanIncomplete{u"日程安排和提醒日期不能为空，请输入提醒内容！"_s, 64, u"提示"_s};
 
 } // namespace qinghe::testing

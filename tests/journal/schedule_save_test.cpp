@@ -35,7 +35,7 @@ TEST_F(ScheduleSaving, SavingByTheOtherButtonStoresTheDayAlone) {
 }
 
 TEST_F(ScheduleSaving, OnlyTheSaveButtonStartsTheWatchAndWritesTheSetting) {
-    rig.onMain<CheckBox>(u"Check1"_s).setValue(true);
+    rig.at(schedule::Remind).setValue(true);
     rig.sql(u"update txb set 日程提醒=0"_s);
     write(u"a"_s, u"2024-6-20"_s);
     add(Answer::Yes);
@@ -135,7 +135,7 @@ TEST_F(ScheduleSaving, ReturningToThePageLeavesTheSaveButtonDisabledUntilAFreshP
     write(u"a"_s, u"2024-6-20"_s);
     rig.click(save());
     EXPECT_FALSE(save().isEnabled());
-    rig.click(rig.onMain<Label>(u"Label24"_s));
+    rig.click(rig.at(pages::Desktop));
     open();
     EXPECT_FALSE(save().isEnabled());
     rig.click(fresh());
@@ -191,14 +191,14 @@ TEST_F(ScheduleSaving, SavingLeavesThePlansInTheFirstControlAndTheSettingInTheSe
 
 TEST_F(ScheduleSaving, SavingClosesTheDatePickerAlsoWhenItIsRefused) {
     rig.click(date());
-    ASSERT_TRUE(rig.loaded(u"Form1"_s));
+    ASSERT_TRUE(rig.loaded(forms::DatePicker));
     rig.click(save());
     EXPECT_EQ(rig.lastMessage(), PlanIncomplete);
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
     rig.click(date());
     write(u"a"_s, u"2024-6-20"_s);
     rig.click(save());
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
 }
 
 TEST_F(ScheduleSaving, WhatTheMessageSaysHasHappened) {
@@ -207,7 +207,7 @@ TEST_F(ScheduleSaving, WhatTheMessageSaysHasHappened) {
         if (message == PlanSaved)
             during = plans(u"日程内容"_s) + rig.sql(u"select * from txb"_s);
     };
-    rig.onMain<CheckBox>(u"Check1"_s).setValue(true);
+    rig.at(schedule::Remind).setValue(true);
     write(u"a"_s, u"2024-6-20"_s);
     rig.click(save());
     EXPECT_EQ(during, (QStringList{u"a"_s, u"1"_s}));

@@ -27,7 +27,7 @@ TEST_F(AccountWalkTest, FillsARowFromItsNameToItsRemark) {
     open();
     fillCell(1, 1, u"工资卡"_s);
     EXPECT_EQ(current(), u"1,2");
-    EXPECT_EQ(tools(), u"Form9"); // the starting amount asks for the calculator by Enter too
+    EXPECT_EQ(tools(), forms::Calculator); // the starting amount asks for the calculator by Enter too
     EXPECT_EQ(shared().calcTarget, 3);
     EXPECT_FALSE(box().isEnabled());
     calculate(u"1000"_s);

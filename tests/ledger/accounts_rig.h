@@ -11,8 +11,8 @@ protected:
     AccountsTest() : PageTest(Accounts) {}
 
     /// Stores one account: its name, eight amounts as SQL writes them (starting amount to balance), no remark.
-    void storeAccount(const QString& amounts, const QString& name = QStringLiteral("户")) {
-        rig.sql(QStringLiteral("insert into zhb values('%1',%2,'',1)").arg(name, amounts));
+    void storeAccount(const QString& amounts, const QString& name = u"户"_s) {
+        rig.sql(u"insert into zhb values('%1',%2,'',1)"_s.arg(name, amounts));
     }
     QString balance(int row = 1) { return grid().TextMatrix(row, 9); }
 };

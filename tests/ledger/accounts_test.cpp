@@ -34,8 +34,8 @@ TEST_F(AccountsTest, BringsItsFrameForwardAndMarksItsLabel) {
     EXPECT_EQ(frame().Width(), 11655);
     EXPECT_EQ(frame().Height(), 6255);
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 6);
-    EXPECT_EQ(rig.onMain<Label>(u"Label6"_s).ForeColor(), 255u);
-    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), 0u);
+    EXPECT_EQ(rig.at(pages::Accounts).ForeColor(), 255u);
+    EXPECT_EQ(rig.at(pages::Desktop).ForeColor(), 0u);
     EXPECT_EQ(adodc1().recordSource(), u"zhb");
     EXPECT_EQ(adodc1().connectionString(), shared().connection());
 }
@@ -51,7 +51,7 @@ TEST_F(AccountsTest, KeepsTheOldFirstRowOverAnEmptyTableWithoutAMessage) {
 TEST_F(AccountsTest, WritesAnEmptyTextToTheRowNumberOfTheLoanList) {
     store(Lent, 3);
     open(Lent);
-    rig.clickCell(rig.onMain<MSFlexGrid>(u"ms1"_s), 1, 1);
+    rig.clickCell(rig.at(loans::Grid), 1, 1);
     store(2);
     storeAccount(u"1,2,3,4,5,6,7,8"_s, u""_s);
     open();
@@ -78,10 +78,10 @@ TEST_F(AccountsTest, OpensTheCalculatorByAClickOnEveryNumberButTheBalance) {
     for (int col = 1; col <= 10; ++col) {
         clickCell(1, col);
         const bool number = col >= 2 && col <= 8;
-        EXPECT_EQ(tools(), number ? u"Form9"_s : u"none"_s) << col;
+        EXPECT_EQ(tools(), number ? forms::Calculator : u"none"_s) << col;
         EXPECT_EQ(box().isEnabled(), !number) << col;
         if (number)
-            expectUnderEditor(u"Form9"_s);
+            expectUnderEditor(forms::Calculator);
         EXPECT_EQ(box().Text(), grid().TextMatrix(1, col));
     }
     EXPECT_EQ(shared().calcTarget, 3);
@@ -109,7 +109,7 @@ TEST_F(AccountsTest, ActsByTheColumnOnAClickInTheBox) {
         grid().setCol(col); // as the arrow keys of the grid do
         press(box());
         EXPECT_EQ(box().isEnabled(), col == 10) << col;
-        EXPECT_EQ(tools(), col == 5 ? u"Form9"_s : u"none"_s) << col;
+        EXPECT_EQ(tools(), col == 5 ? forms::Calculator : u"none"_s) << col;
     }
 }
 

@@ -39,17 +39,17 @@ TEST_F(BudgetTest, BringsItsFrameForwardAndMarksItsLabel) {
     EXPECT_EQ(frame().Width(), 11655);
     EXPECT_EQ(frame().Height(), 6255);
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 5);
-    EXPECT_EQ(rig.onMain<Label>(u"Label5"_s).ForeColor(), 255u);
-    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), 0u);
+    EXPECT_EQ(rig.at(pages::Budget).ForeColor(), 255u);
+    EXPECT_EQ(rig.at(pages::Desktop).ForeColor(), 0u);
     EXPECT_EQ(adodc1().recordSource(), u"ysb");
     EXPECT_TRUE(adodc1().connectionString().endsWith(' '_L1));
 }
 
 TEST_F(BudgetTest, OpensThePickerByAClickButNotByEnter) {
     clickCell(1, 1);
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     EXPECT_EQ(shared().dateTarget, 7);
-    expectUnderEditor(u"Form1"_s);
+    expectUnderEditor(forms::DatePicker);
     clickCell(1, 4);
     EXPECT_EQ(tools(), u"none");
     enter();
@@ -57,8 +57,8 @@ TEST_F(BudgetTest, OpensThePickerByAClickButNotByEnter) {
     EXPECT_EQ(tools(), u"none");
     EXPECT_EQ(QApplication::focusWidget(), &box());
     press(box()); // which brings it up
-    EXPECT_EQ(tools(), u"Form1");
-    rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(6)"_s));
+    EXPECT_EQ(tools(), forms::DatePicker);
+    rig.doubleClick(rig.at(date_picker::Day[6]));
     EXPECT_EQ(grid().TextMatrix(2, 1), u"2024-6-1");
 }
 
@@ -74,7 +74,7 @@ TEST_F(BudgetTest, ClosesThePickerWhenEnterLeavesTheDate) {
 TEST_F(BudgetTest, OpensTheCalculatorByEnterAndByAClick) {
     clickCell(1, 2);
     enter();
-    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(tools(), forms::Calculator);
     EXPECT_EQ(shared().calcTarget, 4);
     EXPECT_FALSE(box().isEnabled());
     EXPECT_EQ(rig.mainWindow().focusWidget(), &grid());

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 class CategoriesOpeningTest : public CategoriesTest {
 protected:
-    MSFlexGrid& ms1() { return rig.onMain<MSFlexGrid>(u"ms1"_s); }
+    MSFlexGrid& ms1() { return rig.at(loans::Grid); }
     QStringList framesOnView() {
         QStringList shown;
         for (const Page* page : rig.mainWindow().navigation().pages())
@@ -34,7 +34,7 @@ TEST_F(CategoriesOpeningTest, ThePageIsASmallStripBesideTheWindowUntilItIsOpened
 
 TEST_F(CategoriesOpeningTest, TheSettingsOpenItOnIncome) {
     openWith({u"工资|基本工资|gz"_s});
-    EXPECT_EQ(framesOnView(), QStringList{u"Frame3"_s});
+    EXPECT_EQ(framesOnView(), QStringList{categories::Page});
     EXPECT_EQ(place(frame3()), u"240,1200,12015,6615");
     EXPECT_TRUE(option(Income).Value());
     EXPECT_FALSE(option(Expense).Value());
@@ -45,7 +45,7 @@ TEST_F(CategoriesOpeningTest, TheSettingsOpenItOnIncome) {
 TEST_F(CategoriesOpeningTest, TheSettingsStayTheChosenPage) {
     open();
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 7);
-    EXPECT_EQ(rig.onMain<Label>(u"Label7"_s).ForeColor(), 255u);
+    EXPECT_EQ(rig.at(pages::Settings).ForeColor(), 255u);
 }
 
 TEST_F(CategoriesOpeningTest, ThePageLabelsStayInFrontSoThatItCanBeLeft) {
@@ -74,7 +74,7 @@ TEST_F(CategoriesOpeningTest, TheExpenseSideAsksForTheMajorsOfExpense) {
     EXPECT_EQ(ms4().TextMatrix(0, 1), u"消费细类");
     EXPECT_EQ(ms4().TextMatrix(0, 2), u"快速代码");
     EXPECT_EQ(majors(), QStringList{u"日常生活"_s});
-    EXPECT_EQ(framesOnView(), QStringList{u"Frame3"_s});
+    EXPECT_EQ(framesOnView(), QStringList{categories::Page});
 }
 
 TEST_F(CategoriesOpeningTest, TheExpenseSideSetsTheLeftEdgeOfTheMinors) {
@@ -156,7 +156,7 @@ TEST_F(CategoriesOpeningTest, AnEmptyMajorEndsTheProgramWhenTheLoanGridStandsFur
     const QStringList before = stored();
     ms1().setRows(9);
     ms1().setRow(5);
-    clickLabel(u"Label7"_s);
+    clickLabel(pages::Settings);
     press(31);
     expectEndedBy(RuntimeError::SubscriptOutOfRange);
     EXPECT_EQ(stored(), before);
@@ -208,7 +208,7 @@ TEST_F(CategoriesOpeningTest, APageLabelHidesItAndClosesTheMinors) {
 TEST_F(CategoriesOpeningTest, TheBorrowedListHidesItAndClosesTheMinors) {
     openWith({u"甲|1|a"_s});
     clickMajor(1);
-    rig.click(rig.onMain<Image>(u"Image1"_s));
+    rig.click(rig.at(loans::Picture));
     rig.settle();
     EXPECT_FALSE(frame3().Visible());
     EXPECT_FALSE(minorsUsable());
@@ -216,7 +216,7 @@ TEST_F(CategoriesOpeningTest, TheBorrowedListHidesItAndClosesTheMinors) {
 
 TEST_F(CategoriesOpeningTest, TheMinorsAreClosedFromTheFirstChangeOfPageOn) {
     EXPECT_TRUE(minorsUsable());
-    clickLabel(u"Label5"_s);
+    clickLabel(pages::Budget);
     EXPECT_FALSE(minorsUsable());
 }
 
@@ -227,7 +227,7 @@ TEST_F(CategoriesOpeningTest, TheSettingsOpenItOnIncomeWheneverItIsOpened) {
         choose(left);
         clickMajor(1);
         fillMajor(1, u"改过"_s);
-        clickLabel(u"Label2(0)"_s);
+        clickLabel(pages::Income);
         store({u"乙|%1|"_s.arg(left)});
         open();
         EXPECT_TRUE(option(Income).Value());
@@ -254,7 +254,7 @@ TEST_F(CategoriesOpeningTest, AClickBesideTheListsLeavesTheEditorOpen) {
     openWith({u"甲|1|a"_s});
     clickMajor(1);
     QTest::mouseClick(&frame3(), Qt::LeftButton, {}, QPoint(400, 60));
-    rig.click(rig.frame(u"Frame4"_s));
+    rig.click(rig.at(categories::MajorsFrame));
     EXPECT_TRUE(tx3().Visible());
     pressBareForm(40);
     EXPECT_TRUE(tx3().Visible());

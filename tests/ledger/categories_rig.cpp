@@ -26,7 +26,7 @@ QStringList CategoriesTest::stored(Side side) {
 }
 
 void CategoriesTest::open(Side side) {
-    clickLabel(u"Label7"_s);
+    clickLabel(pages::Settings);
     press(31);
     if (side == Expense)
         choose(Expense);
@@ -63,7 +63,7 @@ void CategoriesTest::clickLabel(const QString& label) {
 }
 
 void CategoriesTest::pressBareForm(int y) {
-    QTest::mouseClick(rig.loaded(u"Form2"_s), Qt::LeftButton, {}, QPoint(400, y));
+    QTest::mouseClick(rig.loaded(forms::Main), Qt::LeftButton, {}, QPoint(400, y));
     rig.settle();
 }
 

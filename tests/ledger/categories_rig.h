@@ -19,15 +19,15 @@ protected:
     void open(Side side = Income);
     void openWith(const QStringList& rows, Side side = Income);
 
-    MSFlexGrid& ms3() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms3")); }
-    MSFlexGrid& ms4() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms4")); }
-    TextBox& tx3() { return rig.onMain<TextBox>(QStringLiteral("tx3")); }
-    TextBox& tx4() { return rig.onMain<TextBox>(QStringLiteral("tx4")); }
+    MSFlexGrid& ms3() { return rig.at(categories::Majors); }
+    MSFlexGrid& ms4() { return rig.at(categories::Minors); }
+    TextBox& tx3() { return rig.at(categories::MajorBox); }
+    TextBox& tx4() { return rig.at(categories::MinorBox); }
     OptionButton& option(Side side) {
-        return rig.onMain<OptionButton>(side == Income ? QStringLiteral("Option3") : QStringLiteral("Option4"));
+        return rig.onMain<OptionButton>(side == Income ? categories::Income : categories::Expense);
     }
-    CommandButton& command(int number) { return rig.onMain<CommandButton>(QStringLiteral("Command%1").arg(number)); }
-    Frame& frame3() { return rig.frame(QStringLiteral("Frame3")); }
+    CommandButton& command(int number) { return rig.onMain<CommandButton>(u"Command%1"_s.arg(number)); }
+    Frame& frame3() { return rig.at(categories::Page); }
     Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
     Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
     Shared& shared() { return rig.program->shared(); }
@@ -48,7 +48,7 @@ protected:
     /// The rows of the grids, cells joined with "|".
     QStringList majors() { return rowsOf(ms3()); }
     QStringList minors() { return rowsOf(ms4()); }
-    QString current(const MSFlexGrid& grid) { return QStringLiteral("%1,%2").arg(grid.Row()).arg(grid.Col()); }
+    QString current(const MSFlexGrid& grid) { return u"%1,%2"_s.arg(grid.Row()).arg(grid.Col()); }
     bool minorsUsable();
 
     static void expectOver(const TextBox& box, MSFlexGrid& grid, int row, int col);

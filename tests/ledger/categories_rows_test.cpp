@@ -74,7 +74,7 @@ TEST_F(CategoriesRowsTest, AddingAMajorOnABlankRowIsTakenOnceATextWasSeen) {
 TEST_F(CategoriesRowsTest, TheMarkOfATextOutlivesTheVisitAndTheSide) {
     openWith({u"甲|1|"_s});
     press(7);
-    clickLabel(u"Label2(0)"_s);
+    clickLabel(pages::Income);
     open(Expense);
     ms3().setTextMatrix(1, 1, {});
     press(7);

@@ -31,7 +31,7 @@ TEST_F(CellClickTest, CoversEveryCellWithoutGapOrOverlap) {
         for (const int col : {1, 2, 3, 4, 5, 6, 7}) {
             clickCell(row, col);
             expectEditorOver(row, col);
-            EXPECT_EQ(rig.frame(u"Frame2"_s).childAt(tx2().geometry().center()), &tx2());
+            EXPECT_EQ(rig.at(income::Page).childAt(tx2().geometry().center()), &tx2());
         }
 }
 
@@ -43,23 +43,23 @@ TEST_F(CellClickTest, GivesTheEditorTheKeyboard) {
 
 TEST_F(CellClickTest, OpensTheDatePickerUnderTheDateColumn) {
     clickCell(2, 2);
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     EXPECT_EQ(shared().dateTarget, 3);
-    expectUnderEditor(u"Form1"_s);
+    expectUnderEditor(forms::DatePicker);
     EXPECT_TRUE(tx2().isEnabled()); // a date can be typed as well
     EXPECT_EQ(QApplication::focusWidget(), &tx2());
-    EXPECT_FALSE(rig.loaded(u"Form1"_s)->isModal());
+    EXPECT_FALSE(rig.loaded(forms::DatePicker)->isModal());
 }
 
 TEST_F(CellClickTest, OpensTheCalculatorUnderTheAmountColumnAndClosesTheEditorToKeys) {
     clickCell(2, 5);
-    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(tools(), forms::Calculator);
     EXPECT_EQ(shared().calcTarget, 1);
-    expectUnderEditor(u"Form9"_s);
+    expectUnderEditor(forms::Calculator);
     EXPECT_FALSE(tx2().isEnabled());
     EXPECT_TRUE(tx2().isVisible());
     EXPECT_EQ(tx2().Text(), u"2.5");
-    EXPECT_FALSE(rig.loaded(u"Form9"_s)->isModal());
+    EXPECT_FALSE(rig.loaded(forms::Calculator)->isModal());
 }
 
 TEST_F(CellClickTest, LetsNoKeyReachTheAmountColumn) {
@@ -90,24 +90,24 @@ TEST_F(CellClickTest, ClosesTheToolsOnEveryOtherColumn) {
 TEST_F(CellClickTest, ChangesOneToolForTheOtherBetweenTheirColumns) {
     clickCell(1, 2);
     clickCell(1, 5);
-    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(tools(), forms::Calculator);
     clickCell(1, 2);
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     EXPECT_TRUE(tx2().isEnabled());
 }
 
 TEST_F(CellClickTest, MovesAnOpenToolUnderTheNextCellOfItsColumn) {
     clickCell(1, 5);
-    Form* calculator = rig.loaded(u"Form9"_s);
+    Form* calculator = rig.loaded(forms::Calculator);
     rig.type(*calculator, u"12"_s);
     clickCell(3, 5);
-    EXPECT_EQ(rig.loaded(u"Form9"_s), calculator);
-    expectUnderEditor(u"Form9"_s);
-    EXPECT_EQ(rig.control<TextBox>(u"Form9"_s, u"Text1"_s).Text(), u"12");
+    EXPECT_EQ(rig.loaded(forms::Calculator), calculator);
+    expectUnderEditor(forms::Calculator);
+    EXPECT_EQ(rig.at(calculator::Display).Text(), u"12");
 }
 
 TEST_F(CellClickTest, DoesNothingWhileTheGridShowsStatistics) {
-    for (const QString& view : {u"Option8"_s, u"Option9"_s}) {
+    for (const auto& view : {income::ByItem, income::ByPerson}) {
         choose(view);
         ms2().setUsable(true);
         clickCell(1, 1);
@@ -119,20 +119,20 @@ TEST_F(CellClickTest, DoesNothingWhileTheGridShowsStatistics) {
 
 TEST_F(CellClickTest, BringsAClosedDatePickerBackByAClickInTheEditor) {
     clickCell(1, 2);
-    rig.loaded(u"Form1"_s)->close();
+    rig.loaded(forms::DatePicker)->close();
     EXPECT_EQ(tools(), u"none");
     shared().dateTarget = 1;
     rig.click(tx2());
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     EXPECT_EQ(shared().dateTarget, 3);
-    expectUnderEditor(u"Form1"_s);
+    expectUnderEditor(forms::DatePicker);
 }
 
 TEST_F(CellClickTest, BringsTheCalculatorBackByAClickInTheEditorWhenItStandsOnTheAmount) {
     clickCell(1, 4);
     ms2().setCol(5); // as the arrow keys of the grid do
     rig.click(tx2());
-    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(tools(), forms::Calculator);
     EXPECT_EQ(shared().calcTarget, 1);
     EXPECT_FALSE(tx2().isEnabled());
 }

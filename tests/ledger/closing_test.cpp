@@ -13,8 +13,8 @@ class ClosingTest : public IncomeTest {
 protected:
     ClosingTest() { openWith(2); }
 
-    MSFlexGrid& ms1() { return rig.onMain<MSFlexGrid>(u"ms1"_s); }
-    TextBox& tx1() { return rig.onMain<TextBox>(u"tx1"_s); }
+    MSFlexGrid& ms1() { return rig.at(loans::Grid); }
+    TextBox& tx1() { return rig.at(loans::Box); }
     void writeInto(int row, int col, const QString& text) {
         clickCell(row, col);
         write(text);
@@ -31,7 +31,7 @@ TEST_F(ClosingTest, CommitsTheBoxByAClickOnTheForm) {
 
 TEST_F(ClosingTest, HidesThePickerOnAPressOnTheForm) {
     writeInto(1, 2, u"2024-1-1"_s);
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     clickForm();
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-1-1");
     EXPECT_EQ(tools(), u"none");
@@ -70,8 +70,8 @@ TEST_F(ClosingTest, TakesAClickOnADisabledBoxAsOneOnTheFrame) {
 
 TEST_F(ClosingTest, CommitsAlsoWhenAnotherPageIsInView) {
     writeInto(1, 3, u"别处提交"_s);
-    rig.click(rig.onMain<Label>(u"Label24"_s));
-    EXPECT_FALSE(rig.frame(u"Frame2"_s).Visible());
+    rig.click(rig.at(pages::Desktop));
+    EXPECT_FALSE(rig.at(income::Page).Visible());
     clickForm();
     EXPECT_EQ(ms2().TextMatrix(1, 3), u"别处提交");
 }
@@ -102,10 +102,10 @@ TEST_F(ClosingTest, CommitsNeitherBudgetNorAccountWhileTheirPagesAreHidden) {
     for (const GridList& other : {Budget, Accounts}) {
         store(other, 1);
         open(other);
-        auto& otherGrid = rig.onMain<MSFlexGrid>(u"ms%1"_s.arg(other.number));
+        auto& otherGrid = rig.at(other.grid);
         rig.clickCell(otherGrid, 1, other.text);
         const QString before = otherGrid.Text();
-        rig.onMain<TextBox>(u"tx%1"_s.arg(other.number)).setText(u"未按回车"_s);
+        rig.at(other.box).setText(u"未按回车"_s);
         open();
         clickForm();
         EXPECT_EQ(otherGrid.TextMatrix(1, other.text), before) << other.name;

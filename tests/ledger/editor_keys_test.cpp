@@ -20,7 +20,7 @@ protected:
 TEST_F(EditorKeysTest, LeaveThePickerOpenOnEsc) {
     clickCell(1, 2);
     escape();
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
 }
 
 TEST_F(EditorKeysTest, WriteBackAndMoveToTheNextColumnOnEnter) {
@@ -44,10 +44,10 @@ TEST_F(EditorKeysTest, OpenThePickerWhenEnterReachesTheDate) {
     clickCell(1, 1);
     enter();
     EXPECT_EQ(current(), u"1,2");
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     EXPECT_EQ(shared().dateTarget, 3);
     expectKeyboardInEditor(); // a date can be typed at once
-    const Form& picker = *rig.loaded(u"Form1"_s);
+    const Form& picker = *rig.loaded(forms::DatePicker);
     EXPECT_DOUBLE_EQ(picker.Left(), 120 + tx2().Left() + rig.mainWindow().Left());
     EXPECT_DOUBLE_EQ(picker.Top(), 1680 + tx2().Top() + 300 + rig.mainWindow().Top());
 }
@@ -65,7 +65,7 @@ TEST_F(EditorKeysTest, OpenTheCalculatorWhenEnterReachesTheAmount) {
     clickCell(2, 4);
     enter();
     EXPECT_EQ(current(), u"2,5");
-    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(tools(), forms::Calculator);
     EXPECT_EQ(shared().calcTarget, 1);
     EXPECT_FALSE(tx2().isEnabled());
     EXPECT_EQ(tx2().Text(), u"2.5");

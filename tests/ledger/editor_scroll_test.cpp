@@ -17,7 +17,7 @@ protected:
         ms2().verticalScrollBar()->setValue(firstRow - 1);
         rig.settle();
     }
-    bool inSight() { return rig.frame(u"Frame2"_s).childAt(tx2().geometry().center()) == &tx2(); }
+    bool inSight() { return rig.at(income::Page).childAt(tx2().geometry().center()) == &tx2(); }
 };
 
 TEST_F(EditorScrollTest, FollowsItsCell) {

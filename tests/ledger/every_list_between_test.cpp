@@ -13,10 +13,10 @@ class EveryListBetweenTest : public EveryListTest {
 protected:
     /// Opens the backup window, which stays open, and makes a copy of the ledger as it is.
     void backUp() {
-        press(rig.onMain<Label>(u"Label7"_s));
-        chooseWindow(u"Option14"_s);
+        press(rig.at(pages::Settings));
+        chooseWindow(settings::Backup);
         copy();
-        chooseWindow(u"Option16"_s);
+        chooseWindow(settings::Restore);
     }
     /// With the window that stayed open.
     void restore() { copy(); }
@@ -31,14 +31,14 @@ protected:
     }
 
 private:
-    void chooseWindow(const QString& name) {
+    void chooseWindow(const Name<OptionButton>& name) {
         auto& way = option(name);
         QTest::mouseClick(&way, Qt::LeftButton, {}, {8, way.height() / 2});
         rig.settle();
     }
     void copy() {
         rig.chooser->names = {rig.file(u"b.dat"_s)};
-        press(rig.control<CommandButton>(u"Form13"_s, u"Command1"_s));
+        press(rig.at(backup::Start));
     }
 };
 
@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(Lists, EveryListBetweenTest, ::testing::ValuesIn(Ledger
 TEST_P(EveryListBetweenTest, ASaveAfterARestoreGoesIntoTheRestoredFile) {
     store(2);
     backUp();
-    rig.sql(u"delete from %1"_s.arg(QString::fromUtf16(list.table)));
+    rig.sql(u"delete from %1"_s.arg(list.table.toString()));
     store(1);
     open();
     fillCell(1, list.text, u"改过"_s);
@@ -76,7 +76,7 @@ TEST_P(EveryListBetweenTest, ASaveAfterATickOfTheRemindersGoesIntoItsTable) {
     rig.sql(u"insert into rcb(日程日期,提醒时间,日程内容) values('2024-06-18','1 1','交电费')"_s);
     openWith(2);
     edit();
-    auto& watch = rig.onMain<Timer>(u"Timer2"_s);
+    auto& watch = rig.at(schedule::Watch);
     watch.setEnabled(true);
     watch.Tick.fromQt();
     expectSavedWithEdit();
@@ -86,7 +86,7 @@ TEST_P(EveryListBetweenTest, ASaveAfterATickOfTheRemindersGoesIntoItsTable) {
 TEST_P(EveryListBetweenTest, ASaveAfterRowsWentBehindItsBackWritesTheGrid) {
     openWith(2);
     edit();
-    rig.sql(u"delete from %1"_s.arg(QString::fromUtf16(list.table))); // as a purge does
+    rig.sql(u"delete from %1"_s.arg(list.table.toString())); // as a purge does
     expectSavedWithEdit();
 }
 

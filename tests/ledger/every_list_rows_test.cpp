@@ -81,7 +81,7 @@ TEST_P(EveryListRowsTest, StayWhenTheDeletionIsCancelled) {
     rig.messages->answers = {Answer::Cancel};
     press(remove());
     EXPECT_EQ(grid().Rows(), 3);
-    EXPECT_EQ(row(1), QString::fromUtf16(list.firstRow));
+    EXPECT_EQ(row(1), list.firstRow.toString());
     EXPECT_EQ(numbers().size(), 2);
 }
 
@@ -90,9 +90,9 @@ TEST_P(EveryListRowsTest, LeaveGridAndTableAtOnce) {
     clickCell(2, list.text);
     const QString third = row(3);
     press(remove());
-    EXPECT_EQ(rows(), (QStringList{QString::fromUtf16(list.firstRow), third}));
+    EXPECT_EQ(rows(), (QStringList{list.firstRow.toString(), third}));
     EXPECT_EQ(numbers(), (QStringList{u"1"_s, u"3"_s})); // the others keep their numbers until a save
-    EXPECT_EQ(adodc1().recordSource(), QString::fromUtf16(list.table));
+    EXPECT_EQ(adodc1().recordSource(), list.table.toString());
 }
 
 TEST_P(EveryListRowsTest, LeaveTheGridAloneWhenTheyWereNeverSaved) {
@@ -105,7 +105,7 @@ TEST_P(EveryListRowsTest, LeaveTheGridAloneWhenTheyWereNeverSaved) {
 
 TEST_P(EveryListRowsTest, LeaveTheTableByTheirPlaceWhateverStandsInThem) {
     openWith(3);
-    rig.sql(u"delete from %1 where 区别 = 1"_s.arg(QString::fromUtf16(list.table))); // by another program
+    rig.sql(u"delete from %1 where 区别 = 1"_s.arg(list.table.toString())); // by another program
     clickCell(2, list.text);
     press(remove());
     EXPECT_EQ(numbers(), QStringList{u"2"_s}); // the second record was the third

@@ -48,7 +48,7 @@ TEST_P(EveryListSaveTest, TakesARowWithoutARemark) {
 TEST_P(EveryListSaveTest, NumbersTheRowsAnewInTheOrderOfTheGrid) {
     openWith(3);
     const QStringList before = stored();
-    rig.sql(u"update %1 set 区别 = 10 - 区别"_s.arg(QString::fromUtf16(list.table)));
+    rig.sql(u"update %1 set 区别 = 10 - 区别"_s.arg(list.table.toString()));
     press(save());
     EXPECT_EQ(rig.messages->shown, std::vector{SaveDone});
     EXPECT_EQ(stored(), before);

@@ -13,7 +13,7 @@ constexpr quint32 Red = 255, Black = 0;
 TEST_F(IncomeTest, HasTheCaptionsAndWidthsOfIncomeAfterItsLabel) {
     open(0);
     EXPECT_EQ(ProgramRig::rowText(ms2(), 0), u"编号|时间|项目|收款人|金额|账户|备注");
-    EXPECT_EQ(rig.frame(u"Frame2"_s).Caption(), u"收入记录");
+    EXPECT_EQ(rig.at(income::Page).Caption(), u"收入记录");
     EXPECT_EQ(ms2().TextMatrix(0, 0), u"");
     EXPECT_EQ(ms2().Cols(), 8);
     EXPECT_EQ(ms2().ColWidth(0), 300);
@@ -25,12 +25,12 @@ TEST_F(IncomeTest, HasTheCaptionsAndWidthsOfIncomeAfterItsLabel) {
 TEST_F(IncomeTest, HasTheCaptionsOfExpenseAfterItsLabel) {
     open(1);
     EXPECT_EQ(ProgramRig::rowText(ms2(), 0), u"编号|时间|项目|付款人|金额|账户|备注");
-    EXPECT_EQ(rig.frame(u"Frame2"_s).Caption(), u"支出记录");
+    EXPECT_EQ(rig.at(income::Page).Caption(), u"支出记录");
 }
 
 TEST_F(IncomeTest, PutsFrameAndGridInTheirPlaces) {
     open();
-    const Frame& frame = rig.frame(u"Frame2"_s);
+    const Frame& frame = rig.at(income::Page);
     EXPECT_EQ(frame.Left(), 120);
     EXPECT_EQ(frame.Top(), 1680);
     EXPECT_EQ(frame.Width(), 11655);
@@ -43,18 +43,18 @@ TEST_F(IncomeTest, PutsFrameAndGridInTheirPlaces) {
     EXPECT_EQ(ms2().RowHeight(0), 300);
     EXPECT_EQ(ms2().RowHeight(1), 300);
     EXPECT_FALSE(tx2().Visible());
-    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option7"_s).Value());
+    EXPECT_TRUE(rig.at(income::Records).Value());
 }
 
 TEST_F(IncomeTest, MarksTheLabelOfItsSideAlone) {
     open(0);
-    EXPECT_EQ(rig.onMain<Label>(u"Label2(0)"_s).ForeColor(), Red);
-    EXPECT_EQ(rig.onMain<Label>(u"Label2(1)"_s).ForeColor(), Black);
+    EXPECT_EQ(rig.at(pages::Income).ForeColor(), Red);
+    EXPECT_EQ(rig.at(pages::Expense).ForeColor(), Black);
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 20);
     open(1);
-    EXPECT_EQ(rig.onMain<Label>(u"Label2(0)"_s).ForeColor(), Black);
-    EXPECT_EQ(rig.onMain<Label>(u"Label2(1)"_s).ForeColor(), Red);
-    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), Black);
+    EXPECT_EQ(rig.at(pages::Income).ForeColor(), Black);
+    EXPECT_EQ(rig.at(pages::Expense).ForeColor(), Red);
+    EXPECT_EQ(rig.at(pages::Desktop).ForeColor(), Black);
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 21);
 }
 
@@ -150,7 +150,7 @@ TEST_F(IncomeTest, DropsUnsavedEditsWhenTheSameSideIsOpenedAgain) {
 TEST_F(IncomeTest, ClosesEditorAndToolsWhenItIsOpenedAgain) {
     openWith(1);
     clickCell(1, 2);
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     open(0);
     EXPECT_EQ(tools(), u"none");
     EXPECT_FALSE(tx2().Visible());
@@ -158,10 +158,10 @@ TEST_F(IncomeTest, ClosesEditorAndToolsWhenItIsOpenedAgain) {
 
 TEST_F(IncomeTest, ReloadsTheTableByItsOptionAndTakesTheTotalOfTheLastOpening) {
     openWith(2);
-    choose(u"Option8"_s);
+    choose(income::ByItem);
     EXPECT_FALSE(ms2().isEnabled());
     store(1);
-    choose(u"Option7"_s);
+    choose(income::Records);
     EXPECT_EQ(rows().size(), 3);
     EXPECT_EQ(total(), u"当前收入总额为：4.00元"); // two rows' total, and no blank behind
     EXPECT_TRUE(ms2().isEnabled());
@@ -172,17 +172,17 @@ TEST_F(IncomeTest, ReloadsTheTableByItsOptionAndTakesTheTotalOfTheLastOpening) {
 
 TEST_F(IncomeTest, LeavesTheFirstRowAsItIsWhenTheOptionFindsNothingInTheTable) {
     openWith(1);
-    choose(u"Option9"_s);
+    choose(income::ByPerson);
     rig.sql(u"delete from srb"_s);
-    choose(u"Option7"_s);
+    choose(income::Records);
     EXPECT_EQ(rows(), QStringList{u"1|2024-5-1|项目1||||"_s}); // the columns of the report were fewer
 }
 
 TEST_F(IncomeTest, KeepsASinglePrecisionTotalForItsOption) {
     rig.sql(u"insert into zcb values('1','2024-05-03','a','b',1234567.89,'c','',1)"_s);
     open(1);
-    choose(u"Option8"_s);
-    choose(u"Option7"_s);
+    choose(income::ByItem);
+    choose(income::Records);
     EXPECT_EQ(total(), u"当前支出总额为：1234567.88元");
 }
 
@@ -191,8 +191,8 @@ TEST_F(IncomeTest, KeepsTheStoredTotalWhenTheTableIsFoundEmpty) {
     rig.sql(u"delete from srb"_s);
     open();
     EXPECT_EQ(total(), u"当前收入总额为：0.00元");
-    choose(u"Option8"_s);
-    choose(u"Option7"_s);
+    choose(income::ByItem);
+    choose(income::Records);
     EXPECT_EQ(total(), u"当前收入总额为：4.00元");
 }
 

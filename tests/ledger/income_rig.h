@@ -16,7 +16,7 @@ protected:
 
     MSFlexGrid& ms2() { return grid(); }
     TextBox& tx2() { return box(); }
-    QString total() { return rig.onMain<Label>(QStringLiteral("Label10")).Caption(); }
+    QString total() { return rig.at(income::Total).Caption(); }
 
     /// Fills columns 1 to 7 of a row, save for those with no text; an amount goes in by the calculator.
     void fillRow(int row, const QStringList& texts);

@@ -8,11 +8,13 @@ namespace qinghe::testing {
 
 inline constexpr GridList Income{
     .name = "Income",
-    .label = u"Label2(0)",
-    .option = u"",
-    .frame = u"Frame2",
-    .number = 2,
-    .firstButton = 4,
+    .label = pages::Income,
+    .frame = income::Page,
+    .grid = income::Grid,
+    .box = income::Box,
+    .add = income::Add,
+    .remove = income::Remove,
+    .save = income::Save,
     .table = u"srb",
     .values =
         u"n, date('2024-05-01', (n - 1) || ' days'), '项目' || n, '人' || n, n + 0.5, '账户' || n, '备注' || n, n",
@@ -25,18 +27,20 @@ inline constexpr GridList Income{
 inline constexpr GridList Expense = [] {
     GridList list = Income;
     list.name = "Expense";
-    list.label = u"Label2(1)";
+    list.label = pages::Expense;
     list.table = u"zcb";
     return list;
 }();
 
 inline constexpr GridList Lent{
     .name = "Lent",
-    .label = u"Label1",
-    .option = u"",
-    .frame = u"Frame6",
-    .number = 1,
-    .firstButton = 1,
+    .label = pages::Loans,
+    .frame = loans::Page,
+    .grid = loans::Grid,
+    .box = loans::Box,
+    .add = loans::Add,
+    .remove = loans::Remove,
+    .save = loans::Save,
     .table = u"jcb",
     .values = u"'户' || n, date('2024-05-01', (n - 1) || ' days'), 100, n, 90, '甲', '乙', '备' || n, n",
     .firstRow = u"户1|2024-5-1|100|1|90|甲|乙|备1",
@@ -49,18 +53,20 @@ inline constexpr GridList Lent{
 inline constexpr GridList Borrowed = [] {
     GridList list = Lent;
     list.name = "Borrowed";
-    list.option = u"Option1";
+    list.option = loans::Borrowed;
     list.table = u"jrb";
     return list;
 }();
 
 inline constexpr GridList Budget{
     .name = "Budget",
-    .label = u"Label5",
-    .option = u"",
-    .frame = u"Frame8",
-    .number = 6,
-    .firstButton = 16,
+    .label = pages::Budget,
+    .frame = budget::Page,
+    .grid = budget::Grid,
+    .box = budget::Box,
+    .add = budget::Add,
+    .remove = budget::Remove,
+    .save = budget::Save,
     .table = u"ysb",
     .values = u"date('2024-05-01', (n - 1) || ' days'), '项目' || n, n + 0.5, '备注' || n, n",
     .firstRow = u"2024-5-1|项目1|1.5|备注1",
@@ -71,11 +77,13 @@ inline constexpr GridList Budget{
 
 inline constexpr GridList Accounts{
     .name = "Accounts",
-    .label = u"Label6",
-    .option = u"",
-    .frame = u"frame9",
-    .number = 7,
-    .firstButton = 19,
+    .label = pages::Accounts,
+    .frame = accounts::Page,
+    .grid = accounts::Grid,
+    .box = accounts::Box,
+    .add = accounts::Add,
+    .remove = accounts::Remove,
+    .save = accounts::Save,
     .table = u"zhb",
     .values = u"'户' || n, 100, 10, 20, 30, 40, 50, 60, 70 + n, '备' || n, n",
     .firstRow = u"户1|100|10|20|30|40|50|60|71|备1",

@@ -40,14 +40,14 @@ protected:
 
 TEST_F(BorrowedListWidth, NeedsNoBarAcrossWithItsWiderRemark) {
     store(Many);
-    rig.click(rig.onMain<Image>(u"Image1"_s));
+    rig.click(rig.at(loans::Picture));
     EXPECT_EQ(grid().ColWidth(8), 3200);
     expectSeenWhole(grid());
 }
 
 TEST_F(BorrowedListWidth, NeedsNoBarAcrossForAFewRowsEither) {
     store(3);
-    rig.click(rig.onMain<Image>(u"Image1"_s));
+    rig.click(rig.at(loans::Picture));
     rig.settle();
     EXPECT_FALSE(grid().horizontalScrollBar()->isVisible());
     EXPECT_TRUE(grid().cellRoom().contains(grid().cellRect(3, 8)));

@@ -19,8 +19,8 @@ TEST_F(LoansCellsTest, OpenTheCalculatorByAClickOnEitherAmount) {
     for (const int col : {3, 4}) {
         clickCell(1, 1);
         clickCell(1, col);
-        EXPECT_EQ(tools(), u"Form9");
-        expectUnderEditor(u"Form9"_s);
+        EXPECT_EQ(tools(), forms::Calculator);
+        expectUnderEditor(forms::Calculator);
         EXPECT_EQ(shared().calcTarget, 2);
         EXPECT_FALSE(box().isEnabled());
         calculate(u"7"_s);
@@ -55,28 +55,28 @@ TEST_F(LoansCellsTest, TakeOneCharacterForTheBalanceAlsoFromAnInputMethod) {
 TEST_F(LoansCellsTest, OpenThePickerByEnterAndByClick) {
     clickCell(1, 1);
     enter();
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     EXPECT_EQ(shared().dateTarget, 4);
-    expectUnderEditor(u"Form1"_s);
+    expectUnderEditor(forms::DatePicker);
     enter();
     EXPECT_EQ(tools(), u"none");
     clickCell(2, 2);
-    rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(6)"_s));
+    rig.doubleClick(rig.at(date_picker::Day[6]));
     EXPECT_EQ(grid().TextMatrix(2, 2), u"2024-6-1");
     EXPECT_EQ(box().Text(), u"2024-6-1");
 }
 
 TEST_F(LoansCellsTest, BringTheToolsBackByAClickInTheBox) {
     clickCell(1, 2);
-    rig.loaded(u"Form1"_s)->close();
+    rig.loaded(forms::DatePicker)->close();
     press(box());
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
     clickCell(1, 1);
     for (const int col : {3, 4}) {
         box().setUsable(true);
         grid().setCol(col); // as the arrow keys of the grid do
         press(box());
-        EXPECT_EQ(tools(), u"Form9");
+        EXPECT_EQ(tools(), forms::Calculator);
         EXPECT_FALSE(box().isEnabled());
     }
 }

@@ -10,16 +10,15 @@ class LoansTest : public PageTest {
 protected:
     LoansTest() : PageTest(Lent) {}
 
-    void clickLabel() { press(rig.onMain<Label>(QStringLiteral("Label1"))); }
-    void clickImage() { press(rig.onMain<Image>(QStringLiteral("Image1"))); }
-    void chooseBorrowed() { choose(QStringLiteral("Option1")); }
-    void chooseLent() { choose(QStringLiteral("Option2")); }
-    QString total() { return rig.onMain<Label>(QStringLiteral("Label11")).Caption(); }
+    void clickLabel() { press(rig.at(pages::Loans)); }
+    void clickImage() { press(rig.at(loans::Picture)); }
+    void chooseBorrowed() { choose(loans::Borrowed); }
+    void chooseLent() { choose(loans::Lent); }
+    QString total() { return rig.at(loans::Total).Caption(); }
 
     /// Stores one loan with these amounts, as SQL writes them.
     void storeLoan(const GridList& which, const QString& amounts) {
-        rig.sql(QStringLiteral("insert into %1 values('户','2024-05-03',%2,'甲','乙','',1)")
-                    .arg(QString::fromUtf16(which.table), amounts));
+        rig.sql(u"insert into %1 values('户','2024-05-03',%2,'甲','乙','',1)"_s.arg(which.table.toString(), amounts));
     }
 };
 

@@ -20,8 +20,8 @@ TEST_F(LoansTest, OpensOnTheLentListByItsLabel) {
     openWith(2);
     EXPECT_EQ(row(0), u"账户|日期|借出金额|已还金额|余额|借出人|借给人|备注");
     EXPECT_EQ(frame().Caption(), u"借出表");
-    EXPECT_TRUE(option(u"Option2"_s).Value());
-    EXPECT_FALSE(option(u"Option1"_s).Value());
+    EXPECT_TRUE(option(loans::Lent).Value());
+    EXPECT_FALSE(option(loans::Borrowed).Value());
     EXPECT_EQ(rows(), (QStringList{u"户1|2024-5-1|100|1|90|甲|乙|备1"_s, u"户2|2024-5-2|100|2|90|甲|乙|备2"_s}));
     EXPECT_EQ(adodc1().recordSource(), u"jcb");
     EXPECT_FALSE(adodc1().isVisible());
@@ -49,8 +49,8 @@ TEST_F(LoansTest, PutsFrameGridAndColumnsInTheirPlacesByItsLabel) {
 TEST_F(LoansTest, MarksItsLabelAlone) {
     open();
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 1);
-    EXPECT_EQ(rig.onMain<Label>(u"Label1"_s).ForeColor(), Red);
-    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), Black);
+    EXPECT_EQ(rig.at(pages::Loans).ForeColor(), Red);
+    EXPECT_EQ(rig.at(pages::Desktop).ForeColor(), Black);
 }
 
 TEST_F(LoansTest, OpensOnTheBorrowedListByThePictureWithAWiderRemark) {
@@ -60,7 +60,7 @@ TEST_F(LoansTest, OpensOnTheBorrowedListByThePictureWithAWiderRemark) {
     EXPECT_TRUE(frame().isVisible());
     EXPECT_EQ(row(0), u"账户|日期|借入金额|已还金额|余额|借出人|借给人|备注");
     EXPECT_EQ(frame().Caption(), u"借入记录");
-    EXPECT_TRUE(option(u"Option1"_s).Value());
+    EXPECT_TRUE(option(loans::Borrowed).Value());
     EXPECT_EQ(rows().size(), 2);
     EXPECT_EQ(adodc1().recordSource(), u"jrb");
     EXPECT_EQ(grid().ColWidth(8), 3200);
@@ -82,13 +82,14 @@ TEST_F(LoansTest, LeavesLabelsAndPageNumberAloneByThePicture) {
     open(Expense);
     clickImage();
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 21);
-    EXPECT_EQ(rig.onMain<Label>(u"Label2(1)"_s).ForeColor(), Red);
-    EXPECT_EQ(rig.onMain<Label>(u"Label1"_s).ForeColor(), Black);
+    EXPECT_EQ(rig.at(pages::Expense).ForeColor(), Red);
+    EXPECT_EQ(rig.at(pages::Loans).ForeColor(), Black);
 }
 
 TEST_F(LoansTest, HidesEveryOtherPageByThePicture) {
-    for (const QString& label : {u"Label24"_s, u"Label2(0)"_s, u"Label6"_s, u"Label5"_s, u"Label12"_s, u"Label4"_s,
-                                 u"Label8"_s, u"Label23"_s, u"Label7"_s}) {
+    for (const QString& label :
+         QStringList{pages::Desktop, pages::Income, pages::Accounts, pages::Budget, pages::Charts, pages::Users,
+                     pages::Diary, pages::Schedule, pages::Settings}) {
         press(rig.onMain<Label>(label));
         clickImage();
         for (const Page* page : rig.mainWindow().navigation().pages())
@@ -111,7 +112,7 @@ TEST_F(LoansTest, StandsHigherByThePictureUnlessThatAlsoChangesTheList) {
 TEST_F(LoansTest, UnloadsNoToolByThePictureItself) {
     store(Borrowed, 1);
     clickImage();
-    for (const auto& [col, tool] : {std::pair{2, u"Form1"_s}, std::pair{3, u"Form9"_s}}) {
+    for (const auto& [col, tool] : {std::pair{2, forms::DatePicker}, std::pair{3, forms::Calculator}}) {
         clickCell(1, col);
         clickImage();
         EXPECT_EQ(tools(), tool);
@@ -171,7 +172,7 @@ TEST_F(LoansTest, DropsUnsavedEditsByAnOptionButNotByTheOneThatIsSet) {
 TEST_F(LoansTest, ClosesTheEditorOfIncomeByItsOptions) {
     store(Income, 1);
     open(Income);
-    auto& tx2 = rig.onMain<TextBox>(u"tx2"_s);
+    auto& tx2 = rig.at(income::Box);
     tx2.setShown(true);
     clickImage();
     EXPECT_FALSE(tx2.Visible());
@@ -202,8 +203,8 @@ TEST_F(LoansTest, SkipsNullFieldsInTheFill) {
 TEST_F(LoansTest, ShowsTheHandOverPictureAndOptions) {
     open();
     for (QWidget* control :
-         {static_cast<QWidget*>(&rig.onMain<Image>(u"Image1"_s)), static_cast<QWidget*>(&option(u"Option1"_s)),
-          static_cast<QWidget*>(&option(u"Option2"_s))}) {
+         {static_cast<QWidget*>(&rig.at(loans::Picture)), static_cast<QWidget*>(&option(loans::Borrowed)),
+          static_cast<QWidget*>(&option(loans::Lent))}) {
         rig.hover(*control);
         EXPECT_EQ(control->cursor().shape(), Qt::PointingHandCursor);
     }

@@ -110,7 +110,7 @@ TEST_F(MonthItemsTest, LeaveTheCalculatorOpenWhenNoPickerIsOnView) {
     openWith(1);
     clickCell(1, 5);
     showItems();
-    EXPECT_EQ(tools(), u"Form9");
+    EXPECT_EQ(tools(), forms::Calculator);
 }
 
 } // namespace

@@ -42,14 +42,14 @@ TEST_F(MonthReadingTest, OpensAtItsTop) {
 TEST_F(MonthReadingTest, IsReadToItsEndByThePageKeysOfTheOptionThatWasClicked) {
     showItems();
     rig.settle();
-    ASSERT_TRUE(option(u"Option8"_s).hasFocus());
+    ASSERT_TRUE(option(income::ByItem).hasFocus());
     for (int page = 0; page < 4; ++page)
         QTest::keyClick(rig.mainWindow().windowHandle(), Qt::Key_PageDown);
     EXPECT_TRUE(isSeen(Items));
     for (int page = 0; page < 4; ++page)
         QTest::keyClick(rig.mainWindow().windowHandle(), Qt::Key_PageUp);
     EXPECT_TRUE(isSeen(1));
-    EXPECT_TRUE(option(u"Option8"_s).Value());
+    EXPECT_TRUE(option(income::ByItem).Value());
 }
 
 TEST_F(MonthReadingTest, IsReadByTheWheelAndTheBar) {

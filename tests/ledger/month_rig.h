@@ -13,25 +13,20 @@ protected:
     /// Stores one record, in income unless another table is named.
     void record(const QString& date, const QString& item, const QString& person, const QString& amount,
                 const GridList& side = Income) {
-        rig.sql(QStringLiteral("insert into %1 values('1','%2',%3,%4,%5,'现金','',1)")
-                    .arg(QString::fromUtf16(side.table), date, item, person, amount));
+        rig.sql(u"insert into %1 values('1','%2',%3,%4,%5,'现金','',1)"_s.arg(side.table.toString(), date, item, person,
+                                                                              amount));
     }
     /// A month of two items and two people, with other months beside it.
     void storeHousehold(const GridList& side = Income) {
-        record(QStringLiteral("2024-10-01"), QStringLiteral("'工资'"), QStringLiteral("'甲'"), QStringLiteral("8000"),
-               side);
-        record(QStringLiteral("2024-10-31"), QStringLiteral("'利息'"), QStringLiteral("'甲'"), QStringLiteral("0.5"),
-               side);
-        record(QStringLiteral("2024-10-20"), QStringLiteral("'工资'"), QStringLiteral("'乙'"), QStringLiteral("1234.5"),
-               side);
-        record(QStringLiteral("2024-09-30"), QStringLiteral("'工资'"), QStringLiteral("'甲'"), QStringLiteral("7"),
-               side);
-        record(QStringLiteral("2023-10-01"), QStringLiteral("'工资'"), QStringLiteral("'甲'"), QStringLiteral("9"),
-               side);
+        record(u"2024-10-01"_s, u"'工资'"_s, u"'甲'"_s, u"8000"_s, side);
+        record(u"2024-10-31"_s, u"'利息'"_s, u"'甲'"_s, u"0.5"_s, side);
+        record(u"2024-10-20"_s, u"'工资'"_s, u"'乙'"_s, u"1234.5"_s, side);
+        record(u"2024-09-30"_s, u"'工资'"_s, u"'甲'"_s, u"7"_s, side);
+        record(u"2023-10-01"_s, u"'工资'"_s, u"'甲'"_s, u"9"_s, side);
     }
-    void showItems() { choose(QStringLiteral("Option8")); }
-    void showPeople() { choose(QStringLiteral("Option9")); }
-    void showEntry() { choose(QStringLiteral("Option7")); }
+    void showItems() { choose(income::ByItem); }
+    void showPeople() { choose(income::ByPerson); }
+    void showEntry() { choose(income::Records); }
     Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
     Adodc& adodc3() { return *rig.mainWindow().Adodc3; }
 };

@@ -36,7 +36,7 @@ TEST_F(MonthStatisticsTest, MatchTheMonthExactly) {
 }
 
 TEST_F(MonthStatisticsTest, TakeNoWorkFromGridAndButtons) {
-    for (const QString& report : {u"Option8"_s, u"Option9"_s}) {
+    for (const auto& report : {income::ByItem, income::ByPerson}) {
         rig.sql(u"delete from srb"_s);
         openWith(1);
         clickCell(1, 3);
@@ -92,7 +92,7 @@ TEST_F(MonthStatisticsTest, GiveEverythingBackToEntry) {
     storeHousehold();
     open();
     const QStringList before = rows();
-    for (const QString& report : {u"Option8"_s, u"Option9"_s}) {
+    for (const auto& report : {income::ByItem, income::ByPerson}) {
         choose(report);
         showEntry();
         EXPECT_EQ(row(0), u"编号|时间|项目|收款人|金额|账户|备注");
@@ -106,7 +106,7 @@ TEST_F(MonthStatisticsTest, GiveEverythingBackToEntry) {
             EXPECT_TRUE(button->isEnabled());
         clickCell(1, 5);
         EXPECT_TRUE(tx2().Visible());
-        EXPECT_EQ(tools(), u"Form9");
+        EXPECT_EQ(tools(), forms::Calculator);
     }
 }
 
@@ -116,7 +116,7 @@ TEST_F(MonthStatisticsTest, GiveEverythingBackWhenTheLabelIsClicked) {
     const QStringList before = rows();
     showPeople();
     open();
-    EXPECT_TRUE(option(u"Option7"_s).Value());
+    EXPECT_TRUE(option(income::Records).Value());
     EXPECT_EQ(rows(), before);
     EXPECT_EQ(total(), u"当前收入总额为：9251.00元 ");
     EXPECT_TRUE(save().isEnabled());

@@ -54,8 +54,8 @@ TEST_F(MonthTableTest, StaysAsItIsThroughASave) {
 TEST_F(MonthTableTest, StaysAsItIsWhenTheOptionReloadsTheGrid) {
     openWith(1);
     rig.sql(u"delete from sztjlsb"_s);
-    choose(u"Option8"_s);
-    choose(u"Option7"_s);
+    choose(income::ByItem);
+    choose(income::Records);
     EXPECT_EQ(statistics(), QStringList());
 }
 

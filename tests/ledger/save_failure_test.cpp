@@ -71,7 +71,7 @@ TEST_P(SaveFailureTest, KeepsTheRowsInTheStoreForTheNextStart) {
     expectStoppedBy(list.amount, u"无"_s);
     restart();
     EXPECT_EQ(grid().Rows(), 3);
-    EXPECT_EQ(row(1), QString::fromUtf16(list.firstRow));
+    EXPECT_EQ(row(1), list.firstRow.toString());
 }
 
 class SaveCounterTest : public PageTest {

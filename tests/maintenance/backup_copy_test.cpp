@@ -14,8 +14,8 @@ protected:
     QString budget() { return rig.sql(u"select group_concat(预算项目) from ysb"_s).value(0); }
     /// What the budget page shows when it is entered now.
     QString shownBudget() {
-        rig.click(rig.onMain<Label>(u"Label5"_s));
-        auto& ms6 = rig.onMain<MSFlexGrid>(u"ms6"_s);
+        rig.click(rig.at(pages::Budget));
+        auto& ms6 = rig.at(budget::Grid);
         QStringList items;
         for (int row = 1; row < ms6.Rows(); ++row)
             items << ms6.TextMatrix(row, 2);
@@ -97,7 +97,7 @@ TEST_F(BackupCopyTest, ARestoreRedrawsNothingByItself) {
     addBudget(u"面"_s);
     shownBudget();
     restoreFrom(u"b.dat"_s);
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms6"_s).TextMatrix(1, 2), u"面");
+    EXPECT_EQ(rig.at(budget::Grid).TextMatrix(1, 2), u"面");
 }
 
 TEST_F(BackupCopyTest, TheRestoredLedgerIsSavedIntoLikeAnyOther) {
@@ -108,7 +108,7 @@ TEST_F(BackupCopyTest, TheRestoredLedgerIsSavedIntoLikeAnyOther) {
     addBudget(u"盐"_s);
     EXPECT_EQ(budget(), u"米,盐");
     EXPECT_EQ(rig.sql(u"pragma integrity_check"_s), QStringList{u"ok"_s});
-    rig.click(rig.onMain<Image>(u"Image3"_s));
+    rig.click(rig.at(title::Close));
     EXPECT_EQ(rig.exitCode(), 0);
     EXPECT_EQ(rig.headerBytes(), QByteArray("\0\0", 2));
     rig.stop();
@@ -160,13 +160,13 @@ TEST_F(BackupCopyTest, ACopyOfTheEndedProgramIsRestoredAsItIsAndReadFromTheNextS
     spoilHeader(rig.dataFile());
     ASSERT_TRUE(QFile::copy(rig.dataFile(), rig.file(u"ended.dat"_s)));
     rig.signIn();
-    rig.click(rig.onMain<Label>(u"Label7"_s));
+    rig.click(rig.at(pages::Settings));
     rig.sql(u"delete from ysb"_s);
     restoreFrom(u"ended.dat"_s);
     EXPECT_EQ(rig.lastMessage(), Restored);
     EXPECT_EQ(rig.headerBytes(), QByteArray("\0\0", 2));
 
-    rig.click(rig.onMain<Label>(u"Label5"_s));
+    rig.click(rig.at(pages::Budget));
     EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
     EXPECT_TRUE(errorText().contains(u"请重新启动程序"_s)) << qPrintable(errorText());
     rig.stop();

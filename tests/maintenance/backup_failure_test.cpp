@@ -25,7 +25,7 @@ protected:
         for (const ShownMessage& success : {BackedUp, Restored})
             EXPECT_EQ(std::ranges::count(rig.messages->shown, success), 0);
     }
-    void enterBudget() { rig.click(rig.onMain<Label>(u"Label5"_s)); }
+    void enterBudget() { rig.click(rig.at(pages::Budget)); }
 
     const QByteArray before;
 };

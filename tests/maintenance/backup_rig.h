@@ -15,22 +15,22 @@ class BackupTest : public ::testing::Test {
 protected:
     BackupTest() {
         rig.signIn();
-        rig.click(rig.onMain<Label>(QStringLiteral("Label7")));
+        rig.click(rig.at(pages::Settings));
         rig.settle();
     }
 
-    OptionButton& backup() { return rig.onMain<OptionButton>(QStringLiteral("Option14")); }
-    OptionButton& restore() { return rig.onMain<OptionButton>(QStringLiteral("Option16")); }
+    OptionButton& backup() { return rig.at(settings::Backup); }
+    OptionButton& restore() { return rig.at(settings::Restore); }
     void openFor(OptionButton& option) {
         QTest::mouseClick(&option, Qt::LeftButton, {}, {8, option.height() / 2});
         rig.settle();
     }
-    Form* window() { return rig.loaded(QStringLiteral("Form13")); }
+    Form* window() { return rig.loaded(forms::Backup); }
     template<class T>
     T& inWindow(const QString& name) {
-        return rig.control<T>(QStringLiteral("Form13"), name);
+        return rig.control<T>(forms::Backup, name);
     }
-    CommandButton& start() { return inWindow<CommandButton>(QStringLiteral("Command1")); }
+    CommandButton& start() { return inWindow<CommandButton>(backup::Start); }
 
     /// Starts the copying and names this file when asked.
     void startWith(const QString& path) {
@@ -67,10 +67,9 @@ protected:
     ProgramRig rig;
 };
 
-inline const ShownMessage AskedWhereTo{QStringLiteral("请指定数据库备份的位置。"), 1, QStringLiteral("备份提示")};
-inline const ShownMessage AskedWhereFrom{QStringLiteral("请指定要还原的数据库备份文件所在的位置。"), 1,
-                                         QStringLiteral("还原提示")};
-inline const ShownMessage BackedUp{QStringLiteral("备份完成。"), 0, {}};
-inline const ShownMessage Restored{QStringLiteral("还原完毕。"), 0, {}};
+inline const ShownMessage AskedWhereTo{u"请指定数据库备份的位置。"_s, 1, u"备份提示"_s};
+inline const ShownMessage AskedWhereFrom{u"请指定要还原的数据库备份文件所在的位置。"_s, 1, u"还原提示"_s};
+inline const ShownMessage BackedUp{u"备份完成。"_s, 0, {}};
+inline const ShownMessage Restored{u"还原完毕。"_s, 0, {}};
 
 } // namespace qinghe::testing

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 class BackupWindowTest : public BackupTest {
 protected:
     QStringList texts() {
-        return {window()->Caption(), inWindow<Frame>(u"Frame1"_s).Caption(), inWindow<Label>(u"Label1"_s).Caption(),
-                start().text()};
+        return {window()->Caption(), inWindow<Frame>(backup::Ground).Caption(),
+                inWindow<Label>(backup::Words).Caption(), start().text()};
     }
 };
 
@@ -23,7 +23,7 @@ const QStringList RestoreTexts{u"数据还原"_s, u"数据还原"_s,
                                u"开始还原"_s};
 
 TEST_F(BackupWindowTest, TheOptionsStandAmongTheSettingsOfFiles) {
-    const Frame& files = rig.frame(u"Frame19"_s);
+    const Frame& files = rig.at(settings::Files);
     EXPECT_EQ(files.Caption(), u"文件设置");
     EXPECT_EQ(backup().text(), u"系统数据备份");
     EXPECT_EQ(restore().text(), u"系统数据还原");
@@ -37,8 +37,8 @@ TEST_F(BackupWindowTest, EachOptionOpensTheWindowWithItsOwnTexts) {
     openFor(backup());
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(texts(), BackupTexts);
-    EXPECT_FALSE(inWindow<ProgressBar>(u"Pro1"_s).Visible());
-    rig.mainWindow().shared().forms.unload(u"Form13"_s);
+    EXPECT_FALSE(inWindow<ProgressBar>(backup::Progress).Visible());
+    rig.mainWindow().shared().forms.unload(forms::Backup);
     openFor(restore());
     EXPECT_TRUE(window()->isVisible());
     EXPECT_EQ(texts(), RestoreTexts);
@@ -57,8 +57,8 @@ TEST_F(BackupWindowTest, TheOtherOptionChangesTheTextsOfTheOpenWindow) {
 
 TEST_F(BackupWindowTest, ItBlocksNothing) {
     openFor(backup());
-    rig.click(rig.onMain<Label>(u"Label5"_s));
-    EXPECT_TRUE(rig.frame(u"Frame8"_s).isVisible());
+    rig.click(rig.at(pages::Budget));
+    EXPECT_TRUE(rig.at(budget::Page).isVisible());
     EXPECT_TRUE(window()->isVisible());
 }
 
@@ -124,7 +124,7 @@ TEST_F(BackupWindowTest, CancelInTheDialogUsesTheNameOfTheLastRunAndTheDialogSho
     EXPECT_EQ(rig.chooser->asked.back().name, rig.file(u"b.dat"_s));
     EXPECT_EQ(rig.lastMessage(), BackedUp);
     EXPECT_EQ(bytes(u"b.dat"_s).size(), bytes(u"data.dll"_s).size() + 1);
-    EXPECT_EQ(inWindow<CommonDialog>(u"Com1"_s).FileName(), rig.file(u"b.dat"_s));
+    EXPECT_EQ(inWindow<CommonDialog>(backup::Chooser).FileName(), rig.file(u"b.dat"_s));
 }
 
 TEST_F(BackupWindowTest, TheNameOfABackupServesARestoreInTheSameWindow) {
@@ -159,7 +159,7 @@ TEST_F(BackupWindowTest, ARunAsksThenCopiesThenTellsOfIt) {
 TEST_F(BackupWindowTest, TheBarIsGoneAndEmptyWhenTheEndIsTold) {
     auto& bar = [this]() -> ProgressBar& {
         openFor(backup());
-        return inWindow<ProgressBar>(u"Pro1"_s);
+        return inWindow<ProgressBar>(backup::Progress);
     }();
     rig.messages->whileShown = [&](const ShownMessage&) {
         EXPECT_FALSE(bar.Visible());
@@ -183,7 +183,7 @@ TEST_F(BackupWindowTest, TheBarIsPaintedDuringTheCopyWithoutAnyEventsBeingProces
     write(u"large.dat"_s, QByteArray(64 << 20, 'x'));
     openFor(restore());
     Watcher watcher;
-    inWindow<ProgressBar>(u"Pro1"_s).installEventFilter(&watcher);
+    inWindow<ProgressBar>(backup::Progress).installEventFilter(&watcher);
     startWith(rig.file(u"large.dat"_s));
     EXPECT_EQ(rig.lastMessage(), Restored);
     ASSERT_GE(watcher.values.size(), 2u);

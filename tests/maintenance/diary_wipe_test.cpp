@@ -18,11 +18,11 @@ class DiaryWipe : public SettingsTest {
 protected:
     DiaryWipe() {
         rig.sql(u"insert into rjb values('2024-05-03','春耕'),('2024-09-20','秋收')"_s);
-        for (const auto* title : {u"春耕", u"秋收", u"没有记录的"})
-            write(u"mydiary/%1.dll"_s.arg(QString::fromUtf16(title)), "text\r\n");
+        for (const QStringView title : {u"春耕", u"秋收", u"没有记录的"})
+            write(u"mydiary/%1.dll"_s.arg(title.toString()), "text\r\n");
     }
 
-    CheckBox& wipe() { return box(u"Check2"_s); }
+    CheckBox& wipe() { return box(settings::WipeDiary); }
     QStringList rows() { return rig.sql(u"select 日记标题 from rjb order by rowid"_s); }
     QStringList files() {
         return QDir(rig.file(u"mydiary"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -32,13 +32,13 @@ protected:
         EXPECT_EQ(files().size(), 3);
     }
 
-    MSFlexGrid& ms8() { return rig.onMain<MSFlexGrid>(u"ms8"_s); }
-    TextBox& tx9() { return rig.onMain<TextBox>(u"tx9"_s); }
-    LongTextBox& tx8() { return rig.onMain<LongTextBox>(u"tx8"_s); }
+    MSFlexGrid& ms8() { return rig.at(diary_page::Grid); }
+    TextBox& tx9() { return rig.at(diary_page::Box); }
+    LongTextBox& tx8() { return rig.at(diary_page::Text); }
     /// A diary page with two rows listed, a text in its box and in the one over its cells.
     void leaveTextsOnTheDiaryPage() {
-        go(u"Label8"_s);
-        rig.click(rig.onMain<OptionButton>(u"Option5"_s));
+        go(pages::Diary);
+        rig.click(rig.at(diary_page::Find));
         tx8().setBoxText(u"晒谷子"_s);
         tx9().setBoxText(u"标题"_s);
         open();
@@ -74,8 +74,8 @@ TEST_F(DiaryWipe, UntickingByHandAsksNothingAndDoesNothing) {
     tick(wipe());
     rig.messages->shown.clear();
     rig.sql(u"insert into rjb values('2024-05-03','春耕'),('2024-09-20','秋收')"_s);
-    for (const auto* title : {u"1", u"2", u"3"})
-        write(u"mydiary/%1.dll"_s.arg(QString::fromUtf16(title)), "text");
+    for (const QStringView title : {u"1", u"2", u"3"})
+        write(u"mydiary/%1.dll"_s.arg(title.toString()), "text");
     tick(wipe());
     EXPECT_FALSE(wipe().Value());
     EXPECT_TRUE(rig.messages->shown.empty());
@@ -145,7 +145,7 @@ TEST_F(DiaryWipe, AFileThatCannotBeDeletedIsToldAndTheEntriesStay) {
 TEST_F(DiaryWipe, EmptiesTheFirstRowAndTheBoxesOfADiaryPageThatIsOnView) {
     leaveTextsOnTheDiaryPage();
     ASSERT_EQ(onTheDiaryPage(), (QStringList{u"2024-5-3|春耕"_s, u"2024-9-20|秋收"_s, u"晒谷子"_s, u"标题"_s}));
-    rig.frame(u"Frame10"_s).setShown(true);
+    rig.at(diary_page::Page).setShown(true);
     rig.messages->whileShown = [this](const ShownMessage& message) {
         EXPECT_EQ(tx8().Text().isEmpty(), message == Done);
     };
@@ -163,14 +163,14 @@ TEST_F(DiaryWipe, LeavesADiaryPageThatIsNotOnViewAsItStands) {
 
 TEST_F(DiaryWipe, TheDiaryGoesOnAfterwards) {
     tick(wipe());
-    go(u"Label8"_s);
+    go(pages::Diary);
     rig.clickCell(ms8(), 1, 1);
     rig.type(tx9(), u"2024-6-18"_s);
     rig.press(tx9(), Qt::Key_Return);
     rig.type(tx9(), u"春耕"_s);
     rig.press(tx9(), Qt::Key_Return);
     rig.type(tx8(), u"abc"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command24"_s));
+    rig.click(rig.at(diary_page::Save));
     EXPECT_EQ(rig.lastMessage().text, u"日志已经保存！");
     EXPECT_EQ(rows(), QStringList{u"春耕"_s});
     EXPECT_EQ(bytes(u"mydiary/春耕.dll"_s), "abc\r\n");

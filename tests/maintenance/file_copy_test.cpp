@@ -162,9 +162,9 @@ TEST_F(FileCopyTest, TheSameFileIsRefusedUnderEveryName) {
     alias(symlink, u"a"_s, u"soft"_s);
     alias(link, u"a"_s, u"hard"_s);
     ASSERT_TRUE(QDir(dir.path()).mkdir(u"sub"_s));
-    for (const auto* name : {u"a", u"soft", u"hard", u"sub/../a", u"./a"}) {
-        refused(u"a"_s, QString::fromUtf16(name), RuntimeError::PathFileAccess, u"同一个文件"_s);
-        refused(QString::fromUtf16(name), u"a"_s, RuntimeError::PathFileAccess, u"同一个文件"_s);
+    for (const QStringView name : {u"a", u"soft", u"hard", u"sub/../a", u"./a"}) {
+        refused(u"a"_s, name.toString(), RuntimeError::PathFileAccess, u"同一个文件"_s);
+        refused(name.toString(), u"a"_s, RuntimeError::PathFileAccess, u"同一个文件"_s);
     }
     EXPECT_EQ(bytes(u"a"_s), "abc");
 }

@@ -43,7 +43,7 @@ protected:
         store(u"软件皮肤"_s, u"'春',1,x'0000'"_s);
     }
 
-    CheckBox& initialise() { return box(u"Check4"_s); }
+    CheckBox& initialise() { return box(settings::Initialise); }
     QStringList counts(const QStringList& tables) {
         QStringList counts;
         for (const QString& table : tables)
@@ -125,15 +125,15 @@ TEST_F(InitialiseTest, KeepsTheDiarysFilesWhoseTitlesAreFreeForNewEntriesThatRep
     write(u"mydiary/秋收.dll"_s, "another\r\n");
     tick(initialise());
     EXPECT_EQ(QDir(rig.file(u"mydiary"_s)).entryList(QDir::Files).size(), 2);
-    go(u"Label8"_s);
-    rig.clickCell(rig.onMain<MSFlexGrid>(u"ms8"_s), 1, 1);
-    auto& tx9 = rig.onMain<TextBox>(u"tx9"_s);
+    go(pages::Diary);
+    rig.clickCell(rig.at(diary_page::Grid), 1, 1);
+    auto& tx9 = rig.at(diary_page::Box);
     for (const QString& text : {u"2024-6-18"_s, u"春耕"_s}) {
         rig.type(tx9, text);
         rig.press(tx9, Qt::Key_Return);
     }
-    rig.type(rig.onMain<LongTextBox>(u"tx8"_s), u"new"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command24"_s));
+    rig.type(rig.at(diary_page::Text), u"new"_s);
+    rig.click(rig.at(diary_page::Save));
     EXPECT_EQ(rig.lastMessage().text, u"日志已经保存！");
     EXPECT_EQ(bytes(u"mydiary/春耕.dll"_s), "new\r\n");
     EXPECT_EQ(bytes(u"mydiary/秋收.dll"_s), "another\r\n");
@@ -144,28 +144,28 @@ TEST_F(InitialiseTest, TheNextStartFindsUsersAndCategoriesButNoAccountsAndNoReco
     tick(initialise());
     startAgain();
     EXPECT_TRUE(rig.mainWindow().isVisible());
-    EXPECT_EQ(rig.onMain<Label>(u"Label31"_s).Caption(), u"0.00元");
-    go(u"Label6"_s);
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms7"_s).Rows(), 2);
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms7"_s).TextMatrix(1, 1), QString());
-    go(u"Label2(0)"_s);
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms2"_s).TextMatrix(1, 1), QString());
+    EXPECT_EQ(rig.at(desktop::Income).Caption(), u"0.00元");
+    go(pages::Accounts);
+    EXPECT_EQ(rig.at(accounts::Grid).Rows(), 2);
+    EXPECT_EQ(rig.at(accounts::Grid).TextMatrix(1, 1), QString());
+    go(pages::Income);
+    EXPECT_EQ(rig.at(income::Grid).TextMatrix(1, 1), QString());
     open();
-    rig.click(rig.onMain<CommandButton>(u"Command31"_s));
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms3"_s).TextMatrix(1, 1), u"大类");
+    rig.click(rig.at(settings::Categories));
+    EXPECT_EQ(rig.at(categories::Majors).TextMatrix(1, 1), u"大类");
 }
 
 TEST_F(InitialiseTest, APageShowsTheEmptiedTableOnlyWhenItIsEnteredAgain) {
-    go(u"Label2(0)"_s);
-    auto& ms2 = rig.onMain<MSFlexGrid>(u"ms2"_s);
-    const QString row = rig.rowText(ms2, 1), total = rig.onMain<Label>(u"Label10"_s).Caption();
+    go(pages::Income);
+    auto& ms2 = rig.at(income::Grid);
+    const QString row = rig.rowText(ms2, 1), total = rig.at(income::Total).Caption();
     ASSERT_EQ(ms2.Rows(), 3);
     open();
     tick(initialise());
     EXPECT_EQ(ms2.Rows(), 3);
     EXPECT_EQ(rig.rowText(ms2, 1), row);
-    EXPECT_EQ(rig.onMain<Label>(u"Label10"_s).Caption(), total);
-    go(u"Label2(0)"_s);
+    EXPECT_EQ(rig.at(income::Total).Caption(), total);
+    go(pages::Income);
     EXPECT_EQ(ms2.Rows(), 2);
     EXPECT_EQ(ms2.TextMatrix(1, 1), QString());
 }
@@ -173,8 +173,8 @@ TEST_F(InitialiseTest, APageShowsTheEmptiedTableOnlyWhenItIsEnteredAgain) {
 TEST_F(InitialiseTest, TheSameTableCanBeFilledAndEmptiedInOneSitting) {
     tick(initialise());
     rig.sql(u"insert into srb values('9','2024-06-03','项目','人',5,'户','备',1)"_s);
-    go(u"Label2(0)"_s);
-    EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms2"_s).TextMatrix(1, 1), u"9");
+    go(pages::Income);
+    EXPECT_EQ(rig.at(income::Grid).TextMatrix(1, 1), u"9");
 }
 
 /// Initialising when one of the ten tables is missing.

@@ -19,16 +19,17 @@ namespace {
 using namespace Qt::StringLiterals;
 
 struct Expected {
-    QString form, entry, caption, table, sizeAndBytes, dialog, pathWords, nameWords, browse, store;
+    FormName form;
+    QString entry, caption, table, sizeAndBytes, dialog, pathWords, nameWords, browse, store;
 };
 
 const std::vector<Expected> Windows{
-    {u"Form8"_s, u"添加记账本皮肤"_s, u"注入数据库皮肤"_s, u"软件皮肤"_s, u"大小,hex(皮肤)"_s, u"cmm1"_s, u"选择图片"_s,
-     u"储存名称"_s, u"......"_s, u"储存"_s},
-    {u"Form10"_s, u"添加桌面图片"_s, u"Form10"_s, u"主界面"_s, u"大小,hex(文件)"_s, u"cmm1"_s, u"打开文件"_s, u"名称"_s,
-     u"打开"_s, u"保存"_s},
-    {u"Form11"_s, u"添加登陆图片"_s, u"Form11"_s, u"登陆皮肤"_s, u"大小,hex(皮肤)"_s, u"Cmm1"_s, u"文件"_s, u"文件名"_s,
-     u"Command1"_s, u"Command2"_s},
+    {forms::SkinPictures, u"添加记账本皮肤"_s, u"注入数据库皮肤"_s, u"软件皮肤"_s, u"大小,hex(皮肤)"_s, u"cmm1"_s,
+     u"选择图片"_s, u"储存名称"_s, u"......"_s, u"储存"_s},
+    {forms::DesktopPictures, u"添加桌面图片"_s, forms::DesktopPictures, u"主界面"_s, u"大小,hex(文件)"_s, u"cmm1"_s,
+     u"打开文件"_s, u"名称"_s, u"打开"_s, u"保存"_s},
+    {forms::SignInPictures, u"添加登陆图片"_s, forms::SignInPictures, u"登陆皮肤"_s, u"大小,hex(皮肤)"_s, u"Cmm1"_s,
+     u"文件"_s, u"文件名"_s, pictures::Browse, pictures::Store},
 };
 
 const ShownMessage NameMissing{u"Box of filename can not be empty!"_s, 64, u"information"_s};
@@ -38,11 +39,11 @@ class PictureInjectionTest : public ::testing::Test {
 protected:
     PictureInjectionTest() {
         rig.signIn();
-        rig.click(rig.onMain<Label>(u"Label7"_s));
+        rig.click(rig.at(pages::Settings));
         rig.settle();
     }
 
-    CommandButton& button() { return rig.onMain<CommandButton>(u"Command32"_s); }
+    CommandButton& button() { return rig.at(settings::Pictures); }
     QMenu& menu() { return *button().findChild<QMenu*>(); }
     void open(const Expected& window) {
         rig.click(button());
@@ -52,13 +53,13 @@ protected:
         rig.settle();
     }
     template<class T>
-    T& in(const Expected& window, const QString& name) {
+    T& in(const Expected& window, const Name<T>& name) {
         return rig.control<T>(window.form, name);
     }
     void save(const Expected& window, const QString& path, const QString& name) {
-        in<TextBox>(window, u"Text1"_s).setText(path);
-        in<TextBox>(window, u"Text2"_s).setText(name);
-        rig.click(in<CommandButton>(window, u"Command2"_s));
+        in(window, pictures::Path).setText(path);
+        in(window, pictures::Called).setText(name);
+        rig.click(in(window, pictures::Store));
     }
     void write(const QString& name, const QByteArray& bytes) {
         QFile file(rig.file(name));
@@ -89,11 +90,11 @@ protected:
 
 TEST_F(PictureInjectionTest, TheMenuOfTheButtonOpensEachOfThem) {
     EXPECT_EQ(button().text(), u"更换图片");
-    EXPECT_EQ(button().parentWidget(), &rig.frame(u"Frame20"_s));
+    EXPECT_EQ(button().parentWidget(), &rig.at(settings::System));
     for (const Expected& window : Windows) {
         EXPECT_EQ(rig.loaded(window.form), nullptr);
         open(window);
-        ASSERT_TRUE(rig.loaded(window.form)) << qPrintable(window.form);
+        ASSERT_TRUE(rig.loaded(window.form)) << std::string(window.form);
         EXPECT_TRUE(rig.loaded(window.form)->isVisible());
         EXPECT_FALSE(menu().isVisible());
     }
@@ -104,12 +105,12 @@ TEST_F(PictureInjectionTest, EachBearsItsOwnWords) {
     for (const Expected& window : Windows) {
         open(window);
         EXPECT_EQ(rig.loaded(window.form)->Caption(), window.caption);
-        EXPECT_EQ(in<Label>(window, u"Label1"_s).Caption(), window.pathWords);
-        EXPECT_EQ(in<Label>(window, u"Label2"_s).Caption(), window.nameWords);
-        EXPECT_EQ(in<CommandButton>(window, u"Command1"_s).text(), window.browse);
-        EXPECT_EQ(in<CommandButton>(window, u"Command2"_s).text(), window.store);
-        EXPECT_FALSE(in<Adodc>(window, u"Adodc1"_s).isVisible());
-        EXPECT_EQ(in<TextBox>(window, u"Text1"_s).Text() + in<TextBox>(window, u"Text2"_s).Text(), QString());
+        EXPECT_EQ(in(window, pictures::PathWords).Caption(), window.pathWords);
+        EXPECT_EQ(in(window, pictures::NameWords).Caption(), window.nameWords);
+        EXPECT_EQ(in(window, pictures::Browse).text(), window.browse);
+        EXPECT_EQ(in(window, pictures::Store).text(), window.store);
+        EXPECT_FALSE(rig.control<Adodc>(window.form, u"Adodc1"_s).isVisible());
+        EXPECT_EQ(in(window, pictures::Path).Text() + in(window, pictures::Called).Text(), QString());
     }
 }
 
@@ -119,7 +120,7 @@ TEST_F(PictureInjectionTest, EachStoresIntoItsOwnTable) {
     for (const Expected& window : Windows) {
         open(window);
         save(window, rig.file(u"a.jpg"_s), u"春"_s);
-        EXPECT_EQ(added(window), QStringList{row(u"春"_s, "any bytes")}) << qPrintable(window.form);
+        EXPECT_EQ(added(window), QStringList{row(u"春"_s, "any bytes")}) << std::string(window.form);
         EXPECT_EQ(rig.lastMessage(), Added);
         EXPECT_TRUE(rig.loaded(window.form)->isVisible());
     }
@@ -136,25 +137,25 @@ TEST_F(PictureInjectionTest, ThePictureHasOneZeroByteBehindItThatItsSizeLeavesOu
 TEST_F(PictureInjectionTest, TheButtonTakesTheChosenNameIntoTheBox) {
     open(skins);
     rig.chooser->names = {u"/图/一.jpg"_s};
-    rig.click(in<CommandButton>(skins, u"Command1"_s));
-    EXPECT_EQ(in<TextBox>(skins, u"Text1"_s).Text(), u"/图/一.jpg");
-    EXPECT_EQ(in<CommonDialog>(skins, skins.dialog).FileName(), u"/图/一.jpg");
+    rig.click(in(skins, pictures::Browse));
+    EXPECT_EQ(in(skins, pictures::Path).Text(), u"/图/一.jpg");
+    EXPECT_EQ(rig.control<CommonDialog>(skins.form, skins.dialog).FileName(), u"/图/一.jpg");
     for (const Expected& window : Windows) {
         open(window);
-        EXPECT_EQ(in<CommonDialog>(window, window.dialog).objectName(), window.dialog);
+        EXPECT_EQ(rig.control<CommonDialog>(window.form, window.dialog).objectName(), window.dialog);
     }
 }
 
 TEST_F(PictureInjectionTest, CancelInTheDialogPutsTheNameFromBeforeIntoTheBox) {
     open(skins);
-    auto& path = in<TextBox>(skins, u"Text1"_s);
+    auto& path = in(skins, pictures::Path);
     path.setText(u"typed"_s);
-    rig.click(in<CommandButton>(skins, u"Command1"_s));
+    rig.click(in(skins, pictures::Browse));
     EXPECT_EQ(path.Text(), QString());
     rig.chooser->names = {u"/图/一.jpg"_s, std::nullopt};
-    rig.click(in<CommandButton>(skins, u"Command1"_s));
+    rig.click(in(skins, pictures::Browse));
     path.setText(u"typed"_s);
-    rig.click(in<CommandButton>(skins, u"Command1"_s));
+    rig.click(in(skins, pictures::Browse));
     EXPECT_EQ(path.Text(), u"/图/一.jpg");
 }
 
@@ -180,10 +181,10 @@ TEST_F(PictureInjectionTest, YesAsksForTheNextPictureAndKeepsTheName) {
     open(skins);
     rig.chooser->names = {rig.file(u"b.jpg"_s)};
     save(skins, rig.file(u"a.jpg"_s), u"同名"_s);
-    EXPECT_EQ(in<TextBox>(skins, u"Text1"_s).Text(), rig.file(u"b.jpg"_s));
-    EXPECT_EQ(in<TextBox>(skins, u"Text2"_s).Text(), u"同名");
+    EXPECT_EQ(in(skins, pictures::Path).Text(), rig.file(u"b.jpg"_s));
+    EXPECT_EQ(in(skins, pictures::Called).Text(), u"同名");
     rig.messages->answers = {Answer::No};
-    rig.click(in<CommandButton>(skins, u"Command2"_s));
+    rig.click(in(skins, pictures::Store));
     EXPECT_EQ(added(skins), (QStringList{row(u"同名"_s, "one"), row(u"同名"_s, "two")}));
     EXPECT_EQ(rig.chooser->asked.size(), 1u);
 }
@@ -299,10 +300,10 @@ TEST_F(InjectedPicture, JpegPngAndBmpAreShown) {
         write(u"picture"_s, picture(format));
         showOnDesktop(u"picture"_s);
         ASSERT_FALSE(rig.ended()) << format;
-        const QColor shown = rig.onMain<Image>(u"Image2"_s).picture().pixelColor(5, 5);
+        const QColor shown = rig.at(desktop::Picture).picture().pixelColor(5, 5);
         EXPECT_NEAR(shown.blue(), 128, 3) << format;
         EXPECT_NEAR(shown.red(), 0, 3) << format;
-        rig.click(rig.onMain<Label>(u"Label7"_s));
+        rig.click(rig.at(pages::Settings));
     }
 }
 
@@ -322,7 +323,7 @@ TEST_F(InjectedPicture, TheFirstRowStaysTheOneShown) {
     save(desktop, rig.file(u"picture"_s), u"新"_s);
     rig.stop();
     rig.signIn();
-    EXPECT_NEAR(rig.onMain<Image>(u"Image2"_s).picture().pixelColor(5, 5).red(), 255, 3);
+    EXPECT_NEAR(rig.at(desktop::Picture).picture().pixelColor(5, 5).red(), 255, 3);
 }
 
 } // namespace

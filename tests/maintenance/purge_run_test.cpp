@@ -30,8 +30,8 @@ protected:
 class PurgeKindTest : public PurgeRunTest, public ::testing::WithParamInterface<PurgeKind> {
 protected:
     const PurgeKind& kind = GetParam();
-    bool dated() const { return *kind.date != 0; }
-    void chooseKind() { rig.click(inside<CheckBox>(QString::fromUtf16(kind.box))); }
+    bool dated() const { return !kind.date.isEmpty(); }
+    void chooseKind() { rig.click(rig.at(kind.box)); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, PurgeKindTest, ::testing::ValuesIn(PurgeKinds), nameOf<PurgeKind>);
@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(Of, PurgeKindTest, ::testing::ValuesIn(PurgeKinds), nam
 TEST_P(PurgeKindTest, LosesItsRowsUpToAndWithTheDayAndNoOtherKindLosesAny) {
     chooseKind();
     dated() ? purge(u"2024-5-3"_s) : start();
-    EXPECT_EQ(told(), QStringList{QString::fromUtf16(kind.done)});
+    EXPECT_EQ(told(), QStringList{kind.done.toString()});
     EXPECT_EQ(left(kind), dated() ? QStringList{u"2024-05-04"_s} : QStringList());
     for (const PurgeKind& other : PurgeKinds)
         EXPECT_EQ(left(other).size() == 3, QStringView(other.table) != kind.table) << other.name;
@@ -49,14 +49,14 @@ TEST_P(PurgeKindTest, IsToldToBeEmptyTheSecondTime) {
     chooseKind();
     dated() ? purge(u"2024-5-3"_s) : start();
     start();
-    EXPECT_EQ(told(), QStringList{QString::fromUtf16(kind.none)});
+    EXPECT_EQ(told(), QStringList{kind.none.toString()});
     EXPECT_EQ(left(kind).size(), dated() ? 1 : 0);
 }
 
 TEST_P(PurgeKindTest, AsksForADateWhereItNeedsOne) {
     chooseKind();
     start();
-    EXPECT_EQ(told(), QStringList{dated() ? NoDate : QString::fromUtf16(kind.done)});
+    EXPECT_EQ(told(), QStringList{dated() ? NoDate : kind.done.toString()});
     EXPECT_EQ(left(kind).size(), dated() ? 3 : 0);
 }
 
@@ -64,7 +64,7 @@ TEST_P(PurgeKindTest, IsKeptBeforeItsMessage) {
     chooseKind();
     QStringList seen{u"not told"_s};
     rig.messages->whileShown = [&](const ShownMessage& message) {
-        if (message.text == QString::fromUtf16(kind.done))
+        if (message.text == kind.done.toString())
             seen = left(kind); // through a second connection
     };
     dated() ? purge(u"2024-5-3"_s) : start();
@@ -143,9 +143,9 @@ TEST_F(PurgeRunTest, StaysOpenWithItsTicksAndItsDate) {
 TEST_F(PurgeRunTest, WorksWithADayFromThePicker) {
     choose({IncomeKind});
     rig.click(date());
-    auto& back = rig.control<CommandButton>(u"Form1"_s, u"Command2"_s); // to May 2024, which begins on a Wednesday
+    auto& back = rig.at(date_picker::Back); // to May 2024, which begins on a Wednesday
     rig.click(back);
-    rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(5)"_s));
+    rig.doubleClick(rig.at(date_picker::Day[5]));
     ASSERT_EQ(date().Text(), u"2024-5-3");
     start();
     EXPECT_EQ(left(PurgeKinds[IncomeKind]), QStringList{u"2024-05-04"_s});
@@ -168,18 +168,18 @@ TEST_F(PurgeRunTest, LeavesRowsWithoutADate) {
 
 TEST_F(PurgeRunTest, ChangesNoBalanceAndNothingOnView) {
     rig.click(tick());
-    rig.click(rig.onMain<Label>(u"Label2(0)"_s));
-    rig.click(rig.onMain<Label>(u"Label7"_s));
+    rig.click(rig.at(pages::Income));
+    rig.click(rig.at(pages::Settings));
     rig.settle();
-    auto& ms2 = rig.onMain<MSFlexGrid>(u"ms2"_s);
+    auto& ms2 = rig.at(income::Grid);
     ASSERT_EQ(ms2.Rows(), 4);
-    const QString total = rig.onMain<Label>(u"Label10"_s).Caption();
+    const QString total = rig.at(income::Total).Caption();
     const QStringList accounts = rig.sql(u"select * from zhb"_s), statistics = rig.sql(u"select * from sztjlsb"_s);
     openPurge();
     chooseAllButAccounts();
     purge(u"2024-5-3"_s);
     EXPECT_EQ(ms2.Rows(), 4);
-    EXPECT_EQ(rig.onMain<Label>(u"Label10"_s).Caption(), total);
+    EXPECT_EQ(rig.at(income::Total).Caption(), total);
     EXPECT_EQ(rig.sql(u"select * from zhb"_s), accounts);
     EXPECT_EQ(rig.sql(u"select * from sztjlsb"_s), statistics);
 }
@@ -216,8 +216,8 @@ TEST_F(PurgeRunTest, AsksTheStoreInItsOwnWordsForEachKind) {
 
 struct BadDate {
     const char* name;
-    const char16_t* text;
-    const char16_t* words; ///< that the error window tells
+    QStringView text;
+    QStringView words; ///< that the error window tells
 };
 
 class PurgeBadDateTest : public PurgeRunTest, public ::testing::WithParamInterface<BadDate> {};
@@ -234,11 +234,11 @@ INSTANTIATE_TEST_SUITE_P(Of, PurgeBadDateTest,
 
 TEST_P(PurgeBadDateTest, StopsTheRunWithHelpfulWordsAndLosesNothing) {
     choose({IncomeKind, ExpenseKind});
-    purge(QString::fromUtf16(GetParam().text));
+    purge(GetParam().text.toString());
     EXPECT_EQ(told(), QStringList());
     ASSERT_EQ(rig.messages->errors.size(), 1u);
     EXPECT_EQ(rig.messages->errors.front().first, RuntimeError::QueryFailure);
-    EXPECT_TRUE(rig.messages->errors.front().second.contains(QString::fromUtf16(GetParam().words)))
+    EXPECT_TRUE(rig.messages->errors.front().second.contains(GetParam().words.toString()))
         << rig.messages->errors.front().second.toStdString();
     EXPECT_EQ(rig.exitCode(), 1);
     EXPECT_EQ(counts(), untouched);

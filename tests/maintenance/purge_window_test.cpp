@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 
 class PurgeWindowTest : public PurgeTest {
 protected:
-    Form* picker() { return rig.loaded(u"Form1"_s); }
+    Form* picker() { return rig.loaded(forms::DatePicker); }
     void openPicker() {
         rig.click(date());
         rig.settle();
     }
     void pick(int index) {
-        rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(%1)"_s.arg(index)));
+        rig.doubleClick(rig.at(date_picker::Day[index]));
         rig.settle();
     }
     /// The control stands in its container as told, in twips.
@@ -33,8 +33,8 @@ protected:
     }
     bool dateShown() {
         const bool shown = date().Visible();
-        EXPECT_EQ(inside<Label>(u"Label2"_s).Visible(), shown);
-        EXPECT_EQ(inside<Label>(u"Label3"_s).Visible(), shown);
+        EXPECT_EQ(inside<Label>(purge::DateWords).Visible(), shown);
+        EXPECT_EQ(inside<Label>(purge::BeforeWords).Visible(), shown);
         return shown;
     }
 };
@@ -63,9 +63,9 @@ TEST_F(PurgeWindowTest, IsKeptOnTheScreenWhenTheMainWindowIsAlmostOffIt) {
 
 TEST_F(PurgeWindowTest, IsOpenedByABoxAmongTheFileSettings) {
     EXPECT_EQ(tick().text(), u"选择删除记录数据...");
-    EXPECT_EQ(tick().parentWidget(), &rig.frame(u"Frame19"_s));
-    EXPECT_EQ(rig.frame(u"Frame19"_s).Caption(), u"文件设置");
-    EXPECT_TRUE(rig.frame(u"Frame19"_s).rect().contains(tick().geometry()));
+    EXPECT_EQ(tick().parentWidget(), &rig.at(settings::Files));
+    EXPECT_EQ(rig.at(settings::Files).Caption(), u"文件设置");
+    EXPECT_TRUE(rig.at(settings::Files).rect().contains(tick().geometry()));
     rig.hover(tick());
     EXPECT_EQ(tick().cursor().shape(), Qt::PointingHandCursor);
 }
@@ -94,7 +94,7 @@ TEST_F(PurgeWindowTest, UnticksTheBoxWhenItIsClosed) {
 
 TEST_F(PurgeWindowTest, GoesWithThePageAndUnticksTheBox) {
     openPicker();
-    for (const QString& label : {u"Label24"_s, u"Label7"_s}) {
+    for (const QString& label : QStringList{pages::Desktop, pages::Settings}) {
         rig.click(rig.onMain<Label>(label));
         rig.settle();
         EXPECT_FALSE(window());
@@ -112,31 +112,31 @@ TEST_F(PurgeWindowTest, TakesTheDatePickerAlongWhenItGoes) {
 }
 
 TEST_F(PurgeWindowTest, ShowsItsControlsInTheirPlaces) {
-    expectPlace<Frame>(u"Frame1"_s, u"Form3"_s, 240, 240, 6120, 2160);
-    EXPECT_EQ(inside<Frame>(u"Frame1"_s).Caption(), u"（删除记录）项目");
+    expectPlace<Frame>(purge::Records, forms::Purge, 240, 240, 6120, 2160);
+    EXPECT_EQ(inside<Frame>(purge::Records).Caption(), u"（删除记录）项目");
     const QStringList captions{u"收入记录"_s, u"支出记录"_s, u"借入记录"_s,    u"借出记录"_s,
                                u"储蓄账户"_s, u"预算记录"_s, u"日程提醒记录"_s};
     for (int kind = 0; kind < 7; ++kind) {
         EXPECT_EQ(box(kind).text(), captions[kind]);
         EXPECT_FALSE(box(kind).Value());
-        expectPlace<CheckBox>(box(kind).objectName(), u"Frame1"_s, 240 + 1440 * (kind % 4), kind < 4 ? 480 : 960,
+        expectPlace<CheckBox>(box(kind).objectName(), purge::Records, 240 + 1440 * (kind % 4), kind < 4 ? 480 : 960,
                               kind == 6 ? 1740 : 1380, 330);
     }
-    expectPlace<Label>(u"Label2"_s, u"Frame1"_s, 240, 1560, 1140, 330);
-    EXPECT_EQ(inside<Label>(u"Label2"_s).Caption(), u"删除日期在");
-    expectPlace<TextBox>(u"Text1"_s, u"Frame1"_s, 1440, 1560, 1800, 330);
+    expectPlace<Label>(purge::DateWords, purge::Records, 240, 1560, 1140, 330);
+    EXPECT_EQ(inside<Label>(purge::DateWords).Caption(), u"删除日期在");
+    expectPlace<TextBox>(purge::Date, purge::Records, 1440, 1560, 1800, 330);
     EXPECT_EQ(date().Text(), u"");
     EXPECT_TRUE(date().isEnabled());
-    expectPlace<Label>(u"Label3"_s, u"Frame1"_s, 3360, 1560, 1500, 330);
-    EXPECT_EQ(inside<Label>(u"Label3"_s).Caption(), u"以前的记录");
-    expectPlace<Frame>(u"Frame2"_s, u"Form3"_s, 240, 2580, 6120, 1260);
-    EXPECT_EQ(inside<Frame>(u"Frame2"_s).Caption(), u"操作说明");
-    expectPlace<Label>(u"Label1"_s, u"Frame2"_s, 240, 270, 5640, 930);
-    EXPECT_EQ(inside<Label>(u"Label1"_s).Caption(),
+    expectPlace<Label>(purge::BeforeWords, purge::Records, 3360, 1560, 1500, 330);
+    EXPECT_EQ(inside<Label>(purge::BeforeWords).Caption(), u"以前的记录");
+    expectPlace<Frame>(purge::Explained, forms::Purge, 240, 2580, 6120, 1260);
+    EXPECT_EQ(inside<Frame>(purge::Explained).Caption(), u"操作说明");
+    expectPlace<Label>(purge::Explanation, purge::Explained, 240, 270, 5640, 930);
+    EXPECT_EQ(inside<Label>(purge::Explanation).Caption(),
               u"<  删除的记录将无法恢复，请您在确定删除后再进行删除操作，选中需要删除的项目然后在文本框中选择日期，"
               u"点击“确定”按钮在选择日期以前的记录（包括选择的日期）将被删除。>");
-    expectPlace<CommandButton>(u"Command1"_s, u"Form3"_s, 4980, 4020, 1380, 390);
-    EXPECT_EQ(inside<CommandButton>(u"Command1"_s).text(), u"开始删除");
+    expectPlace<CommandButton>(purge::Start, forms::Purge, 4980, 4020, 1380, 390);
+    EXPECT_EQ(inside<CommandButton>(purge::Start).text(), u"开始删除");
     EXPECT_TRUE(dateShown());
 }
 
@@ -187,11 +187,11 @@ TEST_F(PurgeWindowTest, OpensItsDateAgainWithAnyBox) {
 TEST_F(PurgeWindowTest, HidesItsDateWhileTheAccountsAreTicked) {
     openPicker();
     pick(6);
-    inside<Frame>(u"Frame2"_s).setShown(false);
+    inside<Frame>(purge::Explained).setShown(false);
     choose({AccountsKind});
     EXPECT_FALSE(dateShown());
     EXPECT_TRUE(date().isEnabled());
-    EXPECT_TRUE(inside<Frame>(u"Frame2"_s).Visible());
+    EXPECT_TRUE(inside<Frame>(purge::Explained).Visible());
     choose({IncomeKind, PlansKind});
     EXPECT_FALSE(dateShown());
     choose({AccountsKind});

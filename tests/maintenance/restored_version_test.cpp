@@ -28,8 +28,8 @@ TEST_F(RestoredVersionTest, ABackupOfEveryVersionThatWasDeliveredIsTaken) {
         ASSERT_TRUE(QFile::copy(versions.filePath(u"%1.data"_s.arg(version)), rig.file(backup)));
         restoreFrom(backup);
         EXPECT_EQ(rig.lastMessage(), Restored);
-        rig.click(rig.onMain<Label>(u"Label5"_s));
-        EXPECT_EQ(rig.onMain<MSFlexGrid>(u"ms6"_s).TextMatrix(1, 2), u"旅游");
+        rig.click(rig.at(pages::Budget));
+        EXPECT_EQ(rig.at(budget::Grid).TextMatrix(1, 2), u"旅游");
         EXPECT_EQ(rig.sql(u"select 用户名 from yhb"_s), (QStringList{u"小禾"_s, u"老周"_s}));
         EXPECT_FALSE(rig.ended());
     }

@@ -11,7 +11,7 @@ const ShownMessage Done{u"设置完毕"_s, 64, u"提示"_s};
 
 class SettingsChoice : public SettingsTest {
 protected:
-    CheckBox& tray() { return box(u"Check7"_s); }
+    CheckBox& tray() { return box(settings::ToTray); }
     QStringList stored() { return rig.sql(u"select * from systuopanb"_s); }
 };
 
@@ -74,16 +74,16 @@ TEST_F(SettingsChoice, AStartWithTheTrayTicksItsBoxWithoutAWord) {
     tick(tray());
     startAgain();
     EXPECT_TRUE(tray().Value());
-    EXPECT_FALSE(box(u"Check8"_s).Value());
+    EXPECT_FALSE(box(settings::Remind).Value());
     EXPECT_TRUE(rig.messages->shown.empty());
     EXPECT_EQ(stored(), QStringList{u"1"_s});
 }
 
 TEST_F(SettingsChoice, TheBoxOfTheRemindersStoresItsChoiceInItsOwnTableAndWords) {
     const ShownMessage done{u"设置完毕！"_s, 64, u"系统提示"_s};
-    tick(box(u"Check8"_s));
+    tick(box(settings::Remind));
     EXPECT_EQ(rig.sql(u"select * from txb"_s), QStringList{u"1"_s});
-    tick(box(u"Check8"_s));
+    tick(box(settings::Remind));
     EXPECT_EQ(rig.sql(u"select * from txb"_s), QStringList{u"0"_s});
     EXPECT_EQ(rig.messages->shown, (std::vector{done, done}));
     EXPECT_EQ(stored(), QStringList{u"0"_s});

@@ -23,14 +23,14 @@ protected:
         rig.stop();
         start();
     }
-    void open() { go(QStringLiteral("Label7")); }
+    void open() { go(pages::Settings); }
     void go(const QString& label) {
         rig.click(rig.onMain<Label>(label));
         rig.settle();
     }
 
     /// Every handler points the shared data control at the data file itself.
-    void pointElsewhere() { rig.mainWindow().Adodc1->setConnectionString(QStringLiteral("Data Source=none.dll")); }
+    void pointElsewhere() { rig.mainWindow().Adodc1->setConnectionString(u"Data Source=none.dll"_s); }
     CheckBox& box(const QString& name) { return rig.onMain<CheckBox>(name); }
     /// As a user does, beside the caption.
     static void tick(CheckBox& box) { QTest::mouseClick(&box, Qt::LeftButton, {}, {8, box.height() / 2}); }

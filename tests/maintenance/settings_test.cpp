@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 class SettingsPageTest : public SettingsTest {
 protected:
-    CommandButton& categories() { return rig.onMain<CommandButton>(u"Command31"_s); }
+    CommandButton& categories() { return rig.at(settings::Categories); }
 
     /// The control stands in its frame as told, in twips.
     template<class T>
@@ -26,7 +26,7 @@ protected:
 };
 
 TEST_F(SettingsPageTest, OpensInItsPlaceInFrontOfAllOthers) {
-    const Frame& page = rig.frame(u"Frame16"_s);
+    const Frame& page = rig.at(settings::Page);
     EXPECT_EQ(page.Caption(), u"设置");
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ((std::array{page.Left(), page.Top(), page.Width(), page.Height()}),
@@ -34,8 +34,8 @@ TEST_F(SettingsPageTest, OpensInItsPlaceInFrontOfAllOthers) {
     for (const Page* other : rig.mainWindow().navigation().pages())
         EXPECT_EQ(other->frame().Visible(), &other->frame() == &page) << other->frame().objectName().toStdString();
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 7);
-    EXPECT_EQ(rig.onMain<Label>(u"Label7"_s).ForeColor(), 255u);
-    EXPECT_EQ(rig.onMain<Label>(u"Label24"_s).ForeColor(), 0u);
+    EXPECT_EQ(rig.at(pages::Settings).ForeColor(), 255u);
+    EXPECT_EQ(rig.at(pages::Desktop).ForeColor(), 0u);
     EXPECT_TRUE(rig.messages->shown.empty());
 }
 
@@ -46,59 +46,63 @@ TEST_F(SettingsPageTest, UnloadsTheToolsOfOtherPages) {
         rig.program->shared().forms.get(names::Purge).showForm();
     });
     open();
-    for (const auto& tool : {u"Form1"_s, u"Form3"_s, u"Form9"_s})
-        EXPECT_FALSE(rig.loaded(tool)) << tool.toStdString();
+    for (const FormName& tool : {forms::DatePicker, forms::Purge, forms::Calculator})
+        EXPECT_FALSE(rig.loaded(tool)) << std::string(tool);
 }
 
 TEST_F(SettingsPageTest, TheSystemsSettingsStandInTheirPlaces) {
-    EXPECT_EQ(rig.frame(u"Frame20"_s).Caption(), u"系统设置");
-    EXPECT_EQ(rig.frame(u"Frame20"_s).parentWidget(), &rig.frame(u"Frame16"_s));
-    expectPlace<CheckBox>(u"Check8"_s, u"Frame20"_s, u"登陆自动定时提醒今日日程"_s, 360, 600, 4000, 330);
-    expectPlace<CheckBox>(u"Check7"_s, u"Frame20"_s, u"最小化到系统托盘"_s, 360, 1200, 4000, 330);
-    expectPlace<CheckBox>(u"Check5"_s, u"Frame20"_s, u"开机启动"_s, 2880, 1200, 2400, 330);
-    expectPlace<CheckBox>(u"Check10"_s, u"Frame20"_s, u"更换记账本皮肤"_s, 360, 1800, 4000, 330);
-    expectPlace<CommandButton>(u"Command30"_s, u"Frame20"_s, u"确定"_s, 3480, 2280, 1080, 390);
-    expectPlace<CommandButton>(u"Command31"_s, u"Frame20"_s, u"收支分类设置"_s, 360, 3450, 1920, 390);
-    expectPlace<CommandButton>(u"Command32"_s, u"Frame20"_s, u"更换图片"_s, 2400, 3450, 1560, 390);
-    for (const auto& name : {u"Check7"_s, u"Check8"_s, u"Check10"_s, u"Command31"_s, u"Command32"_s}) {
+    EXPECT_EQ(rig.at(settings::System).Caption(), u"系统设置");
+    EXPECT_EQ(rig.at(settings::System).parentWidget(), &rig.at(settings::Page));
+    expectPlace<CheckBox>(settings::Remind, settings::System, u"登陆自动定时提醒今日日程"_s, 360, 600, 4000, 330);
+    expectPlace<CheckBox>(settings::ToTray, settings::System, u"最小化到系统托盘"_s, 360, 1200, 4000, 330);
+    expectPlace<CheckBox>(settings::AtSystemStart, settings::System, u"开机启动"_s, 2880, 1200, 2400, 330);
+    expectPlace<CheckBox>(settings::ChangeSkin, settings::System, u"更换记账本皮肤"_s, 360, 1800, 4000, 330);
+    expectPlace<CommandButton>(settings::KeepSkin, settings::System, u"确定"_s, 3480, 2280, 1080, 390);
+    expectPlace<CommandButton>(settings::Categories, settings::System, u"收支分类设置"_s, 360, 3450, 1920, 390);
+    expectPlace<CommandButton>(settings::Pictures, settings::System, u"更换图片"_s, 2400, 3450, 1560, 390);
+    for (const QString& name : QStringList{settings::ToTray, settings::Remind, settings::ChangeSkin,
+                                           settings::Categories, settings::Pictures}) {
         const QWidget& control = rig.onMain<QWidget>(name);
         EXPECT_TRUE(control.isVisible()) << name.toStdString();
-        EXPECT_TRUE(rig.frame(u"Frame20"_s).rect().contains(control.geometry())) << name.toStdString();
+        EXPECT_TRUE(rig.at(settings::System).rect().contains(control.geometry())) << name.toStdString();
     }
 }
 
 TEST_F(SettingsPageTest, TheFileSettingsStandInTheirPlaces) {
-    EXPECT_EQ(rig.frame(u"Frame19"_s).Caption(), u"文件设置");
-    EXPECT_EQ(rig.frame(u"Frame19"_s).parentWidget(), &rig.frame(u"Frame16"_s));
-    EXPECT_FALSE(rig.frame(u"Frame19"_s).geometry().intersects(rig.frame(u"Frame20"_s).geometry()));
-    expectPlace<OptionButton>(u"Option14"_s, u"Frame19"_s, u"系统数据备份"_s, 360, 600, 2400, 330);
-    expectPlace<OptionButton>(u"Option16"_s, u"Frame19"_s, u"系统数据还原"_s, 2880, 600, 2400, 330);
-    expectPlace<CheckBox>(u"Check3"_s, u"Frame19"_s, u"选择删除记录数据..."_s, 390, 1980, 4000, 330);
-    expectPlace<CheckBox>(u"Check2"_s, u"Frame19"_s, u"格式化日志"_s, 390, 2580, 4000, 330);
-    expectPlace<CheckBox>(u"Check4"_s, u"Frame19"_s, u"初始化系统数据"_s, 390, 3180, 4000, 330);
-    for (const auto& name : {u"Option14"_s, u"Option16"_s, u"Check2"_s, u"Check3"_s, u"Check4"_s})
+    EXPECT_EQ(rig.at(settings::Files).Caption(), u"文件设置");
+    EXPECT_EQ(rig.at(settings::Files).parentWidget(), &rig.at(settings::Page));
+    EXPECT_FALSE(rig.at(settings::Files).geometry().intersects(rig.at(settings::System).geometry()));
+    expectPlace<OptionButton>(settings::Backup, settings::Files, u"系统数据备份"_s, 360, 600, 2400, 330);
+    expectPlace<OptionButton>(settings::Restore, settings::Files, u"系统数据还原"_s, 2880, 600, 2400, 330);
+    expectPlace<CheckBox>(settings::Purge, settings::Files, u"选择删除记录数据..."_s, 390, 1980, 4000, 330);
+    expectPlace<CheckBox>(settings::WipeDiary, settings::Files, u"格式化日志"_s, 390, 2580, 4000, 330);
+    expectPlace<CheckBox>(settings::Initialise, settings::Files, u"初始化系统数据"_s, 390, 3180, 4000, 330);
+    for (const QString& name :
+         QStringList{settings::Backup, settings::Restore, settings::WipeDiary, settings::Purge, settings::Initialise})
         EXPECT_TRUE(rig.onMain<QAbstractButton>(name).isVisible()) << name.toStdString();
 }
 
 TEST_F(SettingsPageTest, NothingIsTickedOrChosenAtTheFirstVisit) {
-    for (const auto& name : {u"Check2"_s, u"Check3"_s, u"Check4"_s, u"Check5"_s, u"Check7"_s, u"Check8"_s, u"Check10"_s,
-                             u"Option14"_s, u"Option16"_s})
+    for (const QString& name :
+         QStringList{settings::WipeDiary, settings::Purge, settings::Initialise, settings::AtSystemStart,
+                     settings::ToTray, settings::Remind, settings::ChangeSkin, settings::Backup, settings::Restore})
         EXPECT_FALSE(rig.onMain<QAbstractButton>(name).isChecked()) << name.toStdString();
 }
 
 TEST_F(SettingsPageTest, TheBoxOfTheSystemsStartStaysHiddenAndDoesNothing) {
-    EXPECT_FALSE(box(u"Check5"_s).Visible());
-    EXPECT_FALSE(box(u"Check5"_s).Click);
-    box(u"Check5"_s).setValue(true);
+    EXPECT_FALSE(box(settings::AtSystemStart).Visible());
+    EXPECT_FALSE(box(settings::AtSystemStart).Click);
+    box(settings::AtSystemStart).setValue(true);
     EXPECT_TRUE(rig.messages->shown.empty());
     startAgain();
-    EXPECT_FALSE(box(u"Check5"_s).Visible());
-    EXPECT_FALSE(box(u"Check5"_s).Value());
+    EXPECT_FALSE(box(settings::AtSystemStart).Visible());
+    EXPECT_FALSE(box(settings::AtSystemStart).Value());
 }
 
 TEST_F(SettingsPageTest, TheHandIsOverEveryBoxAndOption) {
-    for (const auto& name : {u"Check2"_s, u"Check3"_s, u"Check4"_s, u"Check5"_s, u"Check7"_s, u"Check8"_s, u"Check10"_s,
-                             u"Option14"_s, u"Option16"_s}) {
+    for (const QString& name :
+         QStringList{settings::WipeDiary, settings::Purge, settings::Initialise, settings::AtSystemStart,
+                     settings::ToTray, settings::Remind, settings::ChangeSkin, settings::Backup, settings::Restore}) {
         auto& control = rig.onMain<QAbstractButton>(name);
         ASSERT_NE(control.cursor().shape(), Qt::PointingHandCursor) << name.toStdString();
         rig.hover(control);
@@ -110,24 +114,23 @@ TEST_F(SettingsPageTest, ABoxAndAnOptionAreClickedWhereverTheHandIsOverThem) {
     const auto clickRightEnd = [](QWidget& control) {
         QTest::mouseClick(&control, Qt::LeftButton, {}, control.rect().bottomRight());
     };
-    clickRightEnd(box(u"Check7"_s));
-    EXPECT_TRUE(box(u"Check7"_s).Value());
-    clickRightEnd(rig.onMain<OptionButton>(u"Option14"_s));
-    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option14"_s).Value());
+    clickRightEnd(box(settings::ToTray));
+    EXPECT_TRUE(box(settings::ToTray).Value());
+    clickRightEnd(rig.at(settings::Backup));
+    EXPECT_TRUE(rig.at(settings::Backup).Value());
 }
 
 TEST_F(SettingsPageTest, EachButtonIsGreyUnderThePointerAndAllAreWhiteBesideThem) {
-    const std::array buttons{&rig.onMain<CommandButton>(u"Command30"_s), &categories(),
-                             &rig.onMain<CommandButton>(u"Command32"_s)};
+    const std::array buttons{&rig.at(settings::KeepSkin), &categories(), &rig.at(settings::Pictures)};
     for (CommandButton* button : buttons) {
         rig.hover(*button);
         EXPECT_EQ(button->BackColor(), 0xE0E0E0u);
         EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
     }
-    rig.hover(rig.frame(u"Frame19"_s));
+    rig.hover(rig.at(settings::Files));
     for (CommandButton* button : buttons)
         EXPECT_EQ(button->BackColor(), 0xE0E0E0u);
-    rig.hover(rig.frame(u"Frame20"_s));
+    rig.hover(rig.at(settings::System));
     for (CommandButton* button : buttons)
         EXPECT_EQ(button->BackColor(), 0xFFFFFFu);
 }
@@ -137,7 +140,7 @@ TEST_F(SettingsPageTest, TheButtonsAreWhiteAgainWhenThePageOrTheMenuHasGone) {
     rig.click(categories());
     open();
     EXPECT_EQ(categories().BackColor(), 0xFFFFFFu);
-    auto& pictures = rig.onMain<CommandButton>(u"Command32"_s);
+    auto& pictures = rig.at(settings::Pictures);
     rig.hover(pictures);
     rig.click(pictures);
     EXPECT_EQ(pictures.BackColor(), 0xFFFFFFu);
@@ -145,25 +148,25 @@ TEST_F(SettingsPageTest, TheButtonsAreWhiteAgainWhenThePageOrTheMenuHasGone) {
 
 TEST_F(SettingsPageTest, TheButtonBringsTheCategoriesUpInThePlaceOfTheSettings) {
     rig.click(categories());
-    EXPECT_TRUE(rig.frame(u"Frame3"_s).isVisible());
-    EXPECT_FALSE(rig.frame(u"Frame16"_s).Visible());
-    EXPECT_TRUE(rig.onMain<OptionButton>(u"Option3"_s).Value());
+    EXPECT_TRUE(rig.at(categories::Page).isVisible());
+    EXPECT_FALSE(rig.at(settings::Page).Visible());
+    EXPECT_TRUE(rig.at(categories::Income).Value());
 }
 
 TEST_F(SettingsPageTest, TheSettingsLabelLeadsBackAndTheButtonOpensOnceMore) {
     for (int visit = 0; visit < 3; ++visit) {
         rig.click(categories());
-        ASSERT_TRUE(rig.frame(u"Frame3"_s).isVisible()) << visit;
+        ASSERT_TRUE(rig.at(categories::Page).isVisible()) << visit;
         open();
-        EXPECT_FALSE(rig.frame(u"Frame3"_s).Visible()) << visit;
-        EXPECT_TRUE(rig.frame(u"Frame16"_s).isVisible()) << visit;
+        EXPECT_FALSE(rig.at(categories::Page).Visible()) << visit;
+        EXPECT_TRUE(rig.at(settings::Page).isVisible()) << visit;
     }
 }
 
 TEST_F(SettingsPageTest, TheKeyboardOpensTheCategoriesToo) {
     categories().setFocus();
     rig.press(categories(), Qt::Key_Return);
-    EXPECT_TRUE(rig.frame(u"Frame3"_s).isVisible());
+    EXPECT_TRUE(rig.at(categories::Page).isVisible());
 }
 
 } // namespace

@@ -35,9 +35,9 @@ protected:
         offer(u"秋"_s, picture(Qt::white));
     }
 
-    CheckBox& change() { return box(u"Check10"_s); }
-    ComboBox& list() { return rig.onMain<ComboBox>(u"Combo2"_s); }
-    CommandButton& keep() { return rig.onMain<CommandButton>(u"Command30"_s); }
+    CheckBox& change() { return box(settings::ChangeSkin); }
+    ComboBox& list() { return rig.at(settings::Skins); }
+    CommandButton& keep() { return rig.at(settings::KeepSkin); }
     QStringList listed() {
         QStringList names;
         for (int i = 0; i < list().count(); ++i)
@@ -81,7 +81,7 @@ TEST_F(SkinChoiceTest, ListAndButtonAreHiddenWhenThePageOpens) {
     expectClosed();
     EXPECT_EQ((std::array{list().Left(), list().Top(), list().Width(), list().Height()}),
               (std::array{690., 2310., 2640., 330.}));
-    EXPECT_EQ(list().parentWidget(), &rig.frame(u"Frame20"_s));
+    EXPECT_EQ(list().parentWidget(), &rig.at(settings::System));
     EXPECT_FALSE(list().isEditable());
 }
 
@@ -120,7 +120,7 @@ TEST_F(SkinChoiceTest, TickingUntickingAndTickingAgainGivesNoDoubles) {
 TEST_F(SkinChoiceTest, EnteringThePageAgainHidesListAndButtonAndTheBoxOpensThemWithoutDoubles) {
     offerThree();
     openAndChoose(u"夏"_s);
-    go(u"Label24"_s);
+    go(pages::Desktop);
     open();
     EXPECT_FALSE(list().Visible());
     EXPECT_FALSE(keep().Visible());
@@ -377,7 +377,7 @@ TEST_F(SkinChoiceTest, NoneOfThePicturesRemainsAfterANormalEnd) {
     openAndChoose(u"夏"_s);
     for (const auto& name : {u"pf.jpg"_s, u"zjm.jpg"_s, u"dlpf.jpg"_s})
         EXPECT_TRUE(QFile::exists(rig.file(name))) << name.toStdString();
-    go(u"Image3"_s);
+    go(title::Close);
     EXPECT_EQ(rig.exitCode(), 0);
     for (const auto& name : {u"pf.jpg"_s, u"zjm.jpg"_s, u"dlpf.jpg"_s})
         EXPECT_FALSE(QFile::exists(rig.file(name))) << name.toStdString();
@@ -400,7 +400,7 @@ TEST_F(SkinChoiceTest, ThePicturesThatACrashLeavesAreOverwrittenByTheNextStart) 
         EXPECT_EQ(bytes(picture.file), stored + left.mid(stored.size())) << picture.file.toStdString();
     }
     expectShown(delivered);
-    EXPECT_NEAR(rig.onMain<Image>(u"Image2"_s).picture().pixelColor(5, 5).red(), 255, 4);
+    EXPECT_NEAR(rig.at(desktop::Picture).picture().pixelColor(5, 5).red(), 255, 4);
 }
 
 } // namespace

@@ -36,7 +36,7 @@ TEST_F(UsersCellsTest, ComeToTheFrontWithTheirFrameAndLabel) {
     EXPECT_EQ(frame().Width(), 11655);
     EXPECT_EQ(frame().Height(), 6255);
     EXPECT_EQ(rig.mainWindow().navigation().currentPage, 4);
-    EXPECT_EQ(rig.onMain<Label>(u"Label4"_s).ForeColor(), 255u);
+    EXPECT_EQ(rig.at(pages::Users).ForeColor(), 255u);
     EXPECT_EQ(adodc1().recordSource(), u"select 用户名,用户密码 from yhb");
     EXPECT_TRUE(adodc1().connectionString().endsWith("data.dll "_L1));
     EXPECT_FALSE(adodc1().isVisible());
@@ -68,8 +68,8 @@ TEST_F(UsersCellsTest, SkipNullFields) {
 
 TEST_F(UsersCellsTest, LoseAPasswordInTheRowOfTheLoanListWhereOneIsEmpty) {
     rig.sql(u"insert into jcb(账户, 区别) values('甲', 1), ('乙', 2)"_s);
-    press(rig.onMain<Label>(u"Label1"_s));
-    rig.clickCell(rig.onMain<MSFlexGrid>(u"ms1"_s), 1, 1);
+    press(rig.at(pages::Loans));
+    rig.clickCell(rig.at(loans::Grid), 1, 1);
     storeUser(u"王青"_s, u"abc"_s);
     storeUser(u"李禾"_s, u""_s);
     open();
@@ -78,7 +78,7 @@ TEST_F(UsersCellsTest, LoseAPasswordInTheRowOfTheLoanListWhereOneIsEmpty) {
 
 TEST_F(UsersCellsTest, StopTheOpeningWhereTheRowOfTheLoanListIsBeyondTheirs) {
     rig.sql(u"insert into jcb(账户, 区别) values('甲', 1), ('乙', 2), ('丙', 3)"_s);
-    press(rig.onMain<Label>(u"Label1"_s)); // which leaves the last row current
+    press(rig.at(pages::Loans)); // which leaves the last row current
     storeUser(u"王青"_s, u""_s);
     open();
     expectStopped(RuntimeError::SubscriptOutOfRange);
@@ -160,12 +160,12 @@ TEST_F(UsersCellsTest, AreLeftAloneByAClickOnTheFrameWhichHidesTheBox) {
 TEST_F(UsersCellsTest, LeaveTheSchedulesDatePickerOpenWhenTheFrameIsClickedBehindIt) {
     openWith(1);
     clickCell(1, 1);
-    press(rig.onMain<Label>(u"Label23"_s));
+    press(rig.at(pages::Schedule));
     ASSERT_TRUE(box().Visible());
     handlers::enter([this] { shared().openDatePicker(DateField::None, {}, {0, 0}); });
     clickFrame(); // its lowest strip looks out under the schedule
     EXPECT_FALSE(box().Visible());
-    EXPECT_EQ(tools(), u"Form1");
+    EXPECT_EQ(tools(), forms::DatePicker);
 }
 
 TEST_F(UsersCellsTest, LoseTheEditorWhenThePageIsOpenedAgain) {

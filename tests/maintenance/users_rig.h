@@ -7,11 +7,13 @@ namespace qinghe::testing {
 
 inline constexpr GridList Users{
     .name = "Users",
-    .label = u"Label4",
-    .option = u"",
-    .frame = u"Frame7",
-    .number = 5,
-    .firstButton = 13,
+    .label = pages::Users,
+    .frame = users::Page,
+    .grid = users::Grid,
+    .box = users::Box,
+    .add = users::Add,
+    .remove = users::Remove,
+    .save = users::Save,
     .table = u"yhb",
     .values = u"'人' || n, '密码' || n, n",
     .firstRow = u"人1|密码1",
@@ -22,10 +24,10 @@ inline constexpr GridList Users{
 /// The page of users, signed in by one who is not in the table any more.
 class UsersTest : public PageTest {
 protected:
-    UsersTest() : PageTest(Users) { rig.sql(QStringLiteral("delete from yhb")); }
+    UsersTest() : PageTest(Users) { rig.sql(u"delete from yhb"_s); }
 
     void storeUser(const QString& name, const QString& password) {
-        rig.sql(QStringLiteral("insert into yhb values('%1','%2',1)").arg(name, password));
+        rig.sql(u"insert into yhb values('%1','%2',1)"_s.arg(name, password));
     }
     /// Ends the program and starts it anew, up to the sign-in.
     void startAnew() {
@@ -34,13 +36,12 @@ protected:
     }
     void trySignIn(const QString& name, const QString& password) {
         names().setText(name);
-        rig.control<TextBox>(QStringLiteral("Form5"), QStringLiteral("Text2")).setText(password);
-        press(rig.control<Label>(QStringLiteral("Form5"), QStringLiteral("Label1")));
+        rig.at(sign_in::Password).setText(password);
+        press(rig.at(sign_in::Enter));
     }
-    ComboBox& names() { return rig.control<ComboBox>(QStringLiteral("Form5"), QStringLiteral("Combo1")); }
+    ComboBox& names() { return rig.at(sign_in::User); }
 };
 
-inline const ShownMessage UserGap{QStringLiteral("为了保存信息的完整性，\r\n记录内容不能为空！"), 64,
-                                  QStringLiteral("输入提示")};
+inline const ShownMessage UserGap{u"为了保存信息的完整性，\r\n记录内容不能为空！"_s, 64, u"输入提示"_s};
 
 } // namespace qinghe::testing

@@ -186,11 +186,11 @@ TEST_F(UsersRowsTest, AreWorkedOnByButtonsThatAreGreyUnderThePointer) {
 
 TEST_F(UsersRowsTest, HaveTheirButtonsAtTheUpperRight) {
     open();
-    const std::array<const char16_t*, 3> captions{u"增加", u"删除", u"保存"};
+    const std::array<QStringView, 3> captions{u"增加", u"删除", u"保存"};
     const std::array<double, 3> lefts{8055, 9255, 10455};
     const std::array<CommandButton*, 3> buttons{&add(), &remove(), &save()};
     for (std::size_t i = 0; i < buttons.size(); ++i) {
-        EXPECT_EQ(buttons[i]->text(), QString::fromUtf16(captions[i]));
+        EXPECT_EQ(buttons[i]->text(), captions[i].toString());
         EXPECT_EQ(buttons[i]->Left(), lefts[i]);
         EXPECT_EQ(buttons[i]->Top(), 345);
         EXPECT_EQ(buttons[i]->Width(), 1080);

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 class UsersSaveTest : public UsersTest {
 protected:
     /// The program took name and password.
-    bool signedIn() { return rig.loaded(u"Form2"_s) && !rig.loaded(u"Form5"_s); }
+    bool signedIn() { return rig.loaded(forms::Main) && !rig.loaded(forms::SignIn); }
 };
 
 TEST_F(UsersSaveTest, WritesTheRowsAnewInTheOrderOfTheGridAndNumbersThem) {

@@ -16,31 +16,28 @@ using namespace Qt::StringLiterals;
 constexpr quint32 Grey = 0xE0E0E0, White = 0xFFFFFF;
 
 struct Hovered {
-    const char* form;
-    std::vector<const char*> buttons;
-    std::vector<const char*> frames = {};
+    FormName form;
+    std::vector<QString> buttons;
+    std::vector<QString> frames = {};
 };
 
 void PrintTo(const Hovered& hovered, std::ostream* out) {
-    *out << hovered.form;
+    *out << std::string(hovered.form);
 }
 
 class WindowHover : public ::testing::TestWithParam<Hovered> {
 protected:
     WindowHover() {
         rig.signIn();
-        handlers::enter([this] {
-            const QString form = name();
-            rig.program->shared().forms.get(FormName<>{form}).showForm();
-        });
+        handlers::enter(
+            [this] { rig.program->shared().forms.get(qinghe::FormName<>{GetParam().form.name}).showForm(); });
         rig.settle();
     }
-    QString name() const { return QString::fromLatin1(GetParam().form); }
-    Form& window() { return *rig.loaded(name()); }
+    Form& window() { return *rig.loaded(GetParam().form); }
     std::vector<CommandButton*> buttons() {
         std::vector<CommandButton*> found;
-        for (const char* button : GetParam().buttons)
-            found.push_back(&rig.control<CommandButton>(name(), QString::fromLatin1(button)));
+        for (const QString& button : GetParam().buttons)
+            found.push_back(&rig.control<CommandButton>(GetParam().form, button));
         return found;
     }
     void expectAll(quint32 colour) {
@@ -78,19 +75,19 @@ TEST_P(WindowHover, OnTheBareFormItIsWhiteAgain) {
 }
 
 TEST_P(WindowHover, OnABareFrameItIsWhiteAgain) {
-    for (const char* frame : GetParam().frames) {
+    for (const QString& frame : GetParam().frames) {
         hoverButtons();
-        pointer::move(rig.control<Frame>(name(), QString::fromLatin1(frame)), {3, 12});
+        pointer::move(rig.control<Frame>(GetParam().form, frame), {3, 12});
         expectAll(White);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowHover,
-                         ::testing::Values(Hovered{"Form3", {"Command1"}, {"Frame1", "Frame2"}},
-                                           Hovered{"Form8", {"Command1", "Command2"}},
-                                           Hovered{"Form10", {"Command1", "Command2"}},
-                                           Hovered{"Form11", {"Command1", "Command2"}},
-                                           Hovered{"Form13", {"Command1"}, {"Frame1"}}),
+                         ::testing::Values(Hovered{forms::Purge, {purge::Start}, {purge::Records, purge::Explained}},
+                                           Hovered{forms::SkinPictures, {pictures::Browse, pictures::Store}},
+                                           Hovered{forms::DesktopPictures, {pictures::Browse, pictures::Store}},
+                                           Hovered{forms::SignInPictures, {pictures::Browse, pictures::Store}},
+                                           Hovered{forms::Backup, {backup::Start}, {backup::Ground}}),
                          [](const auto& window) { return std::string(window.param.form); });
 
 } // namespace

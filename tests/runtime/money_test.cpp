@@ -1,5 +1,5 @@
-#include "runtime/money.h"
 #include "qt_printing.h"
+#include "runtime/money.h"
 #include "runtime/runtime_error.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "runtime/months.h"
 #include "qt_printing.h"
+#include "runtime/months.h"
 
 #include <gtest/gtest.h>
 

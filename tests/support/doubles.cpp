@@ -4,16 +4,18 @@
 
 namespace qinghe::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class NotingPiece : public Sound {
 public:
     explicit NotingPiece(NotingSound& device) : m_device(device) {}
-    ~NotingPiece() override { m_device.calls << QStringLiteral("close"); }
-    void play() override { m_device.calls << QStringLiteral("play"); }
-    void stop() override { m_device.calls << QStringLiteral("stop"); }
+    ~NotingPiece() override { m_device.calls << u"close"_s; }
+    void play() override { m_device.calls << u"play"_s; }
+    void stop() override { m_device.calls << u"stop"_s; }
     void rewind() override {
-        m_device.calls << QStringLiteral("rewind");
+        m_device.calls << u"rewind"_s;
         m_device.position = 0;
     }
     int position() const override { return m_device.position; }
@@ -26,7 +28,7 @@ private:
 } // namespace
 
 std::unique_ptr<Sound> NotingSound::open(const QString& wav) {
-    calls << QStringLiteral("open ") + QFileInfo(wav).fileName();
+    calls << u"open "_s + QFileInfo(wav).fileName();
     position = 0;
     return present ? std::make_unique<NotingPiece>(*this) : nullptr;
 }

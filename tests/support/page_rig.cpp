@@ -7,13 +7,13 @@ using namespace Qt::StringLiterals;
 void PageTest::store(const GridList& other, int count) {
     rig.sql(u"with recursive n(n) as (select 1 union all select n + 1 from n where n < %1) "
             "insert into %2 select %3 from n"_s.arg(count)
-                .arg(QString::fromUtf16(other.table), QString::fromUtf16(other.values)));
+                .arg(other.table.toString(), other.values.toString()));
 }
 
 void PageTest::open(const GridList& other) {
-    press(rig.onMain<Label>(QString::fromUtf16(other.label)));
-    if (*other.option)
-        choose(QString::fromUtf16(other.option));
+    press(rig.at(other.label));
+    if (other.option)
+        choose(*other.option);
 }
 
 void PageTest::openWith(int count) {
@@ -28,7 +28,7 @@ void PageTest::restart() {
 }
 
 QStringList PageTest::stored(const GridList& other, const QString& columns) {
-    return rig.sql(u"select %1 from %2 order by rowid"_s.arg(columns, QString::fromUtf16(other.table)));
+    return rig.sql(u"select %1 from %2 order by rowid"_s.arg(columns, other.table.toString()));
 }
 
 void PageTest::press(QWidget& control) {
@@ -48,7 +48,7 @@ void PageTest::fillCell(int row, int col, const QString& text) {
 }
 
 void PageTest::calculate(const QString& keys) {
-    Form* calculator = rig.loaded(u"Form9"_s);
+    Form* calculator = rig.loaded(forms::Calculator);
     ASSERT_NE(calculator, nullptr) << "no calculator at " << current().toStdString();
     rig.type(*calculator, keys);
     rig.press(*calculator, Qt::Key_Return);
@@ -68,7 +68,7 @@ QStringList PageTest::rows() {
 
 QString PageTest::tools() {
     QStringList open;
-    for (const QString& name : {u"Form1"_s, u"Form9"_s})
+    for (const FormName& name : {forms::DatePicker, forms::Calculator})
         if (Form* form = rig.loaded(name); form && form->isVisible())
             open << name;
     return open.isEmpty() ? u"none"_s : open.join('+'_L1);
@@ -82,9 +82,9 @@ void PageTest::expectEditorOver(int row, int col) {
     EXPECT_EQ(box().geometry(), grid().cellRect(row, col).translated(grid().pos()));
 }
 
-void PageTest::expectUnderEditor(const QString& tool) {
+void PageTest::expectUnderEditor(const FormName& tool) {
     const Form* form = rig.loaded(tool);
-    ASSERT_NE(form, nullptr) << tool.toStdString();
+    ASSERT_NE(form, nullptr) << std::string(tool);
     EXPECT_DOUBLE_EQ(form->Left(), frame().Left() + box().Left() + rig.mainWindow().Left());
     EXPECT_DOUBLE_EQ(form->Top(), frame().Top() + box().Top() + box().Height() + rig.mainWindow().Top());
 }

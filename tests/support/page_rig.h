@@ -22,21 +22,21 @@ protected:
     /// Ends the program and starts it anew on the same file, with the list on view.
     void restart();
     /// The list's table as it is in the file.
-    QStringList stored(const QString& columns = QStringLiteral("*")) { return stored(list, columns); }
-    QStringList stored(const GridList& other, const QString& columns = QStringLiteral("*"));
+    QStringList stored(const QString& columns = u"*"_s) { return stored(list, columns); }
+    QStringList stored(const GridList& other, const QString& columns = u"*"_s);
 
-    MSFlexGrid& grid() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms%1").arg(list.number)); }
-    TextBox& box() { return rig.onMain<TextBox>(QStringLiteral("tx%1").arg(list.number)); }
-    Frame& frame() { return rig.frame(QString::fromUtf16(list.frame)); }
-    CommandButton& add() { return button(0); }
-    CommandButton& remove() { return button(1); }
-    CommandButton& save() { return button(2); }
-    OptionButton& option(const QString& name) { return rig.onMain<OptionButton>(name); }
+    MSFlexGrid& grid() { return rig.at(list.grid); }
+    TextBox& box() { return rig.at(list.box); }
+    Frame& frame() { return rig.at(list.frame); }
+    CommandButton& add() { return rig.at(list.add); }
+    CommandButton& remove() { return rig.at(list.remove); }
+    CommandButton& save() { return rig.at(list.save); }
+    OptionButton& option(const Name<OptionButton>& name) { return rig.at(name); }
     Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
     Shared& shared() { return rig.program->shared(); }
 
     void press(QWidget& control);
-    void choose(const QString& name) { press(option(name)); }
+    void choose(const Name<OptionButton>& name) { press(option(name)); }
     void clickCell(int row, int col) { rig.clickCell(grid(), row, col); }
     /// Writes into the open editor over what stands there.
     void write(const QString& text);
@@ -54,24 +54,19 @@ protected:
     QString row(int number) { return ProgramRig::rowText(grid(), number); }
     QString blankRow() { return QString(grid().Cols() - 2, u'|'); }
     int lastColumn() { return grid().Cols() - 1; }
-    QString current() { return QStringLiteral("%1,%2").arg(grid().Row()).arg(grid().Col()); }
-    /// Which of the two tools are open: "Form1", "Form9", both or none.
+    QString current() { return u"%1,%2"_s.arg(grid().Row()).arg(grid().Col()); }
+    /// The names of those of the two tools that are open, joined with "+", or "none".
     QString tools();
 
     /// The editor lies exactly over a cell, in twips and in pixels.
     void expectEditorOver(int row, int col);
     /// A tool hangs under the editor, at its left edge.
-    void expectUnderEditor(const QString& tool);
+    void expectUnderEditor(const FormName& tool);
     /// The program has ended with this run-time error.
     void expectStopped(int error);
 
     const GridList& list;
     ProgramRig rig;
-
-private:
-    CommandButton& button(int place) {
-        return rig.onMain<CommandButton>(QStringLiteral("Command%1").arg(list.firstButton + place));
-    }
 };
 
 /// The same for each list in turn.
@@ -84,10 +79,9 @@ inline std::string listName(const ::testing::TestParamInfo<GridList>& info) {
     return info.param.name;
 }
 
-inline const ShownMessage AddRefused{QStringLiteral("当前有一条空记录"), 64, QStringLiteral("温馨提示")};
-inline const ShownMessage DeleteAsked{QStringLiteral("是否需要删除?"), 65, QStringLiteral("温馨提示")};
-inline const ShownMessage SaveRefused{QStringLiteral("为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"), 64,
-                                      QStringLiteral("输入提示")};
-inline const ShownMessage SaveDone{QStringLiteral("保存成功"), 64, QStringLiteral("保存提示")};
+inline const ShownMessage AddRefused{u"当前有一条空记录"_s, 64, u"温馨提示"_s};
+inline const ShownMessage DeleteAsked{u"是否需要删除?"_s, 65, u"温馨提示"_s};
+inline const ShownMessage SaveRefused{u"为了保存信息的完整性，\r\n除备注信息外记录内容不能为空！"_s, 64, u"输入提示"_s};
+inline const ShownMessage SaveDone{u"保存成功"_s, 64, u"保存提示"_s};
 
 } // namespace qinghe::testing

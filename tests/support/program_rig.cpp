@@ -104,10 +104,10 @@ void ProgramRig::start() {
 
 void ProgramRig::signIn() {
     start();
-    auto& password = control<TextBox>(u"Form5"_s, u"Text2"_s);
+    auto& password = at(sign_in::Password);
     if (password.Text().isEmpty())
         password.setText(u"123456"_s);
-    click(control<Label>(u"Form5"_s, u"Label1"_s));
+    click(at(sign_in::Enter));
     settle();
 }
 

@@ -3,6 +3,7 @@
 #include "app/program.h"
 #include "core/main_window.h"
 #include "support/doubles.h"
+#include "support/names.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -10,6 +11,8 @@
 #include <memory>
 
 namespace qinghe::testing {
+
+using namespace Qt::StringLiterals;
 
 /// A whole program in a temporary folder of its own, with a real data file, real windows and real events; only the
 /// desktop's services are doubles. The data file is as delivered: one user 管理员 with the password 123456, settings
@@ -27,23 +30,26 @@ public:
     /// Lets go of the running program, as the end of its process would, and keeps the folder.
     void stop();
 
-    /// A control by the names of its form and itself: control<Label>("Form2", "Label2(0)"). Fails the test when there
-    /// is none.
+    /// A control; ends the test program when there is none.
     template<class T>
-    T& control(const QString& form, const QString& name) {
-        Form* found = program->shared().forms.loaded(form);
+    T& at(const Name<T>& name) {
+        return control<T>(name.form, name);
+    }
+    /// The same by a name out of a table.
+    template<class T>
+    T& control(const FormName& form, const QString& name) {
+        Form* found = loaded(form);
         T* child = found ? found->findChild<T*>(name) : nullptr;
         if (!child)
-            qFatal("no control %s on %s", qPrintable(name), qPrintable(form));
+            qFatal("no control %s on %s", qPrintable(name), qPrintable(QString(form)));
         return *child;
     }
     template<class T>
     T& onMain(const QString& name) {
-        return control<T>(QStringLiteral("Form2"), name);
+        return control<T>(forms::Main, name);
     }
-    Form* loaded(const QString& form) { return program->shared().forms.loaded(form); }
-    MainWindow& mainWindow() { return static_cast<MainWindow&>(*loaded(QStringLiteral("Form2"))); }
-    Frame& frame(const QString& name) { return onMain<Frame>(name); }
+    Form* loaded(const FormName& form) { return program->shared().forms.loaded(form); }
+    MainWindow& mainWindow() { return static_cast<MainWindow&>(*loaded(forms::Main)); }
 
     // Events, as a user makes them.
     static void click(QWidget& widget);
@@ -62,7 +68,7 @@ public:
 
     QString file(const QString& name) const { return QDir(folder()).filePath(name); }
     QString folder() const { return m_folder; }
-    QString dataFile() const { return file(QStringLiteral("data.dll")); }
+    QString dataFile() const { return file(u"data.dll"_s); }
 
     /// Runs SQL on the data file through a connection of its own (rows as texts joined with "|"; NULL reads "NULL"),
     /// for preparing and for looking. Works while the program runs, between handlers, and on a spoilt header too.
@@ -95,10 +101,9 @@ private:
 };
 
 /// The labels in the row across the top of the main window, from left to right.
-inline const QStringList PageLabels{QStringLiteral("Label24"), QStringLiteral("Label2(0)"), QStringLiteral("Label2(1)"),
-                                    QStringLiteral("Label1"),  QStringLiteral("Label6"),    QStringLiteral("Label5"),
-                                    QStringLiteral("Label12"), QStringLiteral("Label4"),    QStringLiteral("Label8"),
-                                    QStringLiteral("Label23"), QStringLiteral("Label7")};
+inline const QStringList PageLabels{pages::Desktop,  pages::Income,   pages::Expense, pages::Loans,
+                                    pages::Accounts, pages::Budget,   pages::Charts,  pages::Users,
+                                    pages::Diary,    pages::Schedule, pages::Settings};
 
 /// Writes a data file as delivered, header spoilt, at `path`.
 void writeDeliveredData(const QString& path);

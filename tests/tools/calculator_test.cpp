@@ -12,30 +12,31 @@ namespace {
 using namespace Qt::StringLiterals;
 
 struct Key {
-    const char16_t* name;
-    const char16_t* caption;
+    Name<CommandButton> name;
+    QStringView caption;
     double left, top; ///< twips
 };
 
 constexpr Key Keys[]{
-    {u"Command1(1)", u"1", 240, 840},   {u"Command1(2)", u"2", 960, 840},    {u"Command1(3)", u"3", 1680, 840},
-    {u"Command1(4)", u"4", 240, 1440},  {u"Command1(5)", u"5", 960, 1440},   {u"Command1(6)", u"6", 1680, 1440},
-    {u"Command1(7)", u"7", 240, 2040},  {u"Command1(8)", u"8", 960, 2040},   {u"Command1(9)", u"9", 1680, 2040},
-    {u"Command1(0)", u"0", 240, 2640},  {u"Command1(10)", u".", 960, 2640},  {u"Command3", u"=", 1680, 2640},
-    {u"Command2(0)", u"+", 2400, 840},  {u"Command2(1)", u"-", 2400, 1440},  {u"Command2(2)", u"*", 2400, 2040},
-    {u"Command2(3)", u"/", 2400, 2640}, {u"Command2(4)", u"x^y", 3000, 840}, {u"Command2(5)", u"sqrt", 3000, 1560},
-    {u"Command4", u"清零", 3000, 2640},
+    {calculator::Digit[1], u"1", 240, 840},        {calculator::Digit[2], u"2", 960, 840},
+    {calculator::Digit[3], u"3", 1680, 840},       {calculator::Digit[4], u"4", 240, 1440},
+    {calculator::Digit[5], u"5", 960, 1440},       {calculator::Digit[6], u"6", 1680, 1440},
+    {calculator::Digit[7], u"7", 240, 2040},       {calculator::Digit[8], u"8", 960, 2040},
+    {calculator::Digit[9], u"9", 1680, 2040},      {calculator::Digit[0], u"0", 240, 2640},
+    {calculator::Digit[10], u".", 960, 2640},      {calculator::Equals, u"=", 1680, 2640},
+    {calculator::Operation[0], u"+", 2400, 840},   {calculator::Operation[1], u"-", 2400, 1440},
+    {calculator::Operation[2], u"*", 2400, 2040},  {calculator::Operation[3], u"/", 2400, 2640},
+    {calculator::Operation[4], u"x^y", 3000, 840}, {calculator::Operation[5], u"sqrt", 3000, 1560},
+    {calculator::Clear, u"清零", 3000, 2640},
 };
 
 class CalculatorTest : public ToolTest {
 protected:
     CalculatorTest() { openCalculator(); }
 
-    Form& calculator() { return *rig.loaded(u"Form9"_s); }
-    CommandButton& key(const char16_t* name) {
-        return rig.control<CommandButton>(u"Form9"_s, QString::fromUtf16(name));
-    }
-    QString display() { return rig.control<TextBox>(u"Form9"_s, u"Text1"_s).Text(); }
+    Form& calculator() { return *rig.loaded(forms::Calculator); }
+    CommandButton& key(const Name<CommandButton>& name) { return rig.at(name); }
+    QString display() { return rig.at(calculator::Display).Text(); }
     /// Clicks keys given by their captions, blanks between.
     void clickKeys(const QString& captions) {
         for (const QString& caption : captions.split(' '_L1))
@@ -44,7 +45,7 @@ protected:
                     rig.click(key(entry.name));
     }
     void expectDisplay(const QString& captions, const QString& shown) {
-        rig.click(key(u"Command4"));
+        rig.click(key(calculator::Clear));
         clickKeys(captions);
         EXPECT_EQ(display(), shown) << captions.toStdString();
     }
@@ -62,7 +63,7 @@ TEST_F(CalculatorTest, HasItsKeysInTheirPlaces) {
         EXPECT_EQ(key(entry.name).Left(), entry.left);
         EXPECT_EQ(key(entry.name).Top(), entry.top);
     }
-    const TextBox& shown = rig.control<TextBox>(u"Form9"_s, u"Text1"_s);
+    const TextBox& shown = rig.at(calculator::Display);
     EXPECT_EQ(shown.Left(), 240);
     EXPECT_EQ(shown.Top(), 240);
     EXPECT_EQ(shown.Width(), 3255);
@@ -134,7 +135,7 @@ TEST_F(CalculatorTest, EndsTheProgramOnTheRootOfANegativeNumber) {
 TEST_F(CalculatorTest, ForgetsEverythingWhenItIsUnloaded) {
     clickKeys(u"1 2 +"_s);
     rig.clickCell(ms2(), 1, 1);
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     openCalculator();
     EXPECT_EQ(display(), u"0");
 }
@@ -149,17 +150,17 @@ TEST_F(CalculatorTest, HasTheKeyboardWhenItOpensAndKeepsItThroughClicks) {
     rig.settle();
     EXPECT_EQ(QApplication::activeWindow(), &calculator());
     QWindow* window = calculator().windowHandle();
-    QTest::mouseClick(window, Qt::LeftButton, {}, rig.control<TextBox>(u"Form9"_s, u"Text1"_s).geometry().center());
+    QTest::mouseClick(window, Qt::LeftButton, {}, rig.at(calculator::Display).geometry().center());
     QTest::keyClick(window, Qt::Key_5);
     EXPECT_EQ(display(), u"5");
-    for (const char16_t* clicked : {u"Command2(0)", u"Command1(1)", u"Command3"}) // 5+1=
+    for (const auto& clicked : {calculator::Operation[0], calculator::Digit[1], calculator::Equals}) // 5+1=
         QTest::mouseClick(window, Qt::LeftButton, {}, key(clicked).geometry().center());
     QTest::keyClick(window, Qt::Key_Return);
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"6"); // Enter confirms, whatever was clicked last
 }
 
 TEST_F(CalculatorTest, ShowsTheEndOfALongExpressionBehindAnEllipsisAndAllOfItAsToolTip) {
-    auto& shown = rig.control<TextBox>(u"Form9"_s, u"Text1"_s);
+    auto& shown = rig.at(calculator::Display);
     const auto headOf = [&shown] { return shown.grab().toImage().copy(5, 3, 14, shown.height() - 6); };
     const auto darkAt = [](const QImage& image, int from, int to) {
         for (int y = from; y < to; ++y)
@@ -172,14 +173,14 @@ TEST_F(CalculatorTest, ShowsTheEndOfALongExpressionBehindAnEllipsisAndAllOfItAsT
     EXPECT_EQ(shown.toolTip(), u"");
     EXPECT_FALSE(darkAt(headOf(), 0, headOf().height()));
     const QString expression = u"12345678901234567890+12345678901234567890"_s;
-    rig.click(key(u"Command4"));
+    rig.click(key(calculator::Clear));
     rig.type(calculator(), expression);
     EXPECT_EQ(shown.Text(), expression);
     EXPECT_EQ(shown.toolTip(), expression);
     // Dots on the line and nothing above them.
     EXPECT_TRUE(darkAt(headOf(), headOf().height() / 2, headOf().height()));
     EXPECT_FALSE(darkAt(headOf(), 0, headOf().height() / 3));
-    rig.click(key(u"Command4"));
+    rig.click(key(calculator::Clear));
     EXPECT_EQ(shown.toolTip(), u"");
 }
 
@@ -216,14 +217,14 @@ TEST_F(CalculatorTest, TakesNothingFromOtherKeys) {
     rig.press(calculator(), Qt::Key_Left);
     rig.type(calculator(), u"a=元１"_s);
     EXPECT_EQ(display(), u"12");
-    EXPECT_TRUE(isOpen(u"Form9"_s));
+    EXPECT_TRUE(isOpen(forms::Calculator));
 }
 
 TEST_F(CalculatorTest, IgnoresTheRepeatsOfAHeldEnter) {
     rig.type(calculator(), u"5"_s);
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
     QCoreApplication::sendEvent(&calculator(), &held);
-    EXPECT_TRUE(isOpen(u"Form9"_s));
+    EXPECT_TRUE(isOpen(forms::Calculator));
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
 }
 
@@ -239,9 +240,9 @@ TEST_F(CalculatorTest, ColoursTheKeyUnderThePointerAndTakesTheColourBackOnTheBar
 }
 
 TEST_F(CalculatorTest, TakesTheHoverColourAloneBack) {
-    key(u"Command3").setBackColor(0x123456);
+    key(calculator::Equals).setBackColor(0x123456);
     rig.hover(calculator());
-    EXPECT_EQ(key(u"Command3").BackColor(), 0x123456u);
+    EXPECT_EQ(key(calculator::Equals).BackColor(), 0x123456u);
 }
 
 } // namespace

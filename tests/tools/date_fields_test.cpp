@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 class DateFieldsTest : public ToolTest {
 protected:
-    void pick(int index) { rig.doubleClick(rig.control<Label>(u"Form1"_s, u"Label3(%1)"_s.arg(index))); }
+    void pick(int index) { rig.doubleClick(rig.at(date_picker::Day[index])); }
     Form& openPurge() {
         Form& purge = shared().forms.get(names::Purge);
         purge.showForm();
@@ -63,8 +63,8 @@ TEST_F(DateFieldsTest, LeaveTheKeyboardWithTheBox) {
     EXPECT_TRUE(picker.windowFlags() & Qt::WindowDoesNotAcceptFocus);
     EXPECT_TRUE(picker.testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_EQ(QApplication::activeWindow(), &rig.mainWindow());
-    rig.click(rig.control<CommandButton>(u"Form1"_s, u"Command1"_s));
-    rig.click(rig.control<Label>(u"Form1"_s, u"Label3(9)"_s));
+    rig.click(rig.at(date_picker::Forward));
+    rig.click(rig.at(date_picker::Day[9]));
     EXPECT_EQ(QApplication::focusWidget(), &tx2());
 }
 
@@ -78,13 +78,13 @@ TEST_F(DateFieldsTest, StayAboveTheWindowOfTheFieldThatAskedLast) {
     const Form& picker = openDatePicker();
     Form& purge = openPurge();
     handlers::enter([&] {
-        shared().openDatePicker(DateField::Purge, FieldTarget(purge.findChild<TextBox*>(u"Text1"_s)), {0, 0});
+        shared().openDatePicker(DateField::Purge, FieldTarget(purge.findChild<TextBox*>(purge::Date)), {0, 0});
     });
     EXPECT_EQ(picker.parentWidget(), &purge);
     EXPECT_TRUE(picker.isVisible());
     EXPECT_TRUE(picker.windowFlags() & Qt::WindowDoesNotAcceptFocus);
     pick(6);
-    EXPECT_EQ(purge.findChild<TextBox*>(u"Text1"_s)->Text(), u"2024-6-1");
+    EXPECT_EQ(purge.findChild<TextBox*>(purge::Date)->Text(), u"2024-6-1");
     EXPECT_EQ(tx2().Text(), u"2024-5-3");
 }
 
@@ -95,7 +95,7 @@ TEST_F(DateFieldsTest, MayBeGoneBeforeADayIsPicked) {
     EXPECT_EQ(shared().dateTarget, 6);
     box.reset();
     pick(6);
-    EXPECT_FALSE(isOpen(u"Form1"_s));
+    EXPECT_FALSE(isOpen(forms::DatePicker));
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
 }
 
@@ -103,51 +103,51 @@ TEST_F(DateFieldsTest, AreNotTouchedByTheReleaseOfTheDoubleClick) {
     openDatePicker();
     ms2().setRows(20);
     // The picker hangs over the rows below; what lies beneath the day is a cell of the grid.
-    Label& day = rig.control<Label>(u"Form1"_s, u"Label3(8)"_s);
+    Label& day = rig.at(date_picker::Day[8]);
     const QPoint at = day.mapToGlobal(day.rect().center());
     QWidget* beneath = rig.mainWindow().childAt(rig.mainWindow().mapFromGlobal(at));
     ASSERT_EQ(beneath, ms2().viewport());
     QTest::mouseClick(&day, Qt::LeftButton);
     QTest::mouseEvent(QTest::MouseDClick, &day, Qt::LeftButton, {}, day.rect().center());
-    EXPECT_FALSE(isOpen(u"Form1"_s));
+    EXPECT_FALSE(isOpen(forms::DatePicker));
     QTest::mouseRelease(beneath, Qt::LeftButton, {}, beneath->mapFromGlobal(at));
     rig.settle();
     EXPECT_TRUE(tx2().isVisible());
     EXPECT_EQ(tx2().Text(), u"2024-6-3");
     EXPECT_EQ(ms2().Row(), 1);
     EXPECT_EQ(ms2().Col(), 2);
-    EXPECT_FALSE(isOpen(u"Form1"_s));
+    EXPECT_FALSE(isOpen(forms::DatePicker));
 }
 
 TEST_F(DateFieldsTest, AreNotFilledByADoubleClickThatBeganOnACell) {
     openPage();
     // The second press of a double click on the date cell falls on the picker or the box, whatever has come up there.
     rig.clickCell(ms2(), 1, 2);
-    Label& day = rig.control<Label>(u"Form1"_s, u"Label3(8)"_s);
+    Label& day = rig.at(date_picker::Day[8]);
     QTest::mouseEvent(QTest::MouseDClick, &day, Qt::LeftButton, {}, day.rect().center());
-    EXPECT_TRUE(isOpen(u"Form1"_s));
+    EXPECT_TRUE(isOpen(forms::DatePicker));
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
 }
 
 TEST_F(DateFieldsTest, CloseThePurgeWindowsOwnWhenThePickerGoes) {
     openDatePicker();
     Form& purge = openPurge();
-    rig.loaded(u"Form1"_s)->close();
-    EXPECT_FALSE(purge.findChild<TextBox*>(u"Text1"_s)->isEnabled());
+    rig.loaded(forms::DatePicker)->close();
+    EXPECT_FALSE(purge.findChild<TextBox*>(purge::Date)->isEnabled());
 }
 
 TEST_F(DateFieldsTest, LeaveAHiddenPurgeWindowAlone) {
     openDatePicker();
     Form& purge = openPurge();
     purge.setShown(false);
-    rig.loaded(u"Form1"_s)->close();
-    EXPECT_TRUE(purge.findChild<TextBox*>(u"Text1"_s)->isEnabled());
+    rig.loaded(forms::DatePicker)->close();
+    EXPECT_TRUE(purge.findChild<TextBox*>(purge::Date)->isEnabled());
 }
 
 TEST_F(DateFieldsTest, LetThePickerGoWithEveryPageChange) {
     openDatePicker();
-    rig.click(rig.onMain<Label>(u"Label24"_s));
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    rig.click(rig.at(pages::Desktop));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
 }
 

@@ -13,10 +13,10 @@ constexpr quint32 Yellow = 0xFFFF, Blue = 0xFF0000;
 
 class DatePickerTest : public ToolTest {
 protected:
-    Label& day(int index) { return rig.control<Label>(u"Form1"_s, u"Label3(%1)"_s.arg(index)); }
-    QString title() { return rig.control<Label>(u"Form1"_s, u"Label1"_s).Caption(); }
-    void forward() { rig.click(rig.control<CommandButton>(u"Form1"_s, u"Command1"_s)); }
-    void back() { rig.click(rig.control<CommandButton>(u"Form1"_s, u"Command2"_s)); }
+    Label& day(int index) { return rig.at(date_picker::Day[index]); }
+    QString title() { return rig.at(date_picker::Month).Caption(); }
+    void forward() { rig.click(rig.at(date_picker::Forward)); }
+    void back() { rig.click(rig.at(date_picker::Back)); }
     QList<int> blueCells() {
         QList<int> blue;
         for (int i = 0; i < 42; ++i)
@@ -24,14 +24,14 @@ protected:
                 blue << i;
         return blue;
     }
-    bool isOpen() { return ToolTest::isOpen(u"Form1"_s); }
+    bool isOpen() { return ToolTest::isOpen(forms::DatePicker); }
 };
 
 TEST_F(DatePickerTest, OpensOnTheMonthOfToday) {
     Form& picker = openDatePicker(); // the rig's day is 2024-6-18
     EXPECT_EQ(picker.Caption(), u"2024\\6\\18");
     EXPECT_EQ(title(), u"2024 年 6月");
-    EXPECT_EQ(rig.control<Label>(u"Form1"_s, u"Label2"_s).Caption(), u" 日  一  二 三  四 五  六");
+    EXPECT_EQ(rig.at(date_picker::WeekDays).Caption(), u" 日  一  二 三  四 五  六");
     EXPECT_EQ(day(5).Caption(), u"31");
     EXPECT_EQ(day(6).Caption(), u"1"); // a Saturday
     EXPECT_EQ(day(35).Caption(), u"30");
@@ -63,7 +63,7 @@ TEST_F(DatePickerTest, StepsMonthByMonthWithABlankBehindItsTitle) {
     back();
     back();
     EXPECT_EQ(title(), u"2024 年 5月 ");
-    EXPECT_EQ(rig.loaded(u"Form1"_s)->Caption(), u"2024\\6\\18");
+    EXPECT_EQ(rig.loaded(forms::DatePicker)->Caption(), u"2024\\6\\18");
 }
 
 TEST_F(DatePickerTest, StepsBackFromJanuaryToDecemberOfTheYearBefore) {
@@ -79,7 +79,7 @@ TEST_F(DatePickerTest, ShowsALeapFebruaryWithItsTwentyNinth) {
     rig.clock->time.setDate(QDate(2024, 2, 20));
     openDatePicker();
     EXPECT_EQ(day(4 + 28).Caption(), u"29");
-    EXPECT_EQ(day(4 + 28).ForeColor(), rig.loaded(u"Form1"_s)->ForeColor());
+    EXPECT_EQ(day(4 + 28).ForeColor(), rig.loaded(forms::DatePicker)->ForeColor());
     EXPECT_EQ(day(4 + 29).ForeColor(), Yellow);
 }
 
@@ -116,7 +116,7 @@ TEST_F(DatePickerTest, FillsBoxAndCellByADoubleClickAndCloses) {
     rig.doubleClick(day(6 + 2));
     EXPECT_EQ(tx2().Text(), u"2024-6-3"); // never zero-padded
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-6-3");
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
     EXPECT_TRUE(tx2().isVisible());
     EXPECT_EQ(QApplication::focusWidget(), &tx2());
 }
@@ -142,15 +142,15 @@ TEST_F(DatePickerTest, KeepsTheMonthOnShowWhenItIsShownAgain) {
     Form& picker = openDatePicker();
     back();
     rig.click(tx2());
-    EXPECT_EQ(rig.loaded(u"Form1"_s), &picker);
+    EXPECT_EQ(rig.loaded(forms::DatePicker), &picker);
     EXPECT_EQ(title(), u"2024 年 5月 ");
 }
 
 TEST_F(DatePickerTest, ForgetsTheMonthWhenItWasUnloaded) {
     openDatePicker();
     back();
-    rig.loaded(u"Form1"_s)->close();
-    EXPECT_FALSE(rig.loaded(u"Form1"_s));
+    rig.loaded(forms::DatePicker)->close();
+    EXPECT_FALSE(rig.loaded(forms::DatePicker));
     EXPECT_EQ(ms2().TextMatrix(1, 2), u"2024-5-3");
     openDatePicker();
     EXPECT_EQ(title(), u"2024 年 6月");
@@ -160,7 +160,7 @@ TEST_F(DatePickerTest, IsHiddenByAPressOnTheMainWindowAndComesBackWithItsMonth) 
     openDatePicker();
     back();
     QTest::mousePress(&rig.mainWindow(), Qt::LeftButton, {}, QPoint(30, 3));
-    ASSERT_TRUE(rig.loaded(u"Form1"_s));
+    ASSERT_TRUE(rig.loaded(forms::DatePicker));
     EXPECT_FALSE(isOpen());
     QTest::mouseRelease(&rig.mainWindow(), Qt::LeftButton, {}, QPoint(30, 3));
     openDatePicker();

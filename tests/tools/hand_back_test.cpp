@@ -13,15 +13,15 @@ class HandBackTest : public ToolTest {
 protected:
     HandBackTest() { openCalculator(); }
 
-    void type(const QString& text) { rig.type(*rig.loaded(u"Form9"_s), text); }
-    void press(Qt::Key key) { rig.press(*rig.loaded(u"Form9"_s), key); }
-    void clickKey(const QString& name) { rig.click(rig.control<CommandButton>(u"Form9"_s, name)); }
+    void type(const QString& text) { rig.type(*rig.loaded(forms::Calculator), text); }
+    void press(Qt::Key key) { rig.press(*rig.loaded(forms::Calculator), key); }
+    void clickKey(const Name<CommandButton>& key) { rig.click(rig.at(key)); }
     /// The button in the title bar.
-    void closeWindow() { rig.loaded(u"Form9"_s)->close(); }
+    void closeWindow() { rig.loaded(forms::Calculator)->close(); }
 
     /// The calculator is gone, and box and cell hold the text.
     void expectHandedBack(const QString& text) {
-        EXPECT_FALSE(rig.loaded(u"Form9"_s));
+        EXPECT_FALSE(rig.loaded(forms::Calculator));
         EXPECT_EQ(tx2().Text(), text);
         EXPECT_EQ(ms2().TextMatrix(1, 5), text);
     }
@@ -29,8 +29,8 @@ protected:
 };
 
 TEST_F(HandBackTest, GivesTheNumberByTheWindowsCloseButton) {
-    clickKey(u"Command1(8)"_s);
-    clickKey(u"Command1(0)"_s);
+    clickKey(loans::Add[8]);
+    clickKey(loans::Add[0]);
     closeWindow();
     expectHandedBack(u"80"_s);
     EXPECT_FALSE(tx2().isEnabled()); // the amount column stays closed to keys
@@ -56,9 +56,9 @@ TEST_F(HandBackTest, ComputesWhatIsPendingBeforeEnterGivesIt) {
 
 TEST_F(HandBackTest, ComputesNothingASecondTimeOnEnter) {
     type(u"2"_s);
-    clickKey(u"Command2(4)"_s);
+    clickKey(loans::Remove[4]);
     type(u"3"_s);
-    clickKey(u"Command3"_s);
+    clickKey(loans::Save);
     press(Qt::Key_Return);
     expectHandedBack(u"8"_s); // a further "=" would give 512
 }
@@ -71,15 +71,15 @@ TEST_F(HandBackTest, ComputesWhatIsPendingAlsoBeforeTheCloseButtonGivesIt) {
 
 TEST_F(HandBackTest, GivesTheResultWhereItsDisplayIsNoNumber) {
     type(u"2-5"_s);
-    clickKey(u"Command3"_s);
-    EXPECT_EQ(rig.control<TextBox>(u"Form9"_s, u"Text1"_s).Text(), u"0-3");
+    clickKey(loans::Save);
+    EXPECT_EQ(rig.at(calculator::Display).Text(), u"0-3");
     closeWindow();
     expectHandedBack(u"-3"_s);
     openCalculator();
     type(u".5*1"_s);
     press(Qt::Key_Return);
     expectHandedBack(u" .5"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command6"_s));
+    rig.click(rig.at(income::Save));
     EXPECT_EQ(rig.sql(u"select 金额 from srb"_s), QStringList{u"0.5"_s});
 }
 
@@ -98,11 +98,11 @@ TEST_F(HandBackTest, GivesNothingThatIsNoNumber) {
 
 TEST_F(HandBackTest, GivesNothingIntoAReport) {
     type(u"80"_s);
-    rig.click(rig.onMain<OptionButton>(u"Option9"_s)); // leaves the calculator open
+    rig.click(rig.at(income::ByPerson)); // leaves the calculator open
     const QString report = rig.rowText(ms2(), 1);
     ms2().setRow(1);
     closeWindow();
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     EXPECT_EQ(rig.rowText(ms2(), 1), report);
     EXPECT_EQ(tx2().Text(), u"");
     rig.settle();
@@ -116,7 +116,7 @@ TEST_F(HandBackTest, GivesNothingWhereTheRowHasGone) {
     type(u"80"_s);
     ms2().setRows(2);
     closeWindow();
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     EXPECT_EQ(tx2().Text(), u"");
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
 }
@@ -125,14 +125,14 @@ TEST_F(HandBackTest, GivesNothingWhereTheColumnHasGone) {
     type(u"80"_s);
     ms2().setCols(5);
     closeWindow();
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     EXPECT_EQ(tx2().Text(), u"12.5");
     EXPECT_FALSE(rig.rowText(ms2(), 1).contains(u"80"_s));
 }
 
 TEST_F(HandBackTest, GivesNothingIntoAGridOutOfView) {
     type(u"80"_s);
-    rig.frame(u"Frame2"_s).setShown(false);
+    rig.at(income::Page).setShown(false);
     closeWindow();
     expectNothingHandedBack();
 }
@@ -151,13 +151,13 @@ TEST_F(HandBackTest, GivesAProductWithItsBlankWhichTheSaveTakes) {
     type(u"4*25"_s);
     press(Qt::Key_Return);
     expectHandedBack(u" 100"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command6"_s));
+    rig.click(rig.at(income::Save));
     EXPECT_EQ(rig.sql(u"select 金额 from srb"_s), QStringList{u"100"_s});
 }
 
 TEST_F(HandBackTest, GivesZeroAfterClear) {
     type(u"5"_s);
-    clickKey(u"Command4"_s);
+    clickKey(income::Add);
     closeWindow();
     expectHandedBack(u"0"_s);
 }
@@ -185,18 +185,18 @@ TEST_F(HandBackTest, GivesNothingAfterKeysThatAreNone) {
 
 TEST_F(HandBackTest, GivesNothingWhenThePageLetsItGo) {
     type(u"80"_s);
-    rig.click(rig.onMain<CommandButton>(u"Command4"_s)); // the add button
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    rig.click(rig.at(income::Add)); // the add button
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
     openCalculator();
     type(u"80"_s);
     rig.clickCell(ms2(), 1, 3);
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
     openCalculator();
     type(u"80"_s);
-    rig.click(rig.onMain<Label>(u"Label24"_s)); // another page
-    EXPECT_FALSE(rig.loaded(u"Form9"_s));
+    rig.click(rig.at(pages::Desktop)); // another page
+    EXPECT_FALSE(rig.loaded(forms::Calculator));
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"12.5");
 }
 
@@ -241,7 +241,7 @@ TEST_F(HandBackTest, GoesToTheFieldThatAskedLast) {
 
 TEST_F(HandBackTest, FillsTheCellAmongManyThatIsCurrent) {
     press(Qt::Key_Escape);
-    rig.click(rig.onMain<CommandButton>(u"Command4"_s));
+    rig.click(rig.at(income::Add));
     rig.clickCell(ms2(), 2, 5);
     type(u"7"_s);
     press(Qt::Key_Return);

@@ -13,27 +13,27 @@ protected:
     /// Signs in and brings up the page; the day of today may be set on the rig's clock before.
     void openPage() {
         rig.signIn();
-        rig.sql(QStringLiteral("insert into srb values('1','2024-05-03','工资','我',12.5,'现金','',1)"));
-        rig.click(rig.onMain<Label>(QStringLiteral("Label2(0)")));
+        rig.sql(u"insert into srb values('1','2024-05-03','工资','我',12.5,'现金','',1)"_s);
+        rig.click(rig.at(pages::Income));
         rig.settle();
     }
     Form& openDatePicker() {
         if (!rig.program)
             openPage();
         rig.clickCell(ms2(), 1, 2);
-        return *rig.loaded(QStringLiteral("Form1"));
+        return *rig.loaded(forms::DatePicker);
     }
     Form& openCalculator() {
         if (!rig.program)
             openPage();
         rig.clickCell(ms2(), 1, 5);
-        return *rig.loaded(QStringLiteral("Form9"));
+        return *rig.loaded(forms::Calculator);
     }
 
-    MSFlexGrid& ms2() { return rig.onMain<MSFlexGrid>(QStringLiteral("ms2")); }
-    TextBox& tx2() { return rig.onMain<TextBox>(QStringLiteral("tx2")); }
+    MSFlexGrid& ms2() { return rig.at(income::Grid); }
+    TextBox& tx2() { return rig.at(income::Box); }
     Shared& shared() { return rig.program->shared(); }
-    bool isOpen(const QString& tool) {
+    bool isOpen(const FormName& tool) {
         const Form* form = rig.loaded(tool);
         return form && form->isVisible();
     }
