@@ -38,7 +38,8 @@ void fillTables(const QString& dataFile, int rows) {
             db.run(insertMany(QString::fromUtf8(table),
                               u"'账户'||(n%6),%1,%2,1,%2-1,'甲','乙','备注'||n,n"_s.arg(Day, money), rows));
         db.run(insertMany(u"ysb"_s, u"%1,'预算'||(n%40),%2,'备注'||n,n"_s.arg(Day, money), rows));
-        db.run(insertMany(u"zhb"_s, u"'账户'||n,%1,n%100,n%50,0,0,n%7,n%3,%1+n%53,'备注'||n,n"_s.arg(money), rows));
+        db.run(insertMany(u"zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别)"_s,
+                          u"'账户'||n,%1,n%100,n%50,0,0,n%7,n%3,%1+n%53,'备注'||n,n"_s.arg(money), rows));
         for (const char* table : {"srflb", "zcflb"}) {
             db.run(u"delete from "_s + QString::fromUtf8(table));
             db.run(insertMany(QString::fromUtf8(table), u"'大类'||n,'细类'||n,'dm'||n"_s, rows));

@@ -12,7 +12,9 @@ protected:
 
     /// Stores one account: its name, eight amounts as SQL writes them (starting amount to balance), no remark.
     void storeAccount(const QString& amounts, const QString& name = u"户"_s) {
-        rig.sql(u"insert into zhb values('%1',%2,'',1)"_s.arg(name, amounts));
+        rig.sql(
+            u"insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) values('%1',%2,'',1)"_s
+                .arg(name, amounts));
     }
     QString balance(int row = 1) { return grid().TextMatrix(row, 9); }
 };

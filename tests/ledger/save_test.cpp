@@ -99,7 +99,8 @@ TEST_F(SaveTest, HasCommittedWhenItSaysSo) {
 }
 
 TEST_F(SaveTest, MovesNoAccount) {
-    rig.sql(u"insert into zhb values('账户1',100,0,0,0,0,0,0,100,'',1)"_s);
+    rig.sql(
+        u"insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) values('账户1',100,0,0,0,0,0,0,100,'',1)"_s);
     const QStringList before = stored(Accounts);
     openWith(1);
     press(save());

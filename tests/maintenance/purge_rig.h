@@ -13,8 +13,8 @@ struct PurgeKind {
     const char* name;   ///< in the names of tests
     Name<CheckBox> box; ///< of the purge window
     QStringView table;
-    QStringView date;   ///< its column, empty when it has none
-    QStringView values; ///< of a row of the day %1, as SQL
+    QStringView date; ///< its column, empty when it has none
+    QStringView row;  ///< of the day %1, as SQL behind the table's name
     QStringView done;
     QStringView none;
 };
@@ -23,20 +23,20 @@ inline void PrintTo(const PurgeKind& kind, std::ostream* out) {
     *out << kind.name;
 }
 
-inline constexpr QStringView Loan = u"'户', %1, 1, 1, 1, '甲', '乙', '备', 1";
+inline constexpr QStringView Loan = u" values('户', %1, 1, 1, 1, '甲', '乙', '备', 1)";
 /// In the order in which they are purged.
 inline constexpr std::array<PurgeKind, 7> PurgeKinds{{
-    {"Income", purge::Kind[0], u"srb", u"时间", u"'1', %1, '项目', '人', 5, '户', '备', 1", u"收入记录已清空！",
-     u"当前收入记录为空！"},
-    {"Expense", purge::Kind[1], u"zcb", u"时间", u"'1', %1, '项目', '人', 5, '户', '备', 1", u"支出记录已清空！",
-     u"当前支出记录为空！"},
+    {"Income", purge::Kind[0], u"srb", u"时间", u" values('1', %1, '项目', '人', 5, '户', '备', 1)",
+     u"收入记录已清空！", u"当前收入记录为空！"},
+    {"Expense", purge::Kind[1], u"zcb", u"时间", u" values('1', %1, '项目', '人', 5, '户', '备', 1)",
+     u"支出记录已清空！", u"当前支出记录为空！"},
     {"Borrowed", purge::Kind[2], u"jrb", u"日期", Loan, u"借入记录已清空", u"当前借入记录为空！"},
     {"Lent", purge::Kind[3], u"jcb", u"日期", Loan, u"借出记录已清空", u"当前借出记录为空！"},
-    {"Accounts", purge::Kind[4], u"zhb", u"", u"'户', 1, 2, 3, 4, 5, 6, 7, 8, '备', 1", u"账户记录已清空",
+    {"Accounts", purge::Kind[4], u"zhb", u"", u"(账户名称, 余额, 区别) values('户', 8, 1)", u"账户记录已清空",
      u"当前账户记录为空！"},
-    {"Budget", purge::Kind[5], u"ysb", u"预算时间", u"%1, '项目', 5, '备', 1", u"预算记录已清空",
+    {"Budget", purge::Kind[5], u"ysb", u"预算时间", u" values(%1, '项目', 5, '备', 1)", u"预算记录已清空",
      u"当前预算记录为空！"},
-    {"Plans", purge::Plans, u"rcb", u"日程日期", u"'2024-06-18 08:00:00', 1, %1, '8:05', '内容', '音乐1', 1",
+    {"Plans", purge::Plans, u"rcb", u"日程日期", u" values('2024-06-18 08:00:00', 1, %1, '8:05', '内容', '音乐1', 1)",
      u"日程记录已清空", u"当前日程记录为空！"},
 }};
 
@@ -82,8 +82,8 @@ protected:
     /// Stores a row a day, given as ISO texts.
     void store(const PurgeKind& kind, const QStringList& days) {
         for (const QString& day : days)
-            rig.sql(u"insert into %1 values(%2)"_s.arg(kind.table.toString(),
-                                                       kind.values.toString().replace(u"%1"_s, u'\'' + day + u'\'')));
+            rig.sql(u"insert into %1%2"_s.arg(kind.table.toString(),
+                                              kind.row.toString().replace(u"%1"_s, u'\'' + day + u'\'')));
     }
     void storeEverywhere(const QStringList& days) {
         for (const PurgeKind& kind : PurgeKinds)

@@ -44,9 +44,8 @@ const std::vector<Expected> ExpectedTables{
 
 class Schema : public StoreTest {};
 
-TEST_F(Schema, HasEveryTableWithItsColumnsInOrder) {
-    const QString count = u"select count(*) from sqlite_schema where type = 'table'"_s;
-    EXPECT_EQ(OtherProgram(path()).row(count), QString::number(ExpectedTables.size()));
+/// Columns of later versions stand behind those of the first.
+TEST_F(Schema, HasEveryTableOfTheFirstVersionWithItsColumnsInOrder) {
     for (const Expected& expected : ExpectedTables) {
         QStringList names;
         QString kinds;
@@ -54,8 +53,8 @@ TEST_F(Schema, HasEveryTableWithItsColumnsInOrder) {
             names += column.name;
             kinds += letterOf(column.kind);
         }
-        EXPECT_EQ(names.join(u','), expected.columns) << expected.table;
-        EXPECT_EQ(kinds, expected.kinds) << expected.table;
+        EXPECT_TRUE(names.join(u',').startsWith(expected.columns)) << expected.table;
+        EXPECT_TRUE(kinds.startsWith(expected.kinds)) << expected.table;
     }
 }
 
@@ -65,7 +64,7 @@ TEST_F(Schema, RecordsetOfATableHasItsColumnsInOrder) {
         QStringList names;
         for (int i = 0; i < set.fieldCount(); ++i)
             names += set.field(i).name();
-        EXPECT_EQ(names.join(u','), expected.columns) << expected.table;
+        EXPECT_TRUE(names.join(u',').startsWith(expected.columns)) << expected.table;
     }
 }
 

@@ -31,7 +31,8 @@ std::string storeOlder(const LedgerFolder& folder) {
     folder.execute("delete from srflb; insert into srflb values('工资','奖金','jj');"
                    "insert into jcb values('现金','2024-11-02',800,795,5,'王青','李禾','买书',1);"
                    "insert into ysb values('2024-11-20','买米',120,'两袋',1);"
-                   "insert into zhb values('工资卡',1000,300,100,0,0,60,10,1250,'每月发',1);"
+                   "insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                   "values('工资卡',1000,300,100,0,0,60,10,1250,'每月发',1);"
                    "insert into rjb values('2024-11-17','秋收')");
     QByteArray open = folder.bytes("data.dll");
     open.replace(1, 2, QByteArray("\x01\x00", 2)); // as the running program has it

@@ -20,7 +20,8 @@ void store(const LedgerFolder& folder) {
                    "insert into jrb values('建行','2024-11-05',5000,4992.5,7,'张山','王青','装修',1);"
                    "insert into jcb values('现金','2024-11-02',800,795,5,'王青','李禾','买书',1);"
                    "insert into ysb values('2024-11-20','买米',120,'两袋',1);"
-                   "insert into zhb values('工资卡',1000,300,100,0,0,60,10,1250,'每月发',1);"
+                   "insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                   "values('工资卡',1000,300,100,0,0,60,10,1250,'每月发',1);"
                    "insert into rcb values('2024-11-17',1,'2024-11-18','8:05','晒谷','音乐1',1);"
                    "insert into rjb values('2024-11-17','秋收')");
 }

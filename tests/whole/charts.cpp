@@ -7,7 +7,8 @@ using namespace whole;
 namespace {
 
 void store(const LedgerFolder& folder) {
-    folder.execute("insert into zhb values('工资卡', 1000, 0, 0, 0, 0, 0, 0, 1250.5, '', 1), "
+    folder.execute("insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                   "values('工资卡', 1000, 0, 0, 0, 0, 0, 0, 1250.5, '', 1), "
                    "('信用卡', 0, 0, 0, 0, 0, 0, 0, -30, '', 2);"
                    "insert into srb values('1', '2024-09-30', '工资', '王青', 7000, '建行', '', 1), "
                    "('2', '2024-11-15', '工资', '王青', 8000, '建行', '', 2), "

@@ -22,7 +22,9 @@ void fillTables(const LedgerFolder& folder) {
                        "insert into jrb values('建行'," + day + ",1,1,1,'甲','乙','',1);" +
                        "insert into jcb values('建行'," + day + ",1,1,1,'甲','乙','',1);" + "insert into ysb values(" +
                        day + ",'春耕',1,'',1);" + "insert into rcb values(" + day + ",1," + day +
-                       ",'8:05','晒谷','音乐1',1);" + "insert into zhb values('工资卡',1,0,0,0,0,0,0,1,'',1);");
+                       ",'8:05','晒谷','音乐1',1);" +
+                       "insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                       "values('工资卡',1,0,0,0,0,0,0,1,'',1);");
 }
 
 void openPurge(Program& program) {

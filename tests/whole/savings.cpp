@@ -75,7 +75,8 @@ TEST(Savings, LeavingAFilledAmountAgainCountsItTwiceUntilTheStartIsLeftAgain) {
 
 TEST(Savings, AnAccountDeletedIsGoneAtOnceAndOneThatWasNotSavedOnlyFromTheList) {
     const LedgerFolder folder;
-    folder.execute("insert into zhb values('工资卡', 1000, 0, 0, 0, 0, 0, 0, 1000, '', 1), "
+    folder.execute("insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                   "values('工资卡', 1000, 0, 0, 0, 0, 0, 0, 1000, '', 1), "
                    "('存折', 200, 0, 0, 0, 0, 0, 0, 200, '', 2)");
     Program program(folder);
     signIn(program);
@@ -97,7 +98,8 @@ TEST(Savings, AnAccountDeletedIsGoneAtOnceAndOneThatWasNotSavedOnlyFromTheList) 
 
 TEST(Savings, AnAmountWithItsUnitEndsTheProgramAndTheRowsBeforeItStay) {
     const LedgerFolder folder;
-    folder.execute("insert into zhb values('工资卡', 1000, 0, 0, 0, 0, 0, 0, 1000, '', 1)");
+    folder.execute("insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                   "values('工资卡', 1000, 0, 0, 0, 0, 0, 0, 1000, '', 1)");
     {
         Program program(folder);
         signIn(program);

@@ -96,7 +96,8 @@ TEST(Settings, InitialisingEmptiesTheLedgersAndKeepsUsersAndCategories) {
     const std::string kept = "select (select count(*) from yhb), (select count(*) from srflb), "
                              "(select count(*) from zcflb), (select count(*) from 软件皮肤)";
     folder.execute("insert into srb values('1','2024-11-15','工资','王青',100,'建行','',1);"
-                   "insert into zhb values('工资卡',1,0,0,0,0,0,0,1,'',1);"
+                   "insert into zhb(账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别) "
+                   "values('工资卡',1,0,0,0,0,0,0,1,'',1);"
                    "insert into rjb values('2024-11-17','秋收');"
                    "insert into rcb values('2024-11-18',1,'2024-11-18','8:05','晒谷','音乐1',1)");
     const std::vector<std::string> keptBefore = folder.rows(kept);
