@@ -26,7 +26,7 @@ QVariantList row(const QString& label, const QVariant& value) {
 
 class ChartControlTest : public ::testing::Test {
 protected:
-    ChartControlTest() : chart(&window, charts::Chart) {
+    ChartControlTest() : chart(&window, u"MSC1"_s) {
         window.resize(800, 320);
         chart.place(120, 240, 10815, 4335);
         window.show();
