@@ -15,9 +15,9 @@ if(QINGHE_SANITIZE)
     target_link_options(qinghe_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# qinghe_precompile(<target> <header>...) compiles the headers of the libraries once for the target, and for the others that
-# take them from there with qinghe_precompiled_like(<target> <first>). Only where QINGHE_PRECOMPILE asks for it: a build
-# without shows that every file includes what it uses. No header of a floor is among them, so they open no way upward.
+# qinghe_precompile(<target> <header>...) compiles headers of the libraries once, for this target and for those that say
+# qinghe_precompiled_like(<target> <the first>). Only where QINGHE_PRECOMPILE asks for it: the builds without it prove that
+# every file includes what it uses. No header of a floor is among them, so no way upward opens.
 function(qinghe_precompile target)
     if(QINGHE_PRECOMPILE)
         target_precompile_headers(${target} PRIVATE ${ARGN})
@@ -61,6 +61,7 @@ function(qinghe_floor name)
     file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${headers}/${name} SYMBOLIC)
     target_include_directories(${name} PUBLIC ${headers})
     target_link_libraries(${name} PUBLIC ${floor_UNPARSED_ARGUMENTS} PRIVATE qinghe_flags)
+    # platform is the lowest floor with widgets.
     if(name STREQUAL "platform")
         qinghe_precompile(platform <QtWidgets> <algorithm> <array> <cmath> <functional> <map> <memory> <optional>
             <span> <string> <utility> <variant> <vector>)

@@ -1,10 +1,7 @@
 #pragma once
 
 #include "controls/combo_box.h"
-#include "qt_printing.h"
-#include "support/program_rig.h"
-
-#include <gtest/gtest.h>
+#include "support/program_test.h"
 
 namespace qinghe::testing {
 
@@ -13,7 +10,7 @@ using namespace Qt::StringLiterals;
 constexpr quint32 Red = 255, Black = 0;
 
 /// A whole program and short names for what its first two windows hold.
-class CoreTest : public ::testing::Test {
+class CoreTest : public ProgramTest {
 protected:
     // The sign-in.
     ComboBox& name() { return rig.at(sign_in::User); }
@@ -45,42 +42,15 @@ protected:
     }
     bool toolsOpen() { return rig.loaded(forms::DatePicker) || rig.loaded(forms::Calculator); }
 
-    QStringList texts() const {
-        QStringList texts;
-        for (const ShownMessage& message : rig.messages->shown)
-            texts << message.text;
-        return texts;
-    }
-
-    /// The program has told this run-time error, once, in Chinese and with the words given, and has ended with 1.
-    void expectError(int number, const QString& words) const {
-        ASSERT_EQ(rig.messages->errors.size(), 1u);
-        const auto& [told, text] = rig.messages->errors.front();
-        EXPECT_EQ(told, number) << text.toStdString();
-        EXPECT_TRUE(text.contains(words)) << text.toStdString();
-        EXPECT_TRUE(std::any_of(text.begin(), text.end(), [](QChar c) { return c.script() == QChar::Script_Han; }));
-        EXPECT_EQ(rig.process->codes, std::vector<int>{1});
-    }
     void expectEndedWell() const {
         EXPECT_TRUE(rig.messages->errors.empty());
         EXPECT_EQ(rig.process->codes, std::vector<int>{0});
     }
 
-    QByteArray bytes(const QString& file) const {
-        QFile opened(rig.file(file));
-        return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("(missing)");
-    }
-    void write(const QString& file, const QByteArray& content) const {
-        QFile opened(rig.file(file));
-        ASSERT_TRUE(opened.open(QIODevice::WriteOnly));
-        opened.write(content);
-    }
     /// All that lies in the program's folder.
     QStringList folder() const {
         return QDir(rig.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
-
-    ProgramRig rig;
 };
 
 inline const QByteArray Healed("\x01\x00", 2), Spoilt("\x00\x00", 2);

@@ -1,17 +1,14 @@
 #pragma once
 
 #include "maintenance/backup_window.h"
-#include "qt_printing.h"
-#include "support/program_rig.h"
+#include "support/program_test.h"
 
 #include <QFile>
-
-#include <gtest/gtest.h>
 
 namespace qinghe::testing {
 
 /// A program whose settings page is open.
-class BackupTest : public ::testing::Test {
+class BackupTest : public ProgramTest {
 protected:
     BackupTest() {
         rig.signIn();
@@ -46,25 +43,8 @@ protected:
         startWith(rig.file(name));
     }
 
-    QByteArray bytes(const QString& name) const {
-        QFile file(rig.file(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
-    void write(const QString& name, const QByteArray& content) const {
-        QFile file(rig.file(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
     int errorNumber() const { return rig.messages->errors.empty() ? 0 : rig.messages->errors.front().first; }
     QString errorText() const { return rig.messages->errors.empty() ? QString() : rig.messages->errors.front().second; }
-    QStringList said() const {
-        QStringList texts;
-        for (const ShownMessage& message : rig.messages->shown)
-            texts << message.text;
-        return texts;
-    }
-
-    ProgramRig rig;
 };
 
 inline const ShownMessage AskedWhereTo{u"请指定数据库备份的位置。"_s, 1, u"备份提示"_s};

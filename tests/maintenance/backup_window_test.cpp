@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 class BackupWindowTest : public BackupTest {
 protected:
-    QStringList texts() {
+    QStringList words() {
         return {window()->Caption(), inWindow<Frame>(backup::Ground).Caption(),
                 inWindow<Label>(backup::Words).Caption(), start().text()};
     }
@@ -36,12 +36,12 @@ TEST_F(BackupWindowTest, TheOptionsStandAmongTheSettingsOfFiles) {
 TEST_F(BackupWindowTest, EachOptionOpensTheWindowWithItsOwnTexts) {
     openFor(backup());
     EXPECT_TRUE(window()->isVisible());
-    EXPECT_EQ(texts(), BackupTexts);
+    EXPECT_EQ(words(), BackupTexts);
     EXPECT_FALSE(inWindow<ProgressBar>(backup::Progress).Visible());
     rig.mainWindow().shared().forms.unload(forms::Backup);
     openFor(restore());
     EXPECT_TRUE(window()->isVisible());
-    EXPECT_EQ(texts(), RestoreTexts);
+    EXPECT_EQ(words(), RestoreTexts);
     EXPECT_TRUE(rig.messages->shown.empty());
 }
 
@@ -50,9 +50,9 @@ TEST_F(BackupWindowTest, TheOtherOptionChangesTheTextsOfTheOpenWindow) {
     Form* first = window();
     openFor(restore());
     EXPECT_EQ(window(), first);
-    EXPECT_EQ(texts(), RestoreTexts);
+    EXPECT_EQ(words(), RestoreTexts);
     openFor(backup());
-    EXPECT_EQ(texts(), BackupTexts);
+    EXPECT_EQ(words(), BackupTexts);
 }
 
 TEST_F(BackupWindowTest, ItBlocksNothing) {

@@ -1,7 +1,7 @@
 #include "maintenance/picture_window.h"
 #include "qt_printing.h"
 #include "support/ordinary_user.h"
-#include "support/program_rig.h"
+#include "support/program_test.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -35,7 +35,7 @@ const std::vector<Expected> Windows{
 const ShownMessage NameMissing{u"Box of filename can not be empty!"_s, 64, u"information"_s};
 const ShownMessage Added{u"添加成功！是否继续添加？"_s, 36, u"添加提示"_s};
 
-class PictureInjectionTest : public ::testing::Test {
+class PictureInjectionTest : public ProgramTest {
 protected:
     PictureInjectionTest() {
         rig.signIn();
@@ -61,11 +61,6 @@ protected:
         in(window, pictures::Called).setText(name);
         rig.click(in(window, pictures::Store));
     }
-    void write(const QString& name, const QByteArray& bytes) {
-        QFile file(rig.file(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
     /// The rows that came after those delivered.
     QStringList added(const Expected& window) {
         QStringList rows = rig.sql(u"select 名称,%1 from %2 order by rowid"_s.arg(window.sizeAndBytes, window.table));
@@ -84,7 +79,6 @@ protected:
         EXPECT_EQ(rig.exitCode(), 1);
     }
 
-    ProgramRig rig;
     const Expected& skins = Windows[0];
 };
 

@@ -45,6 +45,8 @@ struct Name {
     int number = -1; ///< of those that bear a name in common
 
     constexpr Name operator[](int which) const { return {form, name, which}; }
+    /// The one that bears this name on another form.
+    constexpr Name on(const FormName& other) const { return {other, name, number}; }
 
     operator QString() const {
         return number < 0 ? name.toString() : name.toString() + u'(' + QString::number(number) + u')';

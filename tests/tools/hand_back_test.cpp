@@ -29,8 +29,8 @@ protected:
 };
 
 TEST_F(HandBackTest, GivesTheNumberByTheWindowsCloseButton) {
-    clickKey(loans::Add[8]);
-    clickKey(loans::Add[0]);
+    clickKey(calculator::Digit[8]);
+    clickKey(calculator::Digit[0]);
     closeWindow();
     expectHandedBack(u"80"_s);
     EXPECT_FALSE(tx2().isEnabled()); // the amount column stays closed to keys
@@ -56,9 +56,9 @@ TEST_F(HandBackTest, ComputesWhatIsPendingBeforeEnterGivesIt) {
 
 TEST_F(HandBackTest, ComputesNothingASecondTimeOnEnter) {
     type(u"2"_s);
-    clickKey(loans::Remove[4]);
+    clickKey(calculator::Operation[4]);
     type(u"3"_s);
-    clickKey(loans::Save);
+    clickKey(calculator::Equals);
     press(Qt::Key_Return);
     expectHandedBack(u"8"_s); // a further "=" would give 512
 }
@@ -71,7 +71,7 @@ TEST_F(HandBackTest, ComputesWhatIsPendingAlsoBeforeTheCloseButtonGivesIt) {
 
 TEST_F(HandBackTest, GivesTheResultWhereItsDisplayIsNoNumber) {
     type(u"2-5"_s);
-    clickKey(loans::Save);
+    clickKey(calculator::Equals);
     EXPECT_EQ(rig.at(calculator::Display).Text(), u"0-3");
     closeWindow();
     expectHandedBack(u"-3"_s);
@@ -157,7 +157,7 @@ TEST_F(HandBackTest, GivesAProductWithItsBlankWhichTheSaveTakes) {
 
 TEST_F(HandBackTest, GivesZeroAfterClear) {
     type(u"5"_s);
-    clickKey(income::Add);
+    clickKey(calculator::Clear);
     closeWindow();
     expectHandedBack(u"0"_s);
 }

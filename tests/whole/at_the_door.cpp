@@ -15,8 +15,8 @@ TEST(AtTheDoor, ThreeWrongPasswordsEndTheProgram) {
     const LedgerFolder folder;
     Program program(folder);
     for (const char* password : {"1", "12345", "青禾"}) {
-        program.clearAndType("Form5/Text2", password);
-        program.click("Form5/Label1");
+        program.clearAndType(sign_in::Password, password);
+        program.click(sign_in::Enter);
         EXPECT_EQ(program.message(), wrongPassword);
         program.answer("确定");
     }
@@ -30,8 +30,8 @@ TEST(AtTheDoor, ThreeWrongPasswordsEndTheProgram) {
 TEST(AtTheDoor, AWrongPasswordMayBeTheLastTry) {
     const LedgerFolder folder;
     Program program(folder);
-    program.clearAndType("Form5/Text2", "1");
-    program.click("Form5/Label1");
+    program.clearAndType(sign_in::Password, "1");
+    program.click(sign_in::Enter);
     EXPECT_EQ(program.message(), wrongPassword);
     program.answer("取消");
     EXPECT_EQ(program.exitCode(), 0);
@@ -47,37 +47,37 @@ TEST(AtTheDoor, UnknownNamesAreCountedButNobodyIsLockedOut) {
         if (i == 3)
             answer(program, "用户名错误三次，请询问管理员！");
         EXPECT_FALSE(program.showsMessage());
-        EXPECT_EQ(program.get("Form5/Combo1", "currentText").toString().toStdString(), "");
+        EXPECT_EQ(program.get(sign_in::User, "currentText").toString().toStdString(), "");
     }
     signInAs(program, "管理员", "123456");
-    program.waitFor("Form2");
+    program.waitFor(forms::Main);
     endByCross(program);
 }
 
 TEST(AtTheDoor, NameAndPasswordMustBeThere) {
     const LedgerFolder folder;
     Program program(folder);
-    program.clearAndType("Form5/Text2", "");
-    program.click("Form5/Label1");
+    program.clearAndType(sign_in::Password, "");
+    program.click(sign_in::Enter);
     EXPECT_EQ(program.message(), (Message{"用户名和登录密码不能为空！", "登录提醒", Message::Warning, {"确定"}}));
     program.answer("确定");
-    EXPECT_TRUE(program.shows("Form5"));
+    EXPECT_TRUE(program.shows(forms::SignIn));
 }
 
 TEST(AtTheDoor, TheTickDecidesWhetherThePairIsRemembered) {
     const LedgerFolder folder;
     {
         Program program(folder);
-        program.click("Form5/Check1");
+        program.click(sign_in::Remember);
         signIn(program);
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select count(*) from 登陆用户记录表"), std::vector<std::string>{"0"});
     Program program(folder);
-    EXPECT_EQ(program.text("Form5/Text2"), "");
-    program.click("Form5/Text2");
+    EXPECT_EQ(program.text(sign_in::Password), "");
+    program.click(sign_in::Password);
     program.type("123456");
-    program.click("Form5/Label3");
+    program.click(sign_in::RememberWords);
     signIn(program);
     endByCross(program);
     EXPECT_EQ(folder.rows("select * from 登陆用户记录表"), std::vector<std::string>{"管理员|123456"});
@@ -87,7 +87,7 @@ TEST(AtTheDoor, LeavingDeletesThePictureAndLeavesTheDataOpen) {
     const LedgerFolder folder;
     Program program(folder);
     EXPECT_TRUE(folder.has("dlpf.jpg"));
-    program.click("Form5/Image2");
+    program.click(sign_in::Close);
     EXPECT_EQ(program.exitCode(), 0);
     EXPECT_FALSE(folder.has("dlpf.jpg"));
     EXPECT_EQ(folder.header(), "01 00");
@@ -98,7 +98,7 @@ TEST(AtTheDoor, ASecondCopyIsTurnedAwayAfterItsSignIn) {
     Program first(folder);
     signIn(first);
     Program second(folder);
-    second.click("Form5/Label1");
+    second.click(sign_in::Enter);
     EXPECT_EQ(
         second.message(),
         (Message{"程序已经运行，程序可能已经最小化到左下角或系统托盘！", "青禾家庭记账本", Message::None, {"确定"}}));
@@ -106,8 +106,8 @@ TEST(AtTheDoor, ASecondCopyIsTurnedAwayAfterItsSignIn) {
     EXPECT_EQ(second.exitCode(), 0);
 
     EXPECT_EQ(folder.header(), "01 00");
-    first.click("Form2/Label2(0)");
-    EXPECT_EQ(first.caption("Form2/Frame2"), "收入记录");
+    first.click(pages::Income);
+    EXPECT_EQ(first.caption(income::Page), "收入记录");
     endByCross(first);
 }
 

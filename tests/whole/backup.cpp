@@ -11,14 +11,14 @@ const Message whereTo{"请指定数据库备份的位置。", "备份提示", Me
 const Message whereFrom{"请指定要还原的数据库备份文件所在的位置。", "还原提示", Message::None, {"确定", "取消"}};
 
 void openWindow(Program& program, const std::string& option) {
-    program.click("Form2/Label7");
+    program.click(pages::Settings);
     program.click(option);
-    program.waitForKeyboard("Form13");
+    program.waitForKeyboard(forms::Backup);
 }
 
 /// Presses the window's button and gives the file when asked.
 void copy(Program& program, const Message& question, const std::string& file, const std::string& done) {
-    program.click("Form13/Command1");
+    program.click(backup::Start);
     EXPECT_EQ(program.message(), question);
     program.answer("确定");
     program.choose(file);
@@ -54,15 +54,15 @@ void expectEditedAfterARestore(const PageInFront& page, const std::string& query
     const std::string older = storeOlder(folder);
     Program program(folder);
     signIn(program);
-    openWindow(program, "Form2/Option16");
+    openWindow(program, settings::Restore);
     for (const std::string& control : page.opening)
         program.click(control);
     copy(program, whereFrom, older, "还原完毕。");
     display_pointer::click(program.cellPlace(page.grid, 1, page.column).center());
-    program.waitForKeyboard("Form2"); // which the other window had
+    program.waitForKeyboard(forms::Main); // which the other window had
     enter(program, "还原以后");
     save(program, page.saving);
-    program.close("Form13");
+    program.close(forms::Backup);
     endByCross(program);
     EXPECT_EQ(folder.rows(query), std::vector<std::string>{"还原以后"});
     EXPECT_EQ(folder.rows("select 日记标题 from rjb"), std::vector<std::string>{"秋收"});
@@ -77,20 +77,20 @@ TEST(Backup, WhatWasBackedUpComesBack) {
     const std::string file = folder.beside("十一月.dat").toStdString();
     Program program(folder);
     signIn(program);
-    openWindow(program, "Form2/Option14");
+    openWindow(program, settings::Backup);
     copy(program, whereTo, file, "备份完成。");
-    program.close("Form13");
+    program.close(forms::Backup);
 
-    program.click("Form2/Label5");
-    program.clickCell("Form2/ms6", 1, 2);
-    remove(program, "Form2/Command17");
-    waitForRows(program, "Form2/ms6", {"2024-11-21|买盐|6|"});
+    program.click(pages::Budget);
+    program.clickCell(budget::Grid, 1, 2);
+    remove(program, budget::Remove);
+    waitForRows(program, budget::Grid, {"2024-11-21|买盐|6|"});
 
-    openWindow(program, "Form2/Option16");
-    EXPECT_EQ(program.text("Form13/Command1"), "开始还原");
+    openWindow(program, settings::Restore);
+    EXPECT_EQ(program.text(backup::Start), "开始还原");
     copy(program, whereFrom, file, "还原完毕。");
-    program.click("Form2/Label5");
-    waitForRows(program, "Form2/ms6", {"2024-11-20|买米|120|", "2024-11-21|买盐|6|"});
+    program.click(pages::Budget);
+    waitForRows(program, budget::Grid, {"2024-11-20|买米|120|", "2024-11-21|买盐|6|"});
     endByCross(program);
     EXPECT_EQ(folder.header(), "00 00");
     EXPECT_EQ(folder.rows("select 预算项目 from ysb"), (std::vector<std::string>{"买米", "买盐"}));
@@ -103,14 +103,14 @@ TEST(Backup, ABackupMadeHereOpensInAnotherFolder) {
     {
         Program program(folder);
         signIn(program);
-        openWindow(program, "Form2/Option14");
+        openWindow(program, settings::Backup);
         copy(program, whereTo, other.file("data.dll").toStdString(), "备份完成。");
         program.kill();
     }
     Program program(other);
     signIn(program);
-    program.click("Form2/Label5");
-    waitForRows(program, "Form2/ms6", {"2024-11-20|买米|120|"});
+    program.click(pages::Budget);
+    waitForRows(program, budget::Grid, {"2024-11-20|买米|120|"});
     endByCross(program);
 }
 
@@ -123,15 +123,15 @@ TEST(Backup, ACopyOfTheClosedLedgerIsReadAfterTheNextStart) {
     {
         Program program(folder);
         signIn(program);
-        openWindow(program, "Form2/Option16");
+        openWindow(program, settings::Restore);
         copy(program, whereFrom, folder.file("closed.dat").toStdString(), "还原完毕。");
-        program.click("Form2/Label5");
+        program.click(pages::Budget);
         expectErrorWindow(program, "请重新启动程序");
     }
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label5");
-    waitForRows(program, "Form2/ms6", {"2024-11-20|买米|120|"});
+    program.click(pages::Budget);
+    waitForRows(program, budget::Grid, {"2024-11-20|买米|120|"});
     endByCross(program);
 }
 
@@ -139,9 +139,9 @@ TEST(Backup, AFileThatIsNotThereIsTold) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
-    openWindow(program, "Form2/Option16");
+    openWindow(program, settings::Restore);
     const QByteArray before = folder.bytes("data.dll");
-    program.click("Form13/Command1");
+    program.click(backup::Start);
     program.answer("确定");
     program.choose(folder.beside("没有.dat").toStdString());
     expectErrorWindow(program, "没有.dat");
@@ -149,18 +149,18 @@ TEST(Backup, AFileThatIsNotThereIsTold) {
 }
 
 TEST(Backup, LoansInFrontAreSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{"Form2/Label1"}, "Form2/ms1", 8, "Form2/Command3"}, "select 备注 from jcb");
+    expectEditedAfterARestore({{pages::Loans}, loans::Grid, 8, loans::Save}, "select 备注 from jcb");
 }
 
 TEST(Backup, TheBudgetInFrontIsSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{"Form2/Label5"}, "Form2/ms6", 4, "Form2/Command18"}, "select 备注 from ysb");
+    expectEditedAfterARestore({{pages::Budget}, budget::Grid, 4, budget::Save}, "select 备注 from ysb");
 }
 
 TEST(Backup, AccountsInFrontAreSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{"Form2/Label6"}, "Form2/ms7", 10, "Form2/Command21"}, "select 备注信息 from zhb");
+    expectEditedAfterARestore({{pages::Accounts}, accounts::Grid, 10, accounts::Save}, "select 备注信息 from zhb");
 }
 
 TEST(Backup, CategoriesInFrontAreSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{"Form2/Label7", "Form2/Command31"}, "Form2/ms3", 1, "Form2/Command9"},
+    expectEditedAfterARestore({{pages::Settings, settings::Categories}, categories::Majors, 1, categories::SaveMajors},
                               "select 收入大类 from srflb");
 }

@@ -7,8 +7,9 @@ using namespace whole;
 
 namespace {
 
-const std::vector<std::string> pageFrames{"Frame13", "Frame2",  "Frame6",  "frame9",  "Frame8", "Frame15",
-                                          "Frame7",  "Frame10", "Frame17", "Frame16", "Frame3"};
+const std::vector<std::string> pageFrames{desktop::Page,  income::Page,   loans::Page,     accounts::Page,
+                                          budget::Page,   charts::Page,   users::Page,     diary_page::Page,
+                                          schedule::Page, settings::Page, categories::Page};
 
 /// A ledger with something in every table that a stray key could reach.
 void store(const LedgerFolder& folder) {
@@ -47,8 +48,8 @@ protected:
         signIn(*program);
     }
 
-    void click(const std::string& control) { program->click("Form2/" + control); }
-    void save(const std::string& button) { whole::save(*program, "Form2/" + button); }
+    void click(const std::string& control) { program->click(control); }
+    void save(const std::string& button) { whole::save(*program, button); }
     /// Leaves the page by a label, and presses keys.
     void leaveFor(const std::string& label, const std::vector<std::string>& keys) {
         before = everything(folder);
@@ -58,9 +59,9 @@ protected:
     }
     /// The program runs, this page alone is in view, no box and no tool has come up, the data are as before.
     void expectOnly(const std::string& frame) {
-        EXPECT_EQ(program->windows(), std::vector<std::string>{"Form2"});
+        EXPECT_EQ(program->windows(), std::vector<std::string>{forms::Main});
         for (const std::string& page : pageFrames)
-            EXPECT_EQ(program->shows("Form2/" + page), page == frame) << page;
+            EXPECT_EQ(program->shows(page), page == frame) << page;
         EXPECT_EQ(everything(folder), before);
     }
     /// The same, and the program can be ended as ever.
@@ -78,107 +79,108 @@ protected:
 } // namespace
 
 TEST_F(BetweenPages, TheButtonThatSavedTheAccountsDoesNotEmptyTheUsers) {
-    click("Label6");
-    save("Command21");
-    leaveFor("Label4", {"Space"});
-    expectNothingBut("Frame7");
+    click(pages::Accounts);
+    save(accounts::Save);
+    leaveFor(pages::Users, {"Space"});
+    expectNothingBut(users::Page);
 
     Program again(folder);
     signIn(again);
 }
 
 TEST_F(BetweenPages, TheButtonThatSavedTheIncomeDoesNotTakeTheLoansIntoIt) {
-    click("Label2(0)");
-    save("Command6");
-    leaveFor("Label1", {"Space"});
-    expectOnly("Frame6");
-    save("Command3");
-    expectNothingBut("Frame6");
+    click(pages::Income);
+    save(income::Save);
+    leaveFor(pages::Loans, {"Space"});
+    expectOnly(loans::Page);
+    save(loans::Save);
+    expectNothingBut(loans::Page);
 }
 
 TEST_F(BetweenPages, TheButtonThatSavedTheCategoriesDoesNotMakeUsersOfThem) {
-    click("Label7");
-    click("Command31");
-    save("Command9");
-    leaveFor("Label4", {"Return"});
-    expectNothingBut("Frame7");
+    click(pages::Settings);
+    click(settings::Categories);
+    save(categories::SaveMajors);
+    leaveFor(pages::Users, {"Return"});
+    expectNothingBut(users::Page);
 }
 
 TEST_F(BetweenPages, TheButtonThatSavedTheLoansDoesNotEmptyTheBudget) {
-    click("Label1");
-    save("Command3");
-    leaveFor("Label5", {"Space"});
-    expectNothingBut("Frame8");
+    click(pages::Loans);
+    save(loans::Save);
+    leaveFor(pages::Budget, {"Space"});
+    expectNothingBut(budget::Page);
 }
 
 TEST_F(BetweenPages, TheButtonThatSavedTheBudgetDoesNotEmptyTodaysPlans) {
-    click("Label5");
-    save("Command18");
-    leaveFor("Label24", {"Space"});
-    expectNothingBut("Frame13");
+    click(pages::Budget);
+    save(budget::Save);
+    leaveFor(pages::Desktop, {"Space"});
+    expectNothingBut(desktop::Page);
     EXPECT_EQ(folder.rows("select 日程内容 from rcb"), std::vector<std::string>{"晒谷"});
 }
 
 TEST_F(BetweenPages, TheButtonThatDidNotDeleteAnExpenseDoesNotDoItFromTheDesktop) {
-    click("Label2(1)");
-    save("Command6");
-    program->clickCell("Form2/ms2", 1, 1);
-    remove(*program, "Form2/Command5", "取消");
-    leaveFor("Label24", {"Return", "Return"});
-    expectNothingBut("Frame13");
+    click(pages::Expense);
+    save(income::Save);
+    program->clickCell(income::Grid, 1, 1);
+    remove(*program, income::Remove, "取消");
+    leaveFor(pages::Desktop, {"Return", "Return"});
+    expectNothingBut(desktop::Page);
 }
 
 TEST_F(BetweenPages, TheBoxThatDidNotInitialiseTheDataDoesNotDoItFromTheDesktop) {
-    click("Label5");
-    save("Command18");
-    click("Label7");
-    click("Check4");
+    click(pages::Budget);
+    save(budget::Save);
+    click(pages::Settings);
+    click(settings::Initialise);
     program->answer("否");
-    leaveFor("Label24", {"Space", "Return"});
-    expectNothingBut("Frame13");
+    leaveFor(pages::Desktop, {"Space", "Return"});
+    expectNothingBut(desktop::Page);
 }
 
 TEST_F(BetweenPages, ACellThatWasLeftOpenTakesNoLetters) {
-    click("Label2(0)");
-    save("Command6");
+    click(pages::Income);
+    save(income::Save);
     for (const int column : {1, 4}) { // Enter would go on to the date and to the amount
-        click("Label2(0)");
-        program->clickCell("Form2/ms2", 1, column);
-        const std::string cell = program->cell("Form2/ms2", 1, column), text = program->text("Form2/tx2");
-        leaveFor("Label24", {"A", "B", "Return"});
-        expectOnly("Frame13");
-        EXPECT_EQ(program->cell("Form2/ms2", 1, column), cell);
-        EXPECT_EQ(program->text("Form2/tx2"), text);
+        click(pages::Income);
+        program->clickCell(income::Grid, 1, column);
+        const std::string cell = program->cell(income::Grid, 1, column), text = program->text(income::Box);
+        leaveFor(pages::Desktop, {"A", "B", "Return"});
+        expectOnly(desktop::Page);
+        EXPECT_EQ(program->cell(income::Grid, 1, column), cell);
+        EXPECT_EQ(program->text(income::Box), text);
     }
     endByCross(*program);
 }
 
 TEST_F(BetweenPages, LongTextsThatWereLeftTakeNoLetters) {
-    click("Label5");
-    save("Command18");
+    click(pages::Budget);
+    save(budget::Save);
     struct Text {
         std::vector<std::string> opening;
         std::string box;
     };
-    for (const Text& text : {Text{{"Label8", "Command22"}, "tx8"}, Text{{"Label23"}, "Text3"}}) {
+    for (const Text& text :
+         {Text{{pages::Diary, diary_page::Add}, diary_page::Text}, Text{{pages::Schedule}, schedule::Plan}}) {
         for (const std::string& control : text.opening)
             click(control);
         click(text.box);
         program->type("abc");
-        leaveFor("Label24", {"D", "E", "Return"});
-        expectOnly("Frame13");
-        EXPECT_EQ(program->get("Form2/" + text.box, "plainText").toString(), QStringLiteral("abc"));
+        leaveFor(pages::Desktop, {"D", "E", "Return"});
+        expectOnly(desktop::Page);
+        EXPECT_EQ(program->get(text.box, "plainText").toString(), QStringLiteral("abc"));
     }
     endByCross(*program);
 }
 
 TEST_F(BetweenPages, AnOptionThatWasLeftDoesNotTurnToItsNeighbour) {
-    click("Label1");
-    click("Option1");
-    save("Command3");
-    click("Option1");
-    leaveFor("Label2(0)", {"Right"});
-    EXPECT_TRUE(program->get("Form2/Option1", "checked").toBool());
-    EXPECT_FALSE(program->get("Form2/Option2", "checked").toBool());
-    expectNothingBut("Frame2");
+    click(pages::Loans);
+    click(loans::Borrowed);
+    save(loans::Save);
+    click(loans::Borrowed);
+    leaveFor(pages::Income, {"Right"});
+    EXPECT_TRUE(program->get(loans::Borrowed, "checked").toBool());
+    EXPECT_FALSE(program->get(loans::Lent, "checked").toBool());
+    expectNothingBut(income::Page);
 }

@@ -31,7 +31,7 @@ TEST(BrokenData, AMissingTableIsTold) {
     const LedgerFolder folder;
     folder.execute("drop table 主界面");
     Program program(folder);
-    program.click("Form5/Label1");
+    program.click(sign_in::Enter);
     expectErrorWindow(program, "主界面");
 }
 
@@ -42,29 +42,29 @@ TEST(BrokenData, ADateThatIsNoDayEndsTheSaveWhereItStands) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label2(0)");
-        program.click("Form2/Command4");
-        program.clickCell("Form2/ms2", 3, 1);
+        program.click(pages::Income);
+        program.click(income::Add);
+        program.clickCell(income::Grid, 3, 1);
         for (const char* text : {"3", "11月31日", "奖金", "王青"}) {
             program.type(text);
             program.key("Return");
         }
         // A sum that lacks its second half goes nowhere.
-        program.waitForKeyboard("Form9");
+        program.waitForKeyboard(forms::Calculator);
         program.type("12+");
-        program.close("Form9");
-        EXPECT_EQ(program.cell("Form2/ms2", 3, 5), "");
-        program.clickCell("Form2/ms2", 3, 7); // the box still lies over the amount
-        program.clickCell("Form2/ms2", 3, 5);
-        program.waitForKeyboard("Form9");
+        program.close(forms::Calculator);
+        EXPECT_EQ(program.cell(income::Grid, 3, 5), "");
+        program.clickCell(income::Grid, 3, 7); // the box still lies over the amount
+        program.clickCell(income::Grid, 3, 5);
+        program.waitForKeyboard(forms::Calculator);
         program.type("12+8");
-        program.close("Form9");
-        EXPECT_EQ(program.cell("Form2/ms2", 3, 5), "20");
-        program.clickCell("Form2/ms2", 3, 6);
+        program.close(forms::Calculator);
+        EXPECT_EQ(program.cell(income::Grid, 3, 5), "20");
+        program.clickCell(income::Grid, 3, 6);
         program.type("现金");
         program.key("Return");
 
-        program.click("Form2/Command6");
+        program.click(income::Save);
         expectErrorWindow(program, "11月31日");
     }
     EXPECT_EQ(folder.header(), "01 00");
@@ -72,8 +72,8 @@ TEST(BrokenData, ADateThatIsNoDayEndsTheSaveWhereItStands) {
 
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label2(0)");
-    EXPECT_EQ(program.cell("Form2/ms2", 2, 3), "稿费");
-    EXPECT_EQ(program.text("Form2/Label10"), "当前收入总额为：570.50元 ");
+    program.click(pages::Income);
+    EXPECT_EQ(program.cell(income::Grid, 2, 3), "稿费");
+    EXPECT_EQ(program.text(income::Total), "当前收入总额为：570.50元 ");
     endByCross(program);
 }

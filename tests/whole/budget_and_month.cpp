@@ -6,20 +6,18 @@ using namespace whole;
 
 namespace {
 
-const std::string budget = "Form2/ms6", month = "Form2/ms2";
-
 /// Enters a row of the income or the expense page, by keys and the calculator.
 void enterRecord(Program& program, int row, const std::vector<std::string>& upToPerson, const std::string& amount,
                  const std::string& account) {
-    program.clickCell(month, row, 1);
+    program.clickCell(income::Grid, row, 1);
     for (const std::string& text : upToPerson)
         enter(program, text);
     reckon(program, amount);
-    fillCell(program, month, row, 6, account);
+    fillCell(program, income::Grid, row, 6, account);
 }
 
 void expectEditing(Program& program, bool possible) {
-    for (const char* control : {"Form2/Command4", "Form2/Command5", "Form2/Command6", "Form2/ms2"})
+    for (const std::string& control : std::vector<std::string>{income::Add, income::Remove, income::Save, income::Grid})
         EXPECT_EQ(program.get(control, "enabled").toBool(), possible) << control;
 }
 
@@ -30,25 +28,25 @@ TEST(Budget, IsPlannedWithPickerAndCalculatorAndSummedUpOnTheDesktop) {
     {
         Program program(folder);
         signIn(program);
-        EXPECT_EQ(program.text("Form2/Label33"), "0.00元");
-        program.click("Form2/Label5");
-        program.clickCell(budget, 1, 1);
+        EXPECT_EQ(program.text(desktop::Budget), "0.00元");
+        program.click(pages::Budget);
+        program.clickCell(budget::Grid, 1, 1);
         pickDay(program, 5);
-        fillCell(program, budget, 1, 2, "买菜");
+        fillCell(program, budget::Grid, 1, 2, "买菜");
         reckon(program, "35*30");
-        program.clickCell(budget, 1, 4);
+        program.clickCell(budget::Grid, 1, 4);
         program.type("每天三十五");
-        program.click("Form2/Command16"); // adds a row, and takes the box over without Enter
-        waitForRows(program, budget, {"2024-11-5|买菜| 1050|每天三十五", "|||"});
-        addInVain(program, "Form2/Command16");
-        fillCell(program, budget, 2, 1, "2024-11-20");
-        EXPECT_EQ(program.windows(), std::vector<std::string>{"Form2"}); // Enter has put the picker away
+        program.click(budget::Add); // adds a row, and takes the box over without Enter
+        waitForRows(program, budget::Grid, {"2024-11-5|买菜| 1050|每天三十五", "|||"});
+        addInVain(program, budget::Add);
+        fillCell(program, budget::Grid, 2, 1, "2024-11-20");
+        EXPECT_EQ(program.windows(), std::vector<std::string>{forms::Main}); // Enter has put the picker away
         enter(program, "电费");
         reckon(program, "99.5");
-        save(program, "Form2/Command18");
-        program.click("Form2/Label6");
-        program.click("Form2/Label5");
-        EXPECT_EQ(rows(program, budget),
+        save(program, budget::Save);
+        program.click(pages::Accounts);
+        program.click(pages::Budget);
+        EXPECT_EQ(rows(program, budget::Grid),
                   (std::vector<std::string>{"2024-11-5|买菜|1050|每天三十五", "2024-11-20|电费|99.5|"}));
         endByCross(program);
     }
@@ -56,9 +54,9 @@ TEST(Budget, IsPlannedWithPickerAndCalculatorAndSummedUpOnTheDesktop) {
               (std::vector<std::string>{"2024-11-05|买菜|1050|每天三十五|1", "2024-11-20|电费|99.5||2"}));
     Program program(folder, "2024-11-19 07:10:00");
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label33"), "1149.50元");
-    program.click("Form2/Label5");
-    EXPECT_EQ(program.cell(budget, 1, 4), "每天三十五");
+    EXPECT_EQ(program.text(desktop::Budget), "1149.50元");
+    program.click(pages::Budget);
+    EXPECT_EQ(program.cell(budget::Grid, 1, 4), "每天三十五");
     endByCross(program);
 }
 
@@ -67,18 +65,18 @@ TEST(Budget, ADeletedRowIsGoneAtOnceAndAGapIsNotSaved) {
     folder.execute("insert into ysb values('2024-11-05', '买菜', 1050, '', 1), ('2024-11-05', '买菜', 900, '', 2)");
     Program program(folder);
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label33"), "1950.00元");
-    program.click("Form2/Label5");
-    program.clickCell(budget, 1, 2);
-    remove(program, "Form2/Command17", "取消");
-    EXPECT_EQ(rows(program, budget).size(), 2U);
-    remove(program, "Form2/Command17");
-    waitForRows(program, budget, {"2024-11-5|买菜|900|"});
+    EXPECT_EQ(program.text(desktop::Budget), "1950.00元");
+    program.click(pages::Budget);
+    program.clickCell(budget::Grid, 1, 2);
+    remove(program, budget::Remove, "取消");
+    EXPECT_EQ(rows(program, budget::Grid).size(), 2U);
+    remove(program, budget::Remove);
+    waitForRows(program, budget::Grid, {"2024-11-5|买菜|900|"});
     EXPECT_EQ(folder.rows("select 预算金额, 区别 from ysb"), std::vector<std::string>{"900|2"});
-    program.clickCell(budget, 1, 2);
-    remove(program, "Form2/Command17");
-    waitForRows(program, budget, {"|||"});
-    saveInVain(program, "Form2/Command18");
+    program.clickCell(budget::Grid, 1, 2);
+    remove(program, budget::Remove);
+    waitForRows(program, budget::Grid, {"|||"});
+    saveInVain(program, budget::Save);
     EXPECT_EQ(folder.rows("select count(*) from ysb"), std::vector<std::string>{"0"});
     endByCross(program);
 }
@@ -88,27 +86,27 @@ TEST(Month, IsReportedByItemAndByPersonWhileTheListIsClosed) {
     folder.execute("insert into srb values('9', '2024-10-30', '工资', '王青', 7000, '建行', '', 1)");
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label2(0)");
+    program.click(pages::Income);
     for (const auto& [row, person, item, amount] :
          {std::tuple{2, "王青", "工资", "8000"}, {3, "李禾", "稿费", "99.5"}, {4, "李禾", "工资", "6000"}}) {
-        program.click("Form2/Command4");
+        program.click(income::Add);
         enterRecord(program, row, {"00" + std::to_string(row), "2024-11-15", item, person}, amount, "建行");
     }
-    save(program, "Form2/Command6");
-    program.click("Form2/Label2(0)"); // the report knows what was saved when its page was opened
-    program.click("Form2/Option8");
-    EXPECT_EQ(program.text("Form2/Label10"), "本月收入总额为：14099.50元");
-    EXPECT_EQ(rows(program, month), (std::vector<std::string>{"工资|14000.00", "稿费|99.50"}));
+    save(program, income::Save);
+    program.click(pages::Income); // the report knows what was saved when its page was opened
+    program.click(income::ByItem);
+    EXPECT_EQ(program.text(income::Total), "本月收入总额为：14099.50元");
+    EXPECT_EQ(rows(program, income::Grid), (std::vector<std::string>{"工资|14000.00", "稿费|99.50"}));
     expectEditing(program, false);
-    program.click("Form2/Option9");
-    EXPECT_EQ(program.text("Form2/Label10"), "本月人员收入总额为：14099.50元");
-    EXPECT_EQ(rows(program, month),
+    program.click(income::ByPerson);
+    EXPECT_EQ(program.text(income::Total), "本月人员收入总额为：14099.50元");
+    EXPECT_EQ(rows(program, income::Grid),
               (std::vector<std::string>{"李禾|工资|6000.00", "王青|工资|8000.00", "李禾|稿费|99.50"}));
     expectEditing(program, false);
-    program.click("Form2/Option7");
-    EXPECT_EQ(program.text("Form2/Label10"), "当前收入总额为：21099.50元");
-    EXPECT_EQ(rows(program, month).size(), 4U);
-    EXPECT_EQ(rows(program, month)[0], "9|2024-10-30|工资|王青|7000|建行|");
+    program.click(income::Records);
+    EXPECT_EQ(program.text(income::Total), "当前收入总额为：21099.50元");
+    EXPECT_EQ(rows(program, income::Grid).size(), 4U);
+    EXPECT_EQ(rows(program, income::Grid)[0], "9|2024-10-30|工资|王青|7000|建行|");
     expectEditing(program, true);
     endByCross(program);
 }
@@ -118,24 +116,24 @@ TEST(Month, OfExpenseIsReportedFromItsOwnSide) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label2(1)");
+        program.click(pages::Expense);
         enterRecord(program, 1, {"1", "2024-11-3", "买菜", "李禾"}, "45.8", "现金");
-        save(program, "Form2/Command6");
-        program.click("Form2/Option8");
-        EXPECT_EQ(program.text("Form2/Label10"), "本月支出总额为："); // as the page was opened
+        save(program, income::Save);
+        program.click(income::ByItem);
+        EXPECT_EQ(program.text(income::Total), "本月支出总额为："); // as the page was opened
         endByCross(program);
     }
     Program program(folder, "2024-11-19 07:10:00");
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label32"), "45.80元");
-    program.click("Form2/Label2(1)");
-    program.click("Form2/Option9");
-    EXPECT_EQ(program.cell(month, 0, 1), "付款人");
-    EXPECT_EQ(program.cell(month, 0, 3), "本月消费总额");
-    EXPECT_EQ(rows(program, month), std::vector<std::string>{"李禾|买菜|45.80"});
-    program.click("Form2/Label2(0)");
-    program.click("Form2/Option9");
-    EXPECT_EQ(program.text("Form2/Label10"), "本月人员收入总额为：");
+    EXPECT_EQ(program.text(desktop::Expense), "45.80元");
+    program.click(pages::Expense);
+    program.click(income::ByPerson);
+    EXPECT_EQ(program.cell(income::Grid, 0, 1), "付款人");
+    EXPECT_EQ(program.cell(income::Grid, 0, 3), "本月消费总额");
+    EXPECT_EQ(rows(program, income::Grid), std::vector<std::string>{"李禾|买菜|45.80"});
+    program.click(pages::Income);
+    program.click(income::ByPerson);
+    EXPECT_EQ(program.text(income::Total), "本月人员收入总额为：");
     expectEditing(program, false);
     endByCross(program);
 }

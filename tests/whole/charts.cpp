@@ -21,7 +21,7 @@ void store(const LedgerFolder& folder) {
 /// The points of the chart as "label value", one behind the other.
 std::string points(Program& program) {
     QStringList points;
-    for (const QJsonValue& point : program.get("Form2/MSC1", "ChartData").toArray())
+    for (const QJsonValue& point : program.get(charts::Chart, "ChartData").toArray())
         points << point.toArray()[0].toString() + u' ' + QString::number(point.toArray()[1].toDouble());
     return points.join(QStringLiteral(", ")).toStdString();
 }
@@ -29,12 +29,12 @@ std::string points(Program& program) {
 /// Chooses a chart, which says its own name.
 std::string chosen(Program& program, const std::string& option) {
     program.click(option);
-    EXPECT_EQ(program.caption("Form2/Frame12"), program.text(option));
+    EXPECT_EQ(program.caption(charts::ChartFrame), program.text(option));
     return points(program);
 }
 
 QByteArray picture(Program& program, const LedgerFolder& folder) {
-    program.picture(folder.file("chart.png").toStdString(), "Form2/MSC1");
+    program.picture(folder.file("chart.png").toStdString(), charts::Chart);
     return folder.bytes("chart.png");
 }
 
@@ -45,21 +45,21 @@ TEST(Charts, ShowAccountsMonthsAndItemsOfTheWholeLedger) {
     store(folder);
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label12");
-    EXPECT_EQ(program.caption("Form2/Frame12"), "账户对比分析");
+    program.click(pages::Charts);
+    EXPECT_EQ(program.caption(charts::ChartFrame), "账户对比分析");
     EXPECT_EQ(points(program), "工资卡 1250.5, 信用卡 -30");
     const QByteArray accounts = picture(program, folder);
-    EXPECT_EQ(chosen(program, "Form2/Option11"), "2024-11 8099.5, 2024-9- 7000");
+    EXPECT_EQ(chosen(program, charts::YearsIncome), "2024-11 8099.5, 2024-9- 7000");
     EXPECT_NE(picture(program, folder), accounts);
-    EXPECT_EQ(chosen(program, "Form2/Option12"), "2024-10 45.8, 2024-11 129");
-    EXPECT_FALSE(program.shows("Form2/Frame1"));
-    EXPECT_EQ(chosen(program, "Form2/Option13"), "工资 15000, 稿费 99.5");
-    EXPECT_EQ(chosen(program, "Form2/Option15"), "买菜 75.8, 电费 99");
-    EXPECT_TRUE(program.shows("Form2/Frame1"));
+    EXPECT_EQ(chosen(program, charts::YearsExpense), "2024-10 45.8, 2024-11 129");
+    EXPECT_FALSE(program.shows(charts::Range));
+    EXPECT_EQ(chosen(program, charts::IncomeByItem), "工资 15000, 稿费 99.5");
+    EXPECT_EQ(chosen(program, charts::ExpenseByItem), "买菜 75.8, 电费 99");
+    EXPECT_TRUE(program.shows(charts::Range));
 
-    program.click("Form2/Label6");
-    program.click("Form2/Label12");
-    EXPECT_EQ(chosen(program, "Form2/Option10"), "工资卡 1250.5, 信用卡 -30");
+    program.click(pages::Accounts);
+    program.click(pages::Charts);
+    EXPECT_EQ(chosen(program, charts::Accounts), "工资卡 1250.5, 信用卡 -30");
     EXPECT_EQ(picture(program, folder), accounts);
     endByCross(program);
 }
@@ -69,23 +69,23 @@ TEST(Charts, ByItemAreNarrowedToDatesPickedOrTyped) {
     store(folder);
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label12");
-    chosen(program, "Form2/Option15");
-    program.click("Form2/Text1");
+    program.click(pages::Charts);
+    chosen(program, charts::ExpenseByItem);
+    program.click(charts::From);
     pickDay(program, 1);
-    program.click("Form2/Text2");
+    program.click(charts::To);
     pickDay(program, 17);
-    EXPECT_EQ(program.text("Form2/Text1") + ' ' + program.text("Form2/Text2"), "2024-11-1 2024-11-17");
-    program.click("Form2/Command25");
+    EXPECT_EQ(program.text(charts::From) + ' ' + program.text(charts::To), "2024-11-1 2024-11-17");
+    program.click(charts::Query);
     EXPECT_EQ(points(program), "买菜 30");
-    EXPECT_EQ(program.caption("Form2/Frame12"), "支出分类统计");
+    EXPECT_EQ(program.caption(charts::ChartFrame), "支出分类统计");
 
-    EXPECT_EQ(chosen(program, "Form2/Option13"), "工资 15000, 稿费 99.5"); // the whole ledger again
-    EXPECT_EQ(program.text("Form2/Text1"), "2024-11-1");
-    program.clearAndType("Form2/Text1", "2024-9-1");
-    program.clearAndType("Form2/Text2", "2024-10-31");
-    program.click("Form2/Command25");
-    EXPECT_FALSE(program.shows("Form1"));
+    EXPECT_EQ(chosen(program, charts::IncomeByItem), "工资 15000, 稿费 99.5"); // the whole ledger again
+    EXPECT_EQ(program.text(charts::From), "2024-11-1");
+    program.clearAndType(charts::From, "2024-9-1");
+    program.clearAndType(charts::To, "2024-10-31");
+    program.click(charts::Query);
+    EXPECT_FALSE(program.shows(forms::DatePicker));
     EXPECT_EQ(points(program), "工资 7000");
     endByCross(program);
 }
@@ -95,23 +95,23 @@ TEST(Charts, OfAnEmptyLedgerSayWhatIsMissing) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label12");
+    program.click(pages::Charts);
     EXPECT_EQ(program.message(), nothing);
     program.answer("确定");
-    for (const char* option : {"Form2/Option11", "Form2/Option12", "Form2/Option13"}) {
+    for (const auto& option : {charts::YearsIncome, charts::YearsExpense, charts::IncomeByItem}) {
         program.click(option);
         EXPECT_EQ(program.message(), nothing);
         program.answer("确定");
     }
-    EXPECT_EQ(program.caption("Form2/Frame12"), "");
+    EXPECT_EQ(program.caption(charts::ChartFrame), "");
     EXPECT_EQ(points(program), ""); // the sample stands
 
-    program.clearAndType("Form2/Text1", "2024-11-1");
-    program.click("Form2/Command25");
+    program.clearAndType(charts::From, "2024-11-1");
+    program.click(charts::Query);
     EXPECT_EQ(program.message(), (Message{"请选择两个日期", "输入提示", Message::Information, {"确定"}}));
     program.answer("确定");
-    program.clearAndType("Form2/Text2", "2024-10-1");
-    program.click("Form2/Command25");
+    program.clearAndType(charts::To, "2024-10-1");
+    program.click(charts::Query);
     EXPECT_EQ(program.message(), (Message{"当前日期范围内不存在记录", "查询提示", Message::Information, {"确定"}}));
     program.answer("确定");
     endByCross(program);
@@ -123,17 +123,17 @@ TEST(Charts, ADateInWordsEndsTheProgramAndTheLedgerStays) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label12");
-        chosen(program, "Form2/Option15");
-        program.clearAndType("Form2/Text1", "上个月");
-        program.clearAndType("Form2/Text2", "2024-11-18");
-        program.click("Form2/Command25");
+        program.click(pages::Charts);
+        chosen(program, charts::ExpenseByItem);
+        program.clearAndType(charts::From, "上个月");
+        program.clearAndType(charts::To, "2024-11-18");
+        program.click(charts::Query);
         expectErrorWindow(program, "上个月");
     }
     EXPECT_EQ(folder.rows("select count(*) from zcb"), std::vector<std::string>{"3"});
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label12");
-    EXPECT_EQ(chosen(program, "Form2/Option15"), "买菜 75.8, 电费 99");
+    program.click(pages::Charts);
+    EXPECT_EQ(chosen(program, charts::ExpenseByItem), "买菜 75.8, 电费 99");
     endByCross(program);
 }

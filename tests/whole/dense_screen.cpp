@@ -23,20 +23,20 @@ protected:
 
 TEST_F(DenseScreen, TheMainWindowStandsInTheMiddleInItsOwnSize) {
     Program program(folder);
-    EXPECT_EQ(program.place("Form5").size(), QSize(710, 560));
+    EXPECT_EQ(program.place(forms::SignIn).size(), QSize(710, 560));
     signIn(program);
     program.look(); // the window manager has done with it
-    const QRect window = program.place("Form2");
+    const QRect window = program.place(forms::Main);
     EXPECT_EQ(window.size(), QSize(1600, 1080));
     EXPECT_LT((window.center() - QPoint(1300, 1000)).manhattanLength(), 40); // the bar at the foot of the screen apart
 
     // Its far corner is there for the pointer.
-    display_pointer::click(program.place("Form2/Label7").center());
-    program.waitUntil([&] { return program.shows("Form2/Frame16"); }, "the settings");
-    program.click("Form2/Image5");
-    program.waitForKeyboard("Form7");
+    display_pointer::click(program.place(pages::Settings).center());
+    program.waitUntil([&] { return program.shows(settings::Page); }, "the settings");
+    program.click(title::Tools);
+    program.waitForKeyboard(forms::Web);
     program.look();
-    EXPECT_EQ(program.place("Form7").size(), QSize(1600, 1080));
+    EXPECT_EQ(program.place(forms::Web).size(), QSize(1600, 1080));
     endByCross(program);
 }
 
@@ -44,9 +44,9 @@ TEST_F(DenseScreen, ADragMovesByTheWayOfThePointer) {
     Program program(folder);
     signIn(program);
     program.look(); // the window has found its place
-    const QRect before = program.place("Form2");
+    const QRect before = program.place(forms::Main);
     display_pointer::drag(before.topLeft() + 2 * bareTitle, {-5, 4}, 60);
     program.look();
-    EXPECT_EQ(program.place("Form2"), before.translated(-300, 240));
+    EXPECT_EQ(program.place(forms::Main), before.translated(-300, 240));
     endByCross(program);
 }

@@ -10,14 +10,14 @@ const Message diarySaved{"日志已经保存！", "保存提示", Message::None,
 
 /// Writes an entry as a user does: the day is picked, the title typed, then the text.
 void writeEntry(Program& program, int day, const std::string& title, const std::string& text) {
-    program.click("Form2/Command22");
-    program.clickCell("Form2/ms8", 1, 1);
+    program.click(diary_page::Add);
+    program.clickCell(diary_page::Grid, 1, 1);
     pickDay(program, day);
-    program.clickCell("Form2/ms8", 1, 2);
+    program.clickCell(diary_page::Grid, 1, 2);
     enter(program, title);
-    program.click("Form2/tx8");
+    program.click(diary_page::Text);
     program.type(text);
-    program.click("Form2/Command24");
+    program.click(diary_page::Save);
 }
 
 } // namespace
@@ -27,7 +27,7 @@ TEST(Diary, AnEntryIsWrittenKeptAsATextFileAndReadAgain) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label8");
+        program.click(pages::Diary);
         writeEntry(program, 17, "秋收", "晒谷子，晒了一天。");
         EXPECT_EQ(program.message(), diarySaved);
         program.answer("确定");
@@ -41,13 +41,13 @@ TEST(Diary, AnEntryIsWrittenKeptAsATextFileAndReadAgain) {
 
     Program program(folder, "2024-11-19 07:10:00");
     signIn(program);
-    program.click("Form2/Label8");
-    program.click("Form2/Option5");
-    EXPECT_EQ(rows(program, "Form2/ms8"), std::vector<std::string>{"2024-11-17|秋收"});
-    program.clickCell("Form2/ms8", 1, 2);
-    EXPECT_EQ(program.get("Form2/tx8", "plainText").toString().toStdString(), "晒谷子，晒了一天。");
-    program.click("Form2/Option6");
-    remove(program, "Form2/Command23");
+    program.click(pages::Diary);
+    program.click(diary_page::Find);
+    EXPECT_EQ(rows(program, diary_page::Grid), std::vector<std::string>{"2024-11-17|秋收"});
+    program.clickCell(diary_page::Grid, 1, 2);
+    EXPECT_EQ(program.get(diary_page::Text, "plainText").toString().toStdString(), "晒谷子，晒了一天。");
+    program.click(diary_page::Write);
+    remove(program, diary_page::Remove);
     endByCross(program);
     EXPECT_TRUE(folder.rows("select * from rjb").empty());
     EXPECT_TRUE(folder.has("mydiary/秋收.dll"));
@@ -57,7 +57,7 @@ TEST(Diary, ATitleThatNamesNoFileIsTold) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label8");
+    program.click(pages::Diary);
     writeEntry(program, 18, "1/2", "abc");
     expectErrorWindow(program, "不能用作文件名");
     EXPECT_EQ(folder.rows("select 日记标题 from rjb"), std::vector<std::string>{"1/2"});

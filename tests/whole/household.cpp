@@ -16,18 +16,18 @@ bool holdsChinese(const std::string& text) {
 } // namespace
 
 void signIn(Program& program) {
-    program.click("Form5/Label1");
-    program.waitForKeyboard("Form2");
+    program.click(sign_in::Enter);
+    program.waitForKeyboard(forms::Main);
 }
 
 void signInAs(Program& program, const std::string& name, const std::string& password) {
-    program.clearAndType("Form5/Combo1", name);
-    program.clearAndType("Form5/Text2", password);
-    program.click("Form5/Label1");
+    program.clearAndType(sign_in::User, name);
+    program.clearAndType(sign_in::Password, password);
+    program.click(sign_in::Enter);
 }
 
 void endByCross(Program& program) {
-    program.click("Form2/Image3");
+    program.click(title::Close);
     EXPECT_EQ(program.exitCode(), 0);
 }
 
@@ -48,17 +48,17 @@ void fillCell(Program& program, const std::string& grid, int row, int col, const
 }
 
 void reckon(Program& program, const std::string& keys) {
-    program.waitForKeyboard("Form9");
+    program.waitForKeyboard(forms::Calculator);
     program.type(keys);
     program.key("Return");
-    program.waitForKeyboard("Form2");
+    program.waitForKeyboard(forms::Main);
 }
 
 void pickDay(Program& program, int day) {
-    program.waitFor("Form1");
-    EXPECT_EQ(program.text("Form1/Label1"), "2024 年 11月");
+    program.waitFor(forms::DatePicker);
+    EXPECT_EQ(program.text(date_picker::Month), "2024 年 11月");
     const int fridayTheFirst = 5;
-    program.doubleClick("Form1/Label3(" + std::to_string(fridayTheFirst + day - 1) + ")");
+    program.doubleClick(date_picker::Day[fridayTheFirst + day - 1]);
 }
 
 std::vector<std::string> rows(Program& program, const std::string& grid) {

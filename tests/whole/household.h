@@ -1,8 +1,11 @@
 #pragma once
 
 #include "program.h"
+#include "support/names.h"
 
 namespace whole {
+
+using namespace qinghe::testing;
 
 /// What everybody in these stories does the same way. They play in November 2024.
 

@@ -6,8 +6,6 @@ using namespace whole;
 
 namespace {
 
-const std::string loans = "Form2/ms1", add = "Form2/Command1", saving = "Form2/Command3";
-
 struct Loan {
     std::string account, day, amount, repaid, balance, lender, borrower, note;
 };
@@ -15,23 +13,23 @@ struct Loan {
 /// Enters a loan by keys along its row. The balance is closed to them; after a click it takes one, which goes into its
 /// cell by a click on the bare window.
 void enterLoan(Program& program, int row, const Loan& loan) {
-    program.clickCell(loans, row, 5);
+    program.clickCell(loans::Grid, row, 5);
     program.type(loan.balance);
-    program.click("Form2", bareTitle);
-    program.clickCell(loans, row, 1);
+    program.click(forms::Main, bareTitle);
+    program.clickCell(loans::Grid, row, 1);
     for (const std::string& text : {loan.account, loan.day, loan.amount, loan.repaid})
         enter(program, text);
-    program.clickCell(loans, row, 6);
+    program.clickCell(loans::Grid, row, 6);
     for (const std::string& text : {loan.lender, loan.borrower, loan.note})
         enter(program, text);
 }
 
 void lendTwice(Program& program) {
-    program.click("Form2/Label1");
+    program.click(pages::Loans);
     enterLoan(program, 1, {"现金", "2024-11-2", "800", "795", "5", "王青", "李禾", "买书"});
-    program.click(add);
+    program.click(loans::Add);
     enterLoan(program, 2, {"建行", "2024-11-9", "1200.5", "1200.5", "0", "王青", "赵田", "学费"});
-    save(program, saving);
+    save(program, loans::Save);
 }
 
 } // namespace
@@ -41,20 +39,20 @@ TEST(Loans, MoneyBorrowedIsEnteredBehindThePictureAndCountedAtTheNextStart) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Image1");
-        EXPECT_EQ(program.caption("Form2/Frame6"), "借入记录");
-        EXPECT_EQ(program.cell(loans, 0, 3), "借入金额");
-        EXPECT_EQ(program.text("Form2/Label11"), "当前借出总额为：0.00元");
-        addInVain(program, add);
+        program.click(loans::Picture);
+        EXPECT_EQ(program.caption(loans::Page), "借入记录");
+        EXPECT_EQ(program.cell(loans::Grid, 0, 3), "借入金额");
+        EXPECT_EQ(program.text(loans::Total), "当前借出总额为：0.00元");
+        addInVain(program, loans::Add);
         enterLoan(program, 1, {"建行", "2024-11-5", "5000", "4992.5", "7", "张山", "王青", "装修"});
-        program.click(add);
-        program.clickCell(loans, 2, 2);
+        program.click(loans::Add);
+        program.clickCell(loans::Grid, 2, 2);
         pickDay(program, 16);
-        waitForRows(program, loans, {"建行|2024-11-5|5000|4992.5|7|张山|王青|装修", "|2024-11-16||||||"});
-        saveInVain(program, saving);
-        remove(program, "Form2/Command2");
-        waitForRows(program, loans, {"建行|2024-11-5|5000|4992.5|7|张山|王青|装修"});
-        save(program, saving);
+        waitForRows(program, loans::Grid, {"建行|2024-11-5|5000|4992.5|7|张山|王青|装修", "|2024-11-16||||||"});
+        saveInVain(program, loans::Save);
+        remove(program, loans::Remove);
+        waitForRows(program, loans::Grid, {"建行|2024-11-5|5000|4992.5|7|张山|王青|装修"});
+        save(program, loans::Save);
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select * from jrb"),
@@ -62,10 +60,10 @@ TEST(Loans, MoneyBorrowedIsEnteredBehindThePictureAndCountedAtTheNextStart) {
 
     Program program(folder, "2024-11-19 07:10:00");
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label34"), "5000.00元");
-    program.click("Form2/Image1");
-    EXPECT_EQ(rows(program, loans), std::vector<std::string>{"建行|2024-11-5|5000|4992.5|7|张山|王青|装修"});
-    EXPECT_EQ(program.text("Form2/Label11"), "当前借入总额为：5000.00元 ");
+    EXPECT_EQ(program.text(desktop::Borrowed), "5000.00元");
+    program.click(loans::Picture);
+    EXPECT_EQ(rows(program, loans::Grid), std::vector<std::string>{"建行|2024-11-5|5000|4992.5|7|张山|王青|装修"});
+    EXPECT_EQ(program.text(loans::Total), "当前借入总额为：5000.00元 ");
     endByCross(program);
 }
 
@@ -75,14 +73,13 @@ TEST(Loans, MoneyLentShowsWhatIsRepaidAndWhatIsLeft) {
         Program program(folder);
         signIn(program);
         lendTwice(program);
-        EXPECT_EQ(program.caption("Form2/Frame6"), "借出表");
-        EXPECT_EQ(program.cell(loans, 0, 3), "借出金额");
-        EXPECT_EQ(program.text("Form2/Label11"), "当前借出总额为：0.00元"); // of the opening
-        program.click("Form2/Option1");
-        EXPECT_EQ(rows(program, loans), std::vector<std::string>{"|||||||"});
-        program.click("Form2/Option2");
-        EXPECT_EQ(program.text("Form2/Label11"),
-                  "当前借出总额为：2000.50元 ，已还金额为：1995.50 元，目前余额为5.00 元");
+        EXPECT_EQ(program.caption(loans::Page), "借出表");
+        EXPECT_EQ(program.cell(loans::Grid, 0, 3), "借出金额");
+        EXPECT_EQ(program.text(loans::Total), "当前借出总额为：0.00元"); // of the opening
+        program.click(loans::Borrowed);
+        EXPECT_EQ(rows(program, loans::Grid), std::vector<std::string>{"|||||||"});
+        program.click(loans::Lent);
+        EXPECT_EQ(program.text(loans::Total), "当前借出总额为：2000.50元 ，已还金额为：1995.50 元，目前余额为5.00 元");
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select * from jcb"),
@@ -92,10 +89,10 @@ TEST(Loans, MoneyLentShowsWhatIsRepaidAndWhatIsLeft) {
 
     Program program(folder);
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label35"), "2000.50元");
-    program.click("Form2/Label1");
-    EXPECT_EQ(rows(program, loans), (std::vector<std::string>{"现金|2024-11-2|800|795|5|王青|李禾|买书",
-                                                              "建行|2024-11-9|1200.5|1200.5|0|王青|赵田|学费"}));
+    EXPECT_EQ(program.text(desktop::Lent), "2000.50元");
+    program.click(pages::Loans);
+    EXPECT_EQ(rows(program, loans::Grid), (std::vector<std::string>{"现金|2024-11-2|800|795|5|王青|李禾|买书",
+                                                                    "建行|2024-11-9|1200.5|1200.5|0|王青|赵田|学费"}));
     endByCross(program);
 }
 
@@ -103,29 +100,29 @@ TEST(Loans, ABalanceTakesOneKeyAndAmountsTheCalculator) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label1");
-    program.clickCell(loans, 1, 3);
-    program.waitForKeyboard("Form9");
-    EXPECT_FALSE(program.get("Form2/tx1", "enabled").toBool());
+    program.click(pages::Loans);
+    program.clickCell(loans::Grid, 1, 3);
+    program.waitForKeyboard(forms::Calculator);
+    EXPECT_FALSE(program.get(loans::Box, "enabled").toBool());
     reckon(program, "1000+250");
-    program.clickCell(loans, 1, 4);
-    program.waitForKeyboard("Form9");
+    program.clickCell(loans::Grid, 1, 4);
+    program.waitForKeyboard(forms::Calculator);
     program.type("250");
-    program.close("Form9"); // by its window button, which hands the number over as Enter does
-    program.waitForKeyboard("Form2");
+    program.close(forms::Calculator); // by its window button, which hands the number over as Enter does
+    program.waitForKeyboard(forms::Main);
     program.key("Return");
-    EXPECT_FALSE(program.get("Form2/tx1", "enabled").toBool()); // Enter has reached the balance
+    EXPECT_FALSE(program.get(loans::Box, "enabled").toBool()); // Enter has reached the balance
     program.type("1000");
-    EXPECT_EQ(program.text("Form2/tx1"), "");
+    EXPECT_EQ(program.text(loans::Box), "");
 
-    program.click("Form2/tx1"); // the closed box goes, and the cell can be clicked
-    EXPECT_FALSE(program.shows("Form2/tx1"));
-    program.clickCell(loans, 1, 5);
+    program.click(loans::Box); // the closed box goes, and the cell can be clicked
+    EXPECT_FALSE(program.shows(loans::Box));
+    program.clickCell(loans::Grid, 1, 5);
     program.type("1000");
-    EXPECT_EQ(program.text("Form2/tx1"), "1");
-    waitForRows(program, loans, {"||1250|250||||"});
-    program.click("Form2", bareTitle);
-    waitForRows(program, loans, {"||1250|250|1|||"});
+    EXPECT_EQ(program.text(loans::Box), "1");
+    waitForRows(program, loans::Grid, {"||1250|250||||"});
+    program.click(forms::Main, bareTitle);
+    waitForRows(program, loans::Grid, {"||1250|250|1|||"});
     endByCross(program);
 }
 
@@ -134,17 +131,17 @@ TEST(Loans, TheFirstLoanDeletedLeavesABlankRowThatHasToBeFilled) {
     Program program(folder);
     signIn(program);
     lendTwice(program);
-    program.clickCell(loans, 1, 1);
-    remove(program, "Form2/Command2", "取消");
-    EXPECT_EQ(program.cell(loans, 1, 1), "现金");
-    remove(program, "Form2/Command2");
-    waitForRows(program, loans, {"|||||||", "建行|2024-11-9|1200.5|1200.5|0|王青|赵田|学费"});
+    program.clickCell(loans::Grid, 1, 1);
+    remove(program, loans::Remove, "取消");
+    EXPECT_EQ(program.cell(loans::Grid, 1, 1), "现金");
+    remove(program, loans::Remove);
+    waitForRows(program, loans::Grid, {"|||||||", "建行|2024-11-9|1200.5|1200.5|0|王青|赵田|学费"});
     EXPECT_EQ(folder.rows("select 账户, 区别 from jcb"), std::vector<std::string>{"建行|2"});
 
-    saveInVain(program, saving);
+    saveInVain(program, loans::Save);
     EXPECT_EQ(folder.rows("select 账户, 区别 from jcb"), std::vector<std::string>{"建行|2"});
     enterLoan(program, 1, {"工行", "2024-11-18", "60", "51", "9", "王青", "孙麦", ""});
-    save(program, saving);
+    save(program, loans::Save);
     endByCross(program);
     EXPECT_EQ(folder.rows("select 账户, 借出金额, 余额, 备注, 区别 from jcb"),
               (std::vector<std::string>{"工行|60|9||1", "建行|1200.5|0|学费|2"}));
@@ -156,17 +153,17 @@ TEST(Loans, AnAmountInWordsEndsTheProgramAndTheRowsBeforeItStay) {
         Program program(folder);
         signIn(program);
         lendTwice(program);
-        program.clickCell(loans, 2, 2);
+        program.clickCell(loans::Grid, 2, 2);
         program.key("Return");
         enter(program, "一千二");
-        program.click(saving);
+        program.click(loans::Save);
         expectErrorWindow(program, "一千二");
     }
     EXPECT_EQ(folder.rows("select 账户, 借出金额, 区别 from jcb"), std::vector<std::string>{"现金|800|1"});
 
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label1");
-    EXPECT_EQ(rows(program, loans), std::vector<std::string>{"现金|2024-11-2|800|795|5|王青|李禾|买书"});
+    program.click(pages::Loans);
+    EXPECT_EQ(rows(program, loans::Grid), std::vector<std::string>{"现金|2024-11-2|800|795|5|王青|李禾|买书"});
     endByCross(program);
 }

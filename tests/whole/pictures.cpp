@@ -15,15 +15,15 @@ QByteArray smallBitmap() {
 }
 
 void openWindow(Program& program, const std::string& entry, const std::string& window) {
-    program.click("Form2/Label7");
-    program.click("Form2/Command32");
+    program.click(pages::Settings);
+    program.click(settings::Pictures);
     program.pick(entry);
     program.waitForKeyboard(window);
 }
 
 /// The bare ground of the main window below its page, which shows nothing but the skin.
 QImage ground(Program& program, const LedgerFolder& folder) {
-    program.picture(folder.beside("window.png").toStdString(), "Form2");
+    program.picture(folder.beside("window.png").toStdString(), forms::Main);
     return QImage(folder.beside("window.png")).copy(100, 524, 600, 12);
 }
 
@@ -35,21 +35,21 @@ TEST(Pictures, ASkinIsAddedToThoseOnOffer) {
     folder.write("春天.bmp", smallBitmap());
     Program program(folder);
     signIn(program);
-    openWindow(program, "添加记账本皮肤", "Form8");
-    program.click("Form8/Command2");
+    openWindow(program, "添加记账本皮肤", forms::SkinPictures);
+    program.click(pictures::Store);
     EXPECT_EQ(program.message(),
               (Message{"Box of filename can not be empty!", "information", Message::Information, {"确定"}}));
     program.answer("确定");
 
-    program.click("Form8/Command1");
+    program.click(pictures::Browse);
     program.choose(folder.file("春天.bmp").toStdString());
-    program.waitUntil([&] { return program.text("Form8/Text1") == folder.file("春天.bmp").toStdString(); },
+    program.waitUntil([&] { return program.text(pictures::Path) == folder.file("春天.bmp").toStdString(); },
                       "the chosen name");
-    program.clearAndType("Form8/Text2", "春天");
-    program.click("Form8/Command2");
+    program.clearAndType(pictures::Called, "春天");
+    program.click(pictures::Store);
     EXPECT_EQ(program.message(), (Message{"添加成功！是否继续添加？", "添加提示", Message::Question, {"是", "否"}}));
     program.answer("否");
-    program.close("Form8");
+    program.close(forms::SkinPictures);
     endByCross(program);
     EXPECT_EQ(folder.rows("select 名称,大小,hex(皮肤) from 软件皮肤 where rowid > " + before),
               std::vector<std::string>{"春天|70|" + smallBitmap().toHex().toUpper().toStdString() + "00"});
@@ -62,29 +62,29 @@ TEST(Pictures, ASkinOfOnesOwnIsChosenKeptAndSeenAtTheNextStart) {
     {
         Program program(folder);
         signIn(program);
-        openWindow(program, "添加记账本皮肤", "Form8");
-        program.clearAndType("Form8/Text1", folder.file("春天.bmp").toStdString());
-        program.clearAndType("Form8/Text2", "春天");
-        program.click("Form8/Command2");
+        openWindow(program, "添加记账本皮肤", forms::SkinPictures);
+        program.clearAndType(pictures::Path, folder.file("春天.bmp").toStdString());
+        program.clearAndType(pictures::Called, "春天");
+        program.click(pictures::Store);
         answer(program, "添加成功！是否继续添加？", "否");
-        program.close("Form8");
-        program.waitForKeyboard("Form2");
+        program.close(forms::SkinPictures);
+        program.waitForKeyboard(forms::Main);
 
         const QImage delivered = ground(program, folder);
-        EXPECT_FALSE(program.shows("Form2/Combo2"));
-        program.click("Form2/Check10");
-        EXPECT_FALSE(program.shows("Form2/Command30"));
-        program.click("Form2/Combo2");
+        EXPECT_FALSE(program.shows(settings::Skins));
+        program.click(settings::ChangeSkin);
+        EXPECT_FALSE(program.shows(settings::KeepSkin));
+        program.click(settings::Skins);
         program.pick("春天");
-        program.waitUntil([&] { return program.shows("Form2/Command30"); }, "the button that keeps the skin");
+        program.waitUntil([&] { return program.shows(settings::KeepSkin); }, "the button that keeps the skin");
         chosen = ground(program, folder);
         EXPECT_NE(chosen, delivered);
         EXPECT_TRUE(folder.bytes("pf.jpg").startsWith(smallBitmap()));
-        program.click("Form2/Command30");
+        program.click(settings::KeepSkin);
         EXPECT_EQ(program.message(), (Message{"设置已保存", "提示", Message::Information, {"确定"}}));
         program.answer("确定");
-        EXPECT_FALSE(program.shows("Form2/Combo2"));
-        EXPECT_FALSE(program.get("Form2/Check10", "checked").toBool());
+        EXPECT_FALSE(program.shows(settings::Skins));
+        EXPECT_FALSE(program.get(settings::ChangeSkin, "checked").toBool());
         endByCross(program);
     }
     EXPECT_FALSE(folder.has("pf.jpg"));
@@ -104,9 +104,9 @@ TEST(Pictures, ASkinThatWasOnlyTriedIsGoneAtTheNextStart) {
         Program program(folder);
         signIn(program);
         delivered = ground(program, folder);
-        program.click("Form2/Label7");
-        program.click("Form2/Check10");
-        program.click("Form2/Combo2");
+        program.click(pages::Settings);
+        program.click(settings::ChangeSkin);
+        program.click(settings::Skins);
         program.pick("水墨远山");
         program.waitUntil([&] { return ground(program, folder) != delivered; }, "the skin");
         program.kill();
@@ -125,10 +125,10 @@ TEST(Pictures, ANewPictureOfTheSignInIsSeenAtTheNextStart) {
     {
         Program program(folder);
         signIn(program);
-        openWindow(program, "添加登陆图片", "Form11");
-        program.clearAndType("Form11/Text1", folder.file("新.bmp").toStdString());
-        program.clearAndType("Form11/Text2", "新");
-        program.click("Form11/Command2");
+        openWindow(program, "添加登陆图片", forms::SignInPictures);
+        program.clearAndType(pictures::Path.on(forms::SignInPictures), folder.file("新.bmp").toStdString());
+        program.clearAndType(pictures::Called.on(forms::SignInPictures), "新");
+        program.click(pictures::Store.on(forms::SignInPictures));
         answer(program, "添加成功！是否继续添加？", "否");
         endByCross(program);
     }
@@ -144,10 +144,10 @@ TEST(Pictures, AFolderIsNoPicture) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
-    openWindow(program, "添加桌面图片", "Form10");
-    program.clearAndType("Form10/Text1", folder.beside("").toStdString());
-    program.clearAndType("Form10/Text2", "夏天");
-    program.click("Form10/Command2");
+    openWindow(program, "添加桌面图片", forms::DesktopPictures);
+    program.clearAndType(pictures::Path.on(forms::DesktopPictures), folder.beside("").toStdString());
+    program.clearAndType(pictures::Called.on(forms::DesktopPictures), "夏天");
+    program.click(pictures::Store.on(forms::DesktopPictures));
     expectErrorWindow(program, "文件夹");
     EXPECT_EQ(folder.rows("select count(*) from 主界面")[0], "1");
 }

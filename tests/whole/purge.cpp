@@ -6,8 +6,8 @@ using namespace whole;
 
 namespace {
 
-const std::vector<std::string> boxes{"Form3/Check1(0)", "Form3/Check1(1)", "Form3/Check1(2)",
-                                     "Form3/Check1(3)", "Form3/Check1(5)", "Form3/Check2"};
+const std::vector<std::string> boxes{purge::Kind[0], purge::Kind[1], purge::Kind[2],
+                                     purge::Kind[3], purge::Kind[5], purge::Plans};
 /// The days of the rows in each dated table, in one row.
 const std::string days = "select (select group_concat(时间) from srb), (select group_concat(时间) from zcb), "
                          "(select group_concat(日期) from jrb), (select group_concat(日期) from jcb), "
@@ -28,14 +28,14 @@ void fillTables(const LedgerFolder& folder) {
 }
 
 void openPurge(Program& program) {
-    program.click("Form2/Label7");
-    program.click("Form2/Check3");
-    program.waitForKeyboard("Form3");
+    program.click(pages::Settings);
+    program.click(settings::Purge);
+    program.waitForKeyboard(forms::Purge);
 }
 
 /// Presses 开始删除, says yes, and reads the messages that follow.
-void purge(Program& program, const std::vector<std::string>& told) {
-    program.click("Form3/Command1");
+void startPurge(Program& program, const std::vector<std::string>& told) {
+    program.click(purge::Start);
     EXPECT_EQ(program.message(), question);
     program.answer("是");
     for (const std::string& text : told) {
@@ -53,22 +53,22 @@ TEST(Purge, WhatIsOldGoesUpToAndWithTheDayThatIsPicked) {
     {
         Program program(folder);
         signIn(program);
-        EXPECT_EQ(program.text("Form2/Label31"), "300.00元");
+        EXPECT_EQ(program.text(desktop::Income), "300.00元");
         openPurge(program);
         for (const std::string& box : boxes)
             program.click(box);
-        program.click("Form3/Text1");
+        program.click(purge::Date);
         pickDay(program, 10);
-        EXPECT_EQ(program.text("Form3/Text1"), "2024-11-10");
-        EXPECT_FALSE(program.get("Form3/Text1", "enabled").toBool());
+        EXPECT_EQ(program.text(purge::Date), "2024-11-10");
+        EXPECT_FALSE(program.get(purge::Date, "enabled").toBool());
         EXPECT_EQ(program.windows().size(), 2u); // the picker has gone
-        purge(program, {"收入记录已清空！", "支出记录已清空！", "借入记录已清空", "借出记录已清空", "预算记录已清空",
-                        "日程记录已清空"});
-        purge(program, {"当前收入记录为空！", "当前支出记录为空！", "当前借入记录为空！", "当前借出记录为空！",
-                        "当前预算记录为空！", "当前日程记录为空！"});
-        program.close("Form3");
-        EXPECT_FALSE(program.get("Form2/Check3", "checked").toBool());
-        EXPECT_EQ(program.text("Form2/Label31"), "300.00元"); // as it was at the sign-in
+        startPurge(program, {"收入记录已清空！", "支出记录已清空！", "借入记录已清空", "借出记录已清空",
+                             "预算记录已清空", "日程记录已清空"});
+        startPurge(program, {"当前收入记录为空！", "当前支出记录为空！", "当前借入记录为空！", "当前借出记录为空！",
+                             "当前预算记录为空！", "当前日程记录为空！"});
+        program.close(forms::Purge);
+        EXPECT_FALSE(program.get(settings::Purge, "checked").toBool());
+        EXPECT_EQ(program.text(desktop::Income), "300.00元"); // as it was at the sign-in
         endByCross(program);
     }
     EXPECT_EQ(folder.rows(days),
@@ -77,7 +77,7 @@ TEST(Purge, WhatIsOldGoesUpToAndWithTheDayThatIsPicked) {
 
     Program program(folder);
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label31"), "100.00元");
+    EXPECT_EQ(program.text(desktop::Income), "100.00元");
     endByCross(program);
 }
 
@@ -87,18 +87,18 @@ TEST(Purge, AccountsGoAltogetherAndNeedNoDate) {
     Program program(folder);
     signIn(program);
     openPurge(program);
-    program.click("Form3/Check1(0)");
-    program.click("Form3/Check1(4)");
-    EXPECT_FALSE(program.shows("Form3/Text1"));
-    program.click("Form3/Command1");
+    program.click(purge::Kind[0]);
+    program.click(purge::Kind[4]);
+    EXPECT_FALSE(program.shows(purge::Date));
+    program.click(purge::Start);
     program.answer("否");
     EXPECT_FALSE(program.showsMessage());
-    purge(program, {"请选择日期！", "账户记录已清空"});
-    program.click("Form3/Check1(4)");
-    EXPECT_TRUE(program.shows("Form3/Text1"));
-    EXPECT_EQ(program.text("Form3/Text1"), "");
-    program.click("Form2/Label24");
-    EXPECT_EQ(program.windows(), std::vector<std::string>{"Form2"});
+    startPurge(program, {"请选择日期！", "账户记录已清空"});
+    program.click(purge::Kind[4]);
+    EXPECT_TRUE(program.shows(purge::Date));
+    EXPECT_EQ(program.text(purge::Date), "");
+    program.click(pages::Desktop);
+    EXPECT_EQ(program.windows(), std::vector<std::string>{forms::Main});
     endByCross(program);
     EXPECT_EQ(folder.rows("select (select count(*) from zhb), (select count(*) from srb)"),
               std::vector<std::string>{"0|3"});
@@ -111,11 +111,11 @@ TEST(Purge, ADateThatIsNoneIsToldAndNothingIsLost) {
     Program program(folder);
     signIn(program);
     openPurge(program);
-    program.click("Form3/Check1(0)");
-    program.click("Form3/Text1");
-    program.waitFor("Form1");
+    program.click(purge::Kind[0]);
+    program.click(purge::Date);
+    program.waitFor(forms::DatePicker);
     program.type("abc'");
-    program.click("Form3/Command1");
+    program.click(purge::Start);
     program.answer("是");
     expectErrorWindow(program, "“abc'”不是日期，日期应写成 2024-5-3 的样子");
     EXPECT_EQ(folder.rows(days), before);

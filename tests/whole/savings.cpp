@@ -6,12 +6,10 @@ using namespace whole;
 
 namespace {
 
-const std::string accounts = "Form2/ms7", saving = "Form2/Command21";
-
 /// Walks along an account's row: the starting amount is reckoned, the others are typed and left with Enter.
 void walk(Program& program, int row, const std::string& name, const std::string& start,
           const std::vector<std::string>& amounts) {
-    fillCell(program, accounts, row, 1, name);
+    fillCell(program, accounts::Grid, row, 1, name);
     reckon(program, start);
     program.key("Return");
     for (const std::string& amount : amounts)
@@ -25,19 +23,20 @@ TEST(Savings, AWalkAlongTheRowReckonsTheBalance) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label6");
-        addInVain(program, "Form2/Command19");
+        program.click(pages::Accounts);
+        addInVain(program, accounts::Add);
         walk(program, 1, "工资卡", "800+200", {"300", "100", "0", "0", "60.5", "10"});
-        EXPECT_EQ(program.cell(accounts, 1, 9), " 1250.5");
-        EXPECT_FALSE(program.get("Form2/tx7", "enabled").toBool()); // Enter has reached the balance
-        fillCell(program, accounts, 1, 10, "每月发");
-        EXPECT_FALSE(program.shows("Form2/tx7"));
-        waitForRows(program, accounts, {"工资卡|1000|300|100|0|0|60.5|10| 1250.5|每月发"});
-        save(program, saving);
-        program.click("Form2/Label5");
-        EXPECT_FALSE(program.shows("Form2/frame9"));
-        program.click("Form2/Label6");
-        EXPECT_EQ(rows(program, accounts), std::vector<std::string>{"工资卡|1000|300|100|0|0|60.5|10|1250.5|每月发"});
+        EXPECT_EQ(program.cell(accounts::Grid, 1, 9), " 1250.5");
+        EXPECT_FALSE(program.get(accounts::Box, "enabled").toBool()); // Enter has reached the balance
+        fillCell(program, accounts::Grid, 1, 10, "每月发");
+        EXPECT_FALSE(program.shows(accounts::Box));
+        waitForRows(program, accounts::Grid, {"工资卡|1000|300|100|0|0|60.5|10| 1250.5|每月发"});
+        save(program, accounts::Save);
+        program.click(pages::Budget);
+        EXPECT_FALSE(program.shows(accounts::Page));
+        program.click(pages::Accounts);
+        EXPECT_EQ(rows(program, accounts::Grid),
+                  std::vector<std::string>{"工资卡|1000|300|100|0|0|60.5|10|1250.5|每月发"});
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select * from zhb"),
@@ -45,8 +44,8 @@ TEST(Savings, AWalkAlongTheRowReckonsTheBalance) {
 
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label6");
-    EXPECT_EQ(rows(program, accounts), std::vector<std::string>{"工资卡|1000|300|100|0|0|60.5|10|1250.5|每月发"});
+    program.click(pages::Accounts);
+    EXPECT_EQ(rows(program, accounts::Grid), std::vector<std::string>{"工资卡|1000|300|100|0|0|60.5|10|1250.5|每月发"});
     endByCross(program);
 }
 
@@ -54,21 +53,21 @@ TEST(Savings, LeavingAFilledAmountAgainCountsItTwiceUntilTheStartIsLeftAgain) {
     const LedgerFolder folder;
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label6");
+    program.click(pages::Accounts);
     walk(program, 1, "存折", "100", {"20"});
-    EXPECT_EQ(program.cell(accounts, 1, 9), " 120");
+    EXPECT_EQ(program.cell(accounts::Grid, 1, 9), " 120");
 
-    program.clickCell(accounts, 1, 3);
+    program.clickCell(accounts::Grid, 1, 3);
     reckon(program, "20");
     program.key("Return");
-    program.waitUntil([&] { return program.cell(accounts, 1, 9) == " 140"; }, "the balance counted twice");
-    program.clickCell(accounts, 1, 2);
+    program.waitUntil([&] { return program.cell(accounts::Grid, 1, 9) == " 140"; }, "the balance counted twice");
+    program.clickCell(accounts::Grid, 1, 2);
     reckon(program, "100");
     program.key("Return");
     enter(program, "20");
     enter(program, "150");
-    EXPECT_EQ(program.cell(accounts, 1, 9), "-30");
-    saveInVain(program, saving);
+    EXPECT_EQ(program.cell(accounts::Grid, 1, 9), "-30");
+    saveInVain(program, accounts::Save);
     EXPECT_EQ(folder.rows("select count(*) from zhb"), std::vector<std::string>{"0"});
     endByCross(program);
 }
@@ -80,18 +79,18 @@ TEST(Savings, AnAccountDeletedIsGoneAtOnceAndOneThatWasNotSavedOnlyFromTheList) 
                    "('存折', 200, 0, 0, 0, 0, 0, 0, 200, '', 2)");
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label6");
-    program.clickCell(accounts, 2, 1);
-    program.click("Form2/Command19");
-    fillCell(program, accounts, 3, 1, "零钱");
-    program.waitForKeyboard("Form9"); // Enter has come to the starting amount
-    remove(program, "Form2/Command20");
-    program.waitUntil([&] { return rows(program, accounts).size() == 2; }, "the row to go");
+    program.click(pages::Accounts);
+    program.clickCell(accounts::Grid, 2, 1);
+    program.click(accounts::Add);
+    fillCell(program, accounts::Grid, 3, 1, "零钱");
+    program.waitForKeyboard(forms::Calculator); // Enter has come to the starting amount
+    remove(program, accounts::Remove);
+    program.waitUntil([&] { return rows(program, accounts::Grid).size() == 2; }, "the row to go");
     EXPECT_EQ(folder.rows("select 账户名称 from zhb"), (std::vector<std::string>{"工资卡", "存折"}));
 
-    program.clickCell(accounts, 1, 1);
-    remove(program, "Form2/Command20");
-    waitForRows(program, accounts, {"存折|200|0|0|0|0|0|0|200|"});
+    program.clickCell(accounts::Grid, 1, 1);
+    remove(program, accounts::Remove);
+    waitForRows(program, accounts::Grid, {"存折|200|0|0|0|0|0|0|200|"});
     EXPECT_EQ(folder.rows("select 账户名称, 区别 from zhb"), std::vector<std::string>{"存折|2"});
     endByCross(program);
 }
@@ -103,18 +102,18 @@ TEST(Savings, AnAmountWithItsUnitEndsTheProgramAndTheRowsBeforeItStay) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label6");
-        program.clickCell(accounts, 1, 1);
-        program.click("Form2/Command19");
+        program.click(pages::Accounts);
+        program.clickCell(accounts::Grid, 1, 1);
+        program.click(accounts::Add);
         walk(program, 2, "存折", "200", {"50元", "0", "0", "0", "0", "0"});
-        EXPECT_EQ(program.cell(accounts, 2, 9), " 250"); // the balance takes the leading number
-        program.click(saving);
+        EXPECT_EQ(program.cell(accounts::Grid, 2, 9), " 250"); // the balance takes the leading number
+        program.click(accounts::Save);
         expectErrorWindow(program, "50元");
     }
     EXPECT_EQ(folder.rows("select 账户名称, 余额 from zhb"), std::vector<std::string>{"工资卡|1000"});
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label6");
-    EXPECT_EQ(rows(program, accounts), std::vector<std::string>{"工资卡|1000|0|0|0|0|0|0|1000|"});
+    program.click(pages::Accounts);
+    EXPECT_EQ(rows(program, accounts::Grid), std::vector<std::string>{"工资卡|1000|0|0|0|0|0|0|1000|"});
     endByCross(program);
 }

@@ -27,12 +27,12 @@ void press(Program& program, const std::string& box, const Message& expected, co
 
 /// Signs in where the program goes into the tray at once, and comes back by its icon.
 void signInThroughTray(Program& program) {
-    program.click("Form5/Label1");
+    program.click(sign_in::Enter);
     program.waitFor(trayIcon);
-    program.waitUntil([&] { return !program.shows("Form2"); }, "the main window to go");
+    program.waitUntil([&] { return !program.shows(forms::Main); }, "the main window to go");
     program.look();
     program.click(trayIcon);
-    program.waitFor("Form2");
+    program.waitFor(forms::Main);
 }
 
 } // namespace
@@ -42,24 +42,24 @@ TEST(Settings, TheTrayStaysChosenUntilItIsUnticked) {
     {
         Program program(folder);
         signIn(program);
-        program.click("Form2/Label7");
-        EXPECT_FALSE(ticked(program, "Form2/Check7"));
-        press(program, "Form2/Check7", traySet, "确定");
+        program.click(pages::Settings);
+        EXPECT_FALSE(ticked(program, settings::ToTray));
+        press(program, settings::ToTray, traySet, "确定");
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select * from systuopanb"), std::vector<std::string>{"1"});
     {
         Program program(folder);
         signInThroughTray(program);
-        program.click("Form2/Label7");
-        EXPECT_TRUE(ticked(program, "Form2/Check7"));
-        press(program, "Form2/Check7", traySet, "确定");
+        program.click(pages::Settings);
+        EXPECT_TRUE(ticked(program, settings::ToTray));
+        press(program, settings::ToTray, traySet, "确定");
         endByCross(program);
     }
     Program program(folder);
     signIn(program);
-    program.click("Form2/Label7");
-    EXPECT_FALSE(ticked(program, "Form2/Check7"));
+    program.click(pages::Settings);
+    EXPECT_FALSE(ticked(program, settings::ToTray));
     endByCross(program);
 }
 
@@ -70,19 +70,19 @@ TEST(Settings, TheDiaryIsWipedOnceItIsConfirmed) {
     signIn(program);
     for (const char* file : {"mydiary/秋收.dll", "mydiary/卖粮.dll"})
         folder.write(file, "abc\r\n");
-    program.click("Form2/Label7");
-    press(program, "Form2/Check2", wipeQuestion, "取消");
-    EXPECT_FALSE(ticked(program, "Form2/Check2"));
+    program.click(pages::Settings);
+    press(program, settings::WipeDiary, wipeQuestion, "取消");
+    EXPECT_FALSE(ticked(program, settings::WipeDiary));
     EXPECT_TRUE(folder.has("mydiary/秋收.dll"));
     EXPECT_EQ(folder.rows("select count(*) from rjb"), std::vector<std::string>{"2"});
 
-    press(program, "Form2/Check2", wipeQuestion, "确定");
+    press(program, settings::WipeDiary, wipeQuestion, "确定");
     EXPECT_EQ(program.message(), wiped);
     program.answer("确定");
-    EXPECT_TRUE(ticked(program, "Form2/Check2"));
-    program.click("Form2/Label8");
-    program.click("Form2/Option5");
-    EXPECT_EQ(rows(program, "Form2/ms8"), std::vector<std::string>{"|"});
+    EXPECT_TRUE(ticked(program, settings::WipeDiary));
+    program.click(pages::Diary);
+    program.click(diary_page::Find);
+    EXPECT_EQ(rows(program, diary_page::Grid), std::vector<std::string>{"|"});
     endByCross(program);
     EXPECT_TRUE(folder.rows("select * from rjb").empty());
     EXPECT_FALSE(folder.has("mydiary/秋收.dll"));
@@ -105,15 +105,15 @@ TEST(Settings, InitialisingEmptiesTheLedgersAndKeepsUsersAndCategories) {
         Program program(folder);
         signIn(program);
         folder.write("mydiary/秋收.dll", "abc\r\n");
-        program.click("Form2/Label7");
-        press(program, "Form2/Check4", initialiseQuestion, "否");
-        EXPECT_FALSE(ticked(program, "Form2/Check4"));
+        program.click(pages::Settings);
+        press(program, settings::Initialise, initialiseQuestion, "否");
+        EXPECT_FALSE(ticked(program, settings::Initialise));
         EXPECT_EQ(folder.rows(ledgers), std::vector<std::string>{"4"});
-        press(program, "Form2/Check4", initialiseQuestion, "是");
+        press(program, settings::Initialise, initialiseQuestion, "是");
         EXPECT_EQ(program.message(), initialised);
         EXPECT_EQ(folder.rows(ledgers), std::vector<std::string>{"0"});
         program.answer("确定");
-        EXPECT_TRUE(ticked(program, "Form2/Check4"));
+        EXPECT_TRUE(ticked(program, settings::Initialise));
         endByCross(program);
     }
     EXPECT_EQ(folder.rows(kept), keptBefore);
@@ -121,6 +121,6 @@ TEST(Settings, InitialisingEmptiesTheLedgersAndKeepsUsersAndCategories) {
 
     Program program(folder);
     signIn(program);
-    EXPECT_EQ(program.text("Form2/Label31"), "0.00元");
+    EXPECT_EQ(program.text(desktop::Income), "0.00元");
     endByCross(program);
 }

@@ -26,17 +26,17 @@ void fillLedger(const LedgerFolder& folder) {
 
 void openLedger(Program& program) {
     signIn(program);
-    program.click("Form2/Label2(0)");
+    program.click(pages::Income);
 }
 
 /// How long a save of the table takes, in ms.
 int savingTakes(const LedgerFolder& folder) {
     Program program(folder);
     openLedger(program);
-    program.shows("Form2");
+    program.shows(forms::Main);
     QElapsedTimer timer;
     timer.start();
-    program.click("Form2/Command6");
+    program.click(income::Save);
     program.message();
     return static_cast<int>(timer.elapsed());
 }
@@ -55,8 +55,8 @@ TEST(SuddenEnd, ASaveIsDoneOrWasNeverBegun) {
         {
             Program program(folder);
             openLedger(program);
-            program.shows("Form2");
-            program.click("Form2/Command6");
+            program.shows(forms::Main);
+            program.click(income::Save);
             QThread::usleep(QRandomGenerator::global()->bounded(static_cast<quint32>(saving) * 1000));
             program.kill();
         }

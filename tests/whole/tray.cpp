@@ -22,10 +22,10 @@ void comeBack(Program& program) {
     std::this_thread::sleep_for(std::chrono::seconds(1));
     for (int i = 0; i < 3; ++i) {
         program.click(trayIcon);
-        program.waitFor("Form2");
+        program.waitFor(forms::Main);
         program.look();
         std::this_thread::sleep_for(std::chrono::seconds(1));
-        if (program.shows("Form2"))
+        if (program.shows(forms::Main))
             return;
     }
 }
@@ -36,7 +36,7 @@ void pressIcon(Program& program, Button button) {
 }
 
 void waitUntilGone(Program& program) {
-    program.waitUntil([&] { return !program.shows("Form2"); }, "the main window to go");
+    program.waitUntil([&] { return !program.shows(forms::Main); }, "the main window to go");
 }
 
 } // namespace
@@ -45,15 +45,15 @@ TEST(Tray, AStartIntoTheTrayWaitsThereForAClick) {
     const LedgerFolder folder;
     startInTray(folder);
     Program program(folder);
-    program.click("Form5/Label1");
+    program.click(sign_in::Enter);
     program.waitFor(trayIcon);
     waitUntilGone(program);
     EXPECT_TRUE(program.running());
 
     program.click(trayIcon);
-    program.waitFor("Form2");
-    program.click("Form2/Label2(0)");
-    EXPECT_EQ(program.caption("Form2/Frame2"), "收入记录");
+    program.waitFor(forms::Main);
+    program.click(pages::Income);
+    EXPECT_EQ(program.caption(income::Page), "收入记录");
     endByCross(program);
 }
 
@@ -61,13 +61,13 @@ TEST(Tray, MinimisingGoesThereAndAClickComesBackEachTime) {
     const LedgerFolder folder;
     startInTray(folder);
     Program program(folder);
-    program.click("Form5/Label1");
+    program.click(sign_in::Enter);
     for (int i = 0; i < 3; ++i) {
         program.waitFor(trayIcon);
         waitUntilGone(program);
         program.look();
         comeBack(program);
-        program.click("Form2/Image4");
+        program.click(title::Minimise);
     }
     waitUntilGone(program);
     EXPECT_TRUE(program.running());
@@ -77,18 +77,18 @@ TEST(Tray, OnlyTheLeftButtonOnTheIconBringsTheWindowBack) {
     const LedgerFolder folder;
     startInTray(folder);
     Program program(folder);
-    program.click("Form5/Label1");
+    program.click(sign_in::Enter);
     program.waitFor(trayIcon);
     waitUntilGone(program);
     program.look();
     for (const Button button : {Button::Right, Button::Middle}) {
         pressIcon(program, button);
         program.look();
-        EXPECT_FALSE(program.shows("Form2")) << static_cast<int>(button);
+        EXPECT_FALSE(program.shows(forms::Main)) << static_cast<int>(button);
     }
     pressIcon(program, Button::Left);
-    program.waitFor("Form2");
-    program.waitForKeyboard("Form2");
+    program.waitFor(forms::Main);
+    program.waitForKeyboard(forms::Main);
     endByCross(program);
 }
 
@@ -96,20 +96,20 @@ TEST(Tray, AClickOnTheIconBringsACoveredWindowToTheFront) {
     const LedgerFolder folder, neighbour;
     startInTray(folder);
     Program program(folder);
-    program.click("Form5/Label1");
+    program.click(sign_in::Enter);
     program.waitFor(trayIcon);
     waitUntilGone(program);
     comeBack(program);
     Program other(neighbour);
     signIn(other);
     other.look(); // the window has found its place
-    const QPoint income = program.place("Form2/Label2(0)").center();
-    ASSERT_TRUE(other.place("Form2").contains(income));
+    const QPoint income = program.place(pages::Income).center();
+    ASSERT_TRUE(other.place(forms::Main).contains(income));
 
     pressIcon(program, Button::Left);
-    program.waitForKeyboard("Form2");
+    program.waitForKeyboard(forms::Main);
     display_pointer::click(income);
-    program.waitUntil([&] { return program.shows("Form2/Frame2"); }, "the income");
-    EXPECT_TRUE(other.shows("Form2/Frame13"));
+    program.waitUntil([&] { return program.shows(income::Page); }, "the income");
+    EXPECT_TRUE(other.shows(desktop::Page));
     endByCross(program);
 }

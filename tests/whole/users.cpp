@@ -6,13 +6,11 @@ using namespace whole;
 
 namespace {
 
-const std::string users = "Form2/ms5", adding = "Form2/Command13", deleting = "Form2/Command14",
-                  saving = "Form2/Command15";
 const Message gap{"为了保存信息的完整性，\r\n记录内容不能为空！", "输入提示", Message::Information, {"确定"}};
 
 void openUsers(Program& program) {
-    program.click("Form2/Label4");
-    EXPECT_TRUE(program.shows("Form2/Frame7"));
+    program.click(pages::Users);
+    EXPECT_TRUE(program.shows(users::Page));
 }
 
 } // namespace
@@ -23,18 +21,18 @@ TEST(Users, ANewUserSignsInFromTheNextStartOn) {
         Program program(folder);
         signIn(program);
         openUsers(program);
-        EXPECT_EQ(rows(program, users), std::vector<std::string>{"管理员|123456"});
-        program.click(adding);
-        addInVain(program, adding);
-        fillCell(program, users, 2, 1, "小满");
-        program.click(saving);
+        EXPECT_EQ(rows(program, users::Grid), std::vector<std::string>{"管理员|123456"});
+        program.click(users::Add);
+        addInVain(program, users::Add);
+        fillCell(program, users::Grid, 2, 1, "小满");
+        program.click(users::Save);
         EXPECT_EQ(program.message(), gap);
         program.answer("确定");
         EXPECT_EQ(folder.rows("select 用户名 from yhb"), std::vector<std::string>{"管理员"});
-        program.click("Form2/tx5"); // which stands over the password
+        program.click(users::Box); // which stands over the password
         enter(program, "Mi hua'08");
-        EXPECT_FALSE(program.shows("Form2/tx5"));
-        save(program, saving);
+        EXPECT_FALSE(program.shows(users::Box));
+        save(program, users::Save);
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select * from yhb"), (std::vector<std::string>{"管理员|123456|1", "小满|Mi hua'08|2"}));
@@ -44,13 +42,13 @@ TEST(Users, ANewUserSignsInFromTheNextStartOn) {
         signInAs(program, "小满", "mi hua'08");
         answer(program, "密码错误，请重新输入密码");
         signInAs(program, "小满", "Mi hua'08");
-        program.waitForKeyboard("Form2");
+        program.waitForKeyboard(forms::Main);
         openUsers(program);
-        EXPECT_EQ(rows(program, users), (std::vector<std::string>{"管理员|123456", "小满|Mi hua'08"}));
-        program.clickCell(users, 1, 1);
-        remove(program, deleting, "取消");
-        remove(program, deleting);
-        waitForRows(program, users, {"小满|Mi hua'08"});
+        EXPECT_EQ(rows(program, users::Grid), (std::vector<std::string>{"管理员|123456", "小满|Mi hua'08"}));
+        program.clickCell(users::Grid, 1, 1);
+        remove(program, users::Remove, "取消");
+        remove(program, users::Remove);
+        waitForRows(program, users::Grid, {"小满|Mi hua'08"});
         endByCross(program);
     }
     EXPECT_EQ(folder.rows("select 用户名 from yhb"), std::vector<std::string>{"小满"}); // without any save
@@ -59,7 +57,7 @@ TEST(Users, ANewUserSignsInFromTheNextStartOn) {
     signInAs(program, "管理员", "123456");
     answer(program, "用户名不存在，请重新登陆！");
     signInAs(program, "小满", "Mi hua'08");
-    program.waitForKeyboard("Form2");
+    program.waitForKeyboard(forms::Main);
     endByCross(program);
 }
 
@@ -69,17 +67,17 @@ TEST(Users, WhenTheLastOneIsDeletedNobodyIsOfferedAtTheDoor) {
         Program program(folder);
         signIn(program);
         openUsers(program);
-        remove(program, deleting);
-        EXPECT_EQ(rows(program, users), std::vector<std::string>{"|"});
-        program.click(saving);
+        remove(program, users::Remove);
+        EXPECT_EQ(rows(program, users::Grid), std::vector<std::string>{"|"});
+        program.click(users::Save);
         EXPECT_EQ(program.message(), gap);
         program.answer("确定");
         endByCross(program);
     }
     EXPECT_TRUE(folder.rows("select * from yhb").empty());
     Program program(folder);
-    EXPECT_EQ(program.get("Form5/Combo1", "count").toInt(), 0);
-    program.click("Form5/Label1"); // the remembered name
+    EXPECT_EQ(program.get(sign_in::User, "count").toInt(), 0);
+    program.click(sign_in::Enter); // the remembered name
     answer(program, "用户名不存在，请重新登陆！", "取消");
     EXPECT_EQ(program.exitCode(), 0);
 }
