@@ -1,5 +1,6 @@
 #include "analysis/chart_layout.h"
 
+#include "runtime/money.h"
 #include "runtime/number_format.h"
 #include "runtime/number_text.h"
 
@@ -136,8 +137,8 @@ double ChartLayout::lineY(int index) const {
 }
 
 const QString& ChartLayout::unit() {
-    static const QString yuan = u"元"_s;
-    return yuan;
+    static const QString Yuan = money::Sign.toString();
+    return Yuan;
 }
 
 QRectF ChartLayout::axisBox(double y, const QString& words) const {

@@ -107,40 +107,40 @@ void ChartsPage::Form2_Label12_Click() {
 }
 
 void ChartsPage::Form2_Option10_Click() {
-    static constexpr QueryChart accounts{&ChartsPage::Option10, u"select 账户名称,余额 from zhb"};
-    show(accounts);
+    static constexpr QueryChart Shown{&ChartsPage::Option10, u"select 账户名称,余额 from zhb"};
+    show(Shown);
 }
 
 void ChartsPage::Form2_Option11_Click() {
-    static constexpr MonthChart income{&ChartsPage::Option11,
-                                       u"select 时间,金额 from srb",
-                                       u"nsrb",
-                                       {},
-                                       u"select 时间,sum(金额)as 金额 from nsrb group by 时间",
-                                       true};
-    show(income);
+    static constexpr MonthChart Shown{&ChartsPage::Option11,
+                                      u"select 时间,金额 from srb",
+                                      u"nsrb",
+                                      {},
+                                      u"select 时间,sum(金额)as 金额 from nsrb group by 时间",
+                                      true};
+    show(Shown);
 }
 
 void ChartsPage::Form2_Option12_Click() {
-    static constexpr MonthChart expense{&ChartsPage::Option12,
-                                        u"select 时间,金额 from zcb",
-                                        u" nzcb",
-                                        u"nzcb",
-                                        u"select 时间,sum(金额)as 金额 from nzcb group by 时间",
-                                        false};
-    show(expense);
+    static constexpr MonthChart Shown{&ChartsPage::Option12,
+                                      u"select 时间,金额 from zcb",
+                                      u" nzcb",
+                                      u"nzcb",
+                                      u"select 时间,sum(金额)as 金额 from nzcb group by 时间",
+                                      false};
+    show(Shown);
 }
 
 void ChartsPage::Form2_Option13_Click() {
-    static constexpr QueryChart income{&ChartsPage::Option13, u"select 项目,sum(金额) as 总金额 from srb group by 项目",
-                                       Income};
-    show(income);
+    static constexpr QueryChart Shown{&ChartsPage::Option13, u"select 项目,sum(金额) as 总金额 from srb group by 项目",
+                                      Income};
+    show(Shown);
 }
 
 void ChartsPage::Form2_Option15_Click() {
-    static constexpr QueryChart expense{&ChartsPage::Option15,
-                                        u"select 项目,sum(金额) as 总金额 from zcb group by 项目", Expense};
-    show(expense);
+    static constexpr QueryChart Shown{&ChartsPage::Option15, u"select 项目,sum(金额) as 总金额 from zcb group by 项目",
+                                      Expense};
+    show(Shown);
 }
 
 void ChartsPage::show(const QueryChart& chart) {

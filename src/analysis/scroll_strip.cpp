@@ -9,12 +9,12 @@
 namespace qinghe {
 
 void ScrollStrip::paintEvent(QPaintEvent*) {
-    constexpr QColor groove = colour::fromRgb(0xF1F5EC);
+    constexpr QColor Groove = colour::fromRgb(0xF1F5EC);
     QStyleOptionSlider option;
     initStyleOption(&option);
     const QRect thumb = style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
     QPainter painter(this);
-    paintPanel(painter, rect(), height() / 2.0, groove, {}, 0);
+    paintPanel(painter, rect(), height() / 2.0, Groove, {}, 0);
     const bool marked = isSliderDown() || parentWidget()->hasFocus();
     paintPanel(painter, thumb.adjusted(0, 1, 0, -1), height() / 2.0 - 1, marked ? colour::Ctl : colour::Thumb, {}, 0);
 }

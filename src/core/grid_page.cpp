@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 GridPage::GridPage(MainWindow& window, const Traits& differences)
     : Page(window.navigation(), differences.page),
-      traits(differences),
-      quirks(differences.quirks),
+      m_traits(differences),
+      m_quirks(differences.quirks),
       m_window(window),
       m_shared(window.shared()),
       Adodc1(*window.Adodc1),
@@ -39,17 +39,17 @@ void GridPage::bindEvents() {
 }
 
 void GridPage::frameClicked() {
-    if (!quirks.frameClickLeavesTools)
+    if (!m_quirks.frameClickLeavesTools)
         m_shared.unloadPickers();
     m_editing.close();
 }
 
 void GridPage::formClicked() {
-    const bool reached = quirks.formClickReachesHidden ? m_grid->isEnabled() && m_grid->Visible() : m_frame.Visible();
+    const bool reached = m_quirks.formClickReachesHidden ? m_grid->isEnabled() && m_grid->Visible() : m_frame.Visible();
     if (!reached)
         return;
     m_editing.commitAndClose();
-    if (quirks.formClickTakesKeyboard)
+    if (m_quirks.formClickTakesKeyboard)
         m_grid->takeFocus();
 }
 
@@ -58,10 +58,10 @@ void GridPage::formClicked() {
 void GridPage::open(PageCode code) {
     navigation().leaveOthers(*this, code);
     m_editing.close();
-    if (quirks.loadsBeforeShown)
+    if (m_quirks.loadsBeforeShown)
         loadTable();
     navigation().bringForward(*this);
-    if (!quirks.loadsBeforeShown)
+    if (!m_quirks.loadsBeforeShown)
         loadTable();
 }
 
@@ -71,7 +71,7 @@ void GridPage::loadTable() {
     layColumns();
     startRows(*m_grid);
     fillList(*m_grid, records, shownFields(list().columns),
-             [this] { return quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row(); });
+             [this] { return m_quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row(); });
 }
 
 Recordset& GridPage::load(QStringView source) {
@@ -111,12 +111,12 @@ QPointF GridPage::toolPlace() const {
 }
 
 void GridPage::openDatePicker() {
-    m_shared.openDatePicker(traits.dateField, {m_editing.box, m_grid}, toolPlace());
+    m_shared.openDatePicker(m_traits.dateField, {m_editing.box, m_grid}, toolPlace());
 }
 
 void GridPage::openCalculator() {
     m_editing.box->setUsable(false);
-    m_shared.openCalculator(traits.amountField, {m_editing.box, m_grid}, toolPlace());
+    m_shared.openCalculator(m_traits.amountField, {m_editing.box, m_grid}, toolPlace());
 }
 
 void GridPage::cellClicked() {
@@ -185,14 +185,14 @@ void GridPage::layBox() {
             m_editing.box->setUsable(true);
         m_shared.forms.unload(names::Calculator);
     }
-    if (kindOf(column) == Kind::Date && !quirks.enterOpensNoPicker)
+    if (kindOf(column) == Kind::Date && !m_quirks.enterOpensNoPicker)
         openDatePicker();
     else
         m_shared.unloadDatePicker();
 }
 
 bool GridPage::opensCalculatorOnEnter(int column) const {
-    switch (quirks.calculatorOnEnter) {
+    switch (m_quirks.calculatorOnEnter) {
     case CalculatorOnEnter::EveryAmount:
         return kindOf(column) == Kind::Amount;
     case CalculatorOnEnter::FirstAmount:
@@ -207,13 +207,13 @@ bool GridPage::opensCalculatorOnEnter(int column) const {
 
 void GridPage::addRow() {
     m_shared.unloadPickers();
-    if (quirks.addCommitsBox) {
+    if (m_quirks.addCommitsBox) {
         m_editing.commitTyped();
         m_editing.box->setBoxText({});
     } else {
         m_grid->setRow(m_grid->Rows() - 1);
     }
-    if (isRowBlank(*m_grid, quirks.addTestsCurrentRow ? m_grid->Row() : m_grid->Rows() - 1)) {
+    if (isRowBlank(*m_grid, m_quirks.addTestsCurrentRow ? m_grid->Row() : m_grid->Rows() - 1)) {
         tellOfBlankRow(m_shared);
     } else {
         m_grid->setRows(m_grid->Rows() + 1);
@@ -221,7 +221,7 @@ void GridPage::addRow() {
     }
     m_grid->setRow(m_grid->Rows() - 1);
     m_editing.box->place();
-    if (!quirks.addKeepsBoxText)
+    if (!m_quirks.addKeepsBoxText)
         m_editing.box->setBoxText(m_grid->Text());
     m_editing.close();
 }
@@ -232,7 +232,7 @@ void GridPage::deleteRow() {
     if (!isDeletionWanted(m_shared))
         return;
     deleteAt(loadList(), m_grid->Row());
-    const bool blanked = quirks.deleteBlanksFirstRow ? m_grid->Row() == 1 : m_grid->Rows() < 3;
+    const bool blanked = m_quirks.deleteBlanksFirstRow ? m_grid->Row() == 1 : m_grid->Rows() < 3;
     if (blanked)
         blankRow(*m_grid, 1);
     else
@@ -240,9 +240,9 @@ void GridPage::deleteRow() {
 }
 
 bool GridPage::hasGap() {
-    const int end = m_grid->Cols() - (quirks.lastColumnMatters ? 0 : 1);
+    const int end = m_grid->Cols() - (m_quirks.lastColumnMatters ? 0 : 1);
     for (int row = 1; row < m_grid->Rows(); ++row) {
-        if (quirks.rowInSave == RowInSave::Walks)
+        if (m_quirks.rowInSave == RowInSave::Walks)
             m_grid->setRow(row);
         if (m_grid->firstEmpty(row, 1, end) != end)
             return true;
@@ -253,15 +253,15 @@ bool GridPage::hasGap() {
 bool GridPage::refusesGap() {
     if (!hasGap())
         return false;
-    const QString problem = quirks.lastColumnMatters ? u"记录内容不能为空！"_s : u"除备注信息外记录内容不能为空！"_s;
+    const QString problem = m_quirks.lastColumnMatters ? u"记录内容不能为空！"_s : u"除备注信息外记录内容不能为空！"_s;
     m_shared.tell(u"为了保存信息的完整性，\r\n"_s + problem, u"输入提示"_s);
     return true;
 }
 
 void GridPage::beginSave() {
-    if (quirks.saveLoadsAnew)
+    if (m_quirks.saveLoadsAnew)
         loadList();
-    if (quirks.saveNamesTable)
+    if (m_quirks.saveNamesTable)
         Adodc1.setRecordSource(list().table.toString());
 }
 
@@ -271,12 +271,12 @@ void GridPage::saveRows() {
     if (refusesGap())
         return;
     emptyTable(m_loaded->records());
-    if (quirks.saveReadsEmptied)
+    if (m_quirks.saveReadsEmptied)
         m_loaded->reload();
     RowWriter writer(*m_grid, m_loaded->records(), savedFields(list().columns));
     Int16 number;
     for (int row = 1; row < m_grid->Rows(); ++row) { // none is blank: that would have been a gap
-        if (quirks.rowInSave != RowInSave::Stays)
+        if (m_quirks.rowInSave != RowInSave::Stays)
             m_grid->setRow(row);
         writer.add(row, ++number);
     }

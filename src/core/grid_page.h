@@ -85,7 +85,7 @@ public:
 
 protected:
     /// The table on view.
-    virtual const List& list() const { return traits.list; }
+    virtual const List& list() const { return m_traits.list; }
     /// Whether a click on a cell does anything at present.
     virtual bool takesClicks() const { return true; }
     /// What follows Enter's move to another cell, before the box is laid there.
@@ -105,8 +105,8 @@ protected:
     Recordset& load(QStringView source);
     Recordset& loadList() { return load(list().table); }
 
-    const Traits& traits;
-    const Quirks& quirks;
+    const Traits& m_traits;
+    const Quirks& m_quirks;
     MainWindow& m_window;
     Shared& m_shared;
     Adodc& Adodc1;

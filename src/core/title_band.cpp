@@ -49,13 +49,13 @@ void TitleBand::makeImages() {
         QStringView tip;
         void (TitleBand::*click)();
     };
-    constexpr WindowImage images[] = {
+    constexpr WindowImage Images[] = {
         {u"Image7", 10095, Glyph::Info, u"软件介绍", &TitleBand::Form2_Image7_Click},
         {u"Image5", 10530, Glyph::Tools, u"软件工具", &TitleBand::Form2_Image5_Click},
         {u"Image4", 10965, Glyph::Minimise, u"最小化", &TitleBand::Form2_Image4_Click},
         {u"Image3", 11400, Glyph::Close, u"退出", &TitleBand::Form2_Image3_Click},
     };
-    for (const WindowImage& entry : images) {
+    for (const WindowImage& entry : Images) {
         auto* image = new Image(&m_window, entry.name.toString());
         image->place(entry.left, 150, 375, 375);
         image->setRole(Role::Glyph);

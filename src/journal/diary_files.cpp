@@ -22,12 +22,12 @@ constexpr qsizetype LongestName = 255; ///< bytes, the extension included
 constexpr char LoneEuro = '\x80'; ///< in files of the 8-bit age
 
 bool isReserved(const QString& title) {
-    static constexpr std::array<QStringView, 4> devices{u"CON", u"PRN", u"AUX", u"NUL"};
-    static constexpr std::array<QStringView, 2> ports{u"COM", u"LPT"};
+    static constexpr std::array<QStringView, 4> Devices{u"CON", u"PRN", u"AUX", u"NUL"};
+    static constexpr std::array<QStringView, 2> Ports{u"COM", u"LPT"};
     const QString name = title.section(u'.', 0, 0).trimmed().toUpper();
-    const bool isPort = name.size() == 4 && std::ranges::find(ports, QStringView(name).first(3)) != ports.end() &&
+    const bool isPort = name.size() == 4 && std::ranges::find(Ports, QStringView(name).first(3)) != Ports.end() &&
                         name[3] >= u'1' && name[3] <= u'9';
-    return isPort || std::ranges::find(devices, name) != devices.end();
+    return isPort || std::ranges::find(Devices, name) != Devices.end();
 }
 
 /// Why a title cannot name a file; empty when it can.

@@ -44,25 +44,25 @@ struct CategoriesPage::Classification {
 };
 
 const CategoriesPage::Classification& CategoriesPage::income() {
-    static constexpr Classification classification{
+    static constexpr Classification Chosen{
         u"select distinct 收入大类 from srflb",
         u"select 收入大类 ,收入细类,快速代码 from srflb where 收入大类 = '%1'",
         {{{u"收入大类", columns::IncomeMajor}}},
         {{{u"收入细类", columns::IncomeMinor, columns::IncomeMajor},
           {u"快速代码", columns::QuickCode, columns::IncomeMinor}}},
     };
-    return classification;
+    return Chosen;
 }
 
 const CategoriesPage::Classification& CategoriesPage::expense() {
-    static constexpr Classification classification{
+    static constexpr Classification Chosen{
         u"select distinct 支出大类 from zcflb",
         u"select 支出大类 ,支出细类,快速代码 from zcflb where 支出大类 = '%1'",
         {{{u"消费大类", columns::ExpenseMajor}}},
         {{{u"消费细类", columns::ExpenseMinor, columns::ExpenseMajor},
           {u"快速代码", columns::QuickCode, columns::ExpenseMinor}}},
     };
-    return classification;
+    return Chosen;
 }
 
 CategoriesPage::CategoriesPage(MainWindow& window)
@@ -73,8 +73,8 @@ CategoriesPage::CategoriesPage(MainWindow& window)
       Frame3(frame()),
       Option3(new OptionButton(&Frame3, u"Option3"_s, u"收入分类"_s)),
       Option4(new OptionButton(&Frame3, u"Option4"_s, u"支出分类"_s)),
-      majors(Frame3, m_shared, Majors),
-      minors(Frame3, m_shared, Minors) {
+      m_majors(Frame3, m_shared, Majors),
+      m_minors(Frame3, m_shared, Minors) {
     // Until it is opened the page is a small strip beside the window.
     Frame3.place(13200, 1440, 975, 255);
     Option3->place(240, 870, 1320, 300);
@@ -87,19 +87,19 @@ CategoriesPage::CategoriesPage(MainWindow& window)
 void CategoriesPage::bindEvents() {
     Option3->Click = [this] { Form2_Option3_Click(); };
     Option4->Click = [this] { Form2_Option4_Click(); };
-    majors.grid->Click = [this] { Form2_ms3_Click(); };
-    minors.grid->Click = [this] { Form2_ms4_Click(); };
-    majors.buttons.add->Click = [this] { Form2_Command7_Click(); };
-    majors.buttons.remove->Click = [this] { Form2_Command8_Click(); };
-    majors.buttons.save->Click = [this] { Form2_Command9_Click(); };
-    minors.buttons.add->Click = [this] { Form2_Command10_Click(); };
-    minors.buttons.remove->Click = [this] { Form2_Command11_Click(); };
-    minors.buttons.save->Click = [this] { Form2_Command12_Click(); };
+    m_majors.grid->Click = [this] { Form2_ms3_Click(); };
+    m_minors.grid->Click = [this] { Form2_ms4_Click(); };
+    m_majors.buttons.add->Click = [this] { Form2_Command7_Click(); };
+    m_majors.buttons.remove->Click = [this] { Form2_Command8_Click(); };
+    m_majors.buttons.save->Click = [this] { Form2_Command9_Click(); };
+    m_minors.buttons.add->Click = [this] { Form2_Command10_Click(); };
+    m_minors.buttons.remove->Click = [this] { Form2_Command11_Click(); };
+    m_minors.buttons.save->Click = [this] { Form2_Command12_Click(); };
     m_shared.openCategories = [this] { enter(); };
 }
 
 void CategoriesPage::left() {
-    minors.setUsable(false);
+    m_minors.setUsable(false);
 }
 
 void CategoriesPage::enter() {
@@ -117,77 +117,77 @@ void CategoriesPage::Form2_Option3_Click() {
 }
 
 void CategoriesPage::Form2_Option4_Click() {
-    minors.grid->setLeft(MinorsLeft);
+    m_minors.grid->setLeft(MinorsLeft);
     open(expense());
 }
 
 void CategoriesPage::open(const Classification& chosen) {
-    minors.setUsable(false);
+    m_minors.setUsable(false);
     Recordset& records = Adodc1.open(chosen.majorsSource.toString());
-    m_majors = Adodc1.loaded();
-    minors.layOut(chosen.minors);
-    majors.layOut(chosen.majors);
+    m_majorsLoaded = Adodc1.loaded();
+    m_minors.layOut(chosen.minors);
+    m_majors.layOut(chosen.majors);
     // An empty name goes to the row number that all lists share, wherever it was met here.
-    majors.fill(records, [this] { return m_shared.loanRow(); });
-    blankRows(*minors.grid);
+    m_majors.fill(records, [this] { return m_shared.loanRow(); });
+    blankRows(*m_minors.grid);
     navigation().bringForward(*this);
-    majors.editing.close();
-    minors.editing.close();
+    m_majors.editing.close();
+    m_minors.editing.close();
 }
 
 // ---- cells
 
 void CategoriesPage::Form2_ms3_Click() {
-    minors.setUsable(true);
-    minors.editing.close();
-    majors.editing.open();
+    m_minors.setUsable(true);
+    m_minors.editing.close();
+    m_majors.editing.open();
     const Classification& chosen = Option4->Value() ? expense() : income();
     // The name goes into the query as it stands: one with an apostrophe breaks it.
-    Recordset& records = Adodc2.open(chosen.minorsSource.toString().replace(u"%1"_s, majors.editing.box->Text()));
-    m_minors = Adodc2.loaded();
+    Recordset& records = Adodc2.open(chosen.minorsSource.toString().replace(u"%1"_s, m_majors.editing.box->Text()));
+    m_minorsLoaded = Adodc2.loaded();
     // A major without minors goes on showing the first one of the major before.
-    startRows(*minors.grid);
-    minors.fill(records);
+    startRows(*m_minors.grid);
+    m_minors.fill(records);
 }
 
 void CategoriesPage::Form2_ms4_Click() {
-    minors.editing.open();
+    m_minors.editing.open();
 }
 
 // ---- rows
 
 void CategoriesPage::Form2_Command7_Click() {
-    majors.editing.commitTyped();
-    majors.editing.box->setBoxText({});
-    majors.addRow();
-    majors.goToLastRow();
-    majors.editing.box->place();
-    majors.editing.box->setShown(true);
+    m_majors.editing.commitTyped();
+    m_majors.editing.box->setBoxText({});
+    m_majors.addRow();
+    m_majors.goToLastRow();
+    m_majors.editing.box->place();
+    m_majors.editing.box->setShown(true);
 }
 
 void CategoriesPage::Form2_Command10_Click() {
-    minors.editing.commitTyped();
-    minors.goToLastRow();
-    minors.addRow();
+    m_minors.editing.commitTyped();
+    m_minors.goToLastRow();
+    m_minors.addRow();
 }
 
 void CategoriesPage::Form2_Command8_Click() {
-    if (majors.isDeletionWanted() && !majors.removeRow())
-        blankRows(*majors.grid);
+    if (m_majors.isDeletionWanted() && !m_majors.removeRow())
+        blankRows(*m_majors.grid);
 }
 
 void CategoriesPage::Form2_Command11_Click() {
-    if (minors.isDeletionWanted())
-        minors.removeRow(); // the only one stays as it is, unlike that of the majors
+    if (m_minors.isDeletionWanted())
+        m_minors.removeRow(); // the only one stays as it is, unlike that of the majors
 }
 
 void CategoriesPage::Form2_Command9_Click() {
     Adodc1.setRecordSource(tables::Budget.toString()); // named only: the save works on the majors that the page loaded
-    majors.save(m_majors->records());
+    m_majors.save(m_majorsLoaded->records());
 }
 
 void CategoriesPage::Form2_Command12_Click() {
-    minors.save(m_minors->records());
+    m_minors.save(m_minorsLoaded->records());
 }
 
 } // namespace qinghe

@@ -47,12 +47,12 @@ private:
     Frame& Frame3;
     OptionButton* Option3; // 收入分类
     OptionButton* Option4; // 支出分类
-    CategoryList majors;   // ms3, tx3, Command7 to Command9
-    CategoryList minors;   // ms4, tx4, Command10 to Command12
+    CategoryList m_majors; // ms3, tx3, Command7 to Command9
+    CategoryList m_minors; // ms4, tx4, Command10 to Command12
 
     // What the saves work on, whatever others use the controls for meanwhile.
-    std::shared_ptr<LoadedSet> m_majors;
-    std::shared_ptr<LoadedSet> m_minors;
+    std::shared_ptr<LoadedSet> m_majorsLoaded;
+    std::shared_ptr<LoadedSet> m_minorsLoaded;
 };
 
 } // namespace qinghe

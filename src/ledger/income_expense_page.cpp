@@ -81,7 +81,7 @@ void IncomeExpensePage::placeControls() {
 }
 
 const IncomeExpensePage::Side& IncomeExpensePage::side() const {
-    static constexpr Side income{PageCode::Income,
+    static constexpr Side Income{PageCode::Income,
                                  {tables::Income, IncomeColumns},
                                  columns::Payee,
                                  u"select 时间,项目,收款人,金额 from srb",
@@ -89,7 +89,7 @@ const IncomeExpensePage::Side& IncomeExpensePage::side() const {
                                  u"收入记录",
                                  u"当前收入总额为：",
                                  &IncomeExpensePage::incomeTotal};
-    static constexpr Side expense{PageCode::Expense,
+    static constexpr Side Expense{PageCode::Expense,
                                   {tables::Expense, ExpenseColumns},
                                   columns::Payer,
                                   u"select 时间,项目,付款人,金额 from zcb",
@@ -97,7 +97,7 @@ const IncomeExpensePage::Side& IncomeExpensePage::side() const {
                                   u"支出记录",
                                   u"当前支出总额为：",
                                   &IncomeExpensePage::expenseTotal};
-    return ledgerSide == 1 ? income : expense;
+    return ledgerSide == 1 ? Income : Expense;
 }
 
 const GridPage::List& IncomeExpensePage::list() const {

@@ -61,23 +61,23 @@ struct LoansPage::Loans {
 };
 
 const LoansPage::Loans& LoansPage::borrowed() {
-    static constexpr Loans loans{
+    static constexpr Loans Chosen{
         {tables::Borrowed, BorrowedColumns},
         u"借入记录",
         u"select sum(借入金额) as 借入金额 from jrb ",
         u"当前借入总额为：%1¤ ",
     };
-    return loans;
+    return Chosen;
 }
 
 const LoansPage::Loans& LoansPage::lent() {
-    static constexpr Loans loans{
+    static constexpr Loans Chosen{
         {tables::Lent, LentColumns},
         u"借出表",
         u"select sum(借出金额) as 借出金额,sum(已还金额) as 已还金额,sum(余额) as 余额 from jcb ",
         u"当前借出总额为：%1¤ ，已还金额为：%2 ¤，目前余额为%3 ¤",
     };
-    return loans;
+    return Chosen;
 }
 
 LoansPage::LoansPage(MainWindow& window)
@@ -126,7 +126,7 @@ void LoansPage::Form2_Image1_Click() {
     // Tools stay open, and neither the labels nor currentPage follow: the page is laid over the one that is chosen.
     navigation().hideOthers(*this);
     m_editing.close();
-    const PageTraits& place = traits.page;
+    const PageTraits& place = m_traits.page;
     m_frame.place(place.left, RaisedTop, place.width, place.height);
     navigation().show(*this);
     Option1->setValue(true);

@@ -43,7 +43,7 @@ Recordset& MonthStatistics::begin(const Reports& reports) {
 }
 
 void MonthStatistics::showItems() {
-    static constexpr Reports reports{{
+    static constexpr Reports BySide{{
         {u"select 项目,sum(金额)as 总金额 from sztjlsb where 时间= '%1'group by 项目 ",
          u"本月支出总额为：",
          {u"项目", u"本月消费总额"},
@@ -53,7 +53,7 @@ void MonthStatistics::showItems() {
          {u"项目", u"本月收入总额"},
          2},
     }};
-    Recordset& rows = begin(reports);
+    Recordset& rows = begin(BySide);
     blankRow(ms2, 1);
     fillRows(ms2, rows, [this, &rows] {
         if (!rows.field(0).differsFromEmpty())
@@ -65,7 +65,7 @@ void MonthStatistics::showItems() {
 }
 
 void MonthStatistics::showPeople() {
-    static constexpr Reports reports{{
+    static constexpr Reports BySide{{
         {u"select 人员,项目,sum(金额)as 总金额  from sztjlsb where 时间= '%1'  group by 项目,人员",
          u"本月人员支出总额为：",
          {u"付款人", u"项目", u"本月消费总额"},
@@ -75,7 +75,7 @@ void MonthStatistics::showPeople() {
          {u"收款人", u"项目", u"本月收入总额"},
          3},
     }};
-    Recordset& rows = begin(reports);
+    Recordset& rows = begin(BySide);
     fillRows(ms2, rows, [this, &rows] {
         for (int column = 1; column <= rows.fieldCount(); ++column) {
             const Field field = rows.field(column - 1);

@@ -40,8 +40,8 @@ void openTarget(QFile& target) {
     files::requireFolderOf(target.fileName());
     if (target.exists())
         files::requirePlainFile(target.fileName());
-    constexpr auto mode = QIODevice::ReadWrite | QIODevice::Unbuffered;
-    if (!target.open(mode, QFile::ReadOwner | QFile::WriteOwner)) // passwords in it are in clear
+    constexpr auto Mode = QIODevice::ReadWrite | QIODevice::Unbuffered;
+    if (!target.open(Mode, QFile::ReadOwner | QFile::WriteOwner)) // passwords in it are in clear
         refuse(RuntimeError::PathFileAccess, u"无法写入文件“%1”。请检查它和所在文件夹的权限，或者另选一个位置。"_s,
                target);
 }

@@ -55,13 +55,13 @@ PurgeWindow::PurgeWindow(Shared& shared)
 }
 
 void PurgeWindow::makeBoxes() {
-    constexpr int inARow = 4;
+    constexpr int InARow = 4;
     for (int i = 0; i < static_cast<int>(Kinds.size()); ++i) {
         const Records& kind = Kinds[static_cast<std::size_t>(i)];
         auto* box = new CheckBox(Frame1, kind.box.toString(), kind.caption.toString());
-        box->place(240 + 1440 * (i % inARow), 480 + 480 * (i / inARow), i == Plans ? 1740 : 1380, 330);
+        box->place(240 + 1440 * (i % InARow), 480 + 480 * (i / InARow), i == Plans ? 1740 : 1380, 330);
         box->Click = [this, i] { i == Plans ? Form3_Check2_Click() : Form3_Check1_Click(); };
-        Checks[static_cast<std::size_t>(i)] = box;
+        m_checks[static_cast<std::size_t>(i)] = box;
     }
 }
 
@@ -115,7 +115,7 @@ void PurgeWindow::setDateShown(bool shown) {
 void PurgeWindow::Form3_Check1_Click() {
     // The date picker has closed it.
     Text1->setUsable(true);
-    const bool accounts = Checks[Accounts]->Value();
+    const bool accounts = m_checks[Accounts]->Value();
     if (accounts) {
         // Accounts have no date, so none stands there; other kinds that are ticked ask for one then.
         Text1->setBoxText({});
@@ -136,7 +136,7 @@ void PurgeWindow::Form3_Command1_Click() {
     if (m_shared.services.say(u"是否确定清空选择的记录？"_s, MessageStyle::YesNoQuestion, u"提示"_s) != Answer::Yes)
         return;
     for (std::size_t i = 0; i < Kinds.size(); ++i)
-        if (Checks[i]->Value())
+        if (m_checks[i]->Value())
             purge(Kinds[i]);
 }
 

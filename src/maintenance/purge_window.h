@@ -39,13 +39,13 @@ private:
 
     Shared& m_shared;
     Adodc* Adodc1;
-    Frame* Frame1;                   // （删除记录）项目
-    std::array<CheckBox*, 7> Checks; // Check1(0) to Check1(5) and Check2, in the order of the kinds
-    Label* Label2;                   // 删除日期在
-    TextBox* Text1;                  // the date
-    Label* Label3;                   // 以前的记录
-    Frame* Frame2;                   // 操作说明
-    CommandButton* Command1;         // 开始删除
+    Frame* Frame1;                     // （删除记录）项目
+    std::array<CheckBox*, 7> m_checks; // Check1(0) to Check1(5) and Check2, in the order of the kinds
+    Label* Label2;                     // 删除日期在
+    TextBox* Text1;                    // the date
+    Label* Label3;                     // 以前的记录
+    Frame* Frame2;                     // 操作说明
+    CommandButton* Command1;           // 开始删除
 };
 
 } // namespace qinghe

@@ -18,7 +18,7 @@ struct Marks {
     QStringView afterRoot; ///< behind a root that was pending
 };
 
-constexpr Marks kMarks[] = {
+constexpr Marks Marks[] = {
     {u"+", u"+", u"+"}, {u"-", u"-", u"+"}, {u"*", u"*", u"*"},
     {u"/", u"/", u"+"}, {u"^", u"^", u"^"}, {u"sqr", u"sqrt", u"sqr"},
 };
@@ -100,7 +100,7 @@ void CalculatorMachine::pressKey(int key) {
 
 CalculatorMachine::Outcome CalculatorMachine::pressOperator(int key) {
     keyPressed();
-    const Marks& marks = kMarks[key];
+    const Marks& marks = Marks[key];
     if (!m_state.firstOperand.isEmpty() && !m_state.secondOperand.isEmpty()) {
         if (m_state.pendingOperator == Divide && leadingNumber(m_state.secondOperand) == 0) {
             reset();

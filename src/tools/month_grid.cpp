@@ -8,10 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kWeek = 7;
-constexpr int kMonths = 12;
-constexpr int kLastCellOfPlainFebruary = 28; ///< of one that begins on Sunday, the shortest grid
-constexpr int kLastCellOfFifthWeek = 35;
+constexpr int Week = 7;
+constexpr int Months = 12;
+constexpr int LastCellOfPlainFebruary = 28; ///< of one that begins on Sunday, the shortest grid
+constexpr int LastCellOfFifthWeek = 35;
 
 bool isLeapYear(int year) {
     return year % 100 == 0 ? year % 400 == 0 : year % 4 == 0;
@@ -19,22 +19,22 @@ bool isLeapYear(int year) {
 
 /// The offset of a month's first cell from that of another, `days` later (or earlier, when negative).
 int shiftedOffset(int offset, int days) {
-    return ((offset + days) % kWeek + kWeek) % kWeek;
+    return ((offset + days) % Week + Week) % Week;
 }
 
 /// The cells before the first day of today's month. A Sunday the 5th, 12th, 19th or 26th puts it on Saturday: meant.
 int openingOffset(const QDate& today) {
     const bool sunday = today.dayOfWeek() == Qt::Sunday;
-    if (sunday && today.day() % kWeek == 5)
-        return kWeek - 1;
-    return shiftedOffset(today.dayOfWeek() % kWeek, 1 - today.day());
+    if (sunday && today.day() % Week == 5)
+        return Week - 1;
+    return shiftedOffset(today.dayOfWeek() % Week, 1 - today.day());
 }
 
 } // namespace
 
 int daysOfMonth(int year, int month) {
-    constexpr int lengths[] = {31, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return month == 2 && isLeapYear(year) ? 29 : lengths[month];
+    constexpr int Lengths[] = {31, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    return month == 2 && isLeapYear(year) ? 29 : Lengths[month];
 }
 
 MonthGrid::MonthGrid(const QDate& today)
@@ -47,7 +47,7 @@ MonthGrid::MonthGrid(const QDate& today)
 }
 
 void MonthGrid::stepForward() {
-    m_firstCellOffset = lastCell() % kWeek;
+    m_firstCellOffset = lastCell() % Week;
     changeMonth(1);
     fill();
 }
@@ -61,9 +61,9 @@ void MonthGrid::stepBack() {
 void MonthGrid::changeMonth(int step) {
     m_stepped = true;
     m_shownMonth += step;
-    if (m_shownMonth >= 1 && m_shownMonth <= kMonths)
+    if (m_shownMonth >= 1 && m_shownMonth <= Months)
         return;
-    m_shownMonth += -kMonths * step;
+    m_shownMonth += -Months * step;
     m_shownYear += step;
 }
 
@@ -99,14 +99,14 @@ void MonthGrid::fillLeading() {
 
 void MonthGrid::fillTrailing() {
     const int last = lastCell();
-    if (last == kLastCellOfPlainFebruary)
+    if (last == LastCellOfPlainFebruary)
         return; // the cells behind keep what they show from the month before
-    if (last > kLastCellOfFifthWeek) {
+    if (last > LastCellOfFifthWeek) {
         fillNextMonth(last + 1, CellCount);
         return;
     }
-    fillNextMonth(last + 1, kLastCellOfFifthWeek);
-    for (int number = kLastCellOfFifthWeek + 1; number <= CellCount; ++number) {
+    fillNextMonth(last + 1, LastCellOfFifthWeek);
+    for (int number = LastCellOfFifthWeek + 1; number <= CellCount; ++number) {
         cellAt(number).caption.clear();
         cellAt(number).neighbour = false;
     }
