@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 // Every version of the data file that was ever delivered is read, written and healed by this program.
 
 using namespace Qt::StringLiterals;
@@ -98,7 +100,8 @@ TEST_P(OldVersion, IsHealedWhereItsProgramHasEnded) {
     EXPECT_EQ(row(u"srb"_s), u"B1|2024-5-3|工资|小禾|8500.5|工资卡|五月|1"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(Delivered, OldVersion, testing::Range(FirstVersion, CurrentVersion + 1),
+INSTANTIATE_TEST_SUITE_P(Delivered, OldVersion,
+                         testing::Range(FirstVersion, std::max(FirstVersion + 1, CurrentVersion)),
                          [](const auto& version) { return "Number" + std::to_string(version.param); });
 
 TEST_F(StoreTest, AFileOfThisVersionIsNotWrittenToBeRead) {
