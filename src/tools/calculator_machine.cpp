@@ -11,14 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What an operator key writes behind the first operand. That the columns differ is meant.
+/// What an operator key writes behind the first operand. The columns differ: what follows a root is not chained.
 struct Marks {
     QStringView plain;
     QStringView chained;   ///< behind the result of a chained calculation
     QStringView afterRoot; ///< behind a root that was pending
 };
 
-constexpr Marks Marks[] = {
+constexpr Marks OperatorMarks[] = {
     {u"+", u"+", u"+"}, {u"-", u"-", u"+"}, {u"*", u"*", u"*"},
     {u"/", u"/", u"+"}, {u"^", u"^", u"^"}, {u"sqr", u"sqrt", u"sqr"},
 };
@@ -100,7 +100,7 @@ void CalculatorMachine::pressKey(int key) {
 
 CalculatorMachine::Outcome CalculatorMachine::pressOperator(int key) {
     keyPressed();
-    const Marks& marks = Marks[key];
+    const Marks& marks = OperatorMarks[key];
     if (!m_state.firstOperand.isEmpty() && !m_state.secondOperand.isEmpty()) {
         if (m_state.pendingOperator == Divide && leadingNumber(m_state.secondOperand) == 0) {
             reset();

@@ -32,10 +32,11 @@ TEST_F(SchedulePageTest, ItsLabelBringsThePageForward) {
     EXPECT_FALSE(rig.mainWindow().Adodc1->isVisible());
 }
 
-TEST_F(SchedulePageTest, OpeningConnectsItsTable) {
+TEST_F(SchedulePageTest, AsksTheProgramsOwnFileWhereverTheControlWasPointed) {
     Adodc& control = *rig.mainWindow().Adodc1;
     control.setConnectionString({});
     open();
+    rig.click(today());
     EXPECT_EQ(control.connectionString(), rig.program->shared().connection());
 }
 
