@@ -21,8 +21,8 @@ constexpr int versionAfter(std::span<const Migration> steps) {
 }
 
 /// The steps that this program knows, their versions rising. There is none yet. New files are made by the same road:
-/// the tables of version 1 (schema.cpp), then every step. Who adds one, a lambda that runs an `ALTER TABLE`, puts a file
-/// of the version before beside those in tests/store/versions.
+/// the tables of version 1 (schema.cpp), then every step. Who adds one, a lambda that runs an `ALTER TABLE`, puts a
+/// file of the version before beside those in tests/store/versions.
 inline constexpr std::span<const Migration> Migrations{};
 
 /// The version of the data files that this program makes and leaves. It stands in the file (PRAGMA user_version). Files
