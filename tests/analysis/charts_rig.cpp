@@ -19,13 +19,11 @@ void ChartsTest::storeOneEach() {
 }
 
 void ChartsTest::open() {
-    rig.click(rig.at(pages::Charts));
-    rig.settle();
+    press(rig.at(pages::Charts));
 }
 
 void ChartsTest::click(const QString& name) {
-    rig.click(option(name));
-    rig.settle();
+    press(option(name));
 }
 
 void ChartsTest::choose(const QString& name) {
@@ -34,14 +32,9 @@ void ChartsTest::choose(const QString& name) {
 }
 
 void ChartsTest::query(const QString& from, const QString& to) {
-    for (const auto& [box, text] : {std::pair(&Text1(), from), std::pair(&Text2(), to)}) {
-        box->selectAll();
-        if (text.isEmpty())
-            rig.press(*box, Qt::Key_Delete);
-        rig.type(*box, text);
-    }
-    rig.click(rig.at(charts::Query));
-    rig.settle();
+    typeOver(Text1(), from);
+    typeOver(Text2(), to);
+    press(rig.at(charts::Query));
 }
 
 QString ChartsTest::points() {

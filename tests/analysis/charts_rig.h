@@ -1,15 +1,12 @@
 #pragma once
 
 #include "analysis/ms_chart.h"
-#include "qt_printing.h"
-#include "support/program_rig.h"
-
-#include <gtest/gtest.h>
+#include "support/program_test.h"
 
 namespace qinghe::testing {
 
 /// A program in whose main window the page of the charts can be opened.
-class ChartsTest : public ::testing::Test {
+class ChartsTest : public ProgramTest {
 protected:
     ChartsTest() { rig.signIn(); }
 
@@ -30,13 +27,9 @@ protected:
     TextBox& Text1() { return rig.at(charts::From); }
     TextBox& Text2() { return rig.at(charts::To); }
     QString caption() { return rig.at(charts::ChartFrame).Caption(); }
-    Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
-    Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
 
     /// The chart's data: "label=value" a point, "label=" without a value, joined with blanks.
     QString points();
-
-    ProgramRig rig;
 };
 
 inline const ShownMessage NothingToChart{u"目前没有提供给图表统计的记录数据！"_s, 64, u"提示"_s};

@@ -1,17 +1,12 @@
 #pragma once
 
 #include "journal/diary_page.h"
-#include "qt_printing.h"
-#include "support/program_rig.h"
-
-#include <QFile>
-
-#include <gtest/gtest.h>
+#include "support/program_test.h"
 
 namespace qinghe::testing {
 
 /// A program whose diary page is open, in write mode.
-class DiaryTest : public ::testing::Test {
+class DiaryTest : public ProgramTest {
 protected:
     DiaryTest() {
         rig.signIn();
@@ -32,9 +27,9 @@ protected:
     /// Types date and title along the row, and the text behind them; Enter in the text is a line end.
     void fill(const QString& date, const QString& title, const QStringList& lines = {}) {
         rig.clickCell(ms8(), 1, 1);
-        over(tx9(), date);
+        typeOver(tx9(), date);
         rig.press(tx9(), Qt::Key_Return);
-        over(tx9(), title);
+        typeOver(tx9(), title);
         rig.press(tx9(), Qt::Key_Return);
         for (qsizetype i = 0; i < lines.size(); ++i) {
             if (i > 0)
@@ -54,18 +49,7 @@ protected:
     }
     QStringList rows() { return rig.sql(u"select * from rjb order by rowid"_s); }
     QString path(const QString& title) { return rig.file(u"mydiary/%1.dll"_s.arg(title)); }
-    QByteArray bytes(const QString& title) {
-        QFile file(path(title));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-    }
-
-    ProgramRig rig;
-
-private:
-    void over(TextBox& box, const QString& text) {
-        box.selectAll();
-        rig.type(box, text);
-    }
+    QByteArray bytes(const QString& title) { return ProgramTest::bytes(u"mydiary/%1.dll"_s.arg(title)); }
 };
 
 inline const ShownMessage DiarySaved{u"日志已经保存！"_s, 0, u"保存提示"_s};

@@ -2,15 +2,12 @@
 
 #include "journal/reminders.h"
 #include "journal/schedule_page.h"
-#include "qt_printing.h"
-#include "support/program_rig.h"
-
-#include <gtest/gtest.h>
+#include "support/program_test.h"
 
 namespace qinghe::testing {
 
 /// A program whose schedule page is open, on the evening of 2024-6-18 at 20:36:08.
-class ScheduleTest : public ::testing::Test {
+class ScheduleTest : public ProgramTest {
 protected:
     ScheduleTest() {
         rig.signIn();
@@ -46,8 +43,6 @@ protected:
         rig.sql(u"insert into rcb(日程日期,提醒时间,日程内容,提醒音乐) values('%1','%2','%3','%4')"_s.arg(
             day, time, plan, piece.isEmpty() ? u"音乐1"_s : piece));
     }
-
-    ProgramRig rig;
 };
 
 inline const ShownMessage PlanSaved{u"保存成功！"_s, 64, u"保存提示"_s};

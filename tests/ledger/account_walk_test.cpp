@@ -171,7 +171,7 @@ TEST_F(AccountWalkTest, StopsAtABalanceBeyondADouble) {
     clickCell(1, 3);
     box().setUsable(true);
     enter();
-    expectStopped(RuntimeError::Overflow);
+    expectError(RuntimeError::Overflow);
     EXPECT_EQ(balance(), u"1.7E+308");
 }
 

@@ -64,7 +64,7 @@ TEST_F(AccountsTest, StopsWhenTheRowNumberOfTheLoanListIsBeyondItsOwn) {
     open(Lent); // which leaves the last row current
     storeAccount(u"1,2,3,4,5,6,7,8"_s);
     open();
-    expectStopped(RuntimeError::SubscriptOutOfRange);
+    expectError(RuntimeError::SubscriptOutOfRange);
 }
 
 TEST_F(AccountsTest, SkipsNullFieldsInTheFill) {

@@ -74,14 +74,14 @@ TEST_F(CategoriesCellsTest, AQuoteInAMajorsNameEndsTheProgramAndLosesNothing) {
     openWith({u"爸爸's|1|a"_s, u"甲|2|b"_s});
     const QStringList before = stored();
     clickMajor(1);
-    expectEndedBy(RuntimeError::QueryFailure);
+    expectError(RuntimeError::QueryFailure);
     EXPECT_EQ(stored(), before);
 }
 
 TEST_F(CategoriesCellsTest, AClickOnAnotherMajorDropsWhatWasNotConfirmed) {
     openWith({u"甲|1|a"_s, u"乙|2|b"_s});
     clickMajor(1);
-    write(tx3(), u"未确认"_s);
+    typeOver(tx3(), u"未确认"_s);
     clickMajor(2);
     EXPECT_EQ(majors(), (QStringList{u"乙"_s, u"甲"_s}));
     EXPECT_EQ(tx3().Text(), u"甲");
@@ -90,7 +90,7 @@ TEST_F(CategoriesCellsTest, AClickOnAnotherMajorDropsWhatWasNotConfirmed) {
 TEST_F(CategoriesCellsTest, EnterWritesTheMajorBackClosesTheBoxAndStays) {
     openWith({u"甲|1|a"_s, u"乙|2|b"_s});
     clickMajor(1);
-    write(tx3(), u"丙"_s);
+    typeOver(tx3(), u"丙"_s);
     rig.press(tx3(), Qt::Key_Return);
     EXPECT_EQ(majors(), (QStringList{u"丙"_s, u"甲"_s}));
     EXPECT_FALSE(tx3().Visible());
@@ -103,7 +103,7 @@ TEST_F(CategoriesCellsTest, EnterWritesTheMajorBackClosesTheBoxAndStays) {
 TEST_F(CategoriesCellsTest, EscLeavesTheMajorAsItWas) {
     openWith({u"甲|1|a"_s});
     clickMajor(1);
-    write(tx3(), u"丙"_s);
+    typeOver(tx3(), u"丙"_s);
     rig.press(tx3(), Qt::Key_Escape);
     EXPECT_EQ(majors(), QStringList{u"甲"_s});
     EXPECT_FALSE(tx3().Visible());
@@ -133,7 +133,7 @@ TEST_F(CategoriesCellsTest, EnterGoesFromTheMinorToTheCodeAndClosesThere) {
     openWith({u"甲|1|a"_s, u"甲|2|b"_s});
     clickMajor(1);
     clickMinor(1);
-    write(tx4(), u"午饭"_s);
+    typeOver(tx4(), u"午饭"_s);
     rig.press(tx4(), Qt::Key_Return);
     EXPECT_EQ(minors(), (QStringList{u"午饭|a"_s, u"2|b"_s}));
     EXPECT_EQ(current(ms4()), u"1,2");
@@ -141,7 +141,7 @@ TEST_F(CategoriesCellsTest, EnterGoesFromTheMinorToTheCodeAndClosesThere) {
     EXPECT_TRUE(tx4().Visible());
     EXPECT_EQ(QApplication::focusWidget(), &tx4());
     expectOver(tx4(), ms4(), 1, 2);
-    write(tx4(), u"wf"_s);
+    typeOver(tx4(), u"wf"_s);
     rig.press(tx4(), Qt::Key_Return);
     EXPECT_EQ(minors(), (QStringList{u"午饭|wf"_s, u"2|b"_s}));
     EXPECT_EQ(current(ms4()), u"1,2");
@@ -154,7 +154,7 @@ TEST_F(CategoriesCellsTest, EscLeavesTheMinorAsItWas) {
     openWith({u"甲|1|a"_s});
     clickMajor(1);
     clickMinor(1, 2);
-    write(tx4(), u"z"_s);
+    typeOver(tx4(), u"z"_s);
     rig.press(tx4(), Qt::Key_Escape);
     EXPECT_EQ(minors(), QStringList{u"1|a"_s});
     EXPECT_FALSE(tx4().Visible());
@@ -164,7 +164,7 @@ TEST_F(CategoriesCellsTest, EscLeavesTheMinorAsItWas) {
 TEST_F(CategoriesCellsTest, OtherKeysAreTheBoxsOwn) {
     openWith({u"甲|1|a"_s});
     clickMajor(1);
-    write(tx3(), u"1.5 元"_s);
+    typeOver(tx3(), u"1.5 元"_s);
     rig.press(tx3(), Qt::Key_Backspace);
     EXPECT_EQ(tx3().Text(), u"1.5 ");
     EXPECT_TRUE(tx3().Visible());

@@ -158,7 +158,7 @@ TEST_F(CategoriesOpeningTest, AnEmptyMajorEndsTheProgramWhenTheLoanGridStandsFur
     ms1().setRow(5);
     clickLabel(pages::Settings);
     press(31);
-    expectEndedBy(RuntimeError::SubscriptOutOfRange);
+    expectError(RuntimeError::SubscriptOutOfRange);
     EXPECT_EQ(stored(), before);
 }
 

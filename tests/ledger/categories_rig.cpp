@@ -67,22 +67,16 @@ void CategoriesTest::pressBareForm(int y) {
     rig.settle();
 }
 
-void CategoriesTest::write(TextBox& box, const QString& text) {
-    box.selectAll();
-    rig.press(box, Qt::Key_Delete);
-    rig.type(box, text);
-}
-
 void CategoriesTest::fillMajor(int row, const QString& text) {
     clickMajor(row);
-    write(tx3(), text);
+    typeOver(tx3(), text);
     rig.press(tx3(), Qt::Key_Return);
 }
 
 void CategoriesTest::fillMinor(int row, const QString& minor, const QString& code) {
     clickMinor(row);
     for (const QString& text : {minor, code}) {
-        write(tx4(), text);
+        typeOver(tx4(), text);
         rig.press(tx4(), Qt::Key_Return);
     }
 }
@@ -93,28 +87,6 @@ bool CategoriesTest::minorsUsable() {
     for (const bool one : usable)
         EXPECT_EQ(one, usable.front());
     return usable.front();
-}
-
-QStringList CategoriesTest::rowsOf(const MSFlexGrid& grid) {
-    QStringList texts;
-    for (int row = 1; row < grid.Rows(); ++row)
-        texts << ProgramRig::rowText(grid, row);
-    return texts;
-}
-
-void CategoriesTest::expectOver(const TextBox& box, MSFlexGrid& grid, int row, int col) {
-    EXPECT_DOUBLE_EQ(box.Left(), grid.Left() + grid.ColPos(col));
-    EXPECT_DOUBLE_EQ(box.Top(), grid.Top() + grid.RowPos(row));
-    EXPECT_DOUBLE_EQ(box.Width(), grid.ColWidth(col));
-    EXPECT_DOUBLE_EQ(box.Height(), 300);
-    EXPECT_EQ(box.geometry(), grid.cellRect(row, col).translated(grid.pos()));
-}
-
-void CategoriesTest::expectEndedBy(int error) {
-    ASSERT_EQ(rig.messages->errors.size(), 1u);
-    EXPECT_EQ(rig.messages->errors.front().first, error);
-    EXPECT_FALSE(rig.messages->errors.front().second.isEmpty());
-    EXPECT_EQ(rig.exitCode(), 1);
 }
 
 } // namespace qinghe::testing

@@ -5,7 +5,7 @@
 namespace qinghe::testing {
 
 /// A program in whose main window the page of the categories can be opened and worked on.
-class CategoriesTest : public ::testing::Test {
+class CategoriesTest : public ProgramTest {
 protected:
     CategoriesTest() { rig.signIn(); }
 
@@ -28,9 +28,6 @@ protected:
     }
     CommandButton& command(int number) { return rig.onMain<CommandButton>(u"Command%1"_s.arg(number)); }
     Frame& frame3() { return rig.at(categories::Page); }
-    Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
-    Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
-    Shared& shared() { return rig.program->shared(); }
 
     void choose(Side side);
     void press(int number); ///< a command button
@@ -39,8 +36,6 @@ protected:
     void clickLabel(const QString& label);
     /// A press of the mouse on the bare form, so many pixels from its top.
     void pressBareForm(int y);
-    /// Writes into an open box over what stands there.
-    void write(TextBox& box, const QString& text);
     /// Both end with Enter.
     void fillMajor(int row, const QString& text);
     void fillMinor(int row, const QString& minor, const QString& code);
@@ -48,17 +43,8 @@ protected:
     /// The rows of the grids, cells joined with "|".
     QStringList majors() { return rowsOf(ms3()); }
     QStringList minors() { return rowsOf(ms4()); }
-    QString current(const MSFlexGrid& grid) { return u"%1,%2"_s.arg(grid.Row()).arg(grid.Col()); }
+    QString current(const MSFlexGrid& grid) { return currentOf(grid); }
     bool minorsUsable();
-
-    static void expectOver(const TextBox& box, MSFlexGrid& grid, int row, int col);
-    /// The program has ended with this run-time error.
-    void expectEndedBy(int error);
-
-    ProgramRig rig;
-
-private:
-    static QStringList rowsOf(const MSFlexGrid& grid);
 };
 
 } // namespace qinghe::testing

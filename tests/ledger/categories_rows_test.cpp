@@ -36,7 +36,7 @@ TEST_F(CategoriesRowsTest, AddingAMajorAppendsARowAndOpensItWithoutTakingTheKeyb
 TEST_F(CategoriesRowsTest, AddingAMajorCommitsTheBoxFirst) {
     openWith({u"甲|1|"_s});
     clickMajor(1);
-    write(tx3(), u"丙"_s);
+    typeOver(tx3(), u"丙"_s);
     press(7);
     EXPECT_EQ(majors(), (QStringList{u"丙"_s, QString()}));
     press(7); // the box is empty now and commits nothing
@@ -101,7 +101,7 @@ TEST_F(CategoriesRowsTest, AddingAMinorAppendsARowAndLeavesTheBoxAlone) {
     openWith({u"甲|1|a"_s, u"甲|2|b"_s});
     clickMajor(1);
     clickMinor(1, 2);
-    write(tx4(), u"z"_s);
+    typeOver(tx4(), u"z"_s);
     press(10);
     EXPECT_FALSE(refused());
     EXPECT_EQ(minors(), (QStringList{u"1|z"_s, u"2|b"_s, u"|"_s}));
@@ -131,7 +131,7 @@ TEST_F(CategoriesRowsTest, AddingAMinorWritesTheTextThatTheBoxStillHoldsOnceMore
     openWith({u"甲|1|a"_s});
     clickMajor(1);
     clickMinor(1);
-    write(tx4(), u"午饭"_s);
+    typeOver(tx4(), u"午饭"_s);
     press(10);
     press(10);
     EXPECT_EQ(minors(), (QStringList{u"午饭|a"_s, u"午饭|"_s, u"|"_s}));

@@ -91,7 +91,7 @@ TEST_F(CategoriesSaveTest, ADeletedMajorIsGoneWithItsMinorsOnlyAfterTheSave) {
 TEST_F(CategoriesSaveTest, TheBoxIsClosedAndWhatWasNotConfirmedIsLeftOut) {
     openWith({u"甲|1|a"_s});
     clickMajor(1);
-    write(tx3(), u"未确认"_s);
+    typeOver(tx3(), u"未确认"_s);
     bool open = false;
     rig.messages->whileShown = [&](const ShownMessage&) { open = tx3().Visible(); };
     save(9);

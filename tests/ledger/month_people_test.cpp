@@ -93,7 +93,7 @@ TEST_F(MonthPeopleTest, StopTheProgramWhenTheRowNumberOfTheLoanListIsBeyondTheir
     record(u"2024-10-01"_s, u"'甲项'"_s, u"''"_s, u"1"_s);
     open();
     showPeople();
-    expectStopped(RuntimeError::SubscriptOutOfRange);
+    expectError(RuntimeError::SubscriptOutOfRange);
 }
 
 TEST_F(MonthPeopleTest, AreSkippedWhereThereIsNoName) {

@@ -27,7 +27,6 @@ protected:
     void showItems() { choose(income::ByItem); }
     void showPeople() { choose(income::ByPerson); }
     void showEntry() { choose(income::Records); }
-    Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
     Adodc& adodc3() { return *rig.mainWindow().Adodc3; }
 };
 

@@ -19,7 +19,7 @@ protected:
         openWith(5);
         grid().setTextMatrix(3, col, bad);
         press(save());
-        expectStopped(TypeMismatch);
+        expectError(TypeMismatch);
         EXPECT_TRUE(rig.messages->errors.front().second.contains(bad));
         EXPECT_TRUE(rig.messages->shown.empty()); // no word of success
         EXPECT_EQ(stored(u"区别"_s), (QStringList{u"1"_s, u"2"_s}));
@@ -87,7 +87,7 @@ TEST_F(SaveCounterTest, OverflowsAfterTheLargestCount) {
     for (int col = 1; col <= 6; ++col)
         grid().setTextMatrix(MostRows + 1, col, grid().TextMatrix(1, col));
     rig.click(save());
-    expectStopped(Overflow);
+    expectError(Overflow);
     EXPECT_EQ(rig.sql(u"select count(*), min(区别), max(区别) from srb"_s), QStringList{u"32767|1|32767"_s});
 }
 

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "qt_printing.h"
-#include "support/program_rig.h"
+#include "support/program_test.h"
 
 #include <array>
-#include <gtest/gtest.h>
 
 namespace qinghe::testing {
 
@@ -41,7 +39,7 @@ inline constexpr std::array<PurgeKind, 7> PurgeKinds{{
 }};
 
 /// A program whose settings are on view and whose purge window is open.
-class PurgeTest : public ::testing::Test {
+class PurgeTest : public ProgramTest {
 protected:
     PurgeTest() {
         rig.signIn();
@@ -106,8 +104,6 @@ protected:
         EXPECT_EQ(texts.value(0), u"是否确定清空选择的记录？"_s);
         return texts.mid(1);
     }
-
-    ProgramRig rig;
 };
 
 constexpr int IncomeKind = 0, ExpenseKind = 1, BorrowedKind = 2, LentKind = 3, AccountsKind = 4, BudgetKind = 5,

@@ -81,7 +81,7 @@ TEST_F(UsersCellsTest, StopTheOpeningWhereTheRowOfTheLoanListIsBeyondTheirs) {
     press(rig.at(pages::Loans)); // which leaves the last row current
     storeUser(u"王青"_s, u""_s);
     open();
-    expectStopped(RuntimeError::SubscriptOutOfRange);
+    expectError(RuntimeError::SubscriptOutOfRange);
 }
 
 TEST_F(UsersCellsTest, AreCoveredExactlyByTheEditorAndOpenNoTool) {

@@ -31,16 +31,6 @@ QStringList PageTest::stored(const GridList& other, const QString& columns) {
     return rig.sql(u"select %1 from %2 order by rowid"_s.arg(columns, other.table.toString()));
 }
 
-void PageTest::press(QWidget& control) {
-    rig.click(control);
-    rig.settle();
-}
-
-void PageTest::write(const QString& text) {
-    box().selectAll();
-    rig.type(box(), text);
-}
-
 void PageTest::fillCell(int row, int col, const QString& text) {
     clickCell(row, col);
     write(text);
@@ -59,13 +49,6 @@ void PageTest::clickFrame() {
     QTest::mouseClick(&frame(), Qt::LeftButton, {}, QPoint(frame().width() / 2, frame().height() - 3));
 }
 
-QStringList PageTest::rows() {
-    QStringList texts;
-    for (int number = 1; number < grid().Rows(); ++number)
-        texts << row(number);
-    return texts;
-}
-
 QString PageTest::tools() {
     QStringList open;
     for (const FormName& name : {forms::DatePicker, forms::Calculator})
@@ -74,25 +57,11 @@ QString PageTest::tools() {
     return open.isEmpty() ? u"none"_s : open.join('+'_L1);
 }
 
-void PageTest::expectEditorOver(int row, int col) {
-    EXPECT_DOUBLE_EQ(box().Left(), grid().Left() + grid().ColPos(col));
-    EXPECT_DOUBLE_EQ(box().Top(), grid().Top() + grid().RowPos(row));
-    EXPECT_DOUBLE_EQ(box().Width(), grid().ColWidth(col));
-    EXPECT_DOUBLE_EQ(box().Height(), 300);
-    EXPECT_EQ(box().geometry(), grid().cellRect(row, col).translated(grid().pos()));
-}
-
 void PageTest::expectUnderEditor(const FormName& tool) {
     const Form* form = rig.loaded(tool);
     ASSERT_NE(form, nullptr) << std::string(tool);
     EXPECT_DOUBLE_EQ(form->Left(), frame().Left() + box().Left() + rig.mainWindow().Left());
     EXPECT_DOUBLE_EQ(form->Top(), frame().Top() + box().Top() + box().Height() + rig.mainWindow().Top());
-}
-
-void PageTest::expectStopped(int error) {
-    ASSERT_EQ(rig.messages->errors.size(), 1u);
-    EXPECT_EQ(rig.messages->errors.front().first, error) << rig.messages->errors.front().second.toStdString();
-    EXPECT_EQ(rig.exitCode(), 1);
 }
 
 } // namespace qinghe::testing

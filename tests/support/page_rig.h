@@ -1,15 +1,12 @@
 #pragma once
 
-#include "qt_printing.h"
 #include "support/grid_list.h"
-#include "support/program_rig.h"
-
-#include <gtest/gtest.h>
+#include "support/program_test.h"
 
 namespace qinghe::testing {
 
 /// A program in whose main window one list can be opened and worked on, as a user does.
-class PageTest : public ::testing::Test {
+class PageTest : public ProgramTest {
 protected:
     explicit PageTest(const GridList& worked) : list(worked) { rig.signIn(); }
 
@@ -32,14 +29,11 @@ protected:
     CommandButton& remove() { return rig.at(list.remove); }
     CommandButton& save() { return rig.at(list.save); }
     OptionButton& option(const Name<OptionButton>& name) { return rig.at(name); }
-    Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
-    Shared& shared() { return rig.program->shared(); }
 
-    void press(QWidget& control);
     void choose(const Name<OptionButton>& name) { press(option(name)); }
     void clickCell(int row, int col) { rig.clickCell(grid(), row, col); }
     /// Writes into the open editor over what stands there.
-    void write(const QString& text);
+    void write(const QString& text) { typeOver(box(), text); }
     /// Puts a text into a cell by click, typing and Enter. Not for columns that take no keys.
     void fillCell(int row, int col, const QString& text);
     /// Types into the open calculator and confirms.
@@ -50,23 +44,20 @@ protected:
     void clickForm() { QTest::mouseClick(&rig.mainWindow(), Qt::LeftButton, {}, QPoint(30, 3)); }
     void clickFrame();
 
-    QStringList rows();
+    QStringList rows() { return rowsOf(grid()); }
     QString row(int number) { return ProgramRig::rowText(grid(), number); }
     QString blankRow() { return QString(grid().Cols() - 2, u'|'); }
     int lastColumn() { return grid().Cols() - 1; }
-    QString current() { return u"%1,%2"_s.arg(grid().Row()).arg(grid().Col()); }
+    QString current() { return currentOf(grid()); }
     /// The names of those of the two tools that are open, joined with "+", or "none".
     QString tools();
 
     /// The editor lies exactly over a cell, in twips and in pixels.
-    void expectEditorOver(int row, int col);
+    void expectEditorOver(int row, int col) { expectOver(box(), grid(), row, col); }
     /// A tool hangs under the editor, at its left edge.
     void expectUnderEditor(const FormName& tool);
-    /// The program has ended with this run-time error.
-    void expectStopped(int error);
 
     const GridList& list;
-    ProgramRig rig;
 };
 
 /// The same for each list in turn.

@@ -3,42 +3,37 @@
 #include "qt_printing.h"
 #include "support/program_rig.h"
 
-#include <QFile>
-
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace qinghe::testing {
 
-/// A whole program, and what the tests of all pages ask of it.
+/// A whole program, and what the tests of all pages do with it and ask of it.
 class ProgramTest : public ::testing::Test {
 protected:
+    Shared& shared() { return rig.program->shared(); }
+    Adodc& adodc1() { return *rig.mainWindow().Adodc1; }
+    Adodc& adodc2() { return *rig.mainWindow().Adodc2; }
+
+    /// Clicks a control and lets what follows happen.
+    void press(QWidget& control);
+    /// Types into a box over what stands there; nothing empties it.
+    void typeOver(TextBox& box, const QString& text);
+
     /// Of a file in the program's folder; "(missing)" when there is none.
-    QByteArray bytes(const QString& name) const {
-        QFile file(rig.file(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
-    void write(const QString& name, const QByteArray& content) const {
-        QFile file(rig.file(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
+    QByteArray bytes(const QString& name) const;
+    void write(const QString& name, const QByteArray& content) const;
+
     /// The texts of all message boxes so far.
-    QStringList texts() const {
-        QStringList texts;
-        for (const ShownMessage& message : rig.messages->shown)
-            texts << message.text;
-        return texts;
-    }
+    QStringList texts() const;
     /// The program has told this run-time error, once, in Chinese and with the words given, and has ended with 1.
-    void expectError(int number, const QString& words) const {
-        ASSERT_EQ(rig.messages->errors.size(), 1u);
-        const auto& [told, text] = rig.messages->errors.front();
-        EXPECT_EQ(told, number) << text.toStdString();
-        EXPECT_TRUE(text.contains(words)) << text.toStdString();
-        EXPECT_TRUE(std::any_of(text.begin(), text.end(), [](QChar c) { return c.script() == QChar::Script_Han; }));
-        EXPECT_EQ(rig.process->codes, std::vector<int>{1});
-    }
+    void expectError(int number, const QString& words = {}) const;
+
+    /// The rows of a grid, cells joined with "|".
+    static QStringList rowsOf(const MSFlexGrid& grid);
+    /// The current cell: "2,3".
+    static QString currentOf(const MSFlexGrid& grid);
+    /// A box lies exactly over a cell, in twips and in pixels.
+    static void expectOver(const TextBox& box, MSFlexGrid& grid, int row, int col);
 
     ProgramRig rig;
 };

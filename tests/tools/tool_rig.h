@@ -1,21 +1,17 @@
 #pragma once
 
-#include "qt_printing.h"
-#include "support/program_rig.h"
-
-#include <gtest/gtest.h>
+#include "support/program_test.h"
 
 namespace qinghe::testing {
 
 /// A program on whose income page, with one stored row, the date picker and the calculator can be opened.
-class ToolTest : public ::testing::Test {
+class ToolTest : public ProgramTest {
 protected:
     /// Signs in and brings up the page; the day of today may be set on the rig's clock before.
     void openPage() {
         rig.signIn();
         rig.sql(u"insert into srb values('1','2024-05-03','工资','我',12.5,'现金','',1)"_s);
-        rig.click(rig.at(pages::Income));
-        rig.settle();
+        press(rig.at(pages::Income));
     }
     Form& openDatePicker() {
         if (!rig.program)
@@ -32,13 +28,10 @@ protected:
 
     MSFlexGrid& ms2() { return rig.at(income::Grid); }
     TextBox& tx2() { return rig.at(income::Box); }
-    Shared& shared() { return rig.program->shared(); }
     bool isOpen(const FormName& tool) {
         const Form* form = rig.loaded(tool);
         return form && form->isVisible();
     }
-
-    ProgramRig rig;
 };
 
 } // namespace qinghe::testing
