@@ -90,7 +90,8 @@ void PurgeWindow::makeHelp() {
 
 void PurgeWindow::load() {
     // The date is typed nowhere: it is closed again as soon as the picker is gone.
-    m_shared.pickerGone = [window = QPointer(this)] {
+    m_shared.pickerGone = [loaded = QPointer(this)] {
+        PurgeWindow* const window = loaded;
         if (window && window->Visible())
             window->Text1->setUsable(false);
     };
