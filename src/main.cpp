@@ -10,6 +10,7 @@
 #include <optional>
 
 int main(int argc, char** argv) {
+    using namespace Qt::StringLiterals;
     std::thread fonts = qinghe::readFontsAhead();
     qinghe::ApplicationArguments arguments(argc, argv);
     std::optional<qinghe::DisplayWatch> watch(std::in_place);
