@@ -33,7 +33,6 @@ struct ChartsPage::MonthChart {
     QStringView work;
     QStringView workAgain; ///< the name under which the emptied table is opened once more, if it is
     QStringView sums;
-    bool refreshesBehind;
 };
 
 ChartsPage::ChartsPage(MainWindow& form)
@@ -116,18 +115,13 @@ void ChartsPage::Form2_Option11_Click() {
                                       u"select 时间,金额 from srb",
                                       u"nsrb",
                                       {},
-                                      u"select 时间,sum(金额)as 金额 from nsrb group by 时间",
-                                      true};
+                                      u"select 时间,sum(金额)as 金额 from nsrb group by 时间"};
     show(Shown);
 }
 
 void ChartsPage::Form2_Option12_Click() {
-    static constexpr MonthChart Shown{&ChartsPage::Option12,
-                                      u"select 时间,金额 from zcb",
-                                      u" nzcb",
-                                      u"nzcb",
-                                      u"select 时间,sum(金额)as 金额 from nzcb group by 时间",
-                                      false};
+    static constexpr MonthChart Shown{&ChartsPage::Option12, u"select 时间,金额 from zcb", u" nzcb", u"nzcb",
+                                      u"select 时间,sum(金额)as 金额 from nzcb group by 时间"};
     show(Shown);
 }
 
@@ -162,8 +156,6 @@ void ChartsPage::show(const MonthChart& chart) {
     if (refuseEmpty(sums, u"目前没有提供给图表统计的记录数据！"_s, u"提示"_s))
         return;
     draw(sums, ChartLabels::Months);
-    if (chart.refreshesBehind)
-        Adodc2.refresh();
     Frame12->setCaption((this->*chart.option)->text());
 }
 

@@ -104,6 +104,8 @@ protected:
     /// whatever others use the control for meanwhile.
     Recordset& load(QStringView source);
     Recordset& loadList() { return load(list().table); }
+    /// Puts what was loaded last back on `Adodc1`: whoever asks the control finds the list there.
+    void showLoaded() { Adodc1.show(m_loaded); }
 
     const Traits& m_traits;
     const Quirks& m_quirks;

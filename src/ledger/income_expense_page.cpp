@@ -128,8 +128,7 @@ void IncomeExpensePage::Form2_Label2_Click(int index) {
     m_editing.close();
     Option7->setValue(true);
     showTotal();
-    // Whoever asks the control finds the bare table there, not the sum.
-    loadList();
+    showLoaded(); // not the sum
     navigation().bringForward(*this);
 }
 

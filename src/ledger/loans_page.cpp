@@ -152,8 +152,7 @@ void LoansPage::choose() {
     loadTable();
     navigation().bringForward(*this);
     showTotal();
-    // Whoever asks the control finds the bare table there, not the sum.
-    loadList();
+    showLoaded(); // not the sum
 }
 
 void LoansPage::showTotal() {

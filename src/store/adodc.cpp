@@ -24,6 +24,14 @@ Recordset& Adodc::recordset() {
     return m_loaded->asRead();
 }
 
+void Adodc::show(const std::shared_ptr<LoadedSet>& loaded) {
+    setConnectionString(m_home);
+    setRecordSource(loaded->source());
+    m_loaded = loaded;
+    if (Recordset& records = recordset(); records.recordCount() > 0)
+        records.moveFirst();
+}
+
 Recordset& Adodc::open(const QString& source) {
     setConnectionString(m_home);
     setRecordSource(source);

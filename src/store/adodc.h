@@ -42,6 +42,10 @@ public:
     Recordset& open(const QString& source);
 
     /// Never: nothing of it is drawn.
+    /// Takes a set that was loaded before for the one in hand, as if its source had just been run: it stands on its
+    /// first row, and nothing is read.
+    void show(const std::shared_ptr<LoadedSet>& loaded);
+
     bool isVisible() const { return false; }
 
 private:

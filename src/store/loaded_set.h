@@ -16,6 +16,7 @@ public:
     Recordset& records();
     /// The same as they were read, void or not, for work that goes on where it stood.
     Recordset& asRead() { return m_records; }
+    const QString& source() const { return m_source; }
     /// Runs the source once more.
     void reload();
 

@@ -50,7 +50,7 @@ void ResultSet::finishDistinctRow(qint64 identity) {
     finishRow(identity);
     if (m_rowCount < 2 || !lastTwoRowsEqual())
         return;
-    m_cells.resize(m_cells.size() - m_shape.columns.size());
+    m_cells.drop(m_shape.columns.size());
     m_firstIdentity.pop_back();
     --m_rowCount;
 }
@@ -59,22 +59,25 @@ void ResultSet::setCell(int row, int column, const StoredValue& value) {
     m_cells[cellIndex(row, column)] = packed(value);
 }
 
+void ResultSet::clear() {
+    *this = ResultSet(m_shape);
+}
+
 size_t ResultSet::footprint() const {
-    return m_cells.size() * sizeof(Cell) + m_bytes.size() + m_identities.size() * sizeof(qint64);
+    size_t bytes = m_cells.size() * sizeof(Cell) + m_identities.size() * sizeof(qint64);
+    for (const std::string& piece : m_bytes)
+        bytes += piece.capacity();
+    return bytes;
 }
 
 size_t ResultSet::letValuesGo() {
     if (!isPlain())
         return 0;
     const size_t before = footprint();
-    m_cells = std::vector<Cell>();
-    std::string().swap(m_bytes);
+    m_cells = {};
+    m_bytes = {};
     m_identities.shrink_to_fit();
     return before - footprint();
-}
-
-void ResultSet::clear() {
-    *this = ResultSet(m_shape);
 }
 
 ResultSet::Cell ResultSet::packed(const StoredValue& value) {
@@ -93,8 +96,12 @@ ResultSet::Cell ResultSet::packed(const StoredValue& value) {
 }
 
 quint64 ResultSet::keep(const QByteArray& bytes) {
-    const quint64 place = m_bytes.size();
-    m_bytes.append(bytes.constData(), static_cast<size_t>(bytes.size()));
+    const auto size = static_cast<size_t>(bytes.size());
+    if (m_bytes.empty() || m_bytes.back().capacity() - m_bytes.back().size() < size)
+        m_bytes.emplace_back().reserve(std::max(size, BytesAPiece));
+    std::string& piece = m_bytes.back();
+    const quint64 place = (m_bytes.size() - 1) << 32 | piece.size();
+    piece.append(bytes.constData(), size);
     return place;
 }
 
@@ -108,7 +115,8 @@ StoredValue ResultSet::stored(int row, int column) const {
     case Storage::Text:
     case Storage::Blob:
         return {.storage = cell.storage,
-                .bytes = QByteArray::fromRawData(m_bytes.data() + cell.payload, static_cast<qsizetype>(cell.length))};
+                .bytes = QByteArray::fromRawData(m_bytes[cell.payload >> 32].data() + (cell.payload & 0xFFFF'FFFF),
+                                                 static_cast<qsizetype>(cell.length))};
     case Storage::Null:
         break;
     }

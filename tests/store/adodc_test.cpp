@@ -127,5 +127,24 @@ TEST_F(DataControl, ReloadingASetRunsItsSourceOnceMore) {
     EXPECT_EQ(kept->records().recordCount(), 2);
 }
 
+TEST_F(DataControl, ShowsASetThatWasLoadedBeforeOnItsFirstRowWithoutReadingItAgain) {
+    addIncome(u"2024-5-3"_s, u"工资"_s, 1);
+    addIncome(u"2024-5-4"_s, u"利息"_s, 2);
+    Recordset& set = control.open(u"srb"_s);
+    const std::shared_ptr<LoadedSet> loaded = control.loaded();
+    set.moveNext();
+    second.open(u"srb"_s).deleteCurrent();
+    control.setConnectionString(u"elsewhere"_s);
+    control.open(u"select sum(金额) as 金额 from srb"_s);
+    control.show(loaded);
+    EXPECT_EQ(control.recordSource(), u"srb"_s);
+    EXPECT_EQ(control.connectionString(), connectionText(folder.path()));
+    EXPECT_EQ(&control.recordset(), &set);
+    EXPECT_EQ(set.recordCount(), 2);
+    EXPECT_EQ(set.field(u"项目"_s).text(), u"工资"_s);
+    control.show(std::make_shared<LoadedSet>(store, path(), u"zcb"_s)); // an empty one
+    EXPECT_TRUE(control.recordset().eof());
+}
+
 } // namespace
 } // namespace qinghe
