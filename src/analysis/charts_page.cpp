@@ -164,7 +164,6 @@ void ChartsPage::gatherMonths(const MonthChart& chart) {
     if (!chart.workAgain.isEmpty())
         Adodc2.open(chart.workAgain.toString());
     fillScratchLedger(Adodc1.recordset(), Adodc2.recordset());
-    Adodc2.refresh();
 }
 
 bool ChartsPage::refuseEmpty(const Recordset& records, const QString& message, const QString& title) {

@@ -5,8 +5,8 @@
 
 namespace qinghe {
 
-void PendingRow::set(int column, const Value& value) {
-    m_values[static_cast<size_t>(column)] = value;
+void PendingRow::set(int column, Value value) {
+    m_values[static_cast<size_t>(column)] = std::move(value);
     m_edited = true;
 }
 
@@ -25,12 +25,11 @@ std::vector<int> PendingRow::columns() const {
     return columns;
 }
 
-std::vector<StoredValue> PendingRow::stored() const {
-    std::vector<StoredValue> values;
-    values.reserve(m_values.size());
+std::span<const StoredValue> PendingRow::stored() {
+    m_stored.clear();
     for (const std::optional<Value>& value : m_values)
-        values.push_back(value ? encoded(*value) : StoredValue());
-    return values;
+        m_stored.push_back(value ? encoded(*value) : StoredValue());
+    return m_stored;
 }
 
 } // namespace qinghe

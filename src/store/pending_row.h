@@ -3,6 +3,7 @@
 #include "store/stored_value.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace qinghe {
@@ -16,18 +17,19 @@ public:
     bool isNew() const { return m_new; }
     bool isEmpty() const { return !m_new && !m_edited; }
     void begin() { m_new = true; }
-    void set(int column, const Value& value);
+    void set(int column, Value value);
     void clear();
 
     /// What was set in a column.
     const std::optional<Value>& value(int column) const { return m_values[static_cast<size_t>(column)]; }
     /// The columns in which something was set.
     std::vector<int> columns() const;
-    /// The values of all columns as they are stored; NULL where nothing was set.
-    std::vector<StoredValue> stored() const;
+    /// The values of all columns as they are stored; NULL where nothing was set. Good until it is asked again.
+    std::span<const StoredValue> stored();
 
 private:
     std::vector<std::optional<Value>> m_values; ///< by column
+    std::vector<StoredValue> m_stored;          ///< kept for its room alone: a save asks once a row
     bool m_new = false;
     bool m_edited = false;
 };

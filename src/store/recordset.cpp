@@ -53,7 +53,7 @@ struct Recordset::Impl {
     }
 
     void storeAddedRow() {
-        const std::vector<StoredValue> values = pending.stored();
+        const std::span<const StoredValue> values = pending.stored();
         const qint64 identity = store.insertRow(rows.shape().table, rows.shape().ordinals, values);
         if (cursor.count() == 0) { // a save has deleted all: places are no longer counted around the deleted rows
             rows.clear();
@@ -65,7 +65,7 @@ struct Recordset::Impl {
 
     void storeChangedFields() {
         const std::vector<int> columns = pending.columns();
-        const std::vector<StoredValue> row = pending.stored();
+        const std::span<const StoredValue> row = pending.stored();
         std::vector<int> ordinals;
         std::vector<StoredValue> values;
         for (const int column : columns) {
