@@ -169,7 +169,7 @@ void ChartsPage::gatherMonths(const MonthChart& chart) {
 bool ChartsPage::refuseEmpty(const Recordset& records, const QString& message, const QString& title) {
     if (records.recordCount() > 0)
         return false;
-    m_shared.services.say(message, MessageStyle::OkInformation, title);
+    m_shared.tell(message, title);
     return true;
 }
 

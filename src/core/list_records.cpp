@@ -6,23 +6,11 @@
 
 namespace qinghe {
 
-namespace {
-
-int ordinalOf(Recordset& records, QStringView name) {
-    for (int ordinal = 0; ordinal < records.fieldCount(); ++ordinal)
-        if (records.field(ordinal).name() == name)
-            return ordinal;
-    records.field(name); // says which one is missing
-    return -1;
-}
-
-} // namespace
-
 void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
               const std::function<int()>& rowForEmptyText) {
     std::vector<std::size_t> ordinals;
     for (const QStringView field : fields)
-        ordinals.push_back(static_cast<std::size_t>(ordinalOf(records, field)));
+        ordinals.push_back(static_cast<std::size_t>(records.field(field).ordinal()));
     std::vector<std::optional<QString>> texts(ordinals.empty() ? 0 : *std::ranges::max_element(ordinals) + 1);
     fillRows(grid, records, [&] {
         records.readTexts(texts);
@@ -58,8 +46,10 @@ void RowWriter::add(int row) {
 }
 
 void RowWriter::add(int row, int number) {
+    if (!m_number)
+        m_number = m_records.field(columns::RowNumber);
     begin(row);
-    m_records.field(columns::RowNumber).setValue(number);
+    m_number->setValue(number);
     m_records.update();
 }
 

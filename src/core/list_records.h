@@ -32,7 +32,8 @@ private:
 
     const MSFlexGrid& m_grid;
     Recordset& m_records;
-    std::vector<Field> m_fields; ///< of the columns from 1 on
+    std::vector<Field> m_fields;   ///< of the columns from 1 on
+    std::optional<Field> m_number; ///< looked for once, where rows are numbered
 };
 
 } // namespace qinghe

@@ -142,8 +142,7 @@ void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
     const qsizetype before = key_presses::characterCount(Text3->Text());
     Label3->setCaption(counted(before + 1));
     if (before == MostCharacters - 1 && KeyAscii != key_presses::Backspace) {
-        m_shared.services.say(u"日程提醒内容不能超过50字,请重新设置内容。"_s, MessageStyle::OkInformation,
-                              u"系统提示"_s);
+        m_shared.tell(u"日程提醒内容不能超过50字,请重新设置内容。"_s, u"系统提示"_s);
         // The whole text goes, not only what is too much: that is how the limit is kept.
         Text3->setBoxText({});
         Label3->setCaption(counted(1));

@@ -71,6 +71,7 @@ private:
 class Field {
 public:
     QString name() const;
+    int ordinal() const { return m_ordinal; } ///< 0-based
     Value value() const;
     QString text() const; ///< value().text()
     bool isNull() const;

@@ -1,5 +1,6 @@
 #include "store/schema.h"
 
+#include "runtime/months.h"
 #include "store/column.h"
 #include "store/connection.h"
 #include "store/migrations.h"
@@ -105,13 +106,12 @@ struct SchemaIndex {
     int leading; ///< the characters of the text form that are indexed; 0: the column itself
 };
 
-constexpr int MonthLength = 7;
 constexpr std::array Indexes{
-    SchemaIndex{tables::Income, columns::Time, MonthLength},
-    SchemaIndex{tables::Expense, columns::Time, MonthLength},
-    SchemaIndex{tables::Budget, columns::BudgetTime, MonthLength},
-    SchemaIndex{tables::Borrowed, columns::Day, MonthLength},
-    SchemaIndex{tables::Lent, columns::Day, MonthLength},
+    SchemaIndex{tables::Income, columns::Time, months::Length},
+    SchemaIndex{tables::Expense, columns::Time, months::Length},
+    SchemaIndex{tables::Budget, columns::BudgetTime, months::Length},
+    SchemaIndex{tables::Borrowed, columns::Day, months::Length},
+    SchemaIndex{tables::Lent, columns::Day, months::Length},
     SchemaIndex{tables::Schedule, columns::PlanDay, 0},
 };
 

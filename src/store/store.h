@@ -40,7 +40,7 @@ public:
     const QString& path() const;
 
     /// Runs a source (a table name or one SELECT of the dialect) and gives all its rows. The store remembers no result:
-    /// only the opening of a ledger runs a source twice, which costs 1.3 ms of ten years.
+    /// who needs the same rows again keeps them (LoadedSet).
     std::shared_ptr<ResultSet> fetch(const QString& source);
 
     /// Between handlers: lets go what was read. Results forget their values but for sums, groups and distinct ones;
