@@ -2,6 +2,8 @@
 
 #include "core/ink.h"
 
+#include <algorithm>
+
 namespace qinghe {
 
 namespace {
@@ -25,14 +27,28 @@ Frame& Navigation::enter(Page& page) {
 
 void Navigation::makeTab(Page& page, const PageTab& tab) {
     auto* label = new Label(&m_window, tab.label.toString(), tab.caption.toString());
-    label->place(tab.left, TabTop, TabWidth, TabHeight);
     label->setRole(Role::PageLabel);
     label->MouseMove = [label] {
         label->setForeColor(ink::Red);
         label->setHandCursor();
     };
     label->Click = [&page, code = tab.code] { page.tabClicked(code); };
-    m_tabs.push_back({label, tab.code});
+    m_tabs.push_back({label, &tab});
+    std::ranges::stable_sort(m_tabs, {}, [](const Tab& each) { return each.traits->left; });
+    placeTabs();
+}
+
+void Navigation::placeTabs() {
+    const bool crowded = std::ranges::adjacent_find(m_tabs, [](const Tab& one, const Tab& next) {
+                             return next.traits->left - one.traits->left < TabWidth;
+                         }) != m_tabs.end();
+    const double share = m_window.Width() / static_cast<double>(m_tabs.size());
+    double even = 0;
+    for (const Tab& tab : m_tabs) {
+        tab.label->place(crowded ? even : tab.traits->left, TabTop, crowded ? std::min(share, TabWidth) : TabWidth,
+                         TabHeight);
+        even += share;
+    }
 }
 
 void Navigation::leaveOthers(const Page& opened, PageCode code) {
@@ -70,7 +86,7 @@ void Navigation::show(const Page& shown) {
 
 void Navigation::markCurrent() {
     for (const Tab& tab : m_tabs)
-        tab.label->setForeColor(static_cast<int>(tab.code) == currentPage ? ink::Red : ink::Black);
+        tab.label->setForeColor(static_cast<int>(tab.traits->code) == currentPage ? ink::Red : ink::Black);
 }
 
 void Navigation::begin(const Page& page) {

@@ -44,14 +44,16 @@ public:
 private:
     struct Tab {
         Label* label;
-        PageCode code;
+        const PageTab* traits;
     };
     void makeTab(Page& page, const PageTab& tab);
+    /// Each label in its own place, or, where two of them would overlap, all in one even row in the same order.
+    void placeTabs();
 
     Form& m_window;
     Shared& m_shared;
     std::vector<Page*> m_pages;
-    std::vector<Tab> m_tabs;
+    std::vector<Tab> m_tabs; ///< from left to right
 };
 
 } // namespace qinghe

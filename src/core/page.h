@@ -13,7 +13,7 @@ class Navigation;
 struct PageTab {
     QStringView label;
     QStringView caption;
-    double left; ///< twips
+    double left; ///< twips; where labels would lie over one another, only the order counts (Navigation)
     PageCode code;
 };
 

@@ -10,16 +10,6 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// What initialising empties, in this order. Users, categories, the month statistics, settings and pictures stay, and
-/// so do the files of the diary.
-constexpr std::array InitialisedTables{
-    tables::Lent,  tables::Borrowed, tables::IncomeScratch, tables::ExpenseScratch, tables::Schedule,
-    tables::Diary, tables::Income,   tables::Budget,        tables::Expense,        tables::Accounts};
-
-} // namespace
-
 FileSettings::FileSettings(MainWindow& form, Frame& page)
     : QObject(&form),
       m_shared(form.shared()),
@@ -105,7 +95,7 @@ void FileSettings::Form2_Check4_Click() {
                                                 MessageStyle::YesNoQuestion, u"系统提示"_s);
     if (answer != Answer::Yes)
         return Check4->setValue(false);
-    for (QStringView table : InitialisedTables)
+    for (QStringView table : tables::Initialised)
         emptyTable(Adodc1.open(table.toString()));
     m_shared.tell(u"初始化完毕"_s, u"提示"_s);
 }

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "store/connection.h"
+
 #include <QString>
 
+#include <array>
 #include <span>
 
 namespace qinghe {
-
-class Connection;
 
 /// A step from one form of the data file to the next.
 struct Migration {
@@ -20,10 +21,11 @@ constexpr int versionAfter(std::span<const Migration> steps) {
     return steps.empty() ? FirstVersion : steps.back().to;
 }
 
-/// The steps that this program knows, their versions rising. There is none yet. New files are made by the same road:
-/// the tables of version 1 (schema.cpp), then every step. Who adds one, a lambda that runs an `ALTER TABLE`, puts a
-/// file of the version before beside those in tests/store/versions.
-inline constexpr std::span<const Migration> Migrations{};
+/// The steps that this program knows, their versions rising: none yet. New files are made by the same road: the tables
+/// of version 1 (schema.cpp), then every step. Who adds one, such as
+/// `Migration{2, [](Connection& file) { file.run("ALTER TABLE zhb ADD COLUMN ..."); }}`, puts a file of the version
+/// before beside those in tests/store/versions, where that of version 1 is already.
+inline constexpr std::array<Migration, 0> Migrations{};
 
 /// The version of the data files that this program makes and leaves. It stands in the file (PRAGMA user_version). Files
 /// of version 1 were delivered without a number: 0 means 1, and stays, since a file is not written only to be numbered

@@ -2,6 +2,8 @@
 
 #include <QStringView>
 
+#include <array>
+
 namespace qinghe {
 
 /// The tables of the data file, by what they hold. Their names in the file never change.
@@ -29,6 +31,11 @@ inline constexpr QStringView IncomeScratch = u"nsrb";   ///< income by months, f
 inline constexpr QStringView ExpenseScratch = u"nzcb";  ///< the same of expense
 inline constexpr QStringView MonthScratch = u"sztjlsb"; ///< a whole ledger by months, filled for the month's reports
 
+/// What initialising the file empties, in this order. Users, categories, the month statistics, settings and pictures
+/// stay, and so do the files of the diary.
+inline constexpr std::array Initialised{Lent,  Borrowed, IncomeScratch, ExpenseScratch, Schedule,
+                                        Diary, Income,   Budget,        Expense,        Accounts};
+
 } // namespace tables
 
 /// Their columns. One name may stand in several tables.
@@ -44,7 +51,7 @@ inline constexpr QStringView Amount = u"金额";
 inline constexpr QStringView Account = u"账户"; ///< of loans too
 inline constexpr QStringView Note = u"备注";    ///< of loans and the budget too
 inline constexpr QStringView Person = u"人员";
-/// The row's number when it was saved, last in every table that is shown in a grid.
+/// The row's number when it was saved, in every table that is shown in a grid; the last of its first columns.
 inline constexpr QStringView RowNumber = u"区别";
 // loans
 inline constexpr QStringView Day = u"日期"; ///< of the diary too

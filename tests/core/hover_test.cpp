@@ -14,13 +14,11 @@ protected:
 };
 
 TEST_F(Hover, ALabelUnderThePointerIsRedAndShowsTheHand) {
-    for (const QString& name :
-         QStringList{pages::Desktop, pages::Income, pages::Expense, pages::Loans, pages::Accounts, pages::Budget,
-                     pages::Charts, pages::Users, pages::Diary, pages::Schedule, pages::Settings}) {
-        Label& hovered = label(name);
+    for (const LabelledPage& page : LabelledPages) {
+        Label& hovered = label(page.label);
         pointer::move(hovered);
-        EXPECT_EQ(hovered.ForeColor(), Red) << name.toStdString();
-        EXPECT_TRUE(handOver(hovered)) << name.toStdString();
+        EXPECT_EQ(hovered.ForeColor(), Red) << std::string(page.label);
+        EXPECT_TRUE(handOver(hovered)) << std::string(page.label);
     }
 }
 

@@ -3,27 +3,21 @@
 namespace qinghe::testing {
 namespace {
 
-struct ExpectedPage {
-    QString label, caption;
-    double labelLeft;
-    int number;
-    QString frame;
-    double left, top, width, height;
+struct FramePlace {
+    double left = 120, top = 1680, width = 11655, height = 6255;
 };
 
-const std::array<ExpectedPage, 11> Expected{{
-    {pages::Desktop, u"  桌面"_s, 0, 24, desktop::Page, 200, 1680, 11535, 6135},
-    {pages::Income, u"  收入"_s, 1080, 20, income::Page, 120, 1680, 11655, 6255},
-    {pages::Expense, u"  支出"_s, 2160, 21, income::Page, 120, 1680, 11655, 6255},
-    {pages::Loans, u"  暂借"_s, 3240, 1, loans::Page, 120, 1680, 11655, 6255},
-    {pages::Accounts, u"  储蓄"_s, 4320, 6, accounts::Page, 120, 1680, 11655, 6255},
-    {pages::Budget, u"  预算"_s, 5400, 5, budget::Page, 120, 1680, 11655, 6255},
-    {pages::Charts, u"  图表"_s, 6480, 12, charts::Page, 120, 1680, 11655, 6225},
-    {pages::Users, u" 用户"_s, 7680, 4, users::Page, 120, 1680, 11655, 6255},
-    {pages::Diary, u"  日记"_s, 8640, 8, diary_page::Page, 120, 1680, 11655, 6255},
-    {pages::Schedule, u"  日程"_s, 9720, 23, schedule::Page, 120, 1680, 11655, 6015},
-    {pages::Settings, u" 设置"_s, 10920, 7, settings::Page, 120, 1680, 11655, 6135},
-}};
+/// Where a page's frame comes into view; those that are not named here have one place in common.
+FramePlace placeOf(const QString& frame) {
+    static const std::map<QString, FramePlace> others{
+        {desktop::Page, {200, 1680, 11535, 6135}},
+        {charts::Page, {.height = 6225}},
+        {schedule::Page, {.height = 6015}},
+        {settings::Page, {.height = 6135}},
+    };
+    const auto found = others.find(frame);
+    return found == others.end() ? FramePlace{} : found->second;
+}
 
 class NavigationTest : public CoreTest {
 protected:
@@ -31,48 +25,62 @@ protected:
 
     QStringList redLabels() {
         QStringList red;
-        for (const ExpectedPage& page : Expected)
+        for (const LabelledPage& page : LabelledPages)
             if (label(page.label).ForeColor() == Red)
                 red << page.label;
         return red;
     }
     QStringList framesOnView() {
         QStringList shown;
-        for (const QString& name :
-             QStringList{desktop::Page, income::Page, loans::Page, accounts::Page, budget::Page, charts::Page,
-                         users::Page, diary_page::Page, schedule::Page, settings::Page, categories::Page})
-            if (rig.onMain<Frame>(name).Visible())
-                shown << name;
+        for (const Page* page : main().navigation().pages())
+            if (page->frame().Visible())
+                shown << page->traits().frame.toString();
         return shown;
     }
 };
 
 TEST_F(NavigationTest, TheLabelsStandInOneRow) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         const Label& shown = label(page.label);
         EXPECT_EQ(shown.Caption(), page.caption);
-        EXPECT_EQ(shown.Left(), page.labelLeft) << page.label.toStdString();
-        EXPECT_EQ(shown.Top(), 1080) << page.label.toStdString();
-        EXPECT_TRUE(shown.isVisible()) << page.label.toStdString();
+        EXPECT_EQ(shown.Left(), page.left) << std::string(page.label);
+        EXPECT_EQ(shown.Top(), 1080) << std::string(page.label);
+        EXPECT_TRUE(shown.isVisible()) << std::string(page.label);
+    }
+}
+
+TEST_F(NavigationTest, LabelsThatWouldOverlapShareTheRowEvenlyInTheirOrder) {
+    static constexpr PageTab tabs[] = {{u"Label99", u"  礼金", 4900, PageCode::None}};
+    static constexpr PageTraits traits{u"Frame99", u"礼金", 120, 1680, 11655, 6255, tabs};
+    new Page(main().navigation(), traits); // between the accounts and the budget
+    QStringList order;
+    for (const LabelledPage& page : LabelledPages)
+        order << page.label;
+    order.insert(order.indexOf(pages::Budget), u"Label99"_s);
+    const double share = main().Width() / static_cast<double>(order.size());
+    for (qsizetype i = 0; i < order.size(); ++i) {
+        EXPECT_NEAR(label(order[i]).Left(), share * static_cast<double>(i), 0.01) << order[i].toStdString();
+        EXPECT_LE(label(order[i]).Width(), share);
     }
 }
 
 TEST_F(NavigationTest, AClickBringsThePagesFrameIntoItsPlaceAndHidesTheOthers) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         rig.at(categories::Page).setShown(true);
         click(page.label);
-        EXPECT_EQ(framesOnView(), QStringList{page.frame}) << page.label.toStdString();
+        EXPECT_EQ(framesOnView(), QStringList{page.frame}) << std::string(page.label);
         const Frame& frame = rig.onMain<Frame>(page.frame);
-        EXPECT_EQ(frame.Left(), page.left) << page.label.toStdString();
-        EXPECT_EQ(frame.Top(), page.top) << page.label.toStdString();
-        EXPECT_EQ(frame.Width(), page.width) << page.label.toStdString();
-        EXPECT_EQ(frame.Height(), page.height) << page.label.toStdString();
+        const FramePlace place = placeOf(page.frame);
+        EXPECT_EQ(frame.Left(), place.left) << std::string(page.label);
+        EXPECT_EQ(frame.Top(), place.top) << std::string(page.label);
+        EXPECT_EQ(frame.Width(), place.width) << std::string(page.label);
+        EXPECT_EQ(frame.Height(), place.height) << std::string(page.label);
         rig.at(users::Page).setShown(false); // the schedule's page leaves it as it stands
     }
 }
 
 TEST_F(NavigationTest, AClickTakesThePagesNumberAndMarksItsLabelAlone) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         click(page.label);
         EXPECT_EQ(main().navigation().currentPage, page.number);
         EXPECT_EQ(redLabels(), QStringList{page.label});
@@ -80,19 +88,19 @@ TEST_F(NavigationTest, AClickTakesThePagesNumberAndMarksItsLabelAlone) {
 }
 
 TEST_F(NavigationTest, AClickUnloadsTheTools) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         openTools();
         click(page.label);
-        EXPECT_FALSE(toolsOpen()) << page.label.toStdString();
+        EXPECT_FALSE(toolsOpen()) << std::string(page.label);
     }
 }
 
 TEST_F(NavigationTest, TheLabelsStayReachableOverEveryPage) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         click(page.label);
-        for (const ExpectedPage& other : Expected)
+        for (const LabelledPage& other : LabelledPages)
             EXPECT_EQ(main().childAt(label(other.label).geometry().center()), &label(other.label))
-                << page.label.toStdString();
+                << std::string(page.label);
     }
 }
 
@@ -106,21 +114,21 @@ TEST_F(NavigationTest, TheScheduleLeavesTheUsersPageVisibleBehindIt) {
 }
 
 TEST_F(NavigationTest, EveryOtherPageHidesTheUsersPage) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         if (page.number == 23 || page.number == 4)
             continue;
         click(pages::Users);
         click(pages::Schedule);
         click(page.label);
-        EXPECT_FALSE(rig.at(users::Page).Visible()) << page.label.toStdString();
+        EXPECT_FALSE(rig.at(users::Page).Visible()) << std::string(page.label);
     }
 }
 
 TEST_F(NavigationTest, ThePageInFrontCanBeOpenedOnceMore) {
-    for (const ExpectedPage& page : Expected) {
+    for (const LabelledPage& page : LabelledPages) {
         click(page.label);
         click(page.label);
-        EXPECT_TRUE(rig.onMain<Frame>(page.frame).isVisible()) << page.label.toStdString();
+        EXPECT_TRUE(rig.onMain<Frame>(page.frame).isVisible()) << std::string(page.label);
         EXPECT_EQ(redLabels(), QStringList{page.label});
     }
 }

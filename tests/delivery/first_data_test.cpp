@@ -52,7 +52,8 @@ protected:
     Store store;
 };
 
-TEST_F(FirstData, HasEveryTableWithItsColumnsInOrder) {
+/// Columns of later versions stand behind those of the first.
+TEST_F(FirstData, HasEveryTableOfTheFirstVersionWithItsColumnsInOrder) {
     const std::map<QString, QString> tables{
         {"srb", "编号 时间 项目 收款人 金额 账户 备注 区别"},
         {"zcb", "编号 时间 项目 付款人 金额 账户 备注 区别"},
@@ -77,7 +78,8 @@ TEST_F(FirstData, HasEveryTableWithItsColumnsInOrder) {
         {"sztjlsb", "时间 金额 项目 区别 人员"},
     };
     for (const auto& [table, columns] : tables) {
-        EXPECT_EQ(columnNames(table), columns.split(' ')) << qPrintable(table);
+        const QStringList expected = columns.split(' ');
+        EXPECT_EQ(columnNames(table).first(expected.size()), expected) << qPrintable(table);
     }
 }
 

@@ -49,13 +49,16 @@ TEST_F(AccountWalkTest, FillsARowFromItsNameToItsRemark) {
         enter();
         EXPECT_EQ(balance(), expected);
     }
-    EXPECT_EQ(current(), u"1,9");
+    EXPECT_EQ(current(), u"1,%1"_s.arg(BalanceColumn));
     EXPECT_EQ(box().Text(), u"-100");
     EXPECT_FALSE(box().isEnabled());
-    fillCell(1, 10, u"每月"_s);
-    EXPECT_EQ(row(1), u"工资卡|1000|200|50|30|80.5|0.5|1200|-100|每月");
+    fillCell(1, remarkColumn(), u"每月"_s);
+    const QString walked = u"工资卡|1000|200|50|30|80.5|0.5|1200|-100|"_s;
+    EXPECT_TRUE(row(1).startsWith(walked) && row(1).endsWith(u"|每月"_s));
+    fillGaps(1);
     press(save());
-    EXPECT_EQ(stored(), QStringList{u"工资卡|1000|200|50|30|80.5|0.5|1200|-100|每月|1"_s});
+    EXPECT_EQ(stored(u"账户名称,起始金额,收入,支出,借入,借出,转入,转出,余额,备注信息,区别"_s),
+              QStringList{walked + u"每月|1"_s});
 }
 
 TEST_F(AccountWalkTest, TakesEveryAmountThroughTheCalculator) {
@@ -88,7 +91,7 @@ TEST_F(AccountWalkTest, WritesSeventyWithABlankAndStandsOnTheClosedBalance) {
     openOn(u"0,0,0,0,0,0,0,100"_s);
     leave(8, u"30"_s);
     EXPECT_EQ(balance(), u" 70");
-    EXPECT_EQ(current(), u"1,9");
+    EXPECT_EQ(current(), u"1,%1"_s.arg(BalanceColumn));
     EXPECT_EQ(box().Text(), u" 70");
     EXPECT_FALSE(box().isEnabled());
 }
@@ -120,7 +123,7 @@ TEST_F(AccountWalkTest, CopiesAStartingAmountThatIsNoNumber) {
 
 TEST_F(AccountWalkTest, CountsABalanceWithoutALeadingNumberAsNothing) {
     openOn(u"0,0,0,0,0,0,0,100"_s);
-    grid().setTextMatrix(1, 9, u"约一百"_s);
+    grid().setTextMatrix(1, BalanceColumn, u"约一百"_s);
     leave(4, u"30"_s);
     EXPECT_EQ(balance(), u"-30");
 }
@@ -138,10 +141,11 @@ TEST_F(AccountWalkTest, LeavesTheBalanceAloneBehindNameBalanceAndRemark) {
     openOn(u"1,2,3,4,5,6,7,100"_s);
     fillCell(1, 1, u"改名"_s);
     EXPECT_EQ(balance(), u"100");
-    clickCell(1, 9);
+    clickCell(1, BalanceColumn);
     enter();
-    EXPECT_EQ(current(), u"1,10");
+    EXPECT_EQ(current(), u"1,%1"_s.arg(BalanceColumn + 1));
     EXPECT_EQ(balance(), u"100");
+    clickCell(1, remarkColumn());
     enter();
     EXPECT_EQ(balance(), u"100");
     EXPECT_FALSE(box().Visible());

@@ -44,7 +44,7 @@ TEST_F(AccountsTest, KeepsTheOldFirstRowOverAnEmptyTableWithoutAMessage) {
     openWith(2);
     rig.sql(u"delete from zhb"_s);
     open();
-    EXPECT_EQ(rows(), QStringList{u"户1|100|10|20|30|40|50|60|71|备1"_s});
+    EXPECT_EQ(rows(), QStringList{list.firstRow.toString()});
     EXPECT_TRUE(rig.messages->shown.empty());
 }
 
@@ -55,8 +55,12 @@ TEST_F(AccountsTest, WritesAnEmptyTextToTheRowNumberOfTheLoanList) {
     store(2);
     storeAccount(u"1,2,3,4,5,6,7,8"_s, u""_s);
     open();
-    EXPECT_EQ(rows(), (QStringList{u"|100|10|20|30|40|50|60|71|"_s, u"户2|100|10|20|30|40|50|60|72|备2"_s,
-                                   u"|1|2|3|4|5|6|7|8|"_s})); // the first row lost name and remark
+    QStringList first = list.firstRow.toString().split(u'|');
+    first.front().clear();
+    first.back().clear();
+    EXPECT_EQ(row(1), first.join(u'|')); // it lost name and remark
+    EXPECT_TRUE(row(2).startsWith(u"户2|100|10|20|30|40|50|60|72|"_s) && row(2).endsWith(u"|备2"_s));
+    EXPECT_TRUE(row(3).startsWith(u"|1|2|3|4|5|6|7|8|"_s));
 }
 
 TEST_F(AccountsTest, StopsWhenTheRowNumberOfTheLoanListIsBeyondItsOwn) {
@@ -70,12 +74,12 @@ TEST_F(AccountsTest, StopsWhenTheRowNumberOfTheLoanListIsBeyondItsOwn) {
 TEST_F(AccountsTest, SkipsNullFieldsInTheFill) {
     rig.sql(u"insert into zhb(账户名称,余额) values('户',5)"_s);
     open();
-    EXPECT_EQ(rows(), QStringList{u"户||||||||5|"_s});
+    EXPECT_TRUE(row(1).startsWith(u"户||||||||5|"_s));
 }
 
 TEST_F(AccountsTest, OpensTheCalculatorByAClickOnEveryNumberButTheBalance) {
     openWith(1);
-    for (int col = 1; col <= 10; ++col) {
+    for (const int col : {1, 2, 3, 4, 5, 6, 7, 8, BalanceColumn, remarkColumn()}) {
         clickCell(1, col);
         const bool number = col >= 2 && col <= 8;
         EXPECT_EQ(tools(), number ? forms::Calculator : u"none"_s) << col;
@@ -89,7 +93,7 @@ TEST_F(AccountsTest, OpensTheCalculatorByAClickOnEveryNumberButTheBalance) {
 
 TEST_F(AccountsTest, TakesOneKeyInTheBalanceAndIsClosedThen) {
     openWith(1);
-    clickCell(1, 9);
+    clickCell(1, BalanceColumn);
     EXPECT_EQ(QApplication::focusWidget(), &box());
     box().selectAll();
     rig.type(box(), u"98"_s);
@@ -97,18 +101,18 @@ TEST_F(AccountsTest, TakesOneKeyInTheBalanceAndIsClosedThen) {
     EXPECT_FALSE(box().isEnabled());
     clickForm();
     EXPECT_EQ(balance(), u"9");
-    clickCell(1, 10);
+    clickCell(1, remarkColumn());
     EXPECT_TRUE(box().isEnabled());
 }
 
 TEST_F(AccountsTest, ActsByTheColumnOnAClickInTheBox) {
     openWith(1);
     clickCell(1, 1);
-    for (const int col : {9, 10, 5}) {
+    for (const int col : {BalanceColumn, remarkColumn(), 5}) {
         box().setUsable(true);
         grid().setCol(col); // as the arrow keys of the grid do
         press(box());
-        EXPECT_EQ(box().isEnabled(), col == 10) << col;
+        EXPECT_EQ(box().isEnabled(), col == remarkColumn()) << col;
         EXPECT_EQ(tools(), col == 5 ? forms::Calculator : u"none"_s) << col;
     }
 }
@@ -127,7 +131,7 @@ TEST_F(AccountsTest, LooksAtTheCurrentRowBeforeItAddsOne) {
 
 TEST_F(AccountsTest, GoesToTheLastRowWithAnEmptyBoxWhenABlankOneAboveRefusesTheAdd) {
     openWith(3);
-    for (int col = 1; col <= 10; ++col)
+    for (int col = 1; col <= remarkColumn(); ++col)
         grid().setTextMatrix(1, col, {});
     clickCell(1, 1);
     press(add());
@@ -144,17 +148,17 @@ TEST_F(AccountsTest, CommitsTheBoxBeforeItLooksAtTheRow) {
     write(u"工资卡"_s);
     press(add());
     EXPECT_TRUE(rig.messages->shown.empty());
-    EXPECT_EQ(rows(), (QStringList{u"工资卡|||||||||"_s, blankRow()}));
+    EXPECT_EQ(rows(), (QStringList{u"工资卡"_s + blankRow(), blankRow()}));
 }
 
 TEST_F(AccountsTest, RefusesASaveWithoutABalance) {
     openWith(2);
-    grid().setTextMatrix(2, 9, {});
+    grid().setTextMatrix(2, BalanceColumn, {});
     press(save());
     EXPECT_EQ(rig.messages->shown, std::vector{SaveRefused});
     EXPECT_EQ(grid().Row(), 2);
-    grid().setTextMatrix(2, 9, u"0"_s);
-    grid().setTextMatrix(2, 10, {});
+    grid().setTextMatrix(2, BalanceColumn, u"0"_s);
+    grid().setTextMatrix(2, remarkColumn(), {});
     press(save());
     EXPECT_EQ(rig.lastMessage(), SaveDone);
 }
@@ -170,7 +174,7 @@ TEST_F(AccountsTest, NamesItsTableForTheSaveAndYetKeepsTheSetInHand) {
 
 TEST_F(AccountsTest, StoresABalanceAsItStandsAndNeverWorksItOut) {
     openWith(1);
-    grid().setTextMatrix(1, 9, u" 12345.5"_s);
+    grid().setTextMatrix(1, BalanceColumn, u" 12345.5"_s);
     press(save());
     EXPECT_EQ(stored(u"余额"_s), QStringList{u"12345.5"_s});
     restart();

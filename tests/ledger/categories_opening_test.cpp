@@ -50,9 +50,9 @@ TEST_F(CategoriesOpeningTest, TheSettingsStayTheChosenPage) {
 
 TEST_F(CategoriesOpeningTest, ThePageLabelsStayInFrontSoThatItCanBeLeft) {
     open();
-    for (const QString& name : PageLabels) {
-        auto& label = rig.onMain<Label>(name);
-        EXPECT_EQ(rig.mainWindow().childAt(label.geometry().center()), &label) << name.toStdString();
+    for (const LabelledPage& page : LabelledPages) {
+        auto& label = rig.at(page.label);
+        EXPECT_EQ(rig.mainWindow().childAt(label.geometry().center()), &label) << std::string(page.label);
     }
 }
 
@@ -194,14 +194,14 @@ TEST_F(CategoriesOpeningTest, ASecondClickOnTheSameOptionChangesNothing) {
 
 TEST_F(CategoriesOpeningTest, APageLabelHidesItAndClosesTheMinors) {
     openWith({u"甲|1|a"_s});
-    for (const QString& label : PageLabels) {
+    for (const LabelledPage& page : LabelledPages) {
         open();
         clickMajor(1);
         ASSERT_TRUE(minorsUsable());
-        clickLabel(label);
-        EXPECT_FALSE(frame3().Visible()) << label.toStdString();
-        EXPECT_FALSE(minorsUsable()) << label.toStdString();
-        EXPECT_TRUE(ms3().isEnabled()) << label.toStdString();
+        clickLabel(page.label);
+        EXPECT_FALSE(frame3().Visible()) << std::string(page.label);
+        EXPECT_FALSE(minorsUsable()) << std::string(page.label);
+        EXPECT_TRUE(ms3().isEnabled()) << std::string(page.label);
     }
 }
 

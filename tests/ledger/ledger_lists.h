@@ -73,6 +73,7 @@ inline constexpr GridList Budget{
     .text = 2,
     .amount = 3,
     .date = 1,
+    .enterPicksDate = false,
 };
 
 inline constexpr GridList Accounts{

@@ -87,13 +87,11 @@ TEST_F(LoansTest, LeavesLabelsAndPageNumberAloneByThePicture) {
 }
 
 TEST_F(LoansTest, HidesEveryOtherPageByThePicture) {
-    for (const QString& label :
-         QStringList{pages::Desktop, pages::Income, pages::Accounts, pages::Budget, pages::Charts, pages::Users,
-                     pages::Diary, pages::Schedule, pages::Settings}) {
-        press(rig.onMain<Label>(label));
+    for (const LabelledPage& other : LabelledPages) {
+        press(rig.at(other.label));
         clickImage();
         for (const Page* page : rig.mainWindow().navigation().pages())
-            EXPECT_EQ(page->frame().Visible(), &page->frame() == &frame()) << label.toStdString();
+            EXPECT_EQ(page->frame().Visible(), &page->frame() == &frame()) << std::string(other.label);
     }
 }
 

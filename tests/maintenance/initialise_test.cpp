@@ -1,5 +1,7 @@
 #include "journal/diary_page.h"
+#include "ledger/ledger_lists.h"
 #include "settings_rig.h"
+#include "support/page_rig.h"
 
 #include <QDir>
 
@@ -13,8 +15,15 @@ using namespace Qt::StringLiterals;
 const ShownMessage Question{u"点击此项将初始化系统内除用户信息以外的全部数据！是否继续？"_s, 36, u"系统提示"_s};
 const ShownMessage Done{u"初始化完毕"_s, 64, u"提示"_s};
 
-const QStringList Emptied{u"jcb"_s, u"jrb"_s, u"nsrb"_s, u"nzcb"_s, u"rcb"_s,
-                          u"rjb"_s, u"srb"_s, u"ysb"_s,  u"zcb"_s,  u"zhb"_s};
+/// In this order; lists that came later stand behind.
+const QStringList Emptied = [] {
+    QStringList tables{u"jcb"_s, u"jrb"_s, u"nsrb"_s, u"nzcb"_s, u"rcb"_s,
+                       u"rjb"_s, u"srb"_s, u"ysb"_s,  u"zcb"_s,  u"zhb"_s};
+    for (const GridList& list : LedgerLists)
+        if (!tables.contains(list.table.toString()))
+            tables << list.table.toString();
+    return tables;
+}();
 const QStringList Kept{u"yhb"_s,        u"登陆用户记录表"_s, u"srflb"_s,    u"zcflb"_s,  u"sztjlsb"_s, u"txb"_s,
                        u"systuopanb"_s, u"软件皮肤"_s,       u"皮肤选择"_s, u"主界面"_s, u"登陆皮肤"_s};
 
@@ -27,16 +36,12 @@ protected:
         const auto store = [&](const QString& table, const QString& values) {
             rig.sql(u"insert into %1 select %2 union all select %2"_s.arg(table, values));
         };
-        for (const auto& table : {u"srb"_s, u"zcb"_s})
-            store(table, u"'1','2024-06-03','项目','人',5,'户','备',1"_s);
-        for (const auto& table : {u"jrb"_s, u"jcb"_s})
-            store(table, u"'户','2024-06-03',1,1,1,'甲','乙','备',1"_s);
+        for (const GridList& list : LedgerLists)
+            storeRows(rig, list, 2);
         for (const auto& table : {u"nsrb"_s, u"nzcb"_s})
             store(table, u"'2024-06',5,1"_s);
         store(u"rcb"_s, u"'2024-06-18',1,'2024-06-18','8:05','内容','音乐1',1"_s);
         store(u"rjb"_s, u"'2024-06-03','春耕'"_s);
-        store(u"ysb"_s, u"'2024-06-03','项目',5,'备',1"_s);
-        store(u"zhb"_s, u"'户',1,2,3,4,5,6,7,8,'备',1"_s);
         store(u"srflb"_s, u"'大类','细类','dl'"_s);
         store(u"zcflb"_s, u"'大类','细类','dl'"_s);
         store(u"sztjlsb"_s, u"'2024-06',5,'项目',1,'人'"_s);
@@ -57,17 +62,17 @@ protected:
         return rows;
     }
     static QStringList times(const QString& count, qsizetype n) { return QStringList(n, count); }
-    void expectNothingGone() { EXPECT_EQ(counts(Emptied), times(u"2"_s, 10)); }
+    void expectNothingGone() { EXPECT_EQ(counts(Emptied), times(u"2"_s, Emptied.size())); }
 };
 
-TEST_F(InitialiseTest, AsksAndEmptiesTheTenTablesAndNoOther) {
+TEST_F(InitialiseTest, AsksAndEmptiesTheTablesOfRecordsAndNoOther) {
     const QStringList before = kept();
     ASSERT_EQ(rig.sql(u"select count(*) from sqlite_master where type='table'"_s),
               QStringList{QString::number(Emptied.size() + Kept.size())});
     expectNothingGone();
     tick(initialise());
     EXPECT_EQ(rig.messages->shown, (std::vector{Question, Done}));
-    EXPECT_EQ(counts(Emptied), times(u"0"_s, 10));
+    EXPECT_EQ(counts(Emptied), times(u"0"_s, Emptied.size()));
     EXPECT_EQ(kept(), before);
     EXPECT_TRUE(initialise().Value());
 }
@@ -93,7 +98,7 @@ TEST_F(InitialiseTest, UntickingByHandAsksNothingAndEmptiesNothing) {
     expectNothingGone();
     tick(initialise());
     EXPECT_EQ(rig.messages->shown, (std::vector{Question, Done}));
-    EXPECT_EQ(counts(Emptied), times(u"0"_s, 10));
+    EXPECT_EQ(counts(Emptied), times(u"0"_s, Emptied.size()));
 }
 
 TEST_F(InitialiseTest, EmptyTablesAreInitialisedToo) {
@@ -106,7 +111,7 @@ TEST_F(InitialiseTest, EmptyTablesAreInitialisedToo) {
 
 TEST_F(InitialiseTest, NothingIsGoneWhileItAsksAndAllIsWhenItSaysSo) {
     rig.messages->whileShown = [this](const ShownMessage& message) {
-        EXPECT_EQ(counts(Emptied), times(message == Done ? u"0"_s : u"2"_s, 10));
+        EXPECT_EQ(counts(Emptied), times(message == Done ? u"0"_s : u"2"_s, Emptied.size()));
     };
     tick(initialise());
     EXPECT_EQ(rig.messages->shown.size(), 2u);
@@ -117,7 +122,7 @@ TEST_F(InitialiseTest, HidesTheDataControlAndPointsItAtTheDataFile) {
     tick(initialise());
     EXPECT_FALSE(rig.mainWindow().Adodc1->isVisible());
     EXPECT_EQ(rig.lastMessage(), Done);
-    EXPECT_EQ(counts(Emptied), times(u"0"_s, 10));
+    EXPECT_EQ(counts(Emptied), times(u"0"_s, Emptied.size()));
 }
 
 TEST_F(InitialiseTest, KeepsTheDiarysFilesWhoseTitlesAreFreeForNewEntriesThatReplaceThem) {
@@ -177,7 +182,7 @@ TEST_F(InitialiseTest, TheSameTableCanBeFilledAndEmptiedInOneSitting) {
     EXPECT_EQ(rig.at(income::Grid).TextMatrix(1, 1), u"9");
 }
 
-/// Initialising when one of the ten tables is missing.
+/// Initialising when one of the tables is missing.
 class InitialiseFailure : public InitialiseTest, public ::testing::WithParamInterface<qsizetype> {};
 
 TEST_P(InitialiseFailure, LeavesTheTablesBeforeItEmptyAndThoseBehindItFull) {
@@ -189,10 +194,10 @@ TEST_P(InitialiseFailure, LeavesTheTablesBeforeItEmptyAndThoseBehindItFull) {
     EXPECT_TRUE(rig.messages->errors[0].second.contains(missing)) << rig.messages->errors[0].second.toStdString();
     EXPECT_EQ(texts(), QStringList{Question.text});
     EXPECT_EQ(rig.exitCode(), 1);
-    EXPECT_EQ(counts(rest), times(u"0"_s, GetParam()) + times(u"2"_s, 9 - GetParam()));
+    EXPECT_EQ(counts(rest), times(u"0"_s, GetParam()) + times(u"2"_s, rest.size() - GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(AtEachTable, InitialiseFailure, ::testing::Range<qsizetype>(0, 10),
+INSTANTIATE_TEST_SUITE_P(AtEachTable, InitialiseFailure, ::testing::Range<qsizetype>(0, Emptied.size()),
                          [](const auto& at) { return Emptied[at.param].toStdString(); });
 
 } // namespace

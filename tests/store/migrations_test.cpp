@@ -35,7 +35,8 @@ void dieHalfWay(Connection& connection) {
 class Migrating : public StoreTest {
 protected:
     Migrating() {
-        OtherProgram(path()).run(u"PRAGMA user_version = 0; INSERT INTO zcb(项目,备注) WITH RECURSIVE n(i) AS "
+        useVersion(FirstVersion);
+        OtherProgram(path()).run(u"DELETE FROM zcb; INSERT INTO zcb(项目,备注) WITH RECURSIVE n(i) AS "
                                  "(SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<2000) "
                                  "SELECT '第 '||i||' 项', '备注'||i FROM n"_s);
     }

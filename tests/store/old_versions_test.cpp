@@ -3,8 +3,6 @@
 #include "store/store_fixture.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -17,12 +15,7 @@ namespace {
 
 class OldVersion : public StoreTest, public testing::WithParamInterface<int> {
 protected:
-    OldVersion() {
-        const QDir here = QFileInfo(QString::fromUtf8(__FILE__)).dir();
-        QFile old(here.filePath(u"versions/%1.data"_s.arg(GetParam())));
-        EXPECT_TRUE(old.open(QIODevice::ReadOnly)) << old.fileName();
-        setFileBytes(old.readAll());
-    }
+    OldVersion() { useVersion(GetParam()); }
 
     QString row(const QString& table, int position = 1) {
         Recordset& set = control.open(table);

@@ -2,7 +2,9 @@
 
 #include "store/header_vfs.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +68,13 @@ const QByteArray& freshFile() {
 
 StoreTest::StoreTest() {
     setFileBytes(freshFile());
+}
+
+void StoreTest::useVersion(int version) const {
+    const QDir here = QFileInfo(QString::fromUtf8(__FILE__)).dir();
+    QFile old(here.filePath(u"versions/%1.data"_s.arg(version)));
+    ASSERT_TRUE(old.open(QIODevice::ReadOnly)) << old.fileName();
+    setFileBytes(old.readAll());
 }
 
 QByteArray StoreTest::fileBytes() const {

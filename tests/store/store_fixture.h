@@ -39,6 +39,8 @@ protected:
     StoreTest();
 
     QString path() const { return folder.filePath(u"data.dll"_s); }
+    /// Puts a file of this version, as it was delivered once, in the place of the new one.
+    void useVersion(int version) const;
     QByteArray fileBytes() const;
     void setFileBytes(const QByteArray& bytes) const;
     /// Adds a row through `control` to its open recordset.

@@ -23,6 +23,7 @@ struct GridList {
     int text;                    ///< a column of this kind
     int amount = 0, date = 0;    ///< of these; none when 0
     bool refusalMovesRow = true; ///< to the row with the gap
+    bool enterPicksDate = true;  ///< Enter that comes from the row before to a date in the first column
 };
 
 inline bool operator==(const GridList& one, const GridList& other) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <array>
 #include <string>
 
 /// The names by which forms and controls are known from outside, once for all tests. They are fixed, so the tests keep
@@ -327,5 +328,29 @@ inline constexpr Name<TextBox> Called{forms::SkinPictures, u"Text2"};
 inline constexpr Name<CommandButton> Browse{forms::SkinPictures, u"Command1"};
 inline constexpr Name<CommandButton> Store{forms::SkinPictures, u"Command2"};
 } // namespace pictures
+
+/// A page that a label of the row brings up.
+struct LabelledPage {
+    Name<Label> label;
+    QStringView caption;
+    double left; ///< of the label, in twips
+    int number;  ///< currentPage while it is in front
+    Name<Frame> frame;
+};
+
+/// All of them, as their labels stand from left to right.
+inline constexpr std::array LabelledPages{
+    LabelledPage{pages::Desktop, u"  桌面", 0, 24, desktop::Page},
+    LabelledPage{pages::Income, u"  收入", 1080, 20, income::Page},
+    LabelledPage{pages::Expense, u"  支出", 2160, 21, income::Page},
+    LabelledPage{pages::Loans, u"  暂借", 3240, 1, loans::Page},
+    LabelledPage{pages::Accounts, u"  储蓄", 4320, 6, accounts::Page},
+    LabelledPage{pages::Budget, u"  预算", 5400, 5, budget::Page},
+    LabelledPage{pages::Charts, u"  图表", 6480, 12, charts::Page},
+    LabelledPage{pages::Users, u" 用户", 7680, 4, users::Page},
+    LabelledPage{pages::Diary, u"  日记", 8640, 8, diary_page::Page},
+    LabelledPage{pages::Schedule, u"  日程", 9720, 23, schedule::Page},
+    LabelledPage{pages::Settings, u" 设置", 10920, 7, settings::Page},
+};
 
 } // namespace qinghe::testing

@@ -4,10 +4,10 @@ namespace qinghe::testing {
 
 using namespace Qt::StringLiterals;
 
-void PageTest::store(const GridList& other, int count) {
+void storeRows(ProgramRig& rig, const GridList& list, int count) {
     rig.sql(u"with recursive n(n) as (select 1 union all select n + 1 from n where n < %1) "
             "insert into %2 select %3 from n"_s.arg(count)
-                .arg(other.table.toString(), other.values.toString()));
+                .arg(list.table.toString(), list.values.toString()));
 }
 
 void PageTest::open(const GridList& other) {

@@ -5,14 +5,16 @@
 
 namespace qinghe::testing {
 
+/// Stores rows of a list beforehand, 1 to `count`, by the list's own values.
+void storeRows(ProgramRig& rig, const GridList& list, int count);
+
 /// A program in whose main window one list can be opened and worked on, as a user does.
 class PageTest : public ProgramTest {
 protected:
     explicit PageTest(const GridList& worked) : list(worked) { rig.signIn(); }
 
-    /// Stores rows beforehand, 1 to `count`, by the list's own values.
     void store(int count) { store(list, count); }
-    void store(const GridList& other, int count);
+    void store(const GridList& other, int count) { storeRows(rig, other, count); }
     void open() { open(list); }
     void open(const GridList& other);
     void openWith(int count);

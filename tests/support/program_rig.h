@@ -100,11 +100,6 @@ private:
     Services m_spare;
 };
 
-/// The labels in the row across the top of the main window, from left to right.
-inline const QStringList PageLabels{pages::Desktop,  pages::Income,   pages::Expense, pages::Loans,
-                                    pages::Accounts, pages::Budget,   pages::Charts,  pages::Users,
-                                    pages::Diary,    pages::Schedule, pages::Settings};
-
 /// Writes a data file as delivered, header spoilt, at `path`.
 void writeDeliveredData(const QString& path);
 

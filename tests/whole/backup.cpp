@@ -44,7 +44,7 @@ std::string storeOlder(const LedgerFolder& folder) {
 struct PageInFront {
     std::vector<std::string> opening; ///< the clicks that bring it up
     std::string grid;
-    int column; ///< of the cell that is written over
+    std::string caption; ///< of the column whose first cell is written over
     std::string saving;
 };
 
@@ -58,7 +58,7 @@ void expectEditedAfterARestore(const PageInFront& page, const std::string& query
     for (const std::string& control : page.opening)
         program.click(control);
     copy(program, whereFrom, older, "还原完毕。");
-    display_pointer::click(program.cellPlace(page.grid, 1, page.column).center());
+    display_pointer::click(program.cellPlace(page.grid, 1, column(program, page.grid, page.caption)).center());
     program.waitForKeyboard(forms::Main); // which the other window had
     enter(program, "还原以后");
     save(program, page.saving);
@@ -149,18 +149,20 @@ TEST(Backup, AFileThatIsNotThereIsTold) {
 }
 
 TEST(Backup, LoansInFrontAreSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{pages::Loans}, loans::Grid, 8, loans::Save}, "select 备注 from jcb");
+    expectEditedAfterARestore({{pages::Loans}, loans::Grid, "备注", loans::Save}, "select 备注 from jcb");
 }
 
 TEST(Backup, TheBudgetInFrontIsSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{pages::Budget}, budget::Grid, 4, budget::Save}, "select 备注 from ysb");
+    expectEditedAfterARestore({{pages::Budget}, budget::Grid, "备注", budget::Save}, "select 备注 from ysb");
 }
 
 TEST(Backup, AccountsInFrontAreSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{pages::Accounts}, accounts::Grid, 10, accounts::Save}, "select 备注信息 from zhb");
+    expectEditedAfterARestore({{pages::Accounts}, accounts::Grid, "备注信息", accounts::Save},
+                              "select 备注信息 from zhb");
 }
 
 TEST(Backup, CategoriesInFrontAreSavedIntoTheRestoredFile) {
-    expectEditedAfterARestore({{pages::Settings, settings::Categories}, categories::Majors, 1, categories::SaveMajors},
-                              "select 收入大类 from srflb");
+    expectEditedAfterARestore(
+        {{pages::Settings, settings::Categories}, categories::Majors, "收入大类", categories::SaveMajors},
+        "select 收入大类 from srflb");
 }

@@ -1,6 +1,8 @@
 #include "household.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <numeric>
 
 namespace whole {
 
@@ -61,16 +63,57 @@ void pickDay(Program& program, int day) {
     program.doubleClick(date_picker::Day[fridayTheFirst + day - 1]);
 }
 
-std::vector<std::string> rows(Program& program, const std::string& grid) {
-    const int rows = program.get(grid, "Rows").toInt(), cols = program.get(grid, "Cols").toInt();
+namespace {
+
+int columns(Program& program, const std::string& grid) {
+    return program.get(grid, "Cols").toInt();
+}
+
+std::vector<std::string> rowsOf(Program& program, const std::string& grid, const std::vector<int>& columns) {
+    const int rows = program.get(grid, "Rows").toInt();
     std::vector<std::string> texts;
     for (int row = 1; row < rows; ++row) {
-        std::string text = program.cell(grid, row, 1);
-        for (int col = 2; col < cols; ++col)
-            text += '|' + program.cell(grid, row, col);
+        std::string text;
+        for (const int col : columns)
+            text += (col == columns.front() ? "" : "|") + program.cell(grid, row, col);
         texts.push_back(text);
     }
     return texts;
+}
+
+} // namespace
+
+int column(Program& program, const std::string& grid, const std::string& caption) {
+    for (int col = 1; col < columns(program, grid); ++col)
+        if (program.cell(grid, 0, col) == caption)
+            return col;
+    throw std::runtime_error("no column " + caption);
+}
+
+std::vector<std::string> rows(Program& program, const std::string& grid) {
+    std::vector<int> all(static_cast<std::size_t>(columns(program, grid) - 1));
+    std::iota(all.begin(), all.end(), 1);
+    return rowsOf(program, grid, all);
+}
+
+std::vector<std::string> rows(Program& program, const std::string& grid, const std::vector<std::string>& captions) {
+    std::vector<int> named;
+    for (const std::string& caption : captions)
+        named.push_back(column(program, grid, caption));
+    return rowsOf(program, grid, named);
+}
+
+void fillGaps(Program& program, const std::string& grid, int row) {
+    for (int col = 1; col < columns(program, grid) - 1; ++col) {
+        if (!program.cell(grid, row, col).empty())
+            continue;
+        program.clickCell(grid, row, col);
+        const auto windows = program.windows();
+        if (std::ranges::find(windows, std::string(forms::Calculator)) != windows.end())
+            reckon(program, "0");
+        else
+            enter(program, "0");
+    }
 }
 
 void waitForRows(Program& program, const std::string& grid, const std::vector<std::string>& expected) {

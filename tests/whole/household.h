@@ -33,6 +33,12 @@ void pickDay(Program& program, int day);
 
 /// The rows of a list below its captions, the cells joined by "|".
 std::vector<std::string> rows(Program& program, const std::string& grid);
+/// The column with this caption.
+int column(Program& program, const std::string& grid, const std::string& caption);
+/// The rows of the columns with these captions alone.
+std::vector<std::string> rows(Program& program, const std::string& grid, const std::vector<std::string>& captions);
+/// Gives every empty cell of a row but the last a nought: a save refuses gaps.
+void fillGaps(Program& program, const std::string& grid, int row);
 /// Waits until the list shows these rows.
 void waitForRows(Program& program, const std::string& grid, const std::vector<std::string>& expected);
 
