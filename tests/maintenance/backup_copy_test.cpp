@@ -133,7 +133,7 @@ TEST_F(BackupCopyTest, ARestoreMakesRecordsThatWereReadBeforeVoid) {
     backUpTo(u"b.dat"_s);
     restoreFrom(u"b.dat"_s);
     handlers::enter([&] { control.recordset().deleteCurrent(); });
-    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
+    expectError(RuntimeError::StoreFailure);
     EXPECT_EQ(budget(), u"米");
 }
 
@@ -167,8 +167,7 @@ TEST_F(BackupCopyTest, ACopyOfTheEndedProgramIsRestoredAsItIsAndReadFromTheNextS
     EXPECT_EQ(rig.headerBytes(), QByteArray("\0\0", 2));
 
     rig.click(rig.at(pages::Budget));
-    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
-    EXPECT_TRUE(errorText().contains(u"请重新启动程序"_s)) << qPrintable(errorText());
+    expectError(RuntimeError::StoreFailure, u"请重新启动程序"_s);
     rig.stop();
     rig.signIn();
     EXPECT_EQ(shownBudget(), u"米");

@@ -42,9 +42,6 @@ protected:
         openFor(restore());
         startWith(rig.file(name));
     }
-
-    int errorNumber() const { return rig.messages->errors.empty() ? 0 : rig.messages->errors.front().first; }
-    QString errorText() const { return rig.messages->errors.empty() ? QString() : rig.messages->errors.front().second; }
 };
 
 inline const ShownMessage AskedWhereTo{u"请指定数据库备份的位置。"_s, 1, u"备份提示"_s};

@@ -40,8 +40,8 @@ TEST_F(RestoredVersionTest, ABackupOfALaterProgramIsRefusedAndTheLedgerStays) {
     writeBackup(u"later.dat"_s, CurrentVersion + 1);
     const QByteArray before = bytes(u"data.dll"_s);
     restoreFrom(u"later.dat"_s);
-    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
-    EXPECT_TRUE(errorText().contains(u"later.dat"_s) && errorText().contains(u"请安装新版的程序"_s));
+    expectError(RuntimeError::StoreFailure, u"later.dat"_s);
+    expectError(RuntimeError::StoreFailure, u"请安装新版的程序"_s);
     EXPECT_EQ(texts().contains(u"还原完毕。"_s), false);
     EXPECT_EQ(rig.exitCode(), 1);
     EXPECT_TRUE(bytes(u"data.dll"_s) == before);
@@ -55,8 +55,8 @@ TEST_F(RestoredVersionTest, ABackupWithADamagedNumberIsRefusedAndTheLedgerStays)
     const QByteArray before = content;
     write(u"bad.dat"_s, content.replace(60, 4, "\xff\xff\xff\xfe"));
     restoreFrom(u"bad.dat"_s);
-    EXPECT_EQ(errorNumber(), RuntimeError::StoreFailure);
-    EXPECT_TRUE(errorText().contains(u"bad.dat"_s) && errorText().contains(u"备份文件"_s));
+    expectError(RuntimeError::StoreFailure, u"bad.dat"_s);
+    expectError(RuntimeError::StoreFailure, u"备份文件"_s);
     EXPECT_TRUE(bytes(u"data.dll"_s) == before);
 }
 
