@@ -10,7 +10,8 @@ enum class Role {
     Plain,
     // labels
     ProductName,  ///< the program's name as a heading
-    PageLabel,    ///< the row of page labels; red (ForeColor 255) paints the tab and the bar
+    PageLabel,    ///< the row of page labels
+    ChosenLabel,  ///< the one of them whose page is in view: bold, on its tab, over a bar
     ClockText,    ///< date and time in the title band, 9 pt
     Link,         ///< underlined address
     Figure,       ///< a sum among others: serif, bold, right-aligned

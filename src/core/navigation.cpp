@@ -82,6 +82,19 @@ void Navigation::show(const Page& shown) {
     shown.frame().raise();
     for (const Tab& tab : m_tabs)
         tab.label->raise();
+    chooseTab(shown);
+}
+
+void Navigation::chooseTab(const Page& shown) {
+    const auto& own = shown.traits().tabs;
+    if (own.empty())
+        return;
+    // A page that came to the front without a click on one of its labels has one label alone.
+    const auto chosen = std::ranges::find(own, static_cast<int>(currentPage),
+                                          [](const PageTab& tab) { return static_cast<int>(tab.code); });
+    const PageTab* tab = chosen == own.end() ? own.data() : &*chosen;
+    for (const Tab& each : m_tabs)
+        each.label->setRole(each.traits == tab ? Role::ChosenLabel : Role::PageLabel);
 }
 
 void Navigation::markCurrent() {

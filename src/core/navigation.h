@@ -36,7 +36,8 @@ public:
 
     Int16 currentPage; ///< the PageCode of the label chosen last
 
-    /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others.
+    /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others. The
+    /// tab under a label does not go by its colour: it is that of the page in view, whatever the pointer was over.
     void markCurrent();
     /// The page that the main window begins with, before any other was on view.
     void begin(const Page& page);
@@ -47,6 +48,8 @@ private:
         const PageTab* traits;
     };
     void makeTab(Page& page, const PageTab& tab);
+    /// Gives the label of the page in view its tab. A page without a label leaves the one through which it was entered.
+    void chooseTab(const Page& shown);
     /// Each label in its own place, or, where two of them would overlap, all in one even row in the same order.
     void placeTabs();
 

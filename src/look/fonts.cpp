@@ -59,13 +59,13 @@ struct Face {
 };
 
 constexpr Face Faces[] = {
-    {Role::ProductName, type::Product, true}, {Role::PageLabel, type::Page, false},
-    {Role::ClockText, type::Small, false},    {Role::Link, type::Small, false},
-    {Role::Total, type::Long, true},          {Role::SignInButton, type::Heading, true},
-    {Role::MonthTitle, type::Long, true},     {Role::Help, type::Small, false},
-    {Role::Caution, type::Small, false},      {Role::ReminderText, type::Heading, false},
-    {Role::CalcKey, type::Heading, false},    {Role::CalcDisplay, type::Page, false},
-    {Role::WeekRow, type::Small, false},
+    {Role::ProductName, type::Product, true},   {Role::PageLabel, type::Page, false},
+    {Role::ChosenLabel, type::Page, true},      {Role::ClockText, type::Small, false},
+    {Role::Link, type::Small, false},           {Role::Total, type::Long, true},
+    {Role::SignInButton, type::Heading, true},  {Role::MonthTitle, type::Long, true},
+    {Role::Help, type::Small, false},           {Role::Caution, type::Small, false},
+    {Role::ReminderText, type::Heading, false}, {Role::CalcKey, type::Heading, false},
+    {Role::CalcDisplay, type::Page, false},     {Role::WeekRow, type::Small, false},
 };
 
 } // namespace

@@ -23,8 +23,7 @@ QColor wordsColour(const QStyleOption& option, const Label& label, const QColor&
     return label.ForeColor() == 0 ? usual : colourOf(label.ForeColor());
 }
 
-/// The white tab and the red bar of a page label. They are drawn from the colour alone, so that hovering and selection
-/// need no second state.
+/// The white tab and the red bar of the page in view.
 void paintTab(QPainter& painter, double centre, double top) {
     paintPanel(painter, QRectF(centre - 24, top, 48, 32), 6, colour::White, colour::PanelLine);
     painter.save();
@@ -38,13 +37,11 @@ void paintTab(QPainter& painter, double centre, double top) {
 void paintPageLabel(const QStyleOption& option, QPainter& painter, const Label& label) {
     const PageCaption caption = pageCaption(label.Caption());
     const int centre = qRound(caption.centre);
-    const bool red = label.ForeColor() == RedFore;
-    QFont font = fontFor(Role::PageLabel);
-    font.setBold(red);
-    if (red)
+    const bool chosen = label.role() == Role::ChosenLabel;
+    if (chosen)
         paintTab(painter, centre, option.rect.top());
-    const QRect room(centre - 60, option.rect.top(), 120, red ? 26 : option.rect.height() - 2);
-    paintLine(painter, room, Qt::AlignHCenter, caption.word, font, colourOf(label.ForeColor()));
+    const QRect room(centre - 60, option.rect.top(), 120, chosen ? 26 : option.rect.height() - 2);
+    paintLine(painter, room, Qt::AlignHCenter, caption.word, fontFor(label.role()), colourOf(label.ForeColor()));
 }
 
 void paintSignInButton(const QStyleOption& option, QPainter& painter, const Label& label) {
@@ -139,6 +136,7 @@ PageCaption pageCaption(const QString& caption) {
 void paintWords(const QStyleOption& option, QPainter& painter, const Label& label) {
     switch (label.role()) {
     case Role::PageLabel:
+    case Role::ChosenLabel:
         return paintPageLabel(option, painter, label);
     case Role::SignInButton:
         return paintSignInButton(option, painter, label);

@@ -1,4 +1,5 @@
 #include "core_fixture.h"
+#include "support/pointer.h"
 
 namespace qinghe::testing {
 namespace {
@@ -29,6 +30,13 @@ protected:
             if (label(page.label).ForeColor() == Red)
                 red << page.label;
         return red;
+    }
+    QStringList tabs() {
+        QStringList chosen;
+        for (const LabelledPage& page : LabelledPages)
+            if (label(page.label).role() == Role::ChosenLabel)
+                chosen << page.label;
+        return chosen;
     }
     QStringList framesOnView() {
         QStringList shown;
@@ -85,6 +93,21 @@ TEST_F(NavigationTest, AClickTakesThePagesNumberAndMarksItsLabelAlone) {
         EXPECT_EQ(main().navigation().currentPage, page.number);
         EXPECT_EQ(redLabels(), QStringList{page.label});
     }
+}
+
+TEST_F(NavigationTest, TheTabIsThatOfThePageInViewWhateverThePointerWasOver) {
+    EXPECT_EQ(tabs(), QStringList{pages::Desktop});
+    for (const LabelledPage& page : LabelledPages) {
+        click(page.label);
+        EXPECT_EQ(tabs(), QStringList{page.label});
+        pointer::move(label(page.number == 24 ? pages::Income : pages::Desktop));
+        EXPECT_EQ(tabs(), QStringList{page.label});
+    }
+    rig.click(rig.at(settings::Categories));
+    EXPECT_EQ(tabs(), QStringList{pages::Settings}) << "the categories belong to the settings";
+    rig.click(rig.at(loans::Picture));
+    EXPECT_EQ(tabs(), QStringList{pages::Loans});
+    EXPECT_EQ(redLabels(), QStringList{pages::Settings}) << "whose number stays";
 }
 
 TEST_F(NavigationTest, AClickUnloadsTheTools) {

@@ -42,7 +42,7 @@ TEST(PageCaption, CountsItsLeadingBlanks) {
 
 TEST(PageLabel, ItsWordStandsAtTheSamePlaceInRegularAndBold) {
     for (const double ratio : {1.0, 1.5, 2.0}) {
-        OnWhite plain(Role::PageLabel, u"  收入"_s, 960, 480), red(Role::PageLabel, u"  收入"_s, 960, 480);
+        OnWhite plain(Role::PageLabel, u"  收入"_s, 960, 480), red(Role::ChosenLabel, u"  收入"_s, 960, 480);
         red.label.setForeColor(RedFore);
         const QRect black = extent(plain.picture(ratio), isDarkInk);
         const QRect bold = extent(red.picture(ratio).copy(0, 0, qRound(64 * ratio), qRound(25 * ratio)), isRed);
@@ -51,19 +51,26 @@ TEST(PageLabel, ItsWordStandsAtTheSamePlaceInRegularAndBold) {
     }
 }
 
-TEST(PageLabel, HasItsTabAndBarWhenItIsRedAndOnlyThen) {
+TEST(PageLabel, HasItsTabAndBarWhileItsPageIsInViewWhateverItsColour) {
     OnWhite at(Role::PageLabel, u"  收入"_s, 960, 480);
     setGround(at.ground, QColor(200, 230, 160));
     const QImage black = at.picture();
     EXPECT_TRUE(isNear(pixelAt(black, 12, 28), QColor(200, 230, 160))) << "no tab";
     EXPECT_TRUE(extent(black, isRed).isNull());
     at.label.setForeColor(RedFore);
+    const QImage hovered = at.picture();
+    EXPECT_TRUE(isNear(pixelAt(hovered, 12, 28), QColor(200, 230, 160))) << "no tab, the word alone is red";
+    EXPECT_FALSE(isRed(pixelAt(hovered, 32, 27)));
+    EXPECT_FALSE(extent(hovered, isRed).isNull());
+    at.label.setRole(Role::ChosenLabel);
     const QImage red = at.picture();
     EXPECT_TRUE(isNear(pixelAt(red, 12, 28), Qt::white)) << "the tab";
     EXPECT_TRUE(isRed(pixelAt(red, 32, 27))) << "the bar";
     EXPECT_TRUE(isRed(pixelAt(red, 22, 27)));
     EXPECT_FALSE(isRed(pixelAt(red, 18, 27)));
     EXPECT_TRUE(isNear(pixelAt(red, 4, 16), QColor(200, 230, 160))) << "the tab is 48 px wide";
+    at.label.setForeColor(0);
+    EXPECT_TRUE(isRed(pixelAt(at.picture(), 32, 27))) << "the bar stays under a black word";
 }
 
 TEST(SignInButton, TurnsWhiteWhenItsWordTurnsRed) {

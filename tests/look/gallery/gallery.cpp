@@ -59,7 +59,9 @@ private:
         const double places[] = {0, 1080, 2160, 3240, 4320, 5400, 6480, 7680, 8640, 9720, 10920};
         for (int i = 0; i < 11; ++i) {
             Label* label = words(this, Role::PageLabel, captions[i].toString(), places[i], 1080, 960, 480);
-            label->setForeColor(i == 1 || i == 7 ? 255 : 0);
+            label->setForeColor(i == 1 || i == 7 ? 255 : 0); // the page in view, and one under the pointer
+            if (i == 1)
+                label->setRole(Role::ChosenLabel);
         }
     }
 
