@@ -42,6 +42,10 @@ MainWindow::MainWindow(Shared& shared)
     bindEvents();
 }
 
+QSize MainWindow::sizeInPixels() {
+    return pixelRect(0, 0, FormWidth, FormHeight).size();
+}
+
 void MainWindow::bindEvents() {
     Click = [this] { Form2_Form_Click(); };
     MouseDown = [this](double x, double y) { Form2_Form_MouseDown(x, y); };

@@ -18,6 +18,9 @@ class MainWindow : public Form {
 public:
     explicit MainWindow(Shared& shared);
 
+    /// At 100 %; no other window of the program is wider or higher.
+    static QSize sizeInPixels();
+
     void load() override; ///< Form2_Form_Load
 
     Shared& shared() { return m_shared; }

@@ -19,6 +19,16 @@ protected:
     const LedgerFolder folder;
 };
 
+/// A small laptop whose desktop shows everything at one and a half of its size.
+class SmallDenseScreen : public ::testing::Test {
+protected:
+    SmallDenseScreen() { qputenv("QT_SCALE_FACTOR", "1.5"); }
+    ~SmallDenseScreen() override { qunsetenv("QT_SCALE_FACTOR"); }
+
+    const Display display{QStringLiteral("1366x768")};
+    const LedgerFolder folder;
+};
+
 } // namespace
 
 TEST_F(DenseScreen, TheMainWindowStandsInTheMiddleInItsOwnSize) {
@@ -48,5 +58,18 @@ TEST_F(DenseScreen, ADragMovesByTheWayOfThePointer) {
     display_pointer::drag(before.topLeft() + 2 * bareTitle, {-5, 4}, 60);
     program.look();
     EXPECT_EQ(program.place(forms::Main), before.translated(-300, 240));
+    endByCross(program);
+}
+
+TEST_F(SmallDenseScreen, TheMainWindowTakesTheLargestScaleThatFits) {
+    Program program(folder);
+    signIn(program);
+    program.look();
+    const QRect window = program.place(forms::Main);
+    EXPECT_TRUE(QRect(0, 0, 1366, 768).contains(window)) << window.top() << " to " << window.bottom();
+    EXPECT_GT(window.height(), 768 * 0.9) << "the panel's height and a hundredth are left, not more";
+    EXPECT_NEAR(window.width() * 540.0, window.height() * 800.0, 800);
+    display_pointer::click(program.place(pages::Settings).center());
+    program.waitUntil([&] { return program.shows(settings::Page); }, "the settings");
     endByCross(program);
 }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/display.h"
+
+#include <QApplication>
+
+#include <optional>
+
+namespace qinghe {
+
+/// The share of the desktop's scale at which a window has room: 1 where it fits, else in steps of a hundredth. Both
+/// sizes in the desktop's own units.
+double shareThatFits(QSize window, QSize room);
+
+/// The application, at the desktop's own scale, or, where that would push a window of the size given off a small
+/// screen, at the largest one at which it fits. Says what is missing and ends the process where there is no display
+/// (DisplayWatch).
+class FittedApplication {
+public:
+    /// `window` in pixels at 100 %.
+    FittedApplication(int argc, char** argv, QSize window);
+
+    QApplication& operator*() { return *m_application; }
+
+private:
+    void make();
+
+    const int m_argc;
+    char** const m_argv;
+    std::optional<ApplicationArguments> m_arguments;
+    std::optional<QApplication> m_application;
+};
+
+} // namespace qinghe
