@@ -84,7 +84,7 @@ void paintRows(QPainter& painter, const QRectF& card) {
         paintFrom(painter, {Lettering::Sans, 14.67, false, colour::Ink}, {card.left() + 57, row.middle}, row.word);
     }
     for (const double y : hairlines) {
-        painter.fillRect(QRectF(card.left() + 16, y, 208, 1), rgb(0xE0EAD8));
+        painter.fillRect(QRectF(card.left() + 16, y, 212, 1), rgb(0xE0EAD8));
     }
 }
 

@@ -46,6 +46,13 @@ CheckBox::CheckBox(QWidget* parent, const QString& name, const QString& caption)
     connect(this, &QCheckBox::toggled, this, [this] { Click.fromQt(); });
 }
 
+void CheckBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QCheckBox::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Entered.fromQt();
+}
+
 void CheckBox::setValue(bool value) {
     if (value == isChecked())
         return;

@@ -70,6 +70,11 @@ public:
 
     bool Value() const { return isChecked(); }
     void setValue(bool value);
+
+    Event<> Entered; ///< Enter, for which a tick itself has no use
+
+protected:
+    void keyPressEvent(QKeyEvent*) override;
 };
 
 } // namespace qinghe

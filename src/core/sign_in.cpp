@@ -11,7 +11,6 @@
 #include "store/tables.h"
 
 #include <QPainterPath>
-#include <QWindow>
 
 namespace qinghe {
 
@@ -64,21 +63,24 @@ void SignIn::bindEvents() {
     Combo1->Click = [this] { Form5_Combo1_Click(); };
     Image1->Click = [this] { Form5_Image1_Click(); };
     Image2->Click = [this] { Form5_Image2_Click(); };
-    // Enter in the password signs in, as every such window lets it.
+    // Enter in the password signs in, as every such window lets it, and so does Enter on the tick.
     Text2->KeyPress = [this](int key) {
         if (key == key_presses::Enter)
             Form5_Label1_Click();
     };
+    Check1->Entered = [this] { Form5_Label1_Click(); };
     Label1->MouseMove = [this] {
         Label1->setForeColor(ink::Red);
         Label1->setHandCursor();
     };
-    MouseMove = [this](double, double) { Label1->setForeColor(ink::Black); };
-    // The window has no title bar to be moved by.
-    MouseDown = [this](double, double) {
-        if (windowHandle())
-            windowHandle()->startSystemMove();
+    MouseMove = [this](double x, double y) {
+        Label1->setForeColor(ink::Black);
+        if (m_grip)
+            moveTo(Left() + x - m_grip->x(), Top() + y - m_grip->y());
     };
+    // The window has no title bar to be moved by: its bare ground serves.
+    MouseDown = [this](double x, double y) { m_grip = QPointF(x, y); };
+    MouseUp = [this](double, double) { m_grip.reset(); };
     for (Label* control : {static_cast<Label*>(Image1), static_cast<Label*>(Image2), Label3})
         showHandOver(control);
     CloseAsked = [this] { unload(); };

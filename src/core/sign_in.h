@@ -3,6 +3,8 @@
 #include "controls/combo_box.h"
 #include "core/shared.h"
 
+#include <optional>
+
 namespace qinghe {
 
 /// The sign-in, `Form5`: the first window of the process. Heals the data file's header, offers the known names and the
@@ -39,6 +41,7 @@ private:
     Image* Image1;    // minimise
     Image* Image2;    // exit
 
+    std::optional<QPointF> m_grip; ///< where the window is held while it is dragged; twips inside it
     bool rememberFlag = false;
     Int16 wrongPasswordCount;
     Int16 wrongNameCount;

@@ -88,7 +88,9 @@ QRect tagOf(const Frame& frame) {
         return {};
     const QRect panel = panelOf(frame);
     const int width = QFontMetrics(tagFont(frame.role())).horizontalAdvance(frame.title()) + 2 * TagPadding;
-    return {panel.left() + (isPage(frame.role()) ? 12 : 10), panel.top(), width, TagHeight};
+    // A strip is narrow: its first words stand close to the tag.
+    const int left = isPage(frame.role()) ? 12 : frame.role() == Role::StripFrame ? 2 : 10;
+    return {panel.left() + left, panel.top(), width, TagHeight};
 }
 
 void paintFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) {

@@ -4,6 +4,7 @@
 #include "runtime/runtime_error.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include <utility>
@@ -62,6 +63,19 @@ Answer answerOf(int button) {
     }
 }
 
+/// Wide enough for its title and what the desktop puts beside it; without an icon its words begin at the margin.
+void lay(QMessageBox& box) {
+    constexpr int BesideTitle = 110; // pixels: the window's icon, its button, their margins
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (!grid)
+        return;
+    if (QLayoutItem* indent = grid->itemAtPosition(0, 0); indent && indent->spacerItem())
+        indent->spacerItem()->changeSize(0, 0);
+    grid->setColumnStretch(grid->columnCount() - 1, 1); // that of the words
+    const int title = QFontMetrics(box.font()).horizontalAdvance(box.windowTitle());
+    grid->addItem(new QSpacerItem(title + BesideTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 /// A box over all windows, whose texts are plain text, titled with the program's name when it has no title of its own.
 void fill(QMessageBox& box, const QString& text, const QString& title) {
     box.setTextFormat(Qt::PlainText);
@@ -78,6 +92,7 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
     box.setIcon(iconOf(style));
     box.setStandardButtons(buttonsOf(style));
     captionButtons(box);
+    lay(box);
     return answerOf(box.exec());
 }
 
@@ -91,6 +106,7 @@ void DesktopMessageBoxes::showError(int number, const QString& text) {
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     captionButtons(box);
+    lay(box);
     box.exec();
 }
 

@@ -50,6 +50,29 @@ TEST_F(SignInWindow, ImagesAndWordsShowTheHand) {
     EXPECT_EQ(signInButton().ForeColor(), Black);
 }
 
+TEST_F(SignInWindow, FollowsADragOfItsBareGroundAndNothingElse) {
+    const double left = form().Left(), top = form().Top();
+    const QPoint ground(150, 270), way(30, -20);
+    QTest::mousePress(&form(), Qt::LeftButton, {}, ground);
+    pointer::move(form(), ground + way);
+    EXPECT_EQ(form().Left(), left + 30 * 15);
+    EXPECT_EQ(form().Top(), top - 20 * 15);
+    QTest::mouseRelease(&form(), Qt::LeftButton, {}, ground);
+    pointer::move(form(), ground + way);
+    EXPECT_EQ(form().Left(), left + 30 * 15) << "the button is up";
+    QTest::mousePress(&password(), Qt::LeftButton, {}, {20, 10});
+    pointer::move(password(), {60, 10});
+    EXPECT_EQ(form().Left(), left + 30 * 15) << "in a field the pointer selects";
+}
+
+TEST_F(SignInWindow, EnterOnTheTickSignsIn) {
+    remember().setFocus();
+    QTest::keyClick(&remember(), Qt::Key_Return);
+    rig.settle();
+    EXPECT_TRUE(rig.loaded(forms::Main));
+    EXPECT_FALSE(rig.loaded(forms::SignIn));
+}
+
 TEST_F(SignInWindow, TheSignInButtonStaysRedUntilThePointerIsOnTheBareWindow) {
     rig.hover(signInButton());
     rig.hover(image(sign_in::Minimise));

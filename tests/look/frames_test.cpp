@@ -80,6 +80,13 @@ TEST_F(Frames, ABareFramePaintsNothing) {
     EXPECT_EQ(rendered(window), before);
 }
 
+TEST_F(Frames, TheTagOfAStripEndsBeforeItsFirstWords) {
+    Frame strip(&window, u"Frame1"_s, u"查询"_s);
+    strip.setRole(Role::StripFrame);
+    strip.place(0, 0, 6135, 615);
+    EXPECT_LT(tagOf(strip).right(), 720 / 15 - 4);
+}
+
 TEST_F(Frames, AStripKeepsClearOfItsNeighbours) {
     const QImage before = rendered(window);
     Frame strip(&window, u"Frame1"_s);

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -78,6 +79,23 @@ TEST_F(MessageBoxTest, AMessageWithoutATitleBearsTheProgramsName) {
         box.accept();
     });
     boxes.show(u"正文"_s, MessageStyle::Ok, {});
+}
+
+TEST_F(MessageBoxTest, AShortTextLeavesRoomForTheTitle) {
+    whenShown([](QMessageBox& box) {
+        EXPECT_GE(box.width(), QFontMetrics(box.font()).horizontalAdvance(box.windowTitle()) + 100);
+        box.accept();
+    });
+    boxes.show(u"好"_s, MessageStyle::Ok, {});
+}
+
+TEST_F(MessageBoxTest, WordsWithoutAnIconBeginAtTheMarginOfTheBox) {
+    show(MessageStyle::OkCancel, [](QMessageBox& box) {
+        const auto* words = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+        ASSERT_TRUE(words);
+        EXPECT_LE(words->x(), box.layout()->contentsMargins().left() + box.layout()->spacing());
+        box.reject();
+    });
 }
 
 TEST_F(MessageBoxTest, EveryButtonGivesItsAnswer) {
