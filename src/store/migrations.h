@@ -21,10 +21,9 @@ constexpr int versionAfter(std::span<const Migration> steps) {
     return steps.empty() ? FirstVersion : steps.back().to;
 }
 
-/// The steps that this program knows, their versions rising: none yet. New files are made by the same road: the tables
-/// of version 1 (schema.cpp), then every step. Who adds one, such as
-/// `Migration{2, [](Connection& file) { file.run("ALTER TABLE zhb ADD COLUMN ..."); }}`, puts a file of the version
-/// before beside those in tests/store/versions, where that of version 1 is already.
+/// The steps that this program knows, their versions rising. New files are made by the same road: the tables of version
+/// 1 (schema.cpp), then every step. A step is `{2, [](Connection& file) { file.run("ALTER TABLE ..."); }}`; who adds
+/// one puts a file of the version before beside those in tests/store/versions, where that of version 1 has always been.
 inline constexpr std::array<Migration, 0> Migrations{};
 
 /// The version of the data files that this program makes and leaves. It stands in the file (PRAGMA user_version). Files

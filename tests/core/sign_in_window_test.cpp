@@ -53,14 +53,14 @@ TEST_F(SignInWindow, ImagesAndWordsShowTheHand) {
 TEST_F(SignInWindow, FollowsADragOfItsBareGroundAndNothingElse) {
     const double left = form().Left(), top = form().Top();
     const QPoint ground(150, 270), way(30, -20);
-    QTest::mousePress(&form(), Qt::LeftButton, {}, ground);
+    pointer::press(form(), ground);
     pointer::move(form(), ground + way);
     EXPECT_EQ(form().Left(), left + 30 * 15);
     EXPECT_EQ(form().Top(), top - 20 * 15);
-    QTest::mouseRelease(&form(), Qt::LeftButton, {}, ground);
+    pointer::release(form(), ground);
     pointer::move(form(), ground + way);
     EXPECT_EQ(form().Left(), left + 30 * 15) << "the button is up";
-    QTest::mousePress(&password(), Qt::LeftButton, {}, {20, 10});
+    pointer::press(password(), {20, 10});
     pointer::move(password(), {60, 10});
     EXPECT_EQ(form().Left(), left + 30 * 15) << "in a field the pointer selects";
 }

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 TEST_F(AccountsTest, OpensWithItsCaptionsAndWidths) {
     openWith(1);
-    EXPECT_EQ(row(0), u"账户名称|起始金额|收入|支出|借入|借出|转入|转出|余额|备注信息");
+    EXPECT_EQ(row(0), list.captions);
     EXPECT_EQ(grid().Cols(), 11);
     EXPECT_EQ(grid().ColWidth(0), 300);
     EXPECT_EQ(grid().ColWidth(1), 1377);

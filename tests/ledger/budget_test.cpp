@@ -19,7 +19,7 @@ protected:
 };
 
 TEST_F(BudgetTest, OpensWithFourColumnsOfOneWidth) {
-    EXPECT_EQ(row(0), u"预算日期|预算项目|预算金额|备注");
+    EXPECT_EQ(row(0), list.captions);
     EXPECT_EQ(grid().Cols(), 5);
     EXPECT_EQ(grid().ColWidth(0), 300);
     for (int col = 1; col <= 4; ++col)

@@ -17,6 +17,7 @@ struct GridList {
     Name<MSFlexGrid> grid;
     Name<TextBox> box; ///< over a cell
     Name<CommandButton> add, remove, save;
+    QStringView captions; ///< of its columns, joined with "|"
     QStringView table;
     QStringView values;          ///< of the stored row n, as SQL
     QStringView firstRow;        ///< what the grid shows of the row 1

@@ -50,6 +50,8 @@ protected:
     QString row(int number) { return ProgramRig::rowText(grid(), number); }
     QString blankRow() { return QString(grid().Cols() - 2, u'|'); }
     int lastColumn() { return grid().Cols() - 1; }
+    /// The column with this caption.
+    int column(const QString& caption) { return static_cast<int>(row(0).split(u'|').indexOf(caption)) + 1; }
     QString current() { return currentOf(grid()); }
     /// The names of those of the two tools that are open, joined with "+", or "none".
     QString tools();
