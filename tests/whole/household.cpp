@@ -75,7 +75,7 @@ std::vector<std::string> rowsOf(Program& program, const std::string& grid, const
     for (int row = 1; row < rows; ++row) {
         std::string text;
         for (const int col : columns)
-            text += (col == columns.front() ? "" : "|") + program.cell(grid, row, col);
+            text.append(col == columns.front() ? "" : "|").append(program.cell(grid, row, col));
         texts.push_back(text);
     }
     return texts;
