@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include "analysis/charts_page.h"
+#include "core/last_words.h"
 #include "core/main_window.h"
 #include "core/sign_in.h"
 #include "core/web_window.h"
@@ -20,6 +21,8 @@
 #include "store/data_file.h"
 #include "tools/calculator.h"
 #include "tools/date_picker.h"
+
+#include <QApplication>
 
 namespace qinghe {
 
@@ -50,8 +53,7 @@ Form* mainWindowWithPages(Shared& shared) {
 Program::Program(Services services) : m_shared(std::move(services)) {
     handlers::install({
         .commit = [this] { m_shared.store.commit(); },
-        .report =
-            [this](const RuntimeError& error) { m_shared.services.messages->showError(error.number(), error.text()); },
+        .report = [this](const RuntimeError& error) { tellError(error); },
         .end = [this](int code) { end(code); },
         .returned =
             [this] {
@@ -63,6 +65,7 @@ Program::Program(Services services) : m_shared(std::move(services)) {
     });
     m_shared.store.use(m_shared.dataFile());
     // A copy that can take its folder's lock keeps it from the start; one that cannot tries again at its main window.
+    m_shared.services.instance->answerCalls([this] { comeForward(); });
     m_shared.services.instance->tryTake();
     defineForms();
 }
@@ -88,6 +91,23 @@ void Program::defineForms() {
 
 void Program::start() {
     handlers::enter([this] { m_shared.forms.get(names::SignIn).showForm(); });
+}
+
+void Program::comeForward() {
+    if (auto* window = static_cast<MainWindow*>(m_shared.forms.loaded(names::Main))) {
+        window->comeForward();
+    } else if (Form* signIn = m_shared.forms.loaded(names::SignIn)) {
+        signIn->setWindowState(0);
+        signIn->showForm();
+    }
+    if (QWidget* box = QApplication::activeModalWidget())
+        box->activateWindow();
+}
+
+void Program::tellError(const RuntimeError& error) {
+    const auto* window = static_cast<MainWindow*>(m_shared.forms.loaded(names::Main)); // made above, see defineForms
+    const QString became = lastWords(m_shared, window ? window->navigation().pages() : std::vector<Page*>(), error);
+    m_shared.services.messages->showError(error.number(), error.text(), became);
 }
 
 void Program::end(int code) {

@@ -19,6 +19,8 @@ public:
 
 private:
     void defineForms();
+    void tellError(const RuntimeError& error);
+    void comeForward();
     void end(int code);
 
     KeyGate m_keyGate;

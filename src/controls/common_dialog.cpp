@@ -11,7 +11,7 @@ CommonDialog::CommonDialog(FileChooser& chooser, const QString& name, QObject* p
 
 void CommonDialog::showOpen() {
     handlers::boundary();
-    if (const auto chosen = m_chooser.choose(m_filter, m_fileName))
+    if (const auto chosen = m_chooser.choose(m_filter, m_fileName.isEmpty() ? m_suggestion : m_fileName))
         m_fileName = *chosen;
 }
 

@@ -20,6 +20,9 @@ public:
     /// Pairs of words and patterns joined by "|": "*.dat|*.dat".
     void setFilter(const QString& filter) { m_filter = filter; }
 
+    /// The name that stands in the dialog as long as none was chosen; it is no choice by itself.
+    void setSuggestion(const QString& name) { m_suggestion = name; }
+
     /// Ends the unit of work, shows the dialog and waits. Throws RuntimeError.
     void showOpen();
     QString FileName() const { return m_fileName; } ///< "" as long as none was chosen
@@ -27,6 +30,7 @@ public:
 private:
     FileChooser& m_chooser;
     QString m_filter;
+    QString m_suggestion;
     QString m_fileName;
 };
 

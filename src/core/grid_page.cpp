@@ -1,6 +1,7 @@
 #include "core/grid_page.h"
 
 #include "core/hover.h"
+#include "core/rescued_texts.h"
 
 #include <algorithm>
 
@@ -51,6 +52,12 @@ void GridPage::formClicked() {
     m_editing.commitAndClose();
     if (m_quirks.formClickTakesKeyboard)
         m_grid->takeFocus();
+}
+
+void GridPage::rescue(RescuedTexts& texts) const {
+    // A page that was left has dropped what was typed on it, and a report holds nothing typed.
+    if (m_loaded && m_frame.Visible() && takesClicks())
+        texts.addList(m_frame.Caption(), *m_grid, m_editing, *m_loaded, shownFields(list().columns));
 }
 
 // ---- the way in
@@ -270,6 +277,7 @@ void GridPage::saveRows() {
     beginSave();
     if (refusesGap())
         return;
+    m_shared.saving = SaveAtWork{m_loaded->records().recordCount()};
     emptyTable(m_loaded->records());
     if (m_quirks.saveReadsEmptied)
         m_loaded->reload();
@@ -279,6 +287,7 @@ void GridPage::saveRows() {
         if (m_quirks.rowInSave != RowInSave::Stays)
             m_grid->setRow(row);
         writer.add(row, ++number);
+        ++m_shared.saving->written;
     }
     tellSaved(m_shared);
     m_editing.close();

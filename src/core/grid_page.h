@@ -82,6 +82,7 @@ public:
     /// Brings the page up.
     void tabClicked(PageCode code) override { open(code); }
     void formClicked() override;
+    void rescue(RescuedTexts& texts) const override;
 
 protected:
     /// The table on view.

@@ -6,23 +6,62 @@
 
 namespace qinghe {
 
+namespace {
+
+/// The texts of some fields of the current record, in their order.
+class TextReader {
+public:
+    TextReader(Recordset& records, const std::vector<QStringView>& fields) : m_records(records) {
+        for (const QStringView field : fields)
+            m_ordinals.push_back(static_cast<std::size_t>(records.field(field).ordinal()));
+        m_texts.resize(m_ordinals.empty() ? 0 : *std::ranges::max_element(m_ordinals) + 1);
+    }
+
+    void read() { m_records.readTexts(m_texts); }
+    std::size_t count() const { return m_ordinals.size(); }
+    /// std::nullopt for NULL.
+    const std::optional<QString>& text(std::size_t field) const { return m_texts[m_ordinals[field]]; }
+
+private:
+    Recordset& m_records;
+    std::vector<std::size_t> m_ordinals;
+    std::vector<std::optional<QString>> m_texts;
+};
+
+} // namespace
+
 void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
               const std::function<int()>& rowForEmptyText) {
-    std::vector<std::size_t> ordinals;
-    for (const QStringView field : fields)
-        ordinals.push_back(static_cast<std::size_t>(records.field(field).ordinal()));
-    std::vector<std::optional<QString>> texts(ordinals.empty() ? 0 : *std::ranges::max_element(ordinals) + 1);
+    TextReader reader(records, fields);
     fillRows(grid, records, [&] {
-        records.readTexts(texts);
-        for (int column = 1; const std::size_t ordinal : ordinals) {
-            const std::optional<QString>& text = texts[ordinal];
+        reader.read();
+        for (std::size_t field = 0; field < reader.count(); ++field) {
+            const std::optional<QString>& text = reader.text(field);
+            const int column = static_cast<int>(field) + 1;
             if (text && !text->isEmpty())
                 grid.setTextMatrix(grid.Row(), column, *text);
             else if (text && rowForEmptyText)
                 grid.setTextMatrix(rowForEmptyText(), column, {});
-            ++column;
         }
     });
+}
+
+bool showsRecords(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields) {
+    TextReader reader(records, fields);
+    const auto showsCurrent = [&](int row) {
+        reader.read();
+        for (std::size_t field = 0; field < reader.count(); ++field)
+            if (grid.TextMatrix(row, static_cast<int>(field) + 1) != reader.text(field).value_or(QString()))
+                return false;
+        return true;
+    };
+    int row = 1;
+    for (; !records.eof(); records.moveNext(), ++row)
+        if (row >= grid.Rows() || !showsCurrent(row))
+            return false;
+    while (row < grid.Rows() && isRowBlank(grid, row))
+        ++row;
+    return row == grid.Rows();
 }
 
 RowWriter::RowWriter(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields)

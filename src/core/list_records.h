@@ -15,6 +15,10 @@ namespace qinghe {
 void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
               const std::function<int()>& rowForEmptyText);
 
+/// Whether the list shows these records, in their order and nothing else; blank rows at its end do not count. Walks
+/// them from the current one on, a fresh set from its first.
+bool showsRecords(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields);
+
 /// Adds rows of a list to its records. Grid and records outlive it.
 class RowWriter {
 public:

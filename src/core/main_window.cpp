@@ -81,6 +81,7 @@ void MainWindow::refuseSecondCopy() {
     if (m_shared.services.instance->tryTake())
         return;
     m_shared.services.say(u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s);
+    m_shared.services.instance->callHolder(); // its window comes forward
     throw handlers::ProgramEnd{0};
 }
 
@@ -91,8 +92,16 @@ void MainWindow::startClock() {
 }
 
 void MainWindow::readTraySetting() {
-    if (MinimiseToTray.isYes(*Adodc1))
-        toTray();
+    if (!MinimiseToTray.isYes(*Adodc1))
+        return;
+    toTray();
+    if (m_shared.services.tray->available())
+        m_shared.services.tray->tell(u"程序已经启动，在这个图标里。点一下图标，窗口就出来。"_s);
+}
+
+void MainWindow::comeForward() {
+    comeBack(LeftButtonDown);
+    showForm();
 }
 
 void MainWindow::toTray() {

@@ -22,9 +22,12 @@ public:
     static QSize sizeInPixels();
 
     void load() override; ///< Form2_Form_Load
+    /// Out of the tray, up from the bar or from under other windows, for a second copy that has been turned away.
+    void comeForward();
 
     Shared& shared() { return m_shared; }
     Navigation& navigation() { return m_navigation; }
+    const Navigation& navigation() const { return m_navigation; }
 
     Adodc* Adodc1; // nearly every page's table
     Adodc* Adodc2; // the second recordset of a page

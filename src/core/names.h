@@ -9,6 +9,7 @@ namespace qinghe {
 class BackupWindow;
 class FieldTool;
 class PurgeWindow;
+class WebWindow;
 
 /// Every name by which one place in the program asks for something that another place made, once: what is mistyped does
 /// not compile. Names that only their maker says stand with the maker.
@@ -20,7 +21,7 @@ inline constexpr FormName<> Main{u"Form2"};
 inline constexpr FormName<PurgeWindow> Purge{u"Form3"};
 inline constexpr FormName<> SignIn{u"Form5"};
 inline constexpr FormName<> Reminder{u"Form6"};
-inline constexpr FormName<> Web{u"Form7"};
+inline constexpr FormName<WebWindow> Web{u"Form7"};
 inline constexpr FormName<> InjectSkin{u"Form8"};
 inline constexpr FormName<FieldTool> Calculator{u"Form9"};
 inline constexpr FormName<> InjectDesktopPicture{u"Form10"};

@@ -8,6 +8,7 @@
 namespace qinghe {
 
 class Navigation;
+class RescuedTexts;
 
 /// A label in the row across the top of the main window.
 struct PageTab {
@@ -46,6 +47,8 @@ public:
     virtual void formClicked() {}
     /// The main window loads: what is stored of the page's settings is to be shown, and to take effect.
     virtual void windowLoads() {}
+    /// A run-time error ends the program: what was typed here and is not in the book is to be told.
+    virtual void rescue(RescuedTexts& texts) const { Q_UNUSED(texts) }
 
 protected:
     Navigation& navigation() const { return m_navigation; }

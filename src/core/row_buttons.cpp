@@ -1,5 +1,7 @@
 #include "core/row_buttons.h"
 
+#include "platform/handlers.h"
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -39,7 +41,9 @@ void tellOfBlankRow(const Shared& shared) {
     shared.tell(u"当前有一条空记录"_s, u"温馨提示"_s);
 }
 
-void tellSaved(const Shared& shared) {
+void tellSaved(Shared& shared) {
+    handlers::boundary(); // may still fail, and undo the save
+    shared.saving.reset();
     shared.tell(u"保存成功"_s, u"保存提示"_s);
 }
 

@@ -31,7 +31,7 @@ public:
 bool isDeletionWanted(const Shared& shared);
 /// Says that no row is added while there is a blank one.
 void tellOfBlankRow(const Shared& shared);
-/// Says that a list has been saved.
-void tellSaved(const Shared& shared);
+/// Says that a list has been saved: the end of Shared::saving.
+void tellSaved(Shared& shared);
 
 } // namespace qinghe

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace qinghe {
 
@@ -16,6 +17,12 @@ namespace qinghe {
 struct EditorTarget {
     TextBox* box = nullptr;
     MSFlexGrid* grid = nullptr;
+};
+
+/// A save that empties a table and writes it back, while it is at work.
+struct SaveAtWork {
+    int had;         ///< records before
+    int written = 0; ///< records written back
 };
 
 /// What pages and windows share, all of it: the desktop's services, the store, the forms, and the few facts that cross
@@ -43,6 +50,10 @@ public:
     /// The categories' sticky mark of a filled row. It is one variable with the place where a drag of the main window
     /// began (dragStartY): a press on the bare form disturbs the mark.
     Int16 emptyRowFlag;
+
+    /// From the moment at which a save begins to empty its table until it says that it is done; a run-time error in
+    /// between leaves it here, to be told.
+    std::optional<SaveAtWork> saving;
 
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;

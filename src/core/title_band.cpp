@@ -3,6 +3,7 @@
 #include "core/hover.h"
 #include "core/stored_picture.h"
 #include "core/web_pages.h"
+#include "core/web_window.h"
 #include "platform/files.h"
 #include "store/data_file.h"
 #include "store/header_toggle.h"
@@ -91,18 +92,16 @@ void TitleBand::Form2_Image4_Click() {
 
 void TitleBand::Form2_Image5_Click() {
     m_shared.unloadTools();
-    Form& web = m_shared.forms.get(names::Web);
-    web.place(m_window.Left() + m_window.Width(), m_window.Top(), m_window.Width(), m_window.Height());
-    web.showForm();
+    m_shared.forms.get(names::Web).showTools();
 }
 
 void TitleBand::Form2_Image7_Click() {
     m_shared.unloadTools();
-    m_shared.services.launcher->explore(webPage(m_shared, u"adetail.htm"_s));
+    openWebPage(m_shared, u"adetail.htm"_s);
 }
 
 void TitleBand::Form2_Label20_Click() {
-    m_shared.services.launcher->explore(webPage(m_shared, u"index.htm"_s));
+    openWebPage(m_shared, u"index.htm"_s);
 }
 
 } // namespace qinghe

@@ -2,6 +2,7 @@
 
 #include "core/hover.h"
 #include "core/list_records.h"
+#include "core/rescued_texts.h"
 #include "journal/diary_files.h"
 #include "store/tables.h"
 
@@ -220,7 +221,28 @@ void DiaryPage::Form2_Command24_Click() {
     RowWriter(*ms8, entries, savedFields(Columns)).add(ms8->Row());
     m_editing.close();
     diary::write(fileOf(ms8->TextMatrix(1, TitleColumn)), tx8->Text());
+    m_kept = entry();
     m_shared.services.say(u"日志已经保存！"_s, MessageStyle::Ok, u"保存提示"_s);
+}
+
+// ---- what is not in the book
+
+QStringList DiaryPage::entry() const {
+    const auto cell = [this](int column) {
+        if (column >= ms8->Cols()) // the page was not opened yet
+            return QString();
+        const bool typing = m_editing.box->Visible() && ms8->Col() == column;
+        return typing ? m_editing.box->Text() : ms8->TextMatrix(1, column);
+    };
+    return {cell(DateColumn), cell(TitleColumn), tx8->Text()};
+}
+
+void DiaryPage::rescue(RescuedTexts& texts) const {
+    const QStringList written = entry();
+    // What find mode lists and shows is in the book.
+    if (diarySearchMode || written == m_kept || written.join(QString()).isEmpty())
+        return;
+    texts.add(Frame10.Caption(), {u"日期："_s + written[0], u"标题："_s + written[1], u"正文："_s, written[2]});
 }
 
 } // namespace qinghe

@@ -19,6 +19,8 @@ public:
 
     void tabClicked(PageCode) override { Form2_Label8_Click(); }
 
+    void rescue(RescuedTexts& texts) const override;
+
     void Form2_Label8_Click();
     void Form2_Option5_Click();
     void Form2_Option6_Click();
@@ -39,6 +41,8 @@ private:
     bool refusesGap();
     bool refusesTitle();
     QString fileOf(const QString& title) const;
+    /// Date, title and text of the entry being written.
+    QStringList entry() const;
 
     Shared& m_shared;
     Adodc& Adodc1;
@@ -53,6 +57,7 @@ private:
     std::shared_ptr<LoadedSet> m_entries; ///< that the grid lists in find mode
 
     bool diarySearchMode = false; ///< in find mode
+    QStringList m_kept;           ///< the entry that was saved last
 };
 
 } // namespace qinghe

@@ -3,6 +3,7 @@
 #include "controls/key_presses.h"
 #include "core/hover.h"
 #include "core/plans.h"
+#include "core/rescued_texts.h"
 #include "core/stored_choice.h"
 #include "runtime/blanks.h"
 #include "runtime/number_text.h"
@@ -191,6 +192,15 @@ void SchedulePage::writePlan(const DateValue& setAt) {
     plans.field(columns::PlanMusic).setValue(Combo1->Text());
     plans.field(columns::RowNumber).setValue(plans.recordCount() + 1);
     plans.update();
+    m_kept = Text3->Text();
+}
+
+void SchedulePage::rescue(RescuedTexts& texts) const {
+    if (Text3->Text().isEmpty() || Text3->Text() == m_kept)
+        return;
+    texts.add(Frame17.Caption(),
+              {u"日期：%1"_s.arg(Text4->Text()), u"时间：%1时 %2分"_s.arg(Combo3->Text(), Combo4->Text()),
+               u"音乐：%1"_s.arg(Combo1->Text()), u"内容："_s, Text3->Text()});
 }
 
 void SchedulePage::Form2_Command28_Click() {
@@ -240,6 +250,7 @@ void SchedulePage::Form2_Command27_Click() {
                 plans.field(columns::PlanDay).text() + u"日"_s + plans.field(columns::PlanTime).text() +
                 u"分，设置日期为："_s + plans.field(columns::WrittenOn).text() + u"\r\n"_s;
     Text3->setBoxText(list.isEmpty() ? plans::NoneToday.toString() : list);
+    m_kept = Text3->Text();
     Command28->setUsable(false);
     scheduleSaved = true;
 }

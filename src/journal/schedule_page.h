@@ -16,6 +16,7 @@ public:
 
     void tabClicked(PageCode) override { Form2_Label23_Click(); }
     void windowLoads() override;
+    void rescue(RescuedTexts& texts) const override;
 
     void Form2_Label23_Click();
     void Form2_Check1_Click();
@@ -57,6 +58,7 @@ private:
 
     Int16 scheduleNumber;       ///< of the plan, within one visit to the page
     bool scheduleSaved = false; ///< what stands in Text3 is saved or a listing
+    QString m_kept;             ///< the text that was saved or listed last
 };
 
 } // namespace qinghe

@@ -102,6 +102,15 @@ void CategoriesPage::left() {
     m_minors.setUsable(false);
 }
 
+void CategoriesPage::rescue(RescuedTexts& texts) const {
+    if (!Frame3.Visible())
+        return;
+    if (m_majorsLoaded)
+        m_majors.rescue(texts, *m_majorsLoaded);
+    if (m_minorsLoaded)
+        m_minors.rescue(texts, *m_minorsLoaded);
+}
+
 void CategoriesPage::enter() {
     navigation().hideOthers(*this);
     if (Option3->Value())

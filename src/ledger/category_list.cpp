@@ -1,6 +1,7 @@
 #include "ledger/category_list.h"
 
 #include "core/hover.h"
+#include "core/rescued_texts.h"
 
 namespace qinghe {
 
@@ -49,6 +50,11 @@ void CategoryList::fill(Recordset& records, const std::function<int()>& rowForEm
     fillList(*grid, records, shownFields(m_columns), rowForEmptyText);
 }
 
+void CategoryList::rescue(RescuedTexts& texts, const LoadedSet& loaded) const {
+    const auto* frame = static_cast<Frame*>(grid->parentWidget());
+    texts.addList(frame->Caption(), *grid, editing, loaded, shownFields(m_columns));
+}
+
 void CategoryList::entered() {
     editing.commit();
     if (grid->Col() < grid->Cols() - 1)
@@ -93,14 +99,17 @@ void CategoryList::save(Recordset& records) {
     goToLastRow();
     if (!filledOrMarked(grid->Row()) && grid->Rows() >= 3)
         grid->RemoveItem(grid->Row());
+    m_shared.saving = SaveAtWork{records.recordCount()};
     emptyTable(records);
     RowWriter writer(*grid, records, savedFields(m_columns));
     bool filledRowMet = false; // from the first one on blank rows are written as well
     for (int row = 1; row < grid->Rows(); ++row) {
         grid->setRow(row);
         filledRowMet = filledRowMet || !isRowBlank(*grid, row);
-        if (filledRowMet)
-            writer.add(row);
+        if (!filledRowMet)
+            continue;
+        writer.add(row);
+        ++m_shared.saving->written;
     }
     tellSaved(m_shared);
     editing.close();

@@ -8,6 +8,8 @@
 
 namespace qinghe {
 
+class RescuedTexts;
+
 /// One of the two lists on the page of the categories: a frame that holds a grid, the text box over its cells, and the
 /// buttons that add, delete and save. The lists of majors and of minors differ in a table of traits; what their buttons
 /// do differently stands in the page.
@@ -49,6 +51,8 @@ public:
     /// Takes the current row out, unless it is the only one; tells whether it is gone.
     bool removeRow();
     void save(Recordset& records);
+    /// Tells what the list shows and the book does not hold.
+    void rescue(RescuedTexts& texts, const LoadedSet& loaded) const;
 
 private:
     void entered();

@@ -32,8 +32,9 @@ private:
 
     Shared& m_shared;
     Frame* Frame1;
-    Image* m_disc; ///< the sign of the direction
-    Label* Label1; // the explanation
+    Image* m_disc;  ///< the sign of the direction
+    Label* Label1;  // the explanation
+    Label* m_diary; ///< what becomes of the diary's texts
     ProgressBar* Pro1;
     CommandButton* Command1; // 开始备份, 开始还原
     CommonDialog* Com1;

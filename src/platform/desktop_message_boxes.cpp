@@ -96,13 +96,9 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
     return answerOf(box.exec());
 }
 
-void DesktopMessageBoxes::showError(int number, const QString& text) {
+void DesktopMessageBoxes::showError(int number, const QString& text, const QString& became) {
     QMessageBox box(windowInFront());
-    const QString ending = number == RuntimeError::StoreFailure
-                               ? u"程序将关闭。"_s
-                               : u"程序将关闭。出错以前写入账本的内容都已保留；如果正在保存，请重新打开后"
-                                 "检查这一页。"_s;
-    fill(box, u"运行时错误 %1：\n\n%2\n\n%3"_s.arg(number).arg(text, ending), productName());
+    fill(box, u"运行时错误 %1：\n\n%2\n\n程序将关闭。%3"_s.arg(number).arg(text, became), productName());
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     captionButtons(box);

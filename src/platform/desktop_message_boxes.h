@@ -8,7 +8,7 @@ namespace qinghe {
 class DesktopMessageBoxes : public MessageBoxes {
 public:
     Answer show(const QString& text, MessageStyle style, const QString& title) override;
-    void showError(int number, const QString& text) override;
+    void showError(int number, const QString& text, const QString& became) override;
 };
 
 } // namespace qinghe

@@ -6,10 +6,17 @@
 
 namespace qinghe {
 
+namespace {
+
+constexpr int LeftButtonDown = 513;
+constexpr int BalloonMs = 8000; ///< how long a balloon stays
+
+} // namespace
+
 int trayMessage(QSystemTrayIcon::ActivationReason reason) {
     switch (reason) {
     case QSystemTrayIcon::Trigger:
-        return 513;
+        return LeftButtonDown;
     case QSystemTrayIcon::DoubleClick:
         return 515;
     case QSystemTrayIcon::Context:
@@ -29,10 +36,18 @@ void DesktopTray::add(const QString& tip, std::function<void(int)> onMessage) {
     m_icon = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
     m_icon->setToolTip(tip);
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(),
-                     [this](QSystemTrayIcon::ActivationReason reason) {
-                         handlers::enter([this, reason] { m_onMessage(trayMessage(reason)); });
-                     });
+                     [this](QSystemTrayIcon::ActivationReason reason) { send(trayMessage(reason)); });
+    QObject::connect(m_icon.get(), &QSystemTrayIcon::messageClicked, m_icon.get(), [this] { send(LeftButtonDown); });
     m_icon->show();
+}
+
+void DesktopTray::tell(const QString& text) {
+    if (m_icon)
+        m_icon->showMessage(productName(), text, m_icon->icon(), BalloonMs);
+}
+
+void DesktopTray::send(int message) {
+    handlers::enter([this, message] { m_onMessage(message); });
 }
 
 } // namespace qinghe

@@ -15,11 +15,14 @@ class DesktopTray : public Tray {
 public:
     bool available() const override { return QSystemTrayIcon::isSystemTrayAvailable(); }
     void add(const QString& tip, std::function<void(int message)> onMessage) override;
+    void tell(const QString& text) override;
 
     /// nullptr as long as none was added.
     QSystemTrayIcon* icon() const { return m_icon.get(); }
 
 private:
+    void send(int message);
+
     std::unique_ptr<QSystemTrayIcon> m_icon;
     std::function<void(int)> m_onMessage;
 };

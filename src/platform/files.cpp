@@ -26,12 +26,17 @@ constexpr int LargestPictureMiB = 512; ///< decoded; 48 megapixels need 184
                        u"%1：%2。请检查文件夹的权限和磁盘空间。"_s.arg(what, file.fileName()));
 }
 
+/// Into an open file.
+void write(QFile& file, const QByteArray& bytes) {
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        failAccess(file, u"文件没有写完"_s);
+}
+
 void write(const QString& path, QIODevice::OpenMode mode, const QByteArray& bytes) {
     QFile file(path);
     if (!file.open(mode))
         failAccess(file, u"不能写入文件"_s);
-    if (file.write(bytes) != bytes.size() || !file.flush())
-        failAccess(file, u"文件没有写完"_s);
+    write(file, bytes);
 }
 
 } // namespace
@@ -67,6 +72,18 @@ void requireFolderOf(const QString& path) {
 
 void writeAll(const QString& path, const QByteArray& bytes) {
     write(path, QIODevice::WriteOnly | QIODevice::Truncate, bytes);
+}
+
+QString writeNewForOwner(const QString& path, const QByteArray& bytes) {
+    const QFileInfo wanted(path);
+    QFile file(path);
+    for (int i = 2; file.exists(); ++i)
+        file.setFileName(
+            wanted.dir().filePath(u"%1（%2）.%3"_s.arg(wanted.completeBaseName()).arg(i).arg(wanted.suffix())));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+        failAccess(file, u"不能写入文件"_s);
+    write(file, bytes);
+    return file.fileName();
 }
 
 void writeOver(const QString& path, const QByteArray& bytes) {

@@ -18,6 +18,9 @@ void requirePlainFile(const QString& path);
 void requireFolderOf(const QString& path);
 /// Writes the whole file, replacing one of that name. DiskFull, PathFileAccess.
 void writeAll(const QString& path, const QByteArray& bytes);
+/// Writes a new file that its owner alone can read, under this name or, where there is such a file already, one like
+/// it; gives the name that it has. DiskFull, PathFileAccess.
+QString writeNewForOwner(const QString& path, const QByteArray& bytes);
 /// Writes from the file's beginning on; the tail of a longer file stays behind it. DiskFull, PathFileAccess.
 void writeOver(const QString& path, const QByteArray& bytes);
 /// Reads the whole file. FileNotFound, PathFileAccess.

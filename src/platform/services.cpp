@@ -2,13 +2,13 @@
 
 #include "platform/background_sound.h"
 #include "platform/desktop_file_chooser.h"
+#include "platform/desktop_launcher.h"
 #include "platform/desktop_message_boxes.h"
 #include "platform/desktop_tray.h"
 #include "platform/handlers.h"
 #include "platform/instance_lock.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,11 +22,6 @@ namespace {
 class DesktopClock : public Clock {
 public:
     QDateTime now() const override { return QDateTime::currentDateTime(); }
-};
-
-class DesktopLauncher : public Launcher {
-public:
-    void explore(const QUrl& page) override { QDesktopServices::openUrl(page); }
 };
 
 class DesktopProcess : public Process {

@@ -38,8 +38,9 @@ public:
     /// Shows the box over the active window and waits. Text and title are plain text. Use say() instead: it ends the
     /// unit of work first.
     virtual Answer show(const QString& text, MessageStyle style, const QString& title) = 0;
-    /// The window of a run-time error; `text` is told whole.
-    virtual void showError(int number, const QString& text) = 0;
+    /// The window of a run-time error, the last one of the program; `text` is told whole, and so is what became of the
+    /// user's records and texts, which may be nothing.
+    virtual void showError(int number, const QString& text, const QString& became) = 0;
 };
 
 class FileChooser {
@@ -58,13 +59,16 @@ public:
     /// Adds the program's icon, which stays; once more changes nothing for the user. `tip` is shown under the pointer.
     /// The icon's events arrive at `onMessage` with the message number of the mouse (513: the left button's press).
     virtual void add(const QString& tip, std::function<void(int message)> onMessage) = 0;
+    /// Shows a balloon at the icon that was added, for a while; a press on it is a press of the left button on the
+    /// icon.
+    virtual void tell(const QString& text) = 0;
 };
 
 class Launcher {
 public:
     virtual ~Launcher() = default;
-    /// Opens a page in the system's browser.
-    virtual void explore(const QUrl& page) = 0;
+    /// Opens a page in the system's browser; tells whether there is one.
+    virtual bool explore(const QUrl& page) = 0;
 };
 
 /// A piece of music in the player's hands; when it goes away it is silent. Its end is a position equal to its length.
@@ -91,6 +95,10 @@ public:
     virtual ~InstanceLock() = default;
     /// Takes the lock when it is free; a copy that holds it keeps it to the end of its process.
     virtual bool tryTake() = 0;
+    /// To be set before the lock is taken: `called` runs when another copy calls the one that holds it.
+    virtual void answerCalls(std::function<void()> called) = 0;
+    /// Calls the copy that holds the lock; nobody may be there to hear it.
+    virtual void callHolder() = 0;
 };
 
 class Process {

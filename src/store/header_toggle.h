@@ -13,5 +13,7 @@ void healHeader(const QString& path);
 void spoilHeader(const QString& path);
 /// Whether a store lies there whose header is spoilt.
 bool headerIsSpoilt(const QString& path);
+/// Whether a file begins as a store does, with a header that is spoilt or not.
+bool hasFormOfBook(const QString& path);
 
 } // namespace qinghe

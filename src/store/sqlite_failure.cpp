@@ -1,6 +1,7 @@
 #include "store/sqlite_failure.h"
 
 #include "runtime/runtime_error.h"
+#include "store/copies.h"
 #include "store/header_toggle.h"
 
 #include <QDir>
@@ -19,16 +20,15 @@ namespace {
 struct FailureRow {
     int code; ///< SQLite's; an extended code stands before its primary one
     int number;
-    QStringView text; ///< %1 is the file
+    QStringView text;      ///< %1 is the file
+    bool isBroken = false; ///< the file cannot be read any more: how it comes back is told as well
 };
 
 constexpr std::array Failures{
     FailureRow{SQLITE_READONLY_DBMOVED, RuntimeError::StoreFailure,
                u"账本文件“%1”在使用中被移走或换掉了，请重新启动程序。"},
-    FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure,
-               u"“%1”不是账本文件，或者已经损坏。请把一份备份文件复制到这里，改成这个名字，再启动程序。"},
-    FailureRow{SQLITE_CORRUPT, RuntimeError::StoreFailure,
-               u"账本文件“%1”已经损坏。请把一份备份文件复制到这里，改成这个名字，再启动程序。"},
+    FailureRow{SQLITE_NOTADB, RuntimeError::StoreFailure, u"“%1”不是账本文件，或者已经损坏。", true},
+    FailureRow{SQLITE_CORRUPT, RuntimeError::StoreFailure, u"账本文件“%1”已经损坏。", true},
     FailureRow{SQLITE_FULL, RuntimeError::DiskFull, u"磁盘已满，无法保存到“%1”。请腾出空间后再试。"},
     FailureRow{SQLITE_CANTOPEN, RuntimeError::PathFileAccess, u"无法打开账本文件“%1”，请检查它和所在文件夹的权限。"},
     FailureRow{SQLITE_READONLY, RuntimeError::PathFileAccess, u"无法写入账本文件“%1”，请检查它和所在文件夹的权限。"},
@@ -56,8 +56,15 @@ const FailureRow& rowOf(int code, const QString& path) {
 
 void throwSqliteFailure(int code, const QString& path, const QString& detail) {
     const FailureRow& row = rowOf(code, path);
-    throw RuntimeError(row.number,
-                       row.text.toString().arg(QDir::toNativeSeparators(path)) + u"（%1：%2）"_s.arg(code).arg(detail));
+    QString text = row.text.toString().arg(QDir::toNativeSeparators(path));
+    // SQLite's own words are English; they help nobody but where there are none of ours.
+    if (&row == &UnknownFailure)
+        text += u"请把下面这行文字告诉维护程序的人。\r\n%1：%2"_s.arg(code).arg(detail);
+    else
+        text += u"（代码 %1）"_s.arg(code);
+    if (row.isBroken)
+        text += wayBack(path);
+    throw RuntimeError(row.number, text);
 }
 
 } // namespace qinghe

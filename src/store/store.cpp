@@ -1,6 +1,7 @@
 #include "store/store.h"
 
 #include "runtime/runtime_error.h"
+#include "store/copies.h"
 #include "store/session.h"
 
 #include <QDir>
@@ -18,12 +19,10 @@ void requireStoreFile(const QString& path) {
     const QFileInfo file(path);
     const QString shown = QDir::toNativeSeparators(path);
     if (!file.isFile())
-        throw RuntimeError(RuntimeError::FileNotFound, u"找不到账本文件“%1”。"_s.arg(shown));
+        throw RuntimeError(RuntimeError::FileNotFound, u"找不到账本文件“%1”。"_s.arg(shown) + wayBack(path));
     if (file.size() < FileHeaderSize) // to SQLite a file of a few bytes is a store without tables
-        throw RuntimeError(
-            RuntimeError::StoreFailure,
-            u"“%1”是空的，或者不完整，不是账本文件。请把一份备份文件复制到这里，改成这个名字，再启动程序。"_s.arg(
-                shown));
+        throw RuntimeError(RuntimeError::StoreFailure,
+                           u"“%1”是空的，或者不完整，不是账本文件。"_s.arg(shown) + wayBack(path));
 }
 
 /// Whether an error leaves the file and the open unit of work sound.
@@ -40,6 +39,7 @@ struct Store::Impl {
     QString path;
     std::unique_ptr<Session> open;
     int generation = 0;
+    bool hasUndone = false;
 
     /// The open file, opened if need be; one that was replaced under its name is opened anew.
     Session& session() {
@@ -74,6 +74,7 @@ struct Store::Impl {
     }
 
     void recover(const RuntimeError& error) {
+        hasUndone = true;
         if (open)
             open->rollBack();
         if (error.number() == RuntimeError::StoreFailure)
@@ -120,6 +121,10 @@ void Store::close() {
         throw;
     }
     m_impl->drop();
+}
+
+bool Store::hasUndone() const {
+    return m_impl->hasUndone;
 }
 
 int Store::generation() const {

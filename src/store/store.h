@@ -54,6 +54,8 @@ public:
     /// Commits and closes, so that the file's bytes may be touched; the next use opens anew and recordsets made before
     /// are void. The file is closed even when the commit throws.
     void close();
+    /// Whether the file itself has failed: the unit of work that was open then, if any, was undone.
+    bool hasUndone() const;
     /// Counts the closings: what was read under another number is void. A file that was replaced under its name counts
     /// as closed at the next use.
     int generation() const;

@@ -37,6 +37,18 @@ TEST_F(CommonDialogTest, CancelLeavesTheNameAsItWas) {
     EXPECT_EQ(dialog.FileName(), u"/一.dat");
 }
 
+TEST_F(CommonDialogTest, ASuggestionStandsInItUntilANameIsChosenAndIsNoneByItself) {
+    dialog.setSuggestion(u"备份.dat"_s);
+    chooser.names = {std::nullopt, u"/一.dat"_s};
+    dialog.showOpen();
+    EXPECT_EQ(dialog.FileName(), QString());
+    dialog.showOpen();
+    dialog.showOpen();
+    using Asked = AnsweringChooser::Asked;
+    EXPECT_EQ(chooser.asked,
+              (std::vector{Asked{{}, u"备份.dat"_s}, Asked{{}, u"备份.dat"_s}, Asked{{}, u"/一.dat"_s}}));
+}
+
 TEST_F(CommonDialogTest, TheUnitOfWorkEndsBeforeItIsShown) {
     chooser.whileShown = [this] { log << u"shown"_s; };
     dialog.showOpen();

@@ -29,7 +29,8 @@ TEST_F(BrokenStart, AMissingFileIsToldAndNotMade) {
     keepAside();
     QFile::remove(rig.dataFile());
     rig.start();
-    expectError(RuntimeError::FileNotFound, u"data.dll"_s);
+    expectError(RuntimeError::FileNotFound, u"改名为 data.dll"_s);
+    EXPECT_EQ(rig.messages->lastWords, QString());
     EXPECT_EQ(folder(), QStringList{u"aside"_s});
     putBack();
     expectNextStartGood();
@@ -56,6 +57,27 @@ TEST_F(BrokenStart, ATruncatedFileIsTold) {
     expectError(RuntimeError::StoreFailure, u"data.dll"_s);
     putBack();
     expectNextStartGood();
+}
+
+TEST_F(BrokenStart, TheWayBackNamesTheCopiesThatLieBesideTheBook) {
+    QFile::copy(rig.dataFile(), rig.file(u"备份.dat"_s));
+    write(u"照片.dat"_s, QByteArray("no book at all\n").repeated(500));
+    write(u"一半.dat"_s, bytes(u"data.dll"_s).left(6000));
+    for (const bool damaged : {false, true}) {
+        rig.stop();
+        QFile::remove(rig.dataFile());
+        if (damaged)
+            write(u"data.dll"_s, QByteArray("no ledger at all\n").repeated(500));
+        rig.start();
+        ASSERT_EQ(rig.messages->errors.size(), 1u);
+        const QString text = rig.messages->errors.front().second;
+        EXPECT_TRUE(text.contains(rig.file(u"备份.dat"_s))) << text.toStdString();
+        EXPECT_FALSE(text.contains(u"照片.dat"_s) || text.contains(u"一半.dat"_s));
+        EXPECT_EQ(text.contains(u"改名留着"_s), damaged);
+        const QString words = QString(text).remove(rig.folder()).remove(u"data.dll"_s).remove(u".dat"_s);
+        for (const QChar c : words)
+            EXPECT_FALSE(c >= u'a' && c <= u'z') << text.toStdString();
+    }
 }
 
 TEST_F(BrokenStart, AFolderInPlaceOfTheFileIsTold) {

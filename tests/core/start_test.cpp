@@ -13,8 +13,12 @@ TEST_F(Start, ASecondCopyAsksForNameAndPasswordFirstThenSaysSoAndEnds) {
     rig.lock->free = false;
     rig.start();
     EXPECT_TRUE(rig.messages->shown.empty());
+    int callsDuringMessage = -1;
+    rig.messages->whileShown = [&](const ShownMessage&) { callsDuringMessage = rig.lock->calls; };
     rig.click(signInButton());
     EXPECT_EQ(rig.messages->shown, (std::vector<ShownMessage>{{secondCopy, 0, QString()}}));
+    EXPECT_EQ(callsDuringMessage, 0);
+    EXPECT_EQ(rig.lock->calls, 1); // the first copy comes forward
     expectEndedWell();
     EXPECT_FALSE(folder().contains(u"mydiary"_s));
     EXPECT_FALSE(folder().contains(u"pf.jpg"_s));
@@ -28,6 +32,20 @@ TEST_F(Start, ACopyWhoseForerunnerHasEndedMeanwhileIsTheFirst) {
     rig.click(signInButton());
     EXPECT_TRUE(main().isVisible());
     EXPECT_TRUE(rig.messages->shown.empty());
+}
+
+TEST_F(Start, TheCallOfASecondCopyBringsForwardWhatIsThere) {
+    rig.start();
+    Form& signIn = *rig.loaded(forms::SignIn);
+    signIn.setWindowState(1);
+    rig.lock->call();
+    EXPECT_EQ(signIn.WindowState(), 0);
+    EXPECT_TRUE(signIn.isActiveWindow());
+    rig.click(signInButton());
+    click(title::Minimise);
+    rig.lock->call();
+    EXPECT_EQ(main().WindowState(), 0);
+    EXPECT_TRUE(main().isActiveWindow());
 }
 
 TEST_F(Start, TheDiaryFolderIsMadeWhenItIsMissing) {

@@ -33,6 +33,17 @@ TEST_F(TrayIcon, StartingWithTheSettingOnTheWindowAppearsForAMomentThenOnlyTheIc
     EXPECT_FALSE(rig.ended());
 }
 
+TEST_F(TrayIcon, AStartIntoTheTraySaysSoOnce) {
+    want(true);
+    rig.signIn();
+    EXPECT_EQ(rig.tray->told, (std::vector{u"程序已经启动，在这个图标里。点一下图标，窗口就出来。"_s}));
+    send(513);
+    QTest::qWait(300);
+    minimise();
+    EXPECT_EQ(added(), 2u);
+    EXPECT_EQ(rig.tray->told.size(), 1u);
+}
+
 TEST_F(TrayIcon, AStartIntoTheTrayStillFillsTheDesktop) {
     want(true);
     rig.signIn();
@@ -184,6 +195,14 @@ TEST_F(TrayIcon, ThePointerOnItsWayOverTheWindowDoesNotPullItToTheFront) {
     EXPECT_TRUE(rig.loaded(forms::Web)->isActiveWindow());
 }
 
+TEST_F(TrayIcon, TheCallOfASecondCopyBringsTheWindowOutOfTheTray) {
+    want(true);
+    rig.signIn();
+    rig.lock->call();
+    EXPECT_TRUE(main().isVisible() && main().isActiveWindow());
+    EXPECT_EQ(main().WindowState(), 0);
+}
+
 TEST_F(TrayIcon, AMinimisedWindowComesBackUpright) {
     rig.signIn();
     want(true);
@@ -221,6 +240,7 @@ TEST_F(TrayIcon, WithoutATrayTheWindowIsMinimisedAndNobodyIsLockedOut) {
     want(true);
     rig.signIn();
     EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(rig.tray->told.empty());
     EXPECT_TRUE(main().Visible());
     EXPECT_EQ(main().WindowState(), 1);
     EXPECT_FALSE(rig.ended());

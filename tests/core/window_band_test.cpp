@@ -98,6 +98,23 @@ TEST_F(WindowBand, ALinkOutOfTheToolsWindowOpensInTheSystemsBrowser) {
     EXPECT_EQ(rig.launcher->opened, std::vector<QUrl>{QUrl(u"http://qinghe.example/"_s)});
 }
 
+TEST_F(WindowBand, WithoutABrowserThePagesOpenInTheProgramsOwnWindow) {
+    deliverWebPages(rig.folder());
+    rig.launcher->present = false;
+    click(title::About);
+    EXPECT_TRUE(web().isVisible());
+    EXPECT_EQ(web().Left(), main().Left() + main().Width());
+    EXPECT_EQ(rig.at(web::Browser).source().fileName(), u"adetail.htm"_s);
+    EXPECT_EQ(web().Caption(), rig.at(web::Browser).documentTitle());
+    click(title::WebAddress);
+    EXPECT_EQ(rig.at(web::Browser).source().fileName(), u"index.htm"_s);
+    click(title::Tools);
+    EXPECT_EQ(rig.at(web::Browser).source().fileName(), u"softs.htm"_s);
+    EXPECT_EQ(web().Caption(), u"软件工具"_s);
+    emit rig.at(web::Browser).anchorClicked(QUrl(u"http://qinghe.example/"_s));
+    EXPECT_TRUE(rig.lastMessage().text.contains(u"http://qinghe.example/"_s));
+}
+
 TEST_F(WindowBand, IntroductionAndAddressOpenPagesThatAreThere) {
     deliverWebPages(rig.folder());
     click(title::About);

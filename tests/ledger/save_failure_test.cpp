@@ -23,6 +23,10 @@ protected:
         EXPECT_TRUE(rig.messages->errors.front().second.contains(bad));
         EXPECT_TRUE(rig.messages->shown.empty()); // no word of success
         EXPECT_EQ(stored(u"区别"_s), (QStringList{u"1"_s, u"2"_s}));
+        EXPECT_TRUE(rig.messages->lastWords.startsWith(u"保存没有完成：这一页原有 5 条，已写回 2 条。"_s));
+        const QString rescued = rescuedText();
+        for (int number = 1; number <= 5; ++number)
+            EXPECT_TRUE(rescued.contains(u'\n' + QString::number(number) + u'\t' + row(number).replace(u'|', u'\t')));
     }
 };
 

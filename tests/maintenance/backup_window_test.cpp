@@ -22,6 +22,8 @@ const QStringList RestoreTexts{u"数据还原"_s, u"数据还原"_s,
                                u"数据还原说明：数据还原后，备份的数据将覆盖当前数据，系统将显示备份的数据。"_s,
                                u"开始还原"_s};
 
+const QString SuggestedName = u"青禾家庭记账本2024-06-18.dat"_s;
+
 TEST_F(BackupWindowTest, TheOptionsStandAmongTheSettingsOfFiles) {
     const Frame& files = rig.at(settings::Files);
     EXPECT_EQ(files.Caption(), u"文件设置");
@@ -53,6 +55,19 @@ TEST_F(BackupWindowTest, TheOtherOptionChangesTheTextsOfTheOpenWindow) {
     EXPECT_EQ(words(), RestoreTexts);
     openFor(backup());
     EXPECT_EQ(words(), BackupTexts);
+}
+
+TEST_F(BackupWindowTest, ItSaysThatDiaryTextsAreNotInABackupAndWhereTheyLie) {
+    for (OptionButton* option : {&backup(), &restore()}) {
+        openFor(*option);
+        const auto labels = window()->findChildren<Label*>();
+        EXPECT_EQ(std::ranges::count_if(labels,
+                                        [this](const Label* label) {
+                                            return label->Caption().contains(u"日记的正文不在备份里"_s) &&
+                                                   label->Caption().contains(rig.file(u"mydiary"_s));
+                                        }),
+                  1);
+    }
 }
 
 TEST_F(BackupWindowTest, ItBlocksNothing) {
@@ -99,13 +114,14 @@ TEST_F(BackupWindowTest, CancelAtTheFirstMessageShowsNoDialog) {
     EXPECT_TRUE(rig.chooser->asked.empty());
 }
 
-TEST_F(BackupWindowTest, TheDialogIsAskedForDataFiles) {
+TEST_F(BackupWindowTest, TheDialogIsAskedForDataFilesAndSuggestsADatedNameForABackup) {
     openFor(backup());
     rig.click(start());
     openFor(restore());
     rig.click(start());
     using Asked = AnsweringChooser::Asked;
-    EXPECT_EQ(rig.chooser->asked, (std::vector{Asked{u"*.dat|*.dat"_s, {}}, Asked{u"*.dat|*.dat"_s, {}}}));
+    EXPECT_EQ(rig.chooser->asked, (std::vector{Asked{u"*.dat|*.dat"_s, SuggestedName}, Asked{u"*.dat|*.dat"_s, {}}}));
+    EXPECT_EQ(rig.messages->shown, (std::vector{AskedWhereTo, AskedWhereFrom})); // Cancel gave no name
 }
 
 TEST_F(BackupWindowTest, CancelInTheDialogWithoutAnEarlierNameDoesNothing) {
@@ -140,7 +156,7 @@ TEST_F(BackupWindowTest, ANameIsForgottenWithTheWindow) {
     rig.settle();
     openFor(backup());
     rig.click(start());
-    EXPECT_EQ(rig.chooser->asked.back().name, QString());
+    EXPECT_EQ(rig.chooser->asked.back().name, SuggestedName);
     EXPECT_EQ(rig.lastMessage(), AskedWhereTo);
 }
 
@@ -202,7 +218,7 @@ TEST_F(BackupWindowTest, ItStandsInTheMiddleOfTheMainWindow) {
     openFor(backup());
     const MainWindow& main = rig.mainWindow();
     EXPECT_DOUBLE_EQ(window()->Left(), main.Left() + (main.Width() - 5400) / 2);
-    EXPECT_DOUBLE_EQ(window()->Top(), main.Top() + (main.Height() - 3000) / 2);
+    EXPECT_DOUBLE_EQ(window()->Top(), main.Top() + (main.Height() - 3690) / 2);
     EXPECT_EQ(window()->parentWidget(), &main);
 }
 

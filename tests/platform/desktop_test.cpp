@@ -1,10 +1,14 @@
+#include "platform/desktop_launcher.h"
 #include "platform/desktop_tray.h"
 #include "platform/instance_lock.h"
 #include "platform/services.h"
 #include "support/guard_fixture.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
+
+#include <array>
 
 namespace qinghe::testing {
 namespace {
@@ -32,6 +36,68 @@ TEST(FolderLock, LeavesNothingInTheFolder) {
     const auto lock = folderLock(folder.path());
     lock->tryTake();
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST(FolderLock, ItsHolderHearsTheCallOfAnotherCopyOfTheSameFolderAlone) {
+    const QTemporaryDir folder, other;
+    handlers::reset();
+    int calls = 0;
+    auto first = folderLock(folder.path());
+    const auto second = folderLock(folder.path()), stranger = folderLock(other.path());
+    second->callHolder(); // nobody is there yet
+    first->answerCalls([&calls] { ++calls; });
+    ASSERT_TRUE(first->tryTake());
+    ASSERT_FALSE(second->tryTake());
+    stranger->callHolder();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(calls, 0);
+    second->callHolder();
+    second->callHolder();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(calls, 1);
+    first.reset();
+    second->callHolder(); // nobody is there any more
+}
+
+/// A machine whose programs and lists of programs lie in a folder of the test.
+class Browsers : public ::testing::Test {
+protected:
+    Browsers() {
+        qputenv("PATH", QFile::encodeName(folder.path()));
+        qputenv("XDG_DATA_DIRS", QFile::encodeName(folder.path()));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
+        qunsetenv("BROWSER");
+        QDir(folder.path()).mkdir(u"applications"_s);
+    }
+    ~Browsers() override {
+        for (std::size_t i = 0; i < std::size(Names); ++i)
+            before[i].isNull() ? qunsetenv(Names[i]) : qputenv(Names[i], before[i]);
+    }
+    void write(const QString& name, const QByteArray& content, QFile::Permissions more = {}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.setPermissions(file.permissions() | more);
+    }
+
+    static constexpr const char* Names[] = {"PATH", "XDG_DATA_DIRS", "XDG_DATA_HOME", "BROWSER"};
+    const std::array<QByteArray, 4> before{qgetenv(Names[0]), qgetenv(Names[1]), qgetenv(Names[2]), qgetenv(Names[3])};
+    QTemporaryDir folder;
+};
+
+TEST_F(Browsers, WhatOpensFilesForADesktopIsNone) {
+    write(u"xdg-open"_s, "#!/bin/sh\n", QFile::ExeOwner);
+    write(u"applications/mimeinfo.cache"_s, "[MIME Cache]\ntext/plain=editor.desktop;\nx-scheme-handler/http=\n");
+    EXPECT_FALSE(hasBrowser());
+}
+
+TEST_F(Browsers, OneIsKnownByTheListOfProgramsOrByItsCommand) {
+    write(u"applications/mimeinfo.cache"_s, "[MIME Cache]\nx-scheme-handler/http=a.desktop;\n");
+    EXPECT_TRUE(hasBrowser());
+    QFile::remove(folder.filePath(u"applications/mimeinfo.cache"_s));
+    EXPECT_FALSE(hasBrowser());
+    write(u"x-www-browser"_s, "#!/bin/sh\n", QFile::ExeOwner);
+    EXPECT_TRUE(hasBrowser());
 }
 
 TEST(DesktopServices, AreAllThere) {
@@ -66,6 +132,16 @@ TEST(DesktopTray, AnEventOfTheIconArrivesAtTheLastThatAddedIt) {
     emit tray.icon()->activated(QSystemTrayIcon::Trigger);
     EXPECT_EQ(first, QList<int>{});
     EXPECT_EQ(last, QList<int>{513});
+}
+
+TEST(DesktopTray, APressOnTheBalloonIsALeftPressOnTheIcon) {
+    DesktopTray tray;
+    tray.tell(u"没有图标"_s); // and so no balloon
+    QList<int> messages;
+    tray.add(productName(), [&](int message) { messages << message; });
+    tray.tell(u"在这里"_s);
+    emit tray.icon()->messageClicked();
+    EXPECT_EQ(messages, QList<int>{513});
 }
 
 TEST(DesktopTray, OnlyALeftPressOnTheIconIsTheLeftButtonsMessage) {

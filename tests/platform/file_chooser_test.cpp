@@ -1,15 +1,20 @@
 #include "controls/form.h"
 #include "platform/desktop_file_chooser.h"
+#include "platform/file_chooser_words.h"
 #include "qt_printing.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
+#include <QSet>
 #include <QSettings>
+#include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -94,6 +99,62 @@ TEST_F(FileChooserTest, ItIsADialogOfOursForOneFileWithTheFilterOfTheForm) {
         EXPECT_EQ(dialog.fileMode(), QFileDialog::AnyFile);
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
         EXPECT_EQ(dialog.nameFilters(), QStringList{u"*.dat"_s});
+        dialog.reject();
+    });
+}
+
+TEST_F(FileChooserTest, AtItsSideStandTheHomeFolderAndWhatIsPluggedInByTheirChineseNames) {
+    choose({}, {}, [](QFileDialog& dialog, QLineEdit&) {
+        auto* side = dialog.findChild<QListView*>(u"sidebar"_s);
+        ASSERT_TRUE(side);
+        EXPECT_EQ(dialog.sidebarUrls().value(0), QUrl::fromLocalFile(QDir::homePath()));
+        EXPECT_EQ(side->model()->rowCount(), dialog.sidebarUrls().size());
+        dialog.reject();
+    });
+    struct Shown : PlaceNames {
+        using PlaceNames::initStyleOption;
+        using PlaceNames::PlaceNames;
+    };
+    QStandardItemModel rows(1, 1);
+    rows.setData(rows.index(0, 0), QUrl::fromLocalFile(dir.path()), Qt::UserRole + 1);
+    rows.setData(rows.index(0, 0), u"some name"_s);
+    QStyleOptionViewItem option;
+    const Shown names({{QUrl::fromLocalFile(dir.path()), u"文档"_s}}, nullptr);
+    names.initStyleOption(&option, rows.index(0, 0));
+    EXPECT_EQ(option.text, u"文档"_s);
+}
+
+TEST_F(FileChooserTest, TheUsualPlacesAreFoldersThatAreThereEachOnce) {
+    const std::vector<Place> places = usualPlaces();
+    ASSERT_FALSE(places.empty());
+    EXPECT_EQ(places.front().name, u"主目录"_s);
+    QSet<QUrl> seen;
+    for (const Place& place : places) {
+        EXPECT_TRUE(QFileInfo(place.url.toLocalFile()).isDir());
+        EXPECT_FALSE(std::exchange(seen, seen + QSet{place.url}).contains(place.url));
+    }
+}
+
+TEST_F(FileChooserTest, ALineTellsKindAndTimeInChineseAndIsWideEnough) {
+    QFile file(at(u"青禾家庭记账本2024-11-15.dat"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) &&
+                file.setFileTime(QDateTime(QDate(2024, 5, 3), QTime(8, 5)), QFileDevice::FileModificationTime));
+    file.close();
+    choose(u"*.dat|*.dat"_s, at(u"neu.dat"_s), [this](QFileDialog& dialog, QLineEdit&) {
+        auto* list = dialog.findChild<QTreeView*>(u"treeView"_s);
+        ASSERT_TRUE(list);
+        const auto row = [&] { return list->model()->index(0, 0, list->rootIndex()); };
+        ASSERT_TRUE(QTest::qWaitFor([&] { return row().data().toString().startsWith(u"青禾"_s); }));
+        EXPECT_EQ(row().siblingAtColumn(2).data().toString(), u"账本备份"_s);
+        struct Shown : ChangeTimes {
+            using ChangeTimes::initStyleOption;
+        };
+        QStyleOptionViewItem option;
+        Shown().initStyleOption(&option, row().siblingAtColumn(3));
+        EXPECT_EQ(option.text, u"2024年5月3日 8:05"_s);
+        EXPECT_TRUE(dynamic_cast<ChangeTimes*>(list->itemDelegateForColumn(3)));
+        EXPECT_GT(list->columnWidth(0), list->fontMetrics().horizontalAdvance(u"青禾家庭记账本2024-11-15.dat"_s));
+        EXPECT_GT(list->columnWidth(3), list->fontMetrics().horizontalAdvance(u"2024年11月15日 20:36"_s));
         dialog.reject();
     });
 }

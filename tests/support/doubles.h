@@ -32,10 +32,14 @@ inline void PrintTo(const ShownMessage& message, std::ostream* out) {
 class AnsweringMessages : public MessageBoxes {
 public:
     Answer show(const QString& text, MessageStyle style, const QString& title) override;
-    void showError(int number, const QString& text) override { errors.push_back({number, text}); }
+    void showError(int number, const QString& text, const QString& became) override {
+        errors.push_back({number, text});
+        lastWords = became;
+    }
 
     std::vector<ShownMessage> shown;
     std::vector<std::pair<int, QString>> errors;
+    QString lastWords;                                   ///< told with the last error
     std::vector<Answer> answers;                         ///< for the next boxes
     std::function<void(const ShownMessage&)> whileShown; ///< runs while a box is open
 };
@@ -64,7 +68,10 @@ public:
             whenAdded();
     }
 
+    void tell(const QString& text) override { told.push_back(text); }
+
     bool present = true;
+    std::vector<QString> told;             ///< the balloons
     std::vector<QString> added;            ///< the tip of each time
     std::function<void(int message)> send; ///< an event of the icon, as the desktop brings it
     std::function<void()> whenAdded;
@@ -72,8 +79,13 @@ public:
 
 class NotingLauncher : public Launcher {
 public:
-    void explore(const QUrl& page) override { opened.push_back(page); }
+    bool explore(const QUrl& page) override {
+        if (present)
+            opened.push_back(page);
+        return present;
+    }
     std::vector<QUrl> opened;
+    bool present = true; ///< else there is no browser
 };
 
 /// Notes what is asked of the sound: "open 音乐1.wav", "play", "stop", "rewind", "close". Plays nothing; a test sets
@@ -91,7 +103,11 @@ public:
 class GivenLock : public InstanceLock {
 public:
     bool tryTake() override { return free; }
+    void answerCalls(std::function<void()> called) override { call = std::move(called); }
+    void callHolder() override { ++calls; }
     bool free = true;
+    std::function<void()> call; ///< what a call of another copy sets off
+    int calls = 0;              ///< of this copy
 };
 
 class NotedEnd : public Process {

@@ -47,6 +47,12 @@ void ProgramTest::expectError(int number, const QString& words) const {
     EXPECT_EQ(rig.process->codes, std::vector<int>{1});
 }
 
+QString ProgramTest::rescuedText() const {
+    const QStringList files = QDir(rig.folder()).entryList({u"没有保存的内容*.txt"_s});
+    EXPECT_LE(files.size(), 1);
+    return files.isEmpty() ? QString() : QString::fromUtf8(bytes(files.front()));
+}
+
 QStringList ProgramTest::rowsOf(const MSFlexGrid& grid) {
     QStringList texts;
     for (int row = 1; row < grid.Rows(); ++row)

@@ -28,6 +28,9 @@ protected:
     /// The program has told this run-time error, once, in Chinese and with the words given, and has ended with 1.
     void expectError(int number, const QString& words = {}) const;
 
+    /// The text of the one file that the last run-time error left beside the book; "" when there is none.
+    QString rescuedText() const;
+
     /// The rows of a grid, cells joined with "|".
     static QStringList rowsOf(const MSFlexGrid& grid);
     /// The current cell: "2,3".

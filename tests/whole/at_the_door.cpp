@@ -97,6 +97,7 @@ TEST(AtTheDoor, ASecondCopyIsTurnedAwayAfterItsSignIn) {
     const LedgerFolder folder;
     Program first(folder);
     signIn(first);
+    first.click(title::Minimise);
     Program second(folder);
     second.click(sign_in::Enter);
     EXPECT_EQ(
@@ -104,6 +105,7 @@ TEST(AtTheDoor, ASecondCopyIsTurnedAwayAfterItsSignIn) {
         (Message{"程序已经运行，程序可能已经最小化到左下角或系统托盘！", "青禾家庭记账本", Message::None, {"确定"}}));
     second.answer("确定");
     EXPECT_EQ(second.exitCode(), 0);
+    first.waitForKeyboard(forms::Main);
 
     EXPECT_EQ(folder.header(), "01 00");
     first.click(pages::Income);

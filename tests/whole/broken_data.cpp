@@ -1,8 +1,20 @@
 #include "household.h"
 
+#include <QDir>
+
 #include <gtest/gtest.h>
 
 using namespace whole;
+
+namespace {
+
+/// What the program has put into a file beside the book before it ended.
+std::string rescued(const LedgerFolder& folder) {
+    const QStringList files = QDir(folder.path()).entryList({QStringLiteral("没有保存的内容*.txt")});
+    return files.size() == 1 ? folder.bytes(files.front().toStdString()).toStdString() : "(no file)";
+}
+
+} // namespace
 
 TEST(BrokenData, AMissingFileIsTold) {
     const LedgerFolder folder;
@@ -65,8 +77,11 @@ TEST(BrokenData, ADateThatIsNoDayEndsTheSaveWhereItStands) {
         program.key("Return");
 
         program.click(income::Save);
-        expectErrorWindow(program, "11月31日");
+        expectErrorWindow(program, "这一页原有 2 条，已写回 2 条。");
     }
+    const std::string kept = rescued(folder);
+    EXPECT_NE(kept.find("11月31日"), std::string::npos) << kept;
+    EXPECT_NE(kept.find("3\t3\t11月31日\t奖金\t王青\t20\t现金"), std::string::npos) << kept;
     EXPECT_EQ(folder.header(), "01 00");
     EXPECT_EQ(folder.rows("select 编号,金额 from srb"), (std::vector<std::string>{"1|500", "2|70.5"}));
 
