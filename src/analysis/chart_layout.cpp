@@ -40,6 +40,21 @@ QString widestOf(QString text) {
     return text;
 }
 
+/// Years that are wide enough for their words keep them; the others keep them where there is room left.
+void dropCrowdedWords(std::vector<ChartLayout::Year>& years) {
+    std::vector<QRectF> taken;
+    for (const bool wide : {true, false})
+        for (ChartLayout::Year& year : years) {
+            if ((year.box.width() <= year.room) != wide)
+                continue;
+            const QRectF box = year.box.adjusted(-LabelGap, 0, 0, 0);
+            if (std::ranges::any_of(taken, [&](const QRectF& other) { return other.intersects(box); }))
+                year.words.clear();
+            else
+                taken.push_back(box);
+        }
+}
+
 /// The lowest value and the highest, 0 at least among them.
 std::pair<double, double> range(const ChartMatrix& matrix) {
     std::pair<double, double> ends{0, 0};
@@ -52,24 +67,26 @@ std::pair<double, double> range(const ChartMatrix& matrix) {
 
 } // namespace
 
-ChartLayout::ChartLayout(const ChartMatrix& matrix, const QSizeF& size, Rulers rulers)
+ChartLayout::ChartLayout(const ChartMatrix& matrix, const QSizeF& size, Rulers rulers, Span span)
     : m_matrix(matrix),
       m_size(size),
       m_rulers(rulers),
+      m_span(span),
       m_lowest(range(matrix).first),
       m_highest(range(matrix).second),
-      m_scale(fittingScale()) {
+      m_scale(fittingScale()),
+      m_writesValues(!hasLegend()) {
     const double left = std::max(LeastAxis, std::ceil(axisWidth() + AxisGap));
     m_plot = QRectF(left, Top, std::max(1.0, size.width() - left - Right), 1);
     layPitch();
-    m_labelLines = anyLabelBreaks() ? 2 : 1;
+    m_labelLines = namesRows() && anyLabelBreaks() ? 2 : 1;
     const double foot = Foot + (m_labelLines - 1) * LineHeight + (longestScroll() > 0 ? StripRoom : 0);
     m_plot.setHeight(std::max(1.0, size.height() - Top - foot));
 }
 
 AxisScale ChartLayout::fittingScale() const {
     AxisScale scale(m_lowest, m_highest);
-    if (m_lowest >= 0 || !writesValues())
+    if (m_lowest >= 0 || hasLegend())
         return scale;
     // The lowest value's text hangs below its column and must not reach the labels.
     const double least = m_size.height() - Top - Foot - LineHeight - StripRoom;
@@ -88,10 +105,14 @@ double ChartLayout::axisWidth() const {
 void ChartLayout::layPitch() {
     if (m_matrix.rows.isEmpty())
         return;
-    double least = LeastPitch;
-    if (writesValues())
-        least = std::max(least, widestValue() + ValueGap);
-    m_pitch = std::max(least, m_plot.width() / m_matrix.rowCount());
+    const double share = m_plot.width() / m_matrix.rowCount();
+    const double ofValue = hasLegend() ? 0 : widestValue() + ValueGap;
+    if (m_span == Span::Scrolled) {
+        m_pitch = std::max({LeastPitch, ofValue, share});
+        return;
+    }
+    m_pitch = share;
+    m_writesValues = m_writesValues && ofValue <= share;
 }
 
 double ChartLayout::widestValue() const {
@@ -175,7 +196,7 @@ double ChartLayout::middle(int row, double scroll) const {
 }
 
 QString ChartLayout::valueText(int row) const {
-    return writesValues() ? textOf(value(row)) : QString();
+    return hasLegend() ? QString() : textOf(value(row));
 }
 
 QRectF ChartLayout::valueBox(int row, double scroll) const {
@@ -187,6 +208,8 @@ QRectF ChartLayout::valueBox(int row, double scroll) const {
 }
 
 LabelLines ChartLayout::label(int row) const {
+    if (!namesRows())
+        return {{}, true};
     return breakLabel(drawnLabel(m_matrix.rows[row]), m_pitch - LabelGap, m_labelLines, m_rulers.label);
 }
 
@@ -194,6 +217,24 @@ QRectF ChartLayout::labelBox(int row, int line, const QString& words, double scr
     const double width = m_rulers.label.width(words);
     const double top = m_plot.bottom() + LabelMiddle - LineHeight / 2.0 + line * LineHeight;
     return {middle(row, scroll) - width / 2, top, width, LineHeight};
+}
+
+std::vector<ChartLayout::Year> ChartLayout::years() const {
+    std::vector<Year> years;
+    if (namesRows())
+        return years;
+    for (int first = 0, behind = 0; first < m_matrix.rowCount(); first = behind) {
+        const QString& words = m_matrix.years[first];
+        while (behind < m_matrix.rowCount() && m_matrix.years[behind] == words)
+            ++behind;
+        const double width = m_rulers.label.width(words);
+        const double start = m_plot.left() + first * m_pitch, room = (behind - first) * m_pitch;
+        const double left = std::clamp(start + (room - width) / 2, m_plot.left(), m_plot.right() - width);
+        const QRectF box(left, m_plot.bottom() + LabelMiddle - LineHeight / 2.0, width, LineHeight);
+        years.push_back({words, box, start, room});
+    }
+    dropCrowdedWords(years);
+    return years;
 }
 
 } // namespace qinghe

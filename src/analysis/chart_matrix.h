@@ -20,6 +20,8 @@ struct ChartMatrix {
     QStringList rows;
     QStringList columns;
     std::vector<std::vector<double>> values; ///< by column, then by row; NoValue where there is none
+    QStringList years = {};                  ///< of the rows, where they are months
+    bool isSample = false;
 
     int rowCount() const { return static_cast<int>(rows.size()); }
     int columnCount() const { return static_cast<int>(values.size()); }

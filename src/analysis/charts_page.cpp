@@ -3,6 +3,9 @@
 #include "core/grid_rows.h"
 #include "core/hover.h"
 #include "core/scratch_ledger.h"
+#include "runtime/months.h"
+
+#include <algorithm>
 
 namespace qinghe {
 
@@ -53,13 +56,19 @@ ChartsPage::ChartsPage(MainWindow& form)
       Text2(new TextBox(Frame1, u"Text2"_s)),
       Command25(new CommandButton(Frame1, u"Command25"_s, u"查询"_s)),
       Frame12(new Frame(&Frame15, u"Frame12"_s)),
-      MSC1(new MSChart(Frame12, u"MSC1"_s)) {
+      MSC1(new MSChart(Frame12, u"MSC1"_s)),
+      m_span(new CommandButton(&Frame15, {}, {})) {
     Frame15.place(Charts.left, Charts.top, Charts.width, Charts.height);
     makeOptions();
     makeQueryRow();
     Frame12->place(360, 1440, 11055, 4695);
     Frame12->setRole(Role::InnerFrame);
     MSC1->place(120, 240, 10815, 4335);
+    // In the place of the range of dates, which the charts of months have not got.
+    m_span->place(9795, 930, 1620, 360);
+    m_span->setShown(false);
+    m_span->Click = [this] { turnSpan(); };
+    showHandOver(m_span);
 }
 
 void ChartsPage::makeOptions() {
@@ -137,8 +146,14 @@ void ChartsPage::Form2_Option15_Click() {
     show(Shown);
 }
 
+/// The range of dates lies where the span's button is.
+void ChartsPage::showRange(bool shown) {
+    Frame1->setShown(shown);
+    m_span->setCovered(shown);
+}
+
 void ChartsPage::show(const QueryChart& chart) {
-    Frame1->setShown(chart.kind != 0);
+    showRange(chart.kind != 0);
     if (chart.kind != 0)
         chartKind = chart.kind;
     Recordset& records = Adodc1.open(chart.query.toString());
@@ -149,7 +164,7 @@ void ChartsPage::show(const QueryChart& chart) {
 }
 
 void ChartsPage::show(const MonthChart& chart) {
-    Frame1->setShown(false);
+    showRange(false);
     Adodc1.open(chart.ledger.toString());
     gatherMonths(chart);
     Recordset& sums = Adodc2.open(chart.sums.toString());
@@ -180,8 +195,22 @@ void ChartsPage::draw(Recordset& records, ChartLabels labels) {
         const Value value = records.field(1).value();
         points << QVariant(QVariantList{records.field(0).text(), value.isNull() ? QVariant() : value.number()});
     }
+    if (labels == ChartLabels::Months)
+        std::ranges::stable_sort(
+            points, {}, [](const QVariant& point) { return months::inCalendar(point.toList().front().toString()); });
     MSC1->setChartData(points, labels);
+    m_span->setShown(labels == ChartLabels::Months && MSC1->overflows());
+    showSpanButton();
     records.moveFirst();
+}
+
+void ChartsPage::turnSpan() {
+    MSC1->showWhole(!MSC1->isWhole());
+    showSpanButton();
+}
+
+void ChartsPage::showSpanButton() {
+    m_span->setText(MSC1->isWhole() ? u"看最近月份"_s : u"看全部月份"_s);
 }
 
 void ChartsPage::pickDate(DateField field, TextBox& box) {

@@ -37,6 +37,9 @@ private:
     void draw(Recordset& records, ChartLabels labels);
     bool refuseEmpty(const Recordset& records, const QString& message, const QString& title);
     void pickDate(DateField field, TextBox& box);
+    void showRange(bool shown);
+    void turnSpan();
+    void showSpanButton();
 
     void makeOptions();
     void makeQueryRow();
@@ -58,6 +61,7 @@ private:
     CommandButton* Command25; // 查询
     Frame* Frame12;           // the chart, under the name of the option shown
     MSChart* MSC1;
+    CommandButton* m_span; ///< all months at once, or the newest alone; there while they do not all fit
 
     Int16 chartKind = 0; ///< 1 income by item, 2 expense by item
 };

@@ -58,6 +58,10 @@ QString monthLabel(const QString& key) {
     return key.endsWith(u'-') ? key.chopped(1) : key;
 }
 
+QString yearLabel(const QString& key) {
+    return key.isEmpty() ? QString() : key.section(u'-', 0, 0) + u'年';
+}
+
 LabelLines breakLabel(const QString& words, double room, int mostLines, const Ruler& ruler) {
     if (words.isEmpty())
         return {};

@@ -3,6 +3,7 @@
 #include "analysis/chart_drawing.h"
 #include "analysis/scroll_strip.h"
 #include "look/colours.h"
+#include "look/drawing.h"
 #include "look/fonts.h"
 
 #include <QCoreApplication>
@@ -36,10 +37,21 @@ ChartMatrix matrixOf(const QVariantList& data, ChartLabels labels) {
         const double value = row.value(1).toDouble(&isNumber);
         const QString label = row.value(0).toString();
         matrix.rows << (labels == ChartLabels::Months ? monthLabel(label) : label);
+        if (labels == ChartLabels::Months)
+            matrix.years << yearLabel(label);
         values.push_back(isNumber ? value : ChartMatrix::NoValue);
     }
     matrix.values.push_back(std::move(values));
     return matrix;
+}
+
+void paintSampleMark(QPainter& painter, const QRect& chart) {
+    QRect plate(0, 0, 72, 34);
+    plate.moveCenter(chart.center());
+    paintPanel(painter, plate, 5, colour::faded(colour::White, 88), colour::PanelLine);
+    painter.setFont(sans(type::Page));
+    painter.setPen(colour::Ink2);
+    painter.drawText(plate, Qt::AlignCenter, u"示例"_s);
 }
 
 /// Text for a tool tip, in lines that no screen is too narrow for.
@@ -86,23 +98,40 @@ MSChart::~MSChart() = default;
 void MSChart::setChartData(const QVariantList& rows, ChartLabels labels) {
     m_data = rows;
     m_matrix = rows.isEmpty() ? sampleMatrix() : matrixOf(rows, labels);
-    m_places.reset();
+    m_span = ChartLayout::Span::Scrolled;
     m_rulers.reset();
     if (m_drawing)
         m_drawing->setMatrix(m_matrix, fontsFor(m_matrix));
-    if (m_strip)
-        m_strip->setValue(0);
-    if (isVisible())
-        layOutStrip();
+    redraw();
+}
+
+void MSChart::redraw() {
+    m_places.reset();
+    // The newest month is the last one.
+    scrollTo(m_matrix.years.isEmpty() ? 0 : places().longestScroll());
     update();
 }
 
-const ChartLayout& MSChart::places() {
-    if (!m_places) {
+void MSChart::showWhole(bool whole) {
+    m_span = whole ? ChartLayout::Span::Whole : ChartLayout::Span::Scrolled;
+    redraw();
+}
+
+bool MSChart::overflows() {
+    return laidOut(ChartLayout::Span::Scrolled).longestScroll() > 0;
+}
+
+ChartLayout MSChart::laidOut(ChartLayout::Span span) {
+    if (!m_rulers) {
         const ChartFonts fonts = fontsFor(m_matrix);
         m_rulers.emplace(FontRuler(fonts.value), FontRuler(fonts.label));
-        m_places.emplace(m_matrix, size(), ChartLayout::Rulers{m_rulers->first, m_rulers->second});
     }
+    return {m_matrix, size(), {m_rulers->first, m_rulers->second}, span};
+}
+
+const ChartLayout& MSChart::places() {
+    if (!m_places)
+        m_places.emplace(laidOut(m_span));
     return *m_places;
 }
 
@@ -135,11 +164,14 @@ void MSChart::paintOn(QPaintDevice& device) {
         if ((m_drawing = ChartDrawing::load(m_moduleFolder)))
             m_drawing->setMatrix(m_matrix, fontsFor(m_matrix));
     }
-    if (m_drawing) {
+    if (m_drawing)
         m_drawing->paint(device, places(), size(), scrolled());
+    QPainter painter(&device);
+    if (m_drawing) {
+        if (m_matrix.isSample)
+            paintSampleMark(painter, rect());
         return;
     }
-    QPainter painter(&device);
     painter.setFont(sans(type::Body));
     painter.setPen(colour::Ink2);
     painter.drawText(rect(), Qt::AlignCenter, u"无法载入程序文件夹里的 qinghe_charts，图表显示不出来。"_s);

@@ -17,8 +17,9 @@ class ChartDrawing;
 class ScrollStrip;
 
 /// A chart of labelled values, as columns. It takes its data in one assignment and shows a sample matrix before the
-/// first one. Where the columns need more room than there is, the plot scrolls sideways: by the strip at its foot, the
-/// wheel, by dragging it, and by keys.
+/// first one, pale, and called a sample. Where the columns need more room than there is, the plot scrolls sideways: by
+/// the strip at its foot, the wheel, by dragging it, and by keys. Months open with the newest in view, and can be shown
+/// all at once.
 class MSChart : public QWidget, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -33,6 +34,12 @@ public:
     /// data. What the labels are decides only how they are drawn.
     const QVariantList& ChartData() const { return m_data; }
     void setChartData(const QVariantList& rows, ChartLabels labels = ChartLabels::Words);
+
+    /// Whether the columns need more room than there is.
+    bool overflows();
+    /// All columns in view, however narrow; the next data stand at their own width again. For months.
+    void showWhole(bool whole);
+    bool isWhole() const { return m_span == ChartLayout::Span::Whole; }
 
     /// Where everything is drawn, and how far the rows are scrolled to the left, in pixels.
     const ChartLayout& places();
@@ -58,7 +65,9 @@ protected:
 
 private:
     void layOutStrip();
-    /// The row under a place whose label is cut and is told whole, or -1.
+    ChartLayout laidOut(ChartLayout::Span span);
+    void redraw();
+    /// The row under a place whose label is cut or not there and is told whole, or -1.
     int cutRowAt(const QPoint& place);
 
     const QString m_moduleFolder;
@@ -66,6 +75,7 @@ private:
     ChartMatrix m_matrix;
     std::optional<std::pair<FontRuler, FontRuler>> m_rulers; ///< of the values and of the labels
     std::optional<ChartLayout> m_places;
+    ChartLayout::Span m_span = ChartLayout::Span::Scrolled;
     std::unique_ptr<ChartDrawing> m_drawing; ///< loaded when the chart is first on view
     bool m_drawingSought = false;
     ScrollStrip* m_strip = nullptr;  ///< made likewise

@@ -4,6 +4,12 @@ namespace qinghe::months {
 
 using namespace Qt::StringLiterals;
 
+int inCalendar(QStringView key) {
+    constexpr int MonthsOfAYear = 12;
+    const QList<QStringView> parts = key.split(u'-');
+    return parts.size() < 2 ? 0 : parts[0].toInt() * MonthsOfAYear + parts[1].toInt();
+}
+
 QString thisMonth(const QDate& today) {
     return u"%1-%2"_s.arg(today.year()).arg(today.month());
 }

@@ -15,6 +15,10 @@ inline QString ofDay(const QString& dateText) {
     return dateText.left(Length);
 }
 
+/// A key's place in the calendar: a later month has a greater one, whatever the order of the texts ("2024-10" stands
+/// before "2024-9-" there). What names no month comes before all.
+int inCalendar(QStringView key);
+
 /// The key of this month: year, "-", month without a leading zero.
 QString thisMonth(const QDate& today);
 /// The key of last month: the year, "-", "0" and the month before without further care (00 in January, 010 in

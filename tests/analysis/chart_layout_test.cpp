@@ -119,5 +119,42 @@ TEST_F(ChartLayoutTest, TakesNoRowsAtAll) {
     EXPECT_EQ(layout.rowAt(100, 0), -1);
 }
 
+TEST_F(ChartLayoutTest, LaysAllMonthsSideBySideAndNamesTheirYears) {
+    matrix = {};
+    matrix.values = {std::vector<double>(120, 14000)};
+    for (int i = 0; i < 120; ++i) {
+        matrix.rows << u"月"_s;
+        matrix.years << QString::number(2014 + (i + 11) / 12); // the first one has a single month
+    }
+    const ChartLayout layout(matrix, Size, {value, label}, ChartLayout::Span::Whole);
+    EXPECT_DOUBLE_EQ(layout.pitch(), 652 / 120.0);
+    EXPECT_EQ(layout.longestScroll(), 0);
+    EXPECT_FALSE(layout.writesValues());
+    EXPECT_EQ(layout.valueText(0), u"14000.00"); // for whoever points at it
+    EXPECT_EQ(layout.label(0).lines, QStringList());
+    const std::vector<ChartLayout::Year> years = layout.years();
+    ASSERT_EQ(years.size(), 11u);
+    EXPECT_EQ(years.front().words, u""); // has no room beside the next one
+    double free = layout.plot().left();
+    for (const ChartLayout::Year& year : years) {
+        if (year.words.isEmpty())
+            continue;
+        EXPECT_GE(year.box.left(), free) << year.words.toStdString();
+        EXPECT_LE(year.box.right(), layout.plot().right());
+        free = year.box.right();
+    }
+    EXPECT_EQ(years[1].words, u"2015");
+    EXPECT_EQ(years.back().words, u"2024");
+    EXPECT_DOUBLE_EQ(years[1].start, 57 + 652 / 120.0);
+}
+
+TEST_F(ChartLayoutTest, KeepsTheLabelsOfMonthsThatAreNotShownWhole) {
+    lay({1, 2});
+    matrix.years = {u"2024"_s, u"2024"_s};
+    const ChartLayout layout(matrix, Size, {value, label});
+    EXPECT_TRUE(layout.years().empty());
+    EXPECT_FALSE(layout.label(0).lines.isEmpty());
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -25,6 +25,20 @@ protected:
     QString work() const { return GetParam().work.toString(); }
     void choose() { ChartsTest::choose(GetParam().option); }
     void store(const QString& date, double amount) { ChartsTest::store(ledger(), date, u"'项'"_s, amount); }
+    /// One amount a month from 2014-12 on.
+    void storeMonths(int count) {
+        rig.sql(
+            u"with recursive n(n) as (select 0 union all select n + 1 from n where n < %1) insert into %2 "
+            "select n, date('2014-12-05', n || ' months'), '项', '我', 14000 + n, '现金', '', n from n"_s.arg(count - 1)
+                .arg(ledger()));
+    }
+    /// The button for all months, which is no told control.
+    CommandButton* span() {
+        for (auto* button : rig.at(charts::Page).findChildren<CommandButton*>(Qt::FindDirectChildrenOnly))
+            if (button->objectName().isEmpty())
+                return button;
+        return nullptr;
+    }
     QStringList workRows() { return rig.sql(u"select * from %1 order by rowid"_s.arg(work())); }
 };
 
@@ -34,10 +48,10 @@ TEST_P(ChartMonthsTest, GiveEachMonthOfEachYearAPoint) {
     store(u"'2006-09-25'"_s, 4);
     store(u"'2007-09-05'"_s, 8);
     choose();
-    EXPECT_EQ(points(), u"2006-10=2 2006-9-=5 2007-9-=8"); // in the order of the key's text
+    EXPECT_EQ(points(), u"2006-9-=5 2006-10=2 2007-9-=8"); // in the order of the calendar
     EXPECT_EQ(caption(), GetParam().caption.toString());
     EXPECT_FALSE(rig.at(charts::Range).Visible());
-    EXPECT_EQ(chart().places().label(1).lines, QStringList(u"2006-9"_s));
+    EXPECT_EQ(chart().places().label(0).lines, QStringList(u"2006-9"_s));
 }
 
 TEST_P(ChartMonthsTest, CopyEveryRowWithARunningNumber) {
@@ -96,6 +110,50 @@ TEST_P(ChartMonthsTest, ShowAMonthWithoutAmountsAsOneWithoutValue) {
     rig.sql(u"insert into %1 values('2', NULL, '项', '我', 3, '', '', 2)"_s.arg(ledger()));
     choose();
     EXPECT_EQ(points(), u"=3 2024-5-=");
+}
+
+TEST_P(ChartMonthsTest, OpenWithTheNewestInViewAndShowTheWholeSpanAtAClick) {
+    storeMonths(120);
+    choose();
+    const auto inView = [this] { return chart().places().rowsInView(chart().scrolled()); };
+    ASSERT_TRUE(span()->isVisible());
+    EXPECT_EQ(inView().behindLast, 120);
+    EXPECT_GT(inView().first, 100);
+    press(*span());
+    EXPECT_EQ(inView().first, 0);
+    EXPECT_EQ(inView().behindLast, 120);
+    EXPECT_EQ(chart().places().longestScroll(), 0);
+    press(*span());
+    EXPECT_GT(inView().first, 100);
+    EXPECT_EQ(inView().behindLast, 120);
+}
+
+TEST_P(ChartMonthsTest, AreShownAnewWithTheNewestInView) {
+    storeMonths(120);
+    choose();
+    press(*span());
+    click(charts::Accounts);
+    EXPECT_FALSE(span()->isVisible());
+    click(GetParam().option);
+    EXPECT_FALSE(chart().isWhole());
+    EXPECT_EQ(chart().scrolled(), chart().places().longestScroll());
+}
+
+TEST_P(ChartMonthsTest, OfferTheWholeSpanOnlyWhereItIsNotInView) {
+    storeMonths(3);
+    choose();
+    EXPECT_FALSE(span()->isVisible());
+    EXPECT_EQ(chart().scrolled(), 0);
+}
+
+TEST_P(ChartMonthsTest, GiveTheirButtonsPlaceToTheRangeOfDates) {
+    storeMonths(120);
+    choose();
+    rig.sql(u"delete from "_s + ledger()); // the chart of items is refused: that of months stays
+    rig.sql(u"delete from "_s + (ledger() == u"srb" ? u"zcb"_s : u"srb"_s));
+    click(charts::ExpenseByItem);
+    ASSERT_TRUE(rig.at(charts::Range).isVisible());
+    EXPECT_FALSE(span()->isVisible());
 }
 
 TEST_P(ChartMonthsTest, TouchNoOtherTable) {

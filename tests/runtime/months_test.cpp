@@ -30,5 +30,11 @@ TEST(Months, OfADayAreItsFirstSevenCharacters) {
     EXPECT_EQ(months::ofDay(u""_s), u""_s);
 }
 
+TEST(Months, StandInTheCalendarsOrderWhateverTheOrderOfTheirTexts) {
+    const QStringList keys{u""_s, u"999-12-"_s, u"2023-12"_s, u"2024-1-"_s, u"2024-9-"_s, u"2024-10"_s, u"2024-12"_s};
+    for (qsizetype i = 1; i < keys.size(); ++i)
+        EXPECT_LT(months::inCalendar(keys[i - 1]), months::inCalendar(keys[i])) << keys[i].toStdString();
+}
+
 } // namespace
 } // namespace qinghe

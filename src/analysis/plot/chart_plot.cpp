@@ -22,6 +22,8 @@ constexpr std::array<QColor, 4> SeriesShades{colour::LeafDeep, colour::Leaf, col
                                              colour::fromRgb(0xC0E0A4)};
 constexpr double SampleGap = 2;
 constexpr double MarkSize = 10;
+constexpr double YearMark = 6;     ///< below the foot, where a year begins
+constexpr double SampleInk = 0.35; ///< what stands there only to show what a chart looks like
 
 /// Something of ours among the layers of the plot.
 class Painted : public QCPLayerable {
@@ -67,6 +69,7 @@ private:
     void paintScale(QPainter& painter) const;
     void paintWords(QPainter& painter) const;
     void paintRow(QPainter& painter, int row) const;
+    void paintYears(QPainter& painter) const;
     void paintLegend(QPainter& painter) const;
 
     QCustomPlot m_plot; ///< never shown itself: it paints where it is told
@@ -136,6 +139,8 @@ void ChartPlot::paint(QPaintDevice& device, const ChartLayout& layout, const QSi
     m_scroll = scroll;
     layOut(size);
     QCPPainter painter(&device);
+    if (layout.matrix().isSample)
+        painter.setOpacity(SampleInk);
     m_plot.toPainter(&painter, size.width(), size.height());
     m_layout = nullptr;
 }
@@ -143,6 +148,8 @@ void ChartPlot::paint(QPaintDevice& device, const ChartLayout& layout, const QSi
 // Lines are left out behind the digits of values.
 QRegion ChartPlot::withoutValues() const {
     QRegion region = m_plot.viewport();
+    if (!m_layout->writesValues())
+        return region;
     const ChartLayout::Rows rows = m_layout->rowsInView(m_scroll);
     for (int row = rows.first; row < rows.behindLast; ++row)
         if (!m_layout->valueText(row).isEmpty())
@@ -165,16 +172,25 @@ void ChartPlot::paintScale(QPainter& painter) const {
 void ChartPlot::paintWords(QPainter& painter) const {
     const QRectF& plot = m_layout->plot();
     paintRule(painter, plot.left(), plot.right(), m_layout->y(0), ZeroRule);
-    if (!m_layout->writesValues())
+    if (m_layout->hasLegend())
         paintLegend(painter);
     painter.setClipRect(QRectF(plot.left(), 0, plot.width(), painter.device()->height()), Qt::IntersectClip);
     const ChartLayout::Rows rows = m_layout->rowsInView(m_scroll);
     for (int row = rows.first; row < rows.behindLast; ++row)
         paintRow(painter, row);
+    paintYears(painter);
+}
+
+void ChartPlot::paintYears(QPainter& painter) const {
+    const double foot = m_layout->plot().bottom();
+    for (const ChartLayout::Year& year : m_layout->years()) {
+        paintUpright(painter, year.start, foot, foot + YearMark, ZeroRule);
+        paintWordsIn(painter, year.box, year.words, m_fonts.label, colour::Ink);
+    }
 }
 
 void ChartPlot::paintRow(QPainter& painter, int row) const {
-    if (const QString text = m_layout->valueText(row); !text.isEmpty())
+    if (const QString text = m_layout->valueText(row); m_layout->writesValues() && !text.isEmpty())
         paintWordsIn(painter, m_layout->valueBox(row, m_scroll), text, m_fonts.value, colour::Ink);
     const QStringList lines = m_layout->label(row).lines;
     for (int i = 0; i < lines.size(); ++i)
