@@ -132,6 +132,7 @@ private:
     void entered();
     bool walkOn();
     void layBox();
+    void offerText();
     void addRow();
     void deleteRow();
     void saveRows();
