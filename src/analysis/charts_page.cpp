@@ -100,6 +100,8 @@ void ChartsPage::makeQueryRow() {
     Command25->place(5040, 240, 615, 255);
     Text1->setBoxText(FirstDate.toString());
     Text2->setBoxText(SecondDate.toString());
+    for (TextBox* box : {Text1, Text2})
+        box->setSelectsWhenClicked();
     Text1->Click = [this] { Form2_Text1_Click(); };
     Text2->Click = [this] { Form2_Text2_Click(); };
     Command25->Click = [this] { Form2_Command25_Click(); };

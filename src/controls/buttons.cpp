@@ -7,7 +7,16 @@ namespace qinghe {
 CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& caption)
     : Button(parent, name, caption) {
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] { Click.fromQt(); });
+    connect(this, &QPushButton::clicked, this, [this] {
+        Click.fromQt();
+        if (m_handsKeyboardOn)
+            giveUpKeyboard();
+    });
+}
+
+void CommandButton::handKeyboardTo(QWidget* heir) {
+    m_handsKeyboardOn = true;
+    setFocusRefuge(heir);
 }
 
 void CommandButton::keyPressEvent(QKeyEvent* event) {

@@ -35,7 +35,7 @@ protected:
 };
 
 /// A command button; hovering is marked by its BackColor. It clicks as Qt's button does, by mouse and Space, and by
-/// Enter while it has the keyboard.
+/// Enter while it has the keyboard; a key that is held clicks once.
 class CommandButton : public Button<QPushButton> {
     Q_OBJECT
     QINGHE_CONTROL
@@ -43,8 +43,14 @@ class CommandButton : public Button<QPushButton> {
 public:
     CommandButton(QWidget* parent, const QString& name, const QString& caption);
 
+    /// After its click the keyboard goes there, so that a key pressed by chance does not click once more.
+    void handKeyboardTo(QWidget* heir);
+
 protected:
     void keyPressEvent(QKeyEvent*) override;
+
+private:
+    bool m_handsKeyboardOn = false;
 };
 
 /// One of a group of options (those in the same container). Set by a user or by code, it raises its click once, and

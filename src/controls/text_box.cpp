@@ -1,5 +1,7 @@
 #include "controls/text_box.h"
 
+#include <utility>
+
 namespace qinghe {
 
 TextBox::TextBox(QWidget* parent, const QString& name) : TypedBox(parent, name) {
@@ -19,6 +21,23 @@ void TextBox::takeFocus() {
         setFocus(Qt::OtherFocusReason);
 }
 
+void TextBox::selectText() {
+    if (isEnabled())
+        selectAll();
+}
+
+void TextBox::focusInEvent(QFocusEvent* event) {
+    TypedBox::focusInEvent(event);
+    m_gotByClick = event->reason() == Qt::MouseFocusReason;
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    TypedBox::mouseReleaseEvent(event);
+    // What the press has been drawn over is selected already.
+    if (std::exchange(m_gotByClick, false) && m_selectsWhenClicked && !hasSelectedText())
+        selectText();
+}
+
 void TextBox::mouseDoubleClickEvent(QMouseEvent* event) {
     if (m_press.isLast())
         QLineEdit::mouseDoubleClickEvent(event);
@@ -31,6 +50,8 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         QLineEdit::keyPressEvent(event);
         return;
     }
+    if (code == key_presses::Enter && m_enterPressesOnce && event->isAutoRepeat())
+        return event->accept();
     KeyPress.fromQt(code);
     // Enter and Esc are the handlers' alone; other keys go to the box as it stands after the handler.
     if (code != key_presses::Enter && code != key_presses::Escape && isEnabled())

@@ -19,12 +19,26 @@ public:
     void setBoxText(const QString& text);
     /// Gives the box the keyboard, when it is enabled and on view.
     void takeFocus();
+    /// Selects the whole text, so that typing writes over it; not that of a disabled box.
+    void selectText();
+
+    /// A click that brings the box the keyboard selects its text.
+    void setSelectsWhenClicked() { m_selectsWhenClicked = true; }
+    /// Enter does in this box what a button does: one that is held presses once.
+    void setEnterPressesOnce() { m_enterPressesOnce = true; }
 
     Event<> Change;
 
 protected:
+    void mouseReleaseEvent(QMouseEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void focusInEvent(QFocusEvent*) override;
+
+private:
+    bool m_selectsWhenClicked = false;
+    bool m_enterPressesOnce = false;
+    bool m_gotByClick = false; ///< the keyboard, by the press that is still down
 };
 
 } // namespace qinghe

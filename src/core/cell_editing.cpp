@@ -13,6 +13,7 @@ void CellEditing::open() {
     box->lay();
     box->setShown(true);
     box->takeFocus();
+    box->selectText();
 }
 
 void CellEditing::close() {

@@ -17,7 +17,7 @@ public:
     /// Enter was pressed in the box.
     std::function<void()> entered;
 
-    /// Lays the box over the current cell, with the cell's text and the keyboard.
+    /// Lays the box over the current cell, with the keyboard and the cell's text, all of it selected.
     void open();
     void close();
     /// The box's text goes into the current cell, wherever the box lies.

@@ -19,7 +19,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
       m_frame(frame()),
       m_grid(new MSFlexGrid(&m_frame, differences.grid.toString())),
       m_editing(&m_frame, differences.editor, *m_grid),
-      m_buttons(&m_frame, differences.buttons),
+      m_buttons(&m_frame, differences.buttons, *m_grid),
       m_hasWorkedOut(std::ranges::count(differences.list.columns, Kind::WorkedOut, &Column::kind) > 0) {
     m_grid->place(120, 840, 11415, 4815);
     m_shared.editors[differences.grid] = {m_editing.box, m_grid};
@@ -142,6 +142,15 @@ void GridPage::cellClicked() {
         m_editing.box->takeFocus();
         m_shared.forms.unload(names::Calculator);
     }
+    offerText();
+}
+
+/// What stands in the box goes with the first key, but a figure that is worked out: one key must not wipe it.
+void GridPage::offerText() {
+    if (kindOf(m_grid->Col()) == Kind::WorkedOut || !m_editing.box->isEnabled())
+        m_editing.box->deselect();
+    else
+        m_editing.box->selectText();
 }
 
 void GridPage::boxClicked() {
@@ -196,6 +205,7 @@ void GridPage::layBox() {
         openDatePicker();
     else
         m_shared.unloadDatePicker();
+    offerText();
 }
 
 bool GridPage::opensCalculatorOnEnter(int column) const {

@@ -133,6 +133,7 @@ private:
     void entered();
     bool walkOn();
     void layBox();
+    void offerText();
     void addRow();
     void deleteRow();
     void saveRows();

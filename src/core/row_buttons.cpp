@@ -18,7 +18,7 @@ CommandButton* button(QWidget* frame, QStringView name, QStringView caption, Gly
 
 } // namespace
 
-RowButtons::RowButtons(QWidget* frame, const RowButtonTraits& traits)
+RowButtons::RowButtons(QWidget* frame, const RowButtonTraits& traits, MSFlexGrid& grid)
     : add(button(frame, traits.add, traits.addCaption, Glyph::Add)),
       remove(button(frame, traits.remove, u"删除", Glyph::Remove)),
       save(button(frame, traits.save, traits.saveCaption, Glyph::Accept)) {
@@ -26,6 +26,9 @@ RowButtons::RowButtons(QWidget* frame, const RowButtonTraits& traits)
     save->place(traits.right - traits.saveWidth, traits.top, traits.saveWidth, Height);
     remove->place(save->Left() - Gap - Width, traits.top, Width, Height);
     add->place(remove->Left() - Gap - Width, traits.top, Width, Height);
+    // Pressed once more by chance they would add and delete once more.
+    for (CommandButton* button : {add, remove})
+        button->handKeyboardTo(&grid);
 }
 
 void RowButtons::setUsable(bool usable) {

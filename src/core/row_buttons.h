@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/controls.h"
+#include "controls/ms_flex_grid.h"
 #include "core/shared.h"
 
 #include <array>
@@ -15,9 +16,10 @@ struct RowButtonTraits {
     double saveWidth = 1080;
 };
 
+/// After adding and deleting the grid has the keyboard.
 class RowButtons {
 public:
-    RowButtons(QWidget* frame, const RowButtonTraits& traits);
+    RowButtons(QWidget* frame, const RowButtonTraits& traits, MSFlexGrid& grid);
 
     CommandButton* const add;
     CommandButton* const remove;

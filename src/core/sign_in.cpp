@@ -47,6 +47,8 @@ SignIn::SignIn(Shared& shared)
     Image1->place(4320, 0, 375, 375);
     Image2->place(4680, 0, 495, 375);
     Text2->setEchoMode(QLineEdit::Password);
+    Text2->setSelectsWhenClicked();
+    Text2->setEnterPressesOnce();
     Label1->setRole(Role::SignInButton);
     Image1->setGlyph(Glyph::Minimise);
     Image2->setGlyph(Glyph::Close);
@@ -92,6 +94,7 @@ void SignIn::load() {
     offerNames();
     recallPair();
     Text2->setFocus();
+    Text2->selectText();
     setPicture(writeOut(SignInPicture, *Adodc1, m_shared, *this));
 }
 
@@ -137,6 +140,7 @@ void SignIn::refuseUnknownName() {
     if (answer == Answer::Cancel)
         return unload();
     Combo1->setText({});
+    Combo1->setFocus();
     // The window stays after the third message; only wrong passwords close it.
     if (++wrongNameCount == 3)
         m_shared.tell(u"用户名错误三次，请询问管理员！"_s, u"错误提示"_s);

@@ -36,8 +36,8 @@ DiaryPage::DiaryPage(MainWindow& window)
       Frame10(frame()),
       Option6(new OptionButton(&Frame10, u"Option6"_s, u"写日记"_s)),
       Option5(new OptionButton(&Frame10, u"Option5"_s, u"查找日记"_s)),
-      m_buttons(&Frame10, Buttons),
       ms8(new MSFlexGrid(&Frame10, u"ms8"_s)),
+      m_buttons(&Frame10, Buttons, *ms8),
       m_editing(&Frame10, u"tx9", *ms8),
       tx8(new LongTextBox(&Frame10, u"tx8"_s)) {
     Option6->place(240, 390, 1200, 300);
@@ -155,9 +155,8 @@ void DiaryPage::entered() {
         ms8->takeFocus();
     } else if (ms8->Col() < TitleColumn) {
         ms8->setCol(ms8->Col() + 1);
-        m_editing.box->lay();
+        m_editing.open();
         m_shared.unloadDatePicker();
-        m_editing.box->takeFocus();
     }
 }
 

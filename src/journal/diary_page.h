@@ -49,8 +49,8 @@ private:
     Frame& Frame10;
     OptionButton* Option6; // 写日记
     OptionButton* Option5; // 查找日记
-    RowButtons m_buttons;  ///< Command22 to Command24
     MSFlexGrid* ms8;       // date and title
+    RowButtons m_buttons;  ///< Command22 to Command24
     CellEditing m_editing; ///< tx9 over its cells
     LongTextBox* tx8;      // the entry's text
 

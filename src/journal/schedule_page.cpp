@@ -97,6 +97,7 @@ void SchedulePage::placeControls() {
 void SchedulePage::bindEvents() {
     Text3->KeyPress = [this](int key) { Form2_Text3_KeyPress(key); };
     Text4->Click = [this] { Form2_Text4_Click(); };
+    Text4->setSelectsWhenClicked();
     Combo1->Click = [this] { Form2_Combo1_Click(); };
     Command26->Click = [this] { Form2_Command26_Click(); };
     Command27->Click = [this] { Form2_Command27_Click(); };

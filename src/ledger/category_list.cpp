@@ -27,7 +27,7 @@ MSFlexGrid* listGrid(Frame* frame, const CategoryList::Traits& traits) {
 CategoryList::CategoryList(Frame& page, Shared& shared, const Traits& traits)
     : grid(listGrid(listFrame(page, traits), traits)),
       editing(grid->parentWidget(), traits.editor, *grid),
-      buttons(grid->parentWidget(), traits.buttons),
+      buttons(grid->parentWidget(), traits.buttons, *grid),
       m_shared(shared) {
     editing.entered = [this] { entered(); };
     // Not marked grey under the pointer: nothing here would take the mark off again.
@@ -62,6 +62,7 @@ void CategoryList::entered() {
     else
         editing.close();
     editing.box->lay();
+    editing.box->selectText();
 }
 
 // ---- rows

@@ -51,6 +51,7 @@ PurgeWindow::PurgeWindow(Shared& shared)
     Command1->setGlyph(Glyph::Remove);
     Command1->setRole(Role::Primary);
     Command1->Click = [this] { Form3_Command1_Click(); };
+    Command1->handKeyboardTo(this);
     markHovered(*this, {Command1}, {Frame1, Frame2});
 }
 
@@ -72,6 +73,7 @@ void PurgeWindow::makeDate() {
     Text1->place(1440, 1560, 1800, 330);
     Text1->setFocusRefuge(this); // and not the next button
     Text1->Click = [this] { Form3_Text1_Click(); };
+    Text1->setSelectsWhenClicked();
     Label3 = new Label(Frame1, u"Label3"_s, u"以前的记录"_s);
     Label3->place(3360, 1560, 1500, 330);
 }

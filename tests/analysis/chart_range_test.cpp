@@ -66,6 +66,14 @@ TEST_F(ChartRangeTest, NarrowsToDatesAsAHouseholdWritesThem) {
     EXPECT_FALSE(rig.ended());
 }
 
+TEST_F(ChartRangeTest, SelectsADateWhenAClickBringsItTheKeyboard) {
+    choose(charts::IncomeByItem);
+    rig.click(Text1());
+    EXPECT_EQ(Text1().selectedText(), u"日期1"_s);
+    rig.type(Text1(), u"2024-6-1"_s);
+    EXPECT_EQ(Text1().Text(), u"2024-6-1"_s);
+}
+
 TEST_F(ChartRangeTest, NarrowsToPickedDates) {
     choose(charts::IncomeByItem);
     pick(Text1(), 6);  // June 2024 begins in cell 6

@@ -65,6 +65,7 @@ TEST_F(SignInChecks, AnUnknownNameIsToldAndTakenAway) {
     EXPECT_EQ(name().Text(), QString());
     EXPECT_EQ(password().Text(), u"123456"_s);
     EXPECT_TRUE(signInStands());
+    EXPECT_TRUE(name().hasFocus()); // where the next name is typed
 }
 
 TEST_F(SignInChecks, TheThirdUnknownNameTellsMoreAndTheWindowStays) {

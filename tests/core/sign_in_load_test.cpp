@@ -53,6 +53,17 @@ TEST_F(SignInLoad, ThePasswordIsShownAsStars) {
     EXPECT_EQ(password().displayText(), u"******"_s);
 }
 
+TEST_F(SignInLoad, ThePasswordIsSelectedAtTheStartAndWhenAClickBringsItTheKeyboard) {
+    rig.start();
+    EXPECT_EQ(password().selectedText().size(), 6);
+    name().setFocus();
+    password().deselect();
+    rig.click(password());
+    EXPECT_EQ(password().selectedText().size(), 6);
+    rig.click(password()); // a further click only puts the cursor there
+    EXPECT_FALSE(password().hasSelectedText());
+}
+
 TEST_F(SignInLoad, OffersTheNamesInTheTablesOrderWithoutTakingOne) {
     addUser(u"李四"_s, u"1"_s);
     addUser(u"阿宝"_s, u"1"_s);

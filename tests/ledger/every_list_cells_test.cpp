@@ -34,6 +34,20 @@ TEST_P(EveryListCellsTest, AreCoveredExactlyByTheEditorWhereverTheyAre) {
         }
 }
 
+TEST_P(EveryListCellsTest, AreOfferedWithTheirTextSelected) {
+    clickCell(1, list.text);
+    EXPECT_EQ(box().selectedText(), textOf(1));
+    rig.type(box(), u"改"_s);
+    EXPECT_EQ(box().Text(), u"改"_s);
+    clickCell(2, list.text);
+    enter();
+    if (box().isEnabled()) {
+        EXPECT_EQ(box().selectedText(), grid().Text());
+    }
+    clickCell(1, list.amount);
+    EXPECT_EQ(box().selectedText(), QString()); // no key reaches it
+}
+
 TEST_P(EveryListCellsTest, StayAsTheyWereOnEsc) {
     clickCell(1, list.text);
     const QString before = textOf(1);

@@ -27,6 +27,19 @@ TEST_P(EveryListRowsTest, GrowByABlankOneThatBecomesCurrentInTheSameColumn) {
     EXPECT_TRUE(rig.messages->shown.empty());
 }
 
+TEST_P(EveryListRowsTest, GiveTheGridTheKeyboardWhenTheyAreAddedAndDeleted) {
+    openWith(2);
+    for (CommandButton* button : {&add(), &remove()}) {
+        button->setFocus();
+        rig.press(*button, Qt::Key_Space);
+        EXPECT_TRUE(grid().hasFocus()) << button->text().toStdString();
+    }
+    // Nor does the button press itself once more when its question is declined.
+    rig.messages->answers = {Answer::Cancel};
+    press(remove());
+    EXPECT_TRUE(grid().hasFocus());
+}
+
 TEST_P(EveryListRowsTest, GrowWithTheToolsClosed) {
     openWith(2);
     clickCell(2, list.amount);

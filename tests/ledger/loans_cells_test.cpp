@@ -42,6 +42,13 @@ TEST_F(LoansCellsTest, TakeAmountsFromTheKeyboardAfterEnter) {
     EXPECT_EQ(current(), u"1,5");
 }
 
+TEST_F(LoansCellsTest, OfferTheBalanceUnselectedSinceOneKeyWouldWipeIt) {
+    clickCell(1, 5);
+    EXPECT_EQ(box().selectedText(), QString());
+    rig.type(box(), u"5"_s);
+    EXPECT_EQ(box().Text(), u"905"_s);
+}
+
 TEST_F(LoansCellsTest, TakeOneCharacterForTheBalanceAlsoFromAnInputMethod) {
     clickCell(1, 5);
     box().selectAll();

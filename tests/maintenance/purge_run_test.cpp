@@ -87,6 +87,17 @@ TEST_F(PurgeRunTest, StopsAtANo) {
     }
 }
 
+TEST_F(PurgeRunTest, LeavesTheKeyboardToTheWindow) {
+    auto& button = inside<CommandButton>(purge::Start);
+    for (const Answer answer : {Answer::Yes, Answer::No}) {
+        rig.messages->answers = {answer};
+        button.setFocus();
+        rig.press(button, Qt::Key_Return);
+        EXPECT_FALSE(button.hasFocus());
+        EXPECT_EQ(window()->focusWidget(), window());
+    }
+}
+
 TEST_F(PurgeRunTest, NeedsNoDateForAccountsAloneWhichAllGo) {
     choose({AccountsKind});
     EXPECT_FALSE(date().Visible());
