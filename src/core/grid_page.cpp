@@ -28,6 +28,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
 void GridPage::bindEvents() {
     m_grid->Click = [this] { cellClicked(); };
     m_editing.box->Click = [this] { boxClicked(); };
+    m_editing.box->hearsWhenClosed = [this] { return kindOf(m_grid->Col()) == Kind::Amount; };
     m_editing.entered = [this] { entered(); };
     if (m_hasWorkedOut)
         m_editing.box->Change = [this] { m_editing.box->setUsable(kindOf(m_grid->Col()) != Kind::WorkedOut); };
@@ -40,7 +41,7 @@ void GridPage::bindEvents() {
 
 void GridPage::frameClicked() {
     if (!m_quirks.frameClickLeavesTools)
-        m_shared.unloadPickers();
+        m_shared.finishPickers();
     m_editing.close();
 }
 
@@ -48,6 +49,10 @@ void GridPage::formClicked() {
     const bool reached = m_quirks.formClickReachesHidden ? m_grid->isEnabled() && m_grid->Visible() : m_frame.Visible();
     if (!reached)
         return;
+    if (m_editing.box->isVisible()) {
+        m_shared.handBack();
+        m_shared.forms.unload(names::Calculator);
+    }
     m_editing.commitAndClose();
     if (m_quirks.formClickTakesKeyboard)
         m_grid->takeFocus();
@@ -110,19 +115,30 @@ QPointF GridPage::toolPlace() const {
     return placeBelow(*m_editing.box, m_editing.box->Height());
 }
 
+FieldTarget GridPage::field() {
+    FieldTarget current(m_editing.box, m_grid);
+    current.entered = [this] { entered(); };
+    return current;
+}
+
+void GridPage::openBox() {
+    m_shared.handBack(field());
+    m_editing.open();
+}
+
 void GridPage::openDatePicker() {
-    m_shared.openDatePicker(m_traits.dateField, {m_editing.box, m_grid}, toolPlace());
+    m_shared.openDatePicker(m_traits.dateField, field(), toolPlace());
 }
 
 void GridPage::openCalculator() {
     m_editing.box->setUsable(false);
-    m_shared.openCalculator(m_traits.amountField, {m_editing.box, m_grid}, toolPlace());
+    m_shared.openCalculator(m_traits.amountField, field(), toolPlace());
 }
 
 void GridPage::cellClicked() {
     if (!takesClicks())
         return;
-    m_editing.open();
+    openBox();
     const Kind kind = kindOf(m_grid->Col());
     if (kind == Kind::Date)
         openDatePicker();
@@ -135,6 +151,14 @@ void GridPage::cellClicked() {
         m_editing.box->takeFocus();
         m_shared.forms.unload(names::Calculator);
     }
+}
+
+void GridPage::reckon(int row, int col) {
+    m_grid->setRow(row);
+    m_grid->setCol(col);
+    openBox();
+    m_shared.unloadDatePicker();
+    openCalculator();
 }
 
 void GridPage::boxClicked() {
@@ -206,7 +230,7 @@ bool GridPage::opensCalculatorOnEnter(int column) const {
 // ---- the buttons
 
 void GridPage::addRow() {
-    m_shared.unloadPickers();
+    m_shared.finishPickers();
     if (m_quirks.addCommitsBox) {
         m_editing.commitTyped();
         m_editing.box->setBoxText({});
@@ -266,7 +290,7 @@ void GridPage::beginSave() {
 }
 
 void GridPage::saveRows() {
-    m_shared.unloadPickers();
+    m_shared.finishPickers();
     beginSave();
     if (refusesGap())
         return;

@@ -85,19 +85,19 @@ void TitleBand::Form2_Image3_Click() {
 }
 
 void TitleBand::Form2_Image4_Click() {
-    m_shared.unloadTools();
+    m_shared.finishTools();
     m_window.setWindowState(Minimised);
 }
 
 void TitleBand::Form2_Image5_Click() {
-    m_shared.unloadTools();
+    m_shared.finishTools();
     Form& web = m_shared.forms.get(names::Web);
     web.place(m_window.Left() + m_window.Width(), m_window.Top(), m_window.Width(), m_window.Height());
     web.showForm();
 }
 
 void TitleBand::Form2_Image7_Click() {
-    m_shared.unloadTools();
+    m_shared.finishTools();
     m_shared.services.launcher->explore(webPage(m_shared, u"adetail.htm"_s));
 }
 

@@ -64,8 +64,8 @@ constexpr Face Faces[] = {
     {Role::Total, type::Long, true},          {Role::SignInButton, type::Heading, true},
     {Role::MonthTitle, type::Long, true},     {Role::Help, type::Small, false},
     {Role::Caution, type::Small, false},      {Role::ReminderText, type::Heading, false},
-    {Role::CalcKey, type::Heading, false},    {Role::CalcDisplay, type::Page, false},
-    {Role::WeekRow, type::Small, false},
+    {Role::CalcKey, type::Heading, false},    {Role::CalcOperator, type::Heading, false},
+    {Role::CalcDisplay, type::Page, false},   {Role::WeekRow, type::Small, false},
 };
 
 } // namespace
