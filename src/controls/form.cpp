@@ -107,11 +107,11 @@ void Form::keepOnScreen(const QRect& field) {
 
 void Form::hang() {
     Hanging& hanging = *m_hanging;
-    hanging.framed = frameGeometry().size();
+    hanging.frame = frameSize();
     const QScreen* screen = QGuiApplication::screenAt(hanging.asked);
     if (!screen)
         screen = QGuiApplication::primaryScreen();
-    const QPoint place = placeBeside(hanging.field, {hanging.asked, hanging.framed}, screen->availableGeometry());
+    const QPoint place = placeBeside(hanging.field, {hanging.asked, frameGeometry().size()}, screen->availableGeometry());
     if (place != pos())
         moveTo(place.x() * TwipsPerPixel, place.y() * TwipsPerPixel);
 }
@@ -169,7 +169,7 @@ void Form::mouseMoveEvent(QMouseEvent* event) {
 
 void Form::moveEvent(QMoveEvent*) {
     // A place of our own making is kept to the twip; any other is the desktop's.
-    if (m_hanging && frameGeometry().size() != m_hanging->framed)
+    if (m_hanging && frameSize() != m_hanging->frame)
         hang(); // the desktop has put its frame round the window
     const QPoint here = pos();
     if (here != pixelRect(Left(), Top(), Width(), Height()).topLeft())

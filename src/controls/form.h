@@ -84,6 +84,7 @@ private:
     /// Where the pointer is inside the form, by its place on the screen.
     QPointF twipsAt(const QMouseEvent* event) const;
     void hang();
+    QSize frameSize() const { return frameGeometry().size() - size(); }
 
     Forms* m_forms = nullptr;
     Ground m_ground;
@@ -95,7 +96,7 @@ private:
     struct Hanging {
         QRect field;
         QPoint asked; ///< the place that it was shown at
-        QSize framed; ///< as large as it was when it was placed
+        QSize frame;  ///< what the desktop had put round it when it was placed
     };
     std::optional<Hanging> m_hanging;
 };
