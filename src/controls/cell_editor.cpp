@@ -1,5 +1,8 @@
 #include "controls/cell_editor.h"
 
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+
 #include <algorithm>
 
 namespace qinghe {
@@ -32,6 +35,41 @@ void CellEditor::followCell() {
 void CellEditor::lay() {
     place();
     setBoxText(m_grid.Text());
+}
+
+bool CellEditor::event(QEvent* event) {
+    if (event->type() == QEvent::ContextMenu) {
+        if (m_grid.hints.openMenu(m_row, m_col, *static_cast<QContextMenuEvent*>(event)))
+            return true;
+    } else if (event->type() == QEvent::ToolTip) {
+        m_grid.hints.tell(m_row, m_col, static_cast<QHelpEvent*>(event)->globalPos());
+        return true;
+    } else if (!isEnabled() && hearsWhenClosed && closedEvent(*event)) {
+        return true;
+    }
+    return TextBox::event(event);
+}
+
+/// Qt hands a disabled widget's mouse on to its container.
+bool CellEditor::closedEvent(QEvent& event) {
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+        if (!hearsWhenClosed())
+            return false;
+        m_press.press(static_cast<QMouseEvent&>(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        if (!m_press.releasedOn(*this, static_cast<QMouseEvent&>(event)))
+            return false;
+        Click.fromQt();
+        break;
+    case QEvent::MouseButtonDblClick: // begun on the cell that the box lies over now
+        return hearsWhenClosed();
+    default:
+        return false;
+    }
+    event.accept();
+    return true;
 }
 
 /// Where its cell reaches under the list's right end the box ends there, edge and all; above and below it slips under

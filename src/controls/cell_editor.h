@@ -3,11 +3,13 @@
 #include "controls/ms_flex_grid.h"
 #include "controls/text_box.h"
 
+#include <functional>
+
 namespace qinghe {
 
 /// The text box that floats over the cells of a grid on the same frame. It lies exactly over the cell that was current
 /// when it was placed, follows that cell when the grid scrolls, and is out of sight while the cell is. What its keys do
-/// is the page's.
+/// is the page's; menu and tool tip of the cell are there over the box too.
 class CellEditor : public TextBox {
     Q_OBJECT
 
@@ -19,7 +21,14 @@ public:
     /// Moves over the current cell and takes its text.
     void lay();
 
+    /// Whether the box hears its clicks while it is disabled, too; else they are its frame's. Asked at each press.
+    std::function<bool()> hearsWhenClosed;
+
+protected:
+    bool event(QEvent*) override;
+
 private:
+    bool closedEvent(QEvent& event);
     void followCell();
     void keepInSight();
 

@@ -31,6 +31,22 @@ Qt::WindowFlags flagsOf(Form::Kind kind, bool owned) {
     return Qt::Window;
 }
 
+/// The place for a window that wants to hang under a field: inside the room, and off the field as long as there is any
+/// room below, above or beside it.
+QPoint placeBeside(const QRect& field, const QRect& window, const QRect& room) {
+    const auto inside = [&](QPoint at) {
+        return QPoint(std::max(room.left(), std::min(at.x(), room.right() + 1 - window.width())),
+                      std::max(room.top(), std::min(at.y(), room.bottom() + 1 - window.height())));
+    };
+    const QRect touched = field.adjusted(0, 2, 0, -2); // their edges are rounded each in its own window
+    const QPoint below = window.topLeft(), above(below.x(), field.top() - window.height()),
+                 right(field.right() + 1, below.y()), left(field.left() - window.width(), below.y());
+    for (const QPoint& at : {below, above, right, left})
+        if (const QRect placed(inside(at), window.size()); !placed.intersects(touched))
+            return placed.topLeft();
+    return inside(below);
+}
+
 } // namespace
 
 Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
@@ -84,16 +100,20 @@ void Form::setShape(const QPolygon& points) {
     setMask(QRegion(points, Qt::OddEvenFill));
 }
 
-void Form::keepOnScreen() {
-    const QScreen* screen = QGuiApplication::screenAt(pos());
+void Form::keepOnScreen(const QRect& field) {
+    m_hanging = {field, pos(), {}};
+    hang();
+}
+
+void Form::hang() {
+    Hanging& hanging = *m_hanging;
+    hanging.frame = frameSize();
+    const QScreen* screen = QGuiApplication::screenAt(hanging.asked);
     if (!screen)
         screen = QGuiApplication::primaryScreen();
-    const QRect room = screen->availableGeometry();
-    const QSize size = frameGeometry().size();
-    const int x = std::max(room.left(), std::min(pos().x(), room.right() + 1 - size.width()));
-    const int y = std::max(room.top(), std::min(pos().y(), room.bottom() + 1 - size.height()));
-    if (QPoint(x, y) != pos())
-        moveTo(x * TwipsPerPixel, y * TwipsPerPixel);
+    const QPoint place = placeBeside(hanging.field, {hanging.asked, frameGeometry().size()}, screen->availableGeometry());
+    if (place != pos())
+        moveTo(place.x() * TwipsPerPixel, place.y() * TwipsPerPixel);
 }
 
 void Form::applyPlace() {
@@ -149,6 +169,8 @@ void Form::mouseMoveEvent(QMouseEvent* event) {
 
 void Form::moveEvent(QMoveEvent*) {
     // A place of our own making is kept to the twip; any other is the desktop's.
+    if (m_hanging && frameSize() != m_hanging->frame)
+        hang(); // the desktop has put its frame round the window
     const QPoint here = pos();
     if (here != pixelRect(Left(), Top(), Width(), Height()).topLeft())
         adoptPlace(here.x() * TwipsPerPixel, here.y() * TwipsPerPixel);

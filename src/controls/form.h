@@ -8,6 +8,8 @@
 #include <QPolygon>
 #include <QWidget>
 
+#include <optional>
+
 namespace qinghe {
 
 class Forms;
@@ -48,8 +50,9 @@ public:
     void showForm();
     /// Gives the window the shape of a polygon, in pixels.
     void setShape(const QPolygon& points);
-    /// Keeps a window that hangs under a field on the screen.
-    void keepOnScreen();
+    /// Keeps a window that hangs under a field on the screen, and off the field, given as it lies on the screen: where
+    /// there is no room below, the window goes above it, and where there is none either, beside it.
+    void keepOnScreen(const QRect& field = {});
 
     /// The load handler; called once by Forms. The base has nothing to do.
     virtual void load() {}
@@ -80,12 +83,22 @@ private:
     friend class Forms;
     /// Where the pointer is inside the form, by its place on the screen.
     QPointF twipsAt(const QMouseEvent* event) const;
+    void hang();
+    QSize frameSize() const { return frameGeometry().size() - size(); }
 
     Forms* m_forms = nullptr;
     Ground m_ground;
     QImage m_picture;
     PressTracker m_press;
     bool m_moved = false; ///< the window, since the press
+
+    /// Where a window hangs that is kept on the screen.
+    struct Hanging {
+        QRect field;
+        QPoint asked; ///< the place that it was shown at
+        QSize frame;  ///< what the desktop had put round it when it was placed
+    };
+    std::optional<Hanging> m_hanging;
 };
 
 } // namespace qinghe

@@ -11,8 +11,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOption>
-#include <QTextDocument>
-#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -324,14 +322,13 @@ void MSFlexGrid::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
 }
 
-bool MSFlexGrid::fits(const QModelIndex& index) const {
+bool MSFlexGrid::isCut(int row, int col) const {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
-    option.index = index;
-    option.rect = visualRect(index);
-    option.text = index.data().toString();
-    const QRect room = style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this);
-    return option.fontMetrics.horizontalAdvance(option.text) <= room.width();
+    option.index = m_model->index(row - 1, col - 1);
+    option.rect = visualRect(option.index);
+    option.text = option.index.data().toString();
+    return style()->styleHint(static_cast<QStyle::StyleHint>(SH_CellIsCut), &option, this) != 0;
 }
 
 bool MSFlexGrid::viewportEvent(QEvent* event) {
@@ -341,15 +338,17 @@ bool MSFlexGrid::viewportEvent(QEvent* event) {
     }
     if (event->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(event);
-    // A text that does not fit is told whole.
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
-    if (index.isValid() && !fits(index))
-        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(index.data().toString()), viewport(),
-                           visualRect(index));
-    else
-        QToolTip::hideText();
+    hints.tell(index.row() + 1, index.column() + 1, help->globalPos());
     return true;
+}
+
+void MSFlexGrid::contextMenuEvent(QContextMenuEvent* event) {
+    const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex pointed = indexAt(event->pos());
+    const int row = keyboard ? m_row : pointed.row() + 1, col = keyboard ? m_col : pointed.column() + 1;
+    event->setAccepted(hints.openMenu(row, col, *event));
 }
 
 void MSFlexGrid::scrollContentsBy(int dx, int dy) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/cell_hints.h"
 #include "controls/event.h"
 #include "controls/grid_columns.h"
 #include "controls/placed.h"
@@ -92,6 +93,10 @@ public:
     Event<> Click;
     Event<> MouseMove;
 
+    CellHints hints{*this};
+    /// Whether the cell has not the room for its text.
+    bool isCut(int row, int col) const;
+
     /// For the style: whether marks of the current cell are drawn.
     bool marksCurrent() const { return isEnabled(); }
 
@@ -110,6 +115,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent*) override;
     void changeEvent(QEvent*) override;
+    void contextMenuEvent(QContextMenuEvent*) override;
     void updateGeometries() override;
 
 private:
@@ -120,8 +126,6 @@ private:
     void layColumns();
     /// Takes from the last column what it has too much.
     void fitLastColumn();
-    /// Whether the cell's text has the room that it needs.
-    bool fits(const QModelIndex& index) const;
 
     GridModel* m_model;
     int m_row = 1, m_col = 1;

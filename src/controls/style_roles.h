@@ -96,8 +96,10 @@ enum StyleElement : unsigned {
     PE_FormGround = static_cast<unsigned>(QStyle::PE_CustomBase) + 1, ///< widget: Form
     PE_LedgerPaper, ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
     PE_GridEdge,    ///< the edge round a grid
-    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1, ///< widget: Label
-    CE_Image,                                                    ///< widget: Image
+    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1,     ///< widget: Label
+    CE_Image,                                                        ///< widget: Image
+    SH_CellIsCut = static_cast<unsigned>(QStyle::SH_CustomBase) + 1, ///< 1 where a cell shows only the head of its
+                                                                     ///< text; a view item's option; widget: MSFlexGrid
 };
 
 } // namespace qinghe

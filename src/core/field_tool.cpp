@@ -2,6 +2,15 @@
 
 namespace qinghe {
 
+bool FieldTarget::isCellOf(const FieldTarget& other) const {
+    return box == other.box && grid == other.grid && row == other.row && col == other.col;
+}
+
+bool FieldTarget::isOpen() const {
+    return box && box->Visible() && grid && grid->isEnabled() && grid->isVisible() && row < grid->Rows() &&
+           col < grid->Cols();
+}
+
 QPointF placeBelow(const QWidget& control, double twips) {
     QPointF place(0, twips);
     for (const QWidget* widget = &control; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {

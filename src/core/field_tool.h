@@ -6,6 +6,8 @@
 
 #include <QPointer>
 
+#include <functional>
+
 namespace qinghe {
 
 /// What a tool window fills: a box by itself, or a box over a cell of a grid. Box and grid may be gone before the tool
@@ -19,7 +21,13 @@ struct FieldTarget {
 
     QPointer<TextBox> box;
     QPointer<MSFlexGrid> grid;
-    int row = 0, col = 0; ///< where the box stood when the tool was opened
+    int row = 0, col = 0;          ///< where the box stood when the tool was opened
+    std::function<void()> entered; ///< what Enter in the box does
+
+    /// Whether both name the same cell.
+    bool isCellOf(const FieldTarget& other) const;
+    /// Whether the cell is still being written into: its box lies open in a grid that takes input and still has it.
+    bool isOpen() const;
 };
 
 /// The place on the screen at a control's left edge, so many twips below its upper one; for a tool that hangs there.
@@ -32,7 +40,14 @@ class FieldTool : public Form {
 public:
     using Form::Form;
 
-    virtual void serve(const FieldTarget& field) = 0;
+    virtual void serve(const FieldTarget& field) { m_field = field; }
+    bool serves(const FieldTarget& field) const { return m_field.isCellOf(field); }
+    /// The user goes on elsewhere: what stands in the tool goes into its field, where the tool has anything to give. It
+    /// stays open, to be unloaded or to serve another field.
+    virtual void handBack() {}
+
+protected:
+    FieldTarget m_field;
 };
 
 } // namespace qinghe

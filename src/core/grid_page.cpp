@@ -29,6 +29,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
 void GridPage::bindEvents() {
     m_grid->Click = [this] { cellClicked(); };
     m_editing.box->Click = [this] { boxClicked(); };
+    m_editing.box->hearsWhenClosed = [this] { return kindOf(m_grid->Col()) == Kind::Amount; };
     m_editing.entered = [this] { entered(); };
     if (m_hasWorkedOut)
         m_editing.box->Change = [this] { m_editing.box->setUsable(kindOf(m_grid->Col()) != Kind::WorkedOut); };
@@ -41,7 +42,7 @@ void GridPage::bindEvents() {
 
 void GridPage::frameClicked() {
     if (!m_quirks.frameClickLeavesTools)
-        m_shared.unloadPickers();
+        m_shared.finishPickers();
     m_editing.close();
 }
 
@@ -49,6 +50,10 @@ void GridPage::formClicked() {
     const bool reached = m_quirks.formClickReachesHidden ? m_grid->isEnabled() && m_grid->Visible() : m_frame.Visible();
     if (!reached)
         return;
+    if (m_editing.box->isVisible()) {
+        m_shared.handBack();
+        m_shared.forms.unload(names::Calculator);
+    }
     m_editing.commitAndClose();
     if (m_quirks.formClickTakesKeyboard)
         m_grid->takeFocus();
@@ -117,19 +122,30 @@ QPointF GridPage::toolPlace() const {
     return placeBelow(*m_editing.box, m_editing.box->Height());
 }
 
+FieldTarget GridPage::field() {
+    FieldTarget current(m_editing.box, m_grid);
+    current.entered = [this] { entered(); };
+    return current;
+}
+
+void GridPage::openBox() {
+    m_shared.handBack(field());
+    m_editing.open();
+}
+
 void GridPage::openDatePicker() {
-    m_shared.openDatePicker(m_traits.dateField, {m_editing.box, m_grid}, toolPlace());
+    m_shared.openDatePicker(m_traits.dateField, field(), toolPlace());
 }
 
 void GridPage::openCalculator() {
     m_editing.box->setUsable(false);
-    m_shared.openCalculator(m_traits.amountField, {m_editing.box, m_grid}, toolPlace());
+    m_shared.openCalculator(m_traits.amountField, field(), toolPlace());
 }
 
 void GridPage::cellClicked() {
     if (!takesClicks())
         return;
-    m_editing.open();
+    openBox();
     const Kind kind = kindOf(m_grid->Col());
     if (kind == Kind::Date)
         openDatePicker();
@@ -151,6 +167,14 @@ void GridPage::offerText() {
         m_editing.box->deselect();
     else
         m_editing.box->selectText();
+}
+
+void GridPage::reckon(int row, int col) {
+    m_grid->setRow(row);
+    m_grid->setCol(col);
+    openBox();
+    m_shared.unloadDatePicker();
+    openCalculator();
 }
 
 void GridPage::boxClicked() {
@@ -223,7 +247,7 @@ bool GridPage::opensCalculatorOnEnter(int column) const {
 // ---- the buttons
 
 void GridPage::addRow() {
-    m_shared.unloadPickers();
+    m_shared.finishPickers();
     if (m_quirks.addCommitsBox) {
         m_editing.commitTyped();
         m_editing.box->setBoxText({});
@@ -283,7 +307,7 @@ void GridPage::beginSave() {
 }
 
 void GridPage::saveRows() {
-    m_shared.unloadPickers();
+    m_shared.finishPickers();
     beginSave();
     if (refusesGap())
         return;

@@ -93,6 +93,9 @@ protected:
     virtual void moved() {}
     virtual void frameClicked();
 
+    /// Lays the box over a cell, as a click on it does, and opens the calculator for it, whatever its column.
+    void reckon(int row, int col);
+
     /// The grid column of a field.
     int columnOf(QStringView field) const;
 
@@ -125,6 +128,9 @@ private:
     Kind kindOf(int column) const;
     bool opensCalculatorOnEnter(int column) const;
     QPointF toolPlace() const;
+    /// The current cell, as the tools fill it.
+    FieldTarget field();
+    void openBox();
     void openDatePicker();
     void openCalculator();
 

@@ -38,6 +38,22 @@ void Shared::unloadPickers() {
     forms.unload(names::Calculator);
 }
 
+void Shared::handBack(const FieldTarget& next) {
+    FieldTool* const calculator = forms.loaded(names::Calculator);
+    if (calculator && !calculator->serves(next))
+        calculator->handBack();
+}
+
+void Shared::finishPickers() {
+    handBack();
+    unloadPickers();
+}
+
+void Shared::finishTools() {
+    handBack();
+    unloadTools();
+}
+
 void Shared::hideDatePicker() {
     if (FieldTool* picker = forms.loaded(names::DatePicker))
         picker->setShown(false);
@@ -58,7 +74,8 @@ void Shared::openTool(const FormName<FieldTool>& name, const FieldTarget& target
     tool.serve(target);
     tool.moveTo(place.x(), place.y());
     tool.showForm();
-    tool.keepOnScreen();
+    const TextBox* const box = target.box;
+    tool.keepOnScreen(box ? QRect(box->mapToGlobal(QPoint()), box->size()) : QRect());
 }
 
 } // namespace qinghe

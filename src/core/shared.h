@@ -77,6 +77,13 @@ public:
     void unloadTools();
     /// Unloads the date picker and the calculator.
     void unloadPickers();
+    /// What has been reckoned in the calculator goes into its cell, when it is open; comes first in whatever takes the
+    /// user away from that cell. A click on the cell itself, `next`, does not.
+    void handBack(const FieldTarget& next = {});
+    /// Hands back, then unloads the same two.
+    void finishPickers();
+    /// Hands back, then unloads the same three.
+    void finishTools();
     /// Unloads the date picker.
     void unloadDatePicker() { forms.unload(names::DatePicker); }
     /// Takes the date picker out of sight, if it is loaded.

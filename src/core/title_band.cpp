@@ -86,17 +86,17 @@ void TitleBand::Form2_Image3_Click() {
 }
 
 void TitleBand::Form2_Image4_Click() {
-    m_shared.unloadTools();
+    m_shared.finishTools();
     m_window.setWindowState(Minimised);
 }
 
 void TitleBand::Form2_Image5_Click() {
-    m_shared.unloadTools();
+    m_shared.finishTools();
     m_shared.forms.get(names::Web).showTools();
 }
 
 void TitleBand::Form2_Image7_Click() {
-    m_shared.unloadTools();
+    m_shared.finishTools();
     openWebPage(m_shared, u"adetail.htm"_s);
 }
 

@@ -197,7 +197,7 @@ void IncomeExpensePage::closeEditing() {
 }
 
 void IncomeExpensePage::Form2_Frame2_Click() {
-    m_shared.unloadPickers();
+    m_shared.finishPickers();
     if (const auto loans = m_shared.editors.find(names::LoanGrid);
         loans != m_shared.editors.end() && loans->second.grid->Visible()) {
         loans->second.box->setShown(false);

@@ -4,6 +4,8 @@
 #include "runtime/money.h"
 #include "store/tables.h"
 
+#include <QMenu>
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -85,7 +87,8 @@ LoansPage::LoansPage(MainWindow& window)
       Option1(new OptionButton(&m_frame, u"Option1"_s, u"借入表"_s)),
       Option2(new OptionButton(&m_frame, u"Option2"_s, u"借出表"_s)),
       Label11(new Label(&m_frame, u"Label11"_s)),
-      Image1(new Image(&window, u"Image1"_s)) {
+      Image1(new Image(&window, u"Image1"_s)),
+      m_balanceMenu(new QMenu(m_grid)) {
     Option1->place(240, 390, 1200, 300);
     Option2->place(1560, 390, 1200, 300);
     Label11->place(240, 5760, 11000, 375);
@@ -95,6 +98,21 @@ LoansPage::LoansPage(MainWindow& window)
     for (OptionButton* option : {Option1, Option2})
         showHandOver(option);
     makeImage1();
+    makeBalanceMenu();
+}
+
+void LoansPage::makeBalanceMenu() {
+    const QAction* entry = m_balanceMenu->addAction(u"用计算器填余额…"_s);
+    connect(entry, &QAction::triggered, this,
+            [this] { handlers::enter([this] { reckon(m_menuRow, columnOf(columns::Balance)); }); });
+    m_grid->hints.menuOf = [this](int row, int col) {
+        m_menuRow = row;
+        return col == columnOf(columns::Balance) ? m_balanceMenu : nullptr;
+    };
+    m_grid->hints.tipOf = [this](int, int col) {
+        return col == columnOf(columns::Balance) ? u"余额不能直接键入：点右键（或按菜单键），选“用计算器填余额…”。"_s
+                                                 : QString();
+    };
 }
 
 void LoansPage::makeImage1() {

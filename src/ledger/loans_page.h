@@ -30,6 +30,8 @@ private:
     const Loans& chosen() const;
 
     void makeImage1();
+    /// Gives the balance, which takes no typing, a way to be filled.
+    void makeBalanceMenu();
     /// An option's click: list, captions and totals.
     void choose();
     void showTotal();
@@ -38,6 +40,8 @@ private:
     OptionButton* Option2; // 借出表
     Label* Label11;        // the totals
     Image* Image1;         // 借入记录, in the title band
+    QMenu* m_balanceMenu;  ///< of a balance
+    int m_menuRow = 1;     ///< whose balance
 };
 
 } // namespace qinghe

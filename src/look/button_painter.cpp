@@ -21,7 +21,7 @@ namespace {
 
 constexpr int IconSide = 14, IconGap = 2;
 constexpr int MarkSide = 16, MarkGap = 6;
-constexpr int LowButton = 22; // pixels, all of them
+constexpr int LowButton = 22, KeyMargin = 1; // pixels, all of them
 
 bool enabled(const QStyleOption& option) {
     return option.state & QStyle::State_Enabled;
@@ -80,17 +80,22 @@ QColor captionColour(const QStyleOptionButton& option, const QWidget* widget) {
     return leaf ? colour::LeafDark : colour::Ink;
 }
 
+/// Keys have large captions; a word that is too wide for its key has not.
+QFont captionFont(Role role, const QString& caption, int width) {
+    const QFont font = fontFor(role);
+    const bool tooWide = QFontMetrics(font).horizontalAdvance(caption) > width - 2 * KeyMargin;
+    return role == Role::CalcOperator && tooWide ? fontFor(Role::Plain) : font;
+}
+
 void paintButtonCaption(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) {
     const Placed* placed = Placed::of(widget);
     const Glyph glyph = placed ? placed->glyph() : Glyph::None;
-    // Digits are large; a key that bears a word is not.
-    const QFont font =
-        fontFor(roleOf(widget) == Role::CalcKey && option.text.size() > 1 ? Role::Plain : roleOf(widget));
     const QColor iconColour = enabled(option) ? colour::LeafDeep : colour::Off;
     // The arrows of the picker have captions for those who cannot see them; on view they are arrows alone.
     if (roleOf(widget) == Role::PickerArrow || option.text.isEmpty())
         return paintGlyph(painter, glyph, QRectF(option.rect).marginsRemoved({8, 6, 8, 6}), iconColour);
     const QString caption = shownCaption(option, widget);
+    const QFont font = captionFont(roleOf(widget), caption, option.rect.width());
     const int words = QFontMetrics(font).horizontalAdvance(caption);
     const int icon = glyph == Glyph::None ? 0 : IconSide + IconGap;
     const int left = option.rect.left() + std::max(2, (option.rect.width() - words - icon) / 2);

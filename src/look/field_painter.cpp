@@ -1,6 +1,7 @@
 #include "look/field_painter.h"
 
 #include "controls/ms_flex_grid.h"
+#include "look/cell_type.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
@@ -106,7 +107,8 @@ void fitEditor(QLineEdit& editor) {
     const MSFlexGrid* grid = gridUnder(editor);
     if (!grid)
         return;
-    const QFont font = sans(cellMargins(*grid, grid->Col()).points);
+    const CellMargins margins = cellMargins(*grid, grid->Col());
+    const QFont font = cellType(editor.text(), margins.points, editor.width() - margins.left - margins.right).font;
     if (editor.font() != font)
         editor.setFont(font);
     const Qt::Alignment side = grid->isAmountColumn(grid->Col()) ? Qt::AlignRight : Qt::AlignLeft;

@@ -65,7 +65,8 @@ constexpr Face Faces[] = {
     {Role::SignInButton, type::Heading, true},  {Role::MonthTitle, type::Long, true},
     {Role::Help, type::Small, false},           {Role::Caution, type::Small, false},
     {Role::ReminderText, type::Heading, false}, {Role::CalcKey, type::Heading, false},
-    {Role::CalcDisplay, type::Page, false},     {Role::WeekRow, type::Small, false},
+    {Role::CalcOperator, type::Heading, false}, {Role::CalcDisplay, type::Page, false},
+    {Role::WeekRow, type::Small, false},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "look/grid_painter.h"
 
 #include "controls/ms_flex_grid.h"
+#include "look/cell_type.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/field_painter.h"
@@ -80,6 +81,11 @@ void paintMarker(const QStyleOptionHeader& option, QPainter& painter, const QWid
     painter.restore();
 }
 
+CellType typeOf(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
+    const int col = option.index.column() + 1;
+    return cellType(option.text, cellMargins(grid, col).points, cellTextRoom(option.rect, grid, col).width());
+}
+
 bool isSideways(const QWidget& header) {
     const auto* view = qobject_cast<const QHeaderView*>(&header);
     return !view || view->orientation() == Qt::Horizontal;
@@ -137,7 +143,11 @@ void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFl
     if (isCurrentRow(grid, row) && col == grid.Col())
         paintPanel(painter, cell, 0, colour::LeafSel, colour::LeafDeep, 1.6);
     paintLine(painter, cellTextRoom(cell, grid, col), grid.isAmountColumn(col) ? Qt::AlignRight : Qt::AlignLeft,
-              option.text, sans(cellMargins(grid, col).points), isReadable(grid) ? colour::Ink : colour::Ink2);
+              option.text, typeOf(option, grid).font, isReadable(grid) ? colour::Ink : colour::Ink2);
+}
+
+bool isCellCut(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
+    return typeOf(option, grid).cut;
 }
 
 void paintGridEdge(QPainter& painter, const QRect& grid) {

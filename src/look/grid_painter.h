@@ -31,6 +31,9 @@ void paintHeaderRest(const QStyleOption& option, QPainter& painter, const QWidge
 /// The grid to which a header, a corner, a viewport or a scroll bar belongs, or nullptr.
 const MSFlexGrid* gridOf(const QWidget* part);
 
+/// Whether the cell's text ends in "…".
+bool isCellCut(const QStyleOptionViewItem& option, const MSFlexGrid& grid);
+
 /// The room that the text of a cell has.
 QRect cellTextRoom(const QRect& cell, const MSFlexGrid& grid, int col);
 

@@ -251,7 +251,10 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 }
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const {
-    switch (hint) {
+    switch (static_cast<unsigned>(hint)) {
+    case SH_CellIsCut:
+        return isCellCut(*qstyleoption_cast<const QStyleOptionViewItem*>(option),
+                         *static_cast<const MSFlexGrid*>(widget));
     case SH_ComboBox_Popup: // the list opens below its box
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
@@ -293,6 +296,8 @@ bool Style::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Paint) {
         if (auto* text = qobject_cast<QPlainTextEdit*>(watched->parent()))
             paintWritingPaper(*text);
+        else if (auto* box = qobject_cast<QLineEdit*>(watched))
+            fitEditor(*box); // to what has been typed
     } else if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
         if (auto* box = qobject_cast<QLineEdit*>(watched))
             fitEditor(*box);

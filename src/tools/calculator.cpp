@@ -2,8 +2,11 @@
 
 #include "core/hover.h"
 #include "look/field_painter.h"
+#include "runtime/runtime_error.h"
 
 #include <QKeyEvent>
+
+#include <utility>
 
 namespace qinghe {
 
@@ -25,18 +28,18 @@ constexpr std::array<Operator, 6> Operators{{
     {u"sqrt", 3000, 1560, 495, 960},
 }};
 
-/// Whether the cell over which the tool was opened takes a number at present.
-bool takesInput(const MSFlexGrid& grid, const FieldTarget& field) {
-    return grid.isEnabled() && grid.isVisible() && field.row < grid.Rows() && field.col < grid.Cols();
+void fill(const FieldTarget& field, const QString& number) {
+    field.box->setBoxText(number);
+    field.grid->setTextMatrix(field.row, field.col, field.box->Text());
 }
 
-void fill(TextBox& box, MSFlexGrid& grid, const FieldTarget& field, const QString& number) {
-    box.setBoxText(number);
-    grid.setTextMatrix(field.row, field.col, box.Text());
-    if (box.isEnabled())
-        box.takeFocus();
+/// The keyboard goes back to where the number came from.
+void takeKeyboard(const FieldTarget& field) {
+    field.box->activateWindow();
+    if (field.box->isEnabled())
+        field.box->takeFocus();
     else
-        grid.takeFocus();
+        field.grid->takeFocus();
 }
 
 } // namespace
@@ -46,7 +49,7 @@ Calculator::Calculator(Shared& shared)
       m_shared(shared),
       Text1(new TextBox(this, u"Text1"_s)) {
     setCaption(u"数值输入-计算器"_s);
-    place(0, 0, 3735, 3360);
+    place(0, 0, 3735, 3960);
     Text1->place(240, 240, 3255, 420);
     Text1->setRole(Role::CalcDisplay);
     Text1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -55,7 +58,7 @@ Calculator::Calculator(Shared& shared)
     showDisplay();
     makeKeys();
     MouseMove = [this](double, double) { unmarkHovered(m_keys); };
-    CloseAsked = [this] { handBack(); };
+    CloseAsked = [this] { finish(); };
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -92,14 +95,13 @@ void Calculator::makeKeys() {
     }
     Command3 = key(u"Command3"_s, u"="_s, 1680, 2640, 600, 480);
     Command4 = key(u"Command4"_s, u"清零"_s, 3000, 2640, 495, 480);
-    Command3->setRole(Role::Primary);
-    Command4->setRole(Role::CalcOperator);
+    m_fill = key(u"fill"_s, u"填入（回车）"_s, 240, 3240, 3255, 480);
+    for (CommandButton* word : {Command3, Command4})
+        word->setRole(Role::CalcOperator);
+    m_fill->setRole(Role::Primary);
     Command3->Click = [this] { Form9_Command3_Click(); };
     Command4->Click = [this] { Form9_Command4_Click(); };
-}
-
-void Calculator::serve(const FieldTarget& field) {
-    m_field = field;
+    m_fill->Click = [this] { enter(); };
 }
 
 void Calculator::showDisplay() {
@@ -108,22 +110,27 @@ void Calculator::showDisplay() {
 }
 
 void Calculator::Form9_Command1_Click(int index) {
+    if (std::exchange(m_handedBack, false))
+        m_machine = {};
     m_machine.pressKey(index);
     showDisplay();
 }
 
 void Calculator::Form9_Command2_Click(int index) {
+    m_handedBack = false;
     if (m_machine.pressOperator(index) == CalculatorMachine::Outcome::DivisionRefused)
         m_shared.tell(u"被除数不能等于零!"_s, u"温馨提示"_s);
     showDisplay();
 }
 
 void Calculator::Form9_Command3_Click() {
+    m_handedBack = false;
     m_machine.pressEquals();
     showDisplay();
 }
 
 void Calculator::Form9_Command4_Click() {
+    m_handedBack = false;
     m_machine.pressClear();
     showDisplay();
 }
@@ -148,7 +155,7 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
             // The Enter that opened the calculator may still be held.
             if (!event->isAutoRepeat())
-                handBack();
+                enter();
             break;
         case Qt::Key_Escape:
             unload();
@@ -160,14 +167,37 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
     });
 }
 
-/// Goes away; what was reckoned goes into the field that asked. A glance hands nothing back.
 void Calculator::handBack() {
-    const auto number = m_machine.touched() ? m_machine.handOver() : std::nullopt;
+    std::optional<QString> number;
+    try {
+        number = holdsNews() ? m_machine.handOver() : std::nullopt;
+    } catch (const RuntimeError&) {
+        return; // "7/0" ends the program by its "=" and by Enter, not by a click somewhere else
+    }
+    if (!number || !m_field.isOpen())
+        return;
+    fill(m_field, *number);
+    m_handedBack = true;
+}
+
+/// Goes away; what was reckoned goes into the cell that asked. A glance hands nothing back. Tells whether the cell
+/// holds now what it shall.
+bool Calculator::finish() {
+    const bool news = holdsNews();
+    const auto number = news ? m_machine.handOver() : std::nullopt;
     unload();
-    TextBox* const box = m_field.box;
-    MSFlexGrid* const grid = m_field.grid;
-    if (number && box && grid && takesInput(*grid, m_field))
-        fill(*box, *grid, m_field, *number);
+    if (news != number.has_value() || !m_field.isOpen())
+        return false;
+    if (number)
+        fill(m_field, *number);
+    takeKeyboard(m_field);
+    return true;
+}
+
+/// Enter: where the cell is still the current one of its list, the walk along the row goes on.
+void Calculator::enter() {
+    if (finish() && m_field.entered && m_field.isCellOf({m_field.box, m_field.grid}))
+        m_field.entered();
 }
 
 } // namespace qinghe

@@ -7,17 +7,19 @@
 
 namespace qinghe {
 
-/// `Form9`: a keypad that hangs under an amount cell. Its number goes into the box that asked and into the
-/// grid cell over which it was opened when the window is closed by its own button or confirmed with Enter, and any key
-/// was pressed; Esc closes it without, and so does an unload from code. What is no number goes nowhere, and neither
-/// does a number whose cell has gone or stands in a grid that takes none at present.
+/// `Form9`: a keypad that hangs under an amount cell. Its number goes into the box that asked and into the grid cell
+/// over which it was opened, once any key was pressed, whatever takes the user away: Enter, which then goes on as Enter
+/// in the box does, 填入, the window's own button, or handBack. Esc closes it without, and so does an unload from code.
+/// What is no number goes nowhere, and neither does a number whose cell has gone or is no longer open.
 class Calculator : public FieldTool {
     Q_OBJECT
 
 public:
     explicit Calculator(Shared& shared);
 
-    void serve(const FieldTarget& field) override;
+    /// Under the next cell it shows what it holds. A reckoning without a number, or without an answer, goes on there; a
+    /// number that was handed back is done with: a digit begins another one.
+    void handBack() override;
 
     void Form9_Command1_Click(int index); ///< a digit, or 10 for the point
     void Form9_Command2_Click(int index); ///< an operator
@@ -32,17 +34,20 @@ private:
                        double height);
     void makeKeys();
     void showDisplay();
-    void handBack();
+    bool holdsNews() const { return m_machine.touched() && !m_handedBack; }
+    bool finish();
+    void enter();
     bool typed(QChar character);
 
     Shared& m_shared;
     CalculatorMachine m_machine;
-    FieldTarget m_field;
+    bool m_handedBack = false; ///< what it holds went to its cell, and no key was pressed since
     TextBox* Text1;
     std::array<CommandButton*, 11> Command1{}; // digits and the point
     std::array<CommandButton*, 6> Command2{};  // + - * / x^y sqrt
     CommandButton* Command3 = nullptr;         // =
     CommandButton* Command4 = nullptr;         // 清零
+    CommandButton* m_fill = nullptr;           ///< 填入（回车）
     std::vector<CommandButton*> m_keys;        ///< all of them
 };
 

@@ -46,7 +46,7 @@ DatePicker::DatePicker(Shared& shared)
 }
 
 void DatePicker::serve(const FieldTarget& field) {
-    m_field = field;
+    FieldTool::serve(field);
     // It stays above the window that it was asked from.
     if (field.box && field.box->window() != parentWidget())
         setParent(field.box->window(), windowFlags());

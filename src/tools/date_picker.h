@@ -29,7 +29,6 @@ private:
 
     Shared& m_shared;
     MonthGrid m_month;
-    FieldTarget m_field;
     CommandButton* Command1; // forward
     CommandButton* Command2; // back
     Label* Label1;           // year and month

@@ -151,6 +151,32 @@ TEST_F(FormTest, IsKeptOnTheScreen) {
     EXPECT_EQ(form.pos(), room.topLeft());
 }
 
+TEST_F(FormTest, AFormThatHangsUnderAFieldNeverCoversIt) {
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto hangUnder = [this](const QRect& field) {
+        form.moveTo(field.left() * TwipsPerPixel, (field.bottom() + 1) * TwipsPerPixel);
+        form.keepOnScreen(field);
+        return form.frameGeometry();
+    };
+    const QSize field(76, 20);
+    const QPoint middle = room.center();
+    const QRect below = hangUnder({middle - QPoint(0, 200), field});
+    EXPECT_EQ(below.topLeft(), middle + QPoint(0, field.height() - 200));
+    for (const int y : {room.bottom() - 20, room.bottom() - 100}) {
+        const QRect above = hangUnder({{middle.x(), y}, field});
+        EXPECT_EQ(above.bottom(), y - 1);
+        EXPECT_EQ(above.left(), middle.x());
+    }
+    // As high as the screen: beside it, on the right while there is room.
+    form.setHeight((room.height() - 40) * TwipsPerPixel);
+    const QRect right = hangUnder({{room.left() + 40, middle.y()}, field});
+    EXPECT_EQ(right.left(), room.left() + 40 + field.width());
+    EXPECT_TRUE(room.contains(right));
+    const QRect left = hangUnder({{room.right() - 100, middle.y()}, field});
+    EXPECT_EQ(left.right(), room.right() - 101);
+    EXPECT_TRUE(room.contains(left));
+}
+
 TEST_F(FormTest, AFormThatLiesOnTheScreenStaysToTheTwip) {
     form.moveTo(1007, 1003);
     form.keepOnScreen();

@@ -60,12 +60,24 @@ TEST_F(ClosingTest, ClosesTheToolsByAClickOnTheFrame) {
     EXPECT_EQ(tools(), u"none");
 }
 
-TEST_F(ClosingTest, TakesAClickOnADisabledBoxAsOneOnTheFrame) {
+TEST_F(ClosingTest, LeavesABoxOverAnAmountOpenWhenItIsClickedThoughItIsDisabled) {
     clickCell(1, 5);
-    rig.click(tx2());
-    EXPECT_FALSE(tx2().Visible());
+    rig.loaded(forms::Calculator)->close();
     EXPECT_EQ(tools(), u"none");
+    rig.click(tx2());
+    EXPECT_EQ(tools(), forms::Calculator);
+    EXPECT_TRUE(tx2().Visible());
+    EXPECT_FALSE(tx2().isEnabled());
     EXPECT_EQ(ms2().TextMatrix(1, 5), u"1.5");
+}
+
+TEST_F(ClosingTest, HearsNoSecondClickInADoubleClickOnAnAmount) {
+    clickCell(1, 5);
+    rig.loaded(forms::Calculator)->close();
+    rig.doubleClick(tx2()); // press, release, press again, release
+    rig.type(*rig.loaded(forms::Calculator), u"7"_s);
+    EXPECT_EQ(tools(), forms::Calculator);
+    EXPECT_EQ(rig.at(calculator::Display).Text(), u"7");
 }
 
 TEST_F(ClosingTest, CommitsAlsoWhenAnotherPageIsInView) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QMenu>
 
 // The columns of a loan: amounts that are keyed by moving along with Enter, a balance that is closed to keys, a date.
 
@@ -13,6 +14,23 @@ using namespace Qt::StringLiterals;
 class LoansCellsTest : public LoansTest {
 protected:
     LoansCellsTest() { openWith(3); }
+
+    void reckonAndEnter(const QString& keys) {
+        rig.type(*rig.loaded(forms::Calculator), keys);
+        rig.press(*rig.loaded(forms::Calculator), Qt::Key_Return);
+        rig.settle();
+    }
+    static void askForMenu(QWidget& widget, QPoint at, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
+        QContextMenuEvent event(reason, at, widget.mapToGlobal(at));
+        QApplication::sendEvent(&widget, &event);
+    }
+    static QMenu* menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+    void pickFromMenu(const QString& text) {
+        ASSERT_TRUE(menu());
+        const QList<QAction*> entries = menu()->actions();
+        ASSERT_EQ(entries.front()->text(), text);
+        QTest::mouseClick(menu(), Qt::LeftButton, {}, menu()->actionGeometry(entries.front()).center());
+    }
 };
 
 TEST_F(LoansCellsTest, OpenTheCalculatorByAClickOnEitherAmount) {
@@ -139,6 +157,59 @@ TEST_F(LoansCellsTest, OpenTheBoxWhenTheCalculatorHandsBackAnEqualAmount) {
     EXPECT_EQ(rig.mainWindow().focusWidget(), &box());
     enter();
     EXPECT_EQ(current(), u"1,4");
+}
+
+TEST_F(LoansCellsTest, WalkOnFromTheCalculatorToTheAmountBehindAndOnToTheBalance) {
+    for (const int col : {3, 4}) {
+        clickCell(1, col);
+        reckonAndEnter(u"7"_s);
+        EXPECT_EQ(grid().TextMatrix(1, col), u"7");
+        EXPECT_EQ(current(), u"1,%1"_s.arg(col + 1));
+        EXPECT_EQ(box().isEnabled(), col == 3);
+    }
+}
+
+TEST_F(LoansCellsTest, OfferTheCalculatorForTheBalanceInAMenuOfTheCellAndOfTheBoxOverIt) {
+    const auto balance = [this](int row) { return grid().TextMatrix(row, 5); };
+    askForMenu(*grid().viewport(), grid().cellRect(2, 5).center() - grid().viewport()->pos());
+    EXPECT_EQ(tools(), u"none"); // only the menu is there
+    pickFromMenu(u"用计算器填余额…"_s);
+    EXPECT_EQ(tools(), forms::Calculator);
+    expectEditorOver(2, 5);
+    expectUnderEditor(forms::Calculator);
+    EXPECT_EQ(shared().calcTarget, 2);
+    EXPECT_FALSE(box().isEnabled());
+    reckonAndEnter(u"800-795"_s);
+    EXPECT_EQ(balance(2), u"5");
+    EXPECT_EQ(current(), u"2,6");
+    EXPECT_TRUE(box().isEnabled());
+
+    clickCell(1, 5);
+    askForMenu(box(), box().rect().center());
+    pickFromMenu(u"用计算器填余额…"_s);
+    rig.type(*rig.loaded(forms::Calculator), u"12"_s);
+    clickCell(1, 1); // hands back as everywhere
+    EXPECT_EQ(balance(1), u"12");
+}
+
+TEST_F(LoansCellsTest, OfferTheMenuToTheKeyboardWhereEnterHasReachedTheBalance) {
+    clickCell(1, 4);
+    reckonAndEnter(u"20"_s);
+    ASSERT_EQ(current(), u"1,5");
+    ASSERT_EQ(rig.mainWindow().focusWidget(), &grid());
+    askForMenu(grid(), {}, QContextMenuEvent::Keyboard);
+    ASSERT_TRUE(menu());
+    ASSERT_TRUE(menu()->activeAction());
+    rig.press(*menu(), Qt::Key_Return);
+    reckonAndEnter(u"70"_s);
+    EXPECT_EQ(row(1), u"户1|2024-5-1|100|20|70|甲|乙|备1");
+}
+
+TEST_F(LoansCellsTest, OfferNoMenuBesideTheBalanceAndNoToolTip) {
+    askForMenu(*grid().viewport(), grid().cellRect(1, 4).center() - grid().viewport()->pos());
+    EXPECT_FALSE(menu());
+    EXPECT_EQ(grid().hints.tipOf(1, 4), u"");
+    EXPECT_TRUE(grid().hints.tipOf(1, 5).contains(u"用计算器填余额…"_s));
 }
 
 TEST_F(LoansCellsTest, WorkNothingOutBetweenTheAmounts) {

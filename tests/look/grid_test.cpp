@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QScrollBar>
+#include <QStyleOption>
+#include <QTest>
 
 namespace qinghe::testing {
 namespace {
@@ -48,6 +50,15 @@ struct Grids : ::testing::Test {
         editor.raise();
     }
 
+    /// Pixels by which the text of the open box is wider than its room.
+    int endsCut() {
+        rendered(ground); // the type follows the text when it is painted
+        QStyleOptionFrame option;
+        option.initFrom(&editor);
+        const int room = editor.style()->subElementRect(QStyle::SE_LineEditContents, &option, &editor).width() - 4;
+        return std::max(0, qRound(QFontMetricsF(editor.font()).horizontalAdvance(editor.text())) + 1 - room);
+    }
+
     QWidget ground;
     MSFlexGrid grid;
     TextBox editor;
@@ -66,16 +77,17 @@ bool samePictures(const QImage& one, const QImage& other, int tolerance) {
 TEST_F(Grids, TheEditorsTextStandsWhereTheCellsTextStood) {
     grid.setTextMatrix(3, TextCol, u"工资 Ag"_s);
     grid.setTextMatrix(3, WideAmountCol, u"1286.4"_s);
-    grid.setTextMatrix(3, NarrowAmountCol, u"860.5"_s);
-    for (const double ratio : {1.0, 1.5, 2.0})
-        for (const int col : {TextCol, WideAmountCol, NarrowAmountCol}) {
-            editor.setShown(false);
-            grid.setRow(1); // row 3 is white then, as the editor is
-            const QImage cell = cellPicture(3, col, ratio);
-            ASSERT_FALSE(extent(cell, isDarkInk).isNull());
-            layEditor(3, col);
-            EXPECT_TRUE(samePictures(cell, cellPicture(3, col, ratio), 2)) << ratio << ' ' << col;
-        }
+    for (const QString& amount : {u"860.5"_s, u"1234567.89"_s})
+        for (const double ratio : {1.0, 1.5, 2.0})
+            for (const int col : {TextCol, WideAmountCol, NarrowAmountCol}) {
+                grid.setTextMatrix(3, NarrowAmountCol, amount);
+                editor.setShown(false);
+                grid.setRow(1); // row 3 is white then, as the editor is
+                const QImage cell = cellPicture(3, col, ratio);
+                ASSERT_FALSE(extent(cell, isDarkInk).isNull());
+                layEditor(3, col);
+                EXPECT_TRUE(samePictures(cell, cellPicture(3, col, ratio), 2)) << ratio << ' ' << col;
+            }
 }
 
 TEST_F(Grids, AnEditorForAmountsThatIsDisabledKeepsItsInk) {
@@ -97,7 +109,7 @@ TEST_F(Grids, AmountsStandOnTheRightAndWordsOnTheLeft) {
 }
 
 TEST_F(Grids, AnAmountThatDoesNotFitIsNeverACutNumber) {
-    const QString amount = u"123456789012.85"_s;
+    const QString amount = u"12345678901234567890.85"_s;
     for (const int col : {WideAmountCol, NarrowAmountCol}) {
         grid.setTextMatrix(3, col, amount);
         const QImage shown = cellPicture(3, col, 1);
@@ -108,6 +120,41 @@ TEST_F(Grids, AnAmountThatDoesNotFitIsNeverACutNumber) {
         }
         EXPECT_TRUE(elided) << col;
     }
+}
+
+TEST_F(Grids, AmountsAndDatesOfAnyUsualLengthAreWholeInTheCellAndInTheBox) {
+    for (const QString& figures : {u"1234567.89"_s, u"-1234567.89"_s, u" 12345678.9"_s, u"2024-12-31"_s,
+                                   u"2024年12月31日"_s, u"2024-12-31 20:36:08"_s})
+        for (const int col : {TextCol, WideAmountCol, NarrowAmountCol}) {
+            layEditor(1, col); // a box that opens over another cell
+            grid.setTextMatrix(3, col, figures);
+            EXPECT_FALSE(grid.isCut(3, col)) << figures.toStdString() << ' ' << col;
+            layEditor(3, col);
+            EXPECT_EQ(endsCut(), 0) << figures.toStdString() << ' ' << col;
+        }
+}
+
+TEST_F(Grids, TheTypeOfTheBoxFollowsWhatIsTyped) {
+    layEditor(3, NarrowAmountCol);
+    ground.show();
+    const double usual = editor.font().pointSizeF();
+    QTest::keyClicks(&editor, u"1234567.89"_s);
+    QApplication::processEvents();
+    EXPECT_LT(editor.font().pointSizeF() * editor.font().stretch(), usual * 100);
+    QTest::keyClick(&editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&editor, u"12"_s);
+    QApplication::processEvents();
+    EXPECT_EQ(editor.font().pointSizeF(), usual);
+}
+
+TEST_F(Grids, WordsKeepTheirSizeAndAreCut) {
+    grid.setTextMatrix(3, TextCol, u"给外婆的药和路费"_s);
+    EXPECT_TRUE(grid.isCut(3, TextCol));
+    layEditor(3, TextCol);
+    const QFont before = editor.font();
+    editor.setBoxText(u"药"_s);
+    layEditor(4, TextCol);
+    EXPECT_EQ(editor.font(), before);
 }
 
 TEST_F(Grids, TheCurrentCellAndRowAreMarked) {

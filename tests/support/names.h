@@ -285,6 +285,7 @@ inline constexpr Name<CommandButton> Digit{forms::Calculator, u"Command1"};
 inline constexpr Name<CommandButton> Operation{forms::Calculator, u"Command2"};
 inline constexpr Name<CommandButton> Equals{forms::Calculator, u"Command3"};
 inline constexpr Name<CommandButton> Clear{forms::Calculator, u"Command4"};
+inline constexpr Name<CommandButton> Fill{forms::Calculator, u"fill"};
 } // namespace calculator
 
 namespace reminder {

@@ -38,7 +38,7 @@ protected:
     void write(const QString& text) { typeOver(box(), text); }
     /// Puts a text into a cell by click, typing and Enter. Not for columns that take no keys.
     void fillCell(int row, int col, const QString& text);
-    /// Types into the open calculator and confirms.
+    /// Types into the open calculator and closes it by its window's button: its cell is filled and stays the current one.
     void calculate(const QString& keys);
     void enter() { rig.press(box(), Qt::Key_Return); }
     void escape() { rig.press(box(), Qt::Key_Escape); }

@@ -13,7 +13,7 @@ void enterRecord(Program& program, int row, const std::vector<std::string>& upTo
     for (const std::string& text : upToPerson)
         enter(program, text);
     reckon(program, amount);
-    fillCell(program, income::Grid, row, 6, account);
+    enter(program, account);
 }
 
 void expectEditing(Program& program, bool possible) {

@@ -91,6 +91,113 @@ TEST(FirstEvening, AnIncomeIsEnteredSavedAndFoundAgain) {
     endByCross(program);
 }
 
+namespace {
+
+/// Somebody at the program, whose clicks, key strokes and ways from the keyboard to the mouse are counted.
+class Hand {
+public:
+    explicit Hand(Program& worked) : program(worked) {}
+
+    void click(const std::string& at) {
+        countClick();
+        program.click(at);
+    }
+    void clickCell(const std::string& grid, int row, int col) {
+        countClick();
+        program.clickCell(grid, row, col);
+    }
+    void key(const std::string& name) {
+        countKeys(1);
+        program.key(name);
+    }
+    void enter(const std::string& text) {
+        if (!text.empty())
+            program.type(text);
+        countKeys(static_cast<int>(QString::fromStdString(text).size()));
+        key("Return");
+    }
+    /// Types into the calculator as soon as it has the keyboard, and back on the page as soon as that has it.
+    void reckon(const std::string& text) {
+        program.waitForKeyboard(forms::Calculator);
+        enter(text);
+        program.waitForKeyboard(forms::Main);
+    }
+    /// Presses a save's button and answers its message by Enter.
+    void save(const std::string& button) {
+        click(button);
+        EXPECT_EQ(program.message().text, "保存成功");
+        key("Return");
+        program.waitUntil([this] { return !program.showsMessage(); }, "the answer");
+    }
+
+    int clicks = 0, keys = 0, trips = 0;
+
+private:
+    void countClick() {
+        ++clicks;
+        trips += atKeyboard;
+        atKeyboard = false;
+    }
+    void countKeys(int count) {
+        keys += count;
+        atKeyboard = true;
+    }
+
+    Program& program;
+    bool atKeyboard = true;
+};
+
+} // namespace
+
+TEST(FirstEvening, FiveExpensesACorrectionAndALoanTakeOneWayToTheMouseARow) {
+    const LedgerFolder folder;
+    Program program(folder);
+    signIn(program);
+    Hand hand(program);
+    const std::vector<std::vector<std::string>> expenses{{"01", "2024-11-18", "菜", "王青", "35.5", "现金"},
+                                                         {"02", "2024-11-18", "米", "王青", "84", "现金"},
+                                                         {"03", "2024-11-18", "电费", "李禾", "126.3", "建行"},
+                                                         {"04", "2024-11-18", "书", "李禾", "29+45", "建行"},
+                                                         {"05", "2024-11-18", "药", "王青", "18.8", "现金"}};
+    hand.click(pages::Expense);
+    for (int row = 1; const std::vector<std::string>& expense : expenses) {
+        if (row > 1)
+            hand.click(income::Add);
+        hand.clickCell(income::Grid, row++, 1);
+        for (int col = 0; col < 4; ++col)
+            hand.enter(expense[static_cast<std::size_t>(col)]);
+        hand.reckon(expense[4]);
+        hand.enter(expense[5]);
+        hand.enter(""); // no remark
+    }
+    hand.clickCell(income::Grid, 2, 5);
+    hand.reckon("48");
+    hand.save(income::Save);
+    EXPECT_EQ(hand.trips, 7); // one a row, one for the correction, one for the save
+
+    hand.click(pages::Loans);
+    hand.clickCell(loans::Grid, 1, 1);
+    for (const char* text : {"现金", "2024-11-18", "800", "5"})
+        hand.enter(text);
+    hand.key("Menu"); // of the balance, where the box is closed
+    hand.key("Return");
+    hand.reckon("795");
+    for (const char* text : {"王青", "赵田", ""})
+        hand.enter(text);
+    hand.save(loans::Save);
+    EXPECT_EQ(hand.trips, 9);
+    // Before Enter walked on from the calculator it took 24 clicks on 15 ways to the mouse, and the balance of this
+    // loan could not be written at all.
+    EXPECT_EQ(hand.clicks, 16);
+    EXPECT_EQ(hand.keys, 0);
+    endByCross(program);
+    EXPECT_EQ(folder.rows("select * from zcb"),
+              (std::vector<std::string>{"01|2024-11-18|菜|王青|35.5|现金||1", "02|2024-11-18|米|王青|48|现金||2",
+                                        "03|2024-11-18|电费|李禾|126.3|建行||3", "04|2024-11-18|书|李禾|74|建行||4",
+                                        "05|2024-11-18|药|王青|18.8|现金||5"}));
+    EXPECT_EQ(folder.rows("select * from jcb"), std::vector<std::string>{"现金|2024-11-18|800|5|795|王青|赵田||1"});
+}
+
 TEST(FirstEvening, ASaveWithAGapChangesNothing) {
     const LedgerFolder folder;
     Program program(folder);

@@ -26,7 +26,7 @@ void answer(Program& program, const std::string& text, const std::string& button
 void enter(Program& program, const std::string& text);
 /// The same in the cell that is clicked.
 void fillCell(Program& program, const std::string& grid, int row, int col, const std::string& text);
-/// Types into the calculator that has come up, and hands its number over with Enter.
+/// Types into the calculator that has come up, and hands its number over with Enter, which walks on to the next cell.
 void reckon(Program& program, const std::string& keys);
 /// Picks a day of November 2024 from the picker that has come up.
 void pickDay(Program& program, int day);

@@ -101,8 +101,12 @@ TEST(Loans, ABalanceTakesOneKeyAndAmountsTheCalculator) {
     Program program(folder);
     signIn(program);
     program.click(pages::Loans);
+    program.drag(forms::Main, bareTitle, {0, 600}); // so low that there is no room for a calculator below a cell
     program.clickCell(loans::Grid, 1, 3);
     program.waitForKeyboard(forms::Calculator);
+    program.waitUntil(
+        [&] { return program.place(forms::Calculator).bottom() < program.cellPlace(loans::Grid, 1, 3).top(); },
+        "the calculator above its cell");
     EXPECT_FALSE(program.get(loans::Box, "enabled").toBool());
     reckon(program, "1000+250");
     program.clickCell(loans::Grid, 1, 4);

@@ -11,7 +11,6 @@ void walk(Program& program, int row, const std::string& name, const std::string&
           const std::vector<std::string>& amounts) {
     fillCell(program, accounts::Grid, row, 1, name);
     reckon(program, start);
-    program.key("Return");
     for (const std::string& amount : amounts)
         enter(program, amount);
 }
@@ -72,11 +71,9 @@ TEST(Savings, LeavingAFilledAmountAgainCountsItTwiceUntilTheStartIsLeftAgain) {
 
     program.clickCell(accounts::Grid, 1, 3);
     reckon(program, "20");
-    program.key("Return");
     program.waitUntil([&] { return balance(program) == " 140"; }, "the balance counted twice");
     program.clickCell(accounts::Grid, 1, 2);
     reckon(program, "100");
-    program.key("Return");
     enter(program, "20");
     enter(program, "150");
     EXPECT_EQ(balance(program), "-30");

@@ -2,7 +2,8 @@
 
 #include "objects.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeySequence>
 #include <QPointer>
@@ -127,12 +128,27 @@ Steps drag(QWidget& widget, const QPoint& place, const QPoint& way) {
         onTheWay(way, QEvent::MouseButtonRelease)};
 }
 
+namespace {
+
+/// What the desktop makes of the menu key.
+void askForMenu() {
+    if (QWidget* focus = QApplication::focusWidget()) {
+        const QPoint middle = focus->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, middle, focus->mapToGlobal(middle));
+        QCoreApplication::sendEvent(focus, &event);
+    }
+}
+
+} // namespace
+
 Steps key(const QString& name) {
     windowWithKeyboard();
     const QKeySequence sequence(name);
     if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown)
         throw Refusal{QStringLiteral("there is no key ") + name};
     const QKeyCombination combination = sequence[0];
+    if (combination.key() == Qt::Key_Menu)
+        return {askForMenu};
     const bool plain = combination.keyboardModifiers() == Qt::NoModifier;
     return {[=] {
         strike(combination.key(), plain ? textOf(combination.key()) : QString(), combination.keyboardModifiers());
