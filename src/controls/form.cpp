@@ -128,6 +128,9 @@ void Form::paintEvent(QPaintEvent*) {
     QStyleOption option;
     option.initFrom(this);
     style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(PE_FormGround), &option, &painter, this);
+    // By its first painting the desktop has put its frame round the window.
+    if (m_hanging && frameSize() != m_hanging->frame)
+        QMetaObject::invokeMethod(this, &Form::hang, Qt::QueuedConnection);
 }
 
 QPointF Form::twipsAt(const QMouseEvent* event) const {
@@ -169,8 +172,6 @@ void Form::mouseMoveEvent(QMouseEvent* event) {
 
 void Form::moveEvent(QMoveEvent*) {
     // A place of our own making is kept to the twip; any other is the desktop's.
-    if (m_hanging && frameSize() != m_hanging->frame)
-        hang(); // the desktop has put its frame round the window
     const QPoint here = pos();
     if (here != pixelRect(Left(), Top(), Width(), Height()).topLeft())
         adoptPlace(here.x() * TwipsPerPixel, here.y() * TwipsPerPixel);

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int IconSide = 14, IconGap = 2;
 constexpr int MarkSide = 16, MarkGap = 6;
-constexpr int LowButton = 22, KeyMargin = 1; // pixels, all of them
+constexpr int LowButton = 22, KeyMargin = 2; // pixels, all of them
 
 bool enabled(const QStyleOption& option) {
     return option.state & QStyle::State_Enabled;

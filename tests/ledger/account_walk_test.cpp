@@ -11,11 +11,10 @@ using namespace Qt::StringLiterals;
 
 class AccountWalkTest : public AccountsTest {
 protected:
-    /// Puts an amount into a column by a click and the calculator, and leaves it with Enter.
+    /// Puts an amount into a column by a click and the calculator, and leaves both with its Enter.
     void leave(int col, const QString& keys) {
         clickCell(1, col);
-        calculate(keys);
-        enter();
+        calculateAndWalkOn(keys);
     }
     void openOn(const QString& amounts) {
         storeAccount(amounts);

@@ -15,11 +15,6 @@ class LoansCellsTest : public LoansTest {
 protected:
     LoansCellsTest() { openWith(3); }
 
-    void reckonAndEnter(const QString& keys) {
-        rig.type(*rig.loaded(forms::Calculator), keys);
-        rig.press(*rig.loaded(forms::Calculator), Qt::Key_Return);
-        rig.settle();
-    }
     static void askForMenu(QWidget& widget, QPoint at, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
         QContextMenuEvent event(reason, at, widget.mapToGlobal(at));
         QApplication::sendEvent(&widget, &event);
@@ -162,7 +157,7 @@ TEST_F(LoansCellsTest, OpenTheBoxWhenTheCalculatorHandsBackAnEqualAmount) {
 TEST_F(LoansCellsTest, WalkOnFromTheCalculatorToTheAmountBehindAndOnToTheBalance) {
     for (const int col : {3, 4}) {
         clickCell(1, col);
-        reckonAndEnter(u"7"_s);
+        calculateAndWalkOn(u"7"_s);
         EXPECT_EQ(grid().TextMatrix(1, col), u"7");
         EXPECT_EQ(current(), u"1,%1"_s.arg(col + 1));
         EXPECT_EQ(box().isEnabled(), col == 3);
@@ -179,7 +174,7 @@ TEST_F(LoansCellsTest, OfferTheCalculatorForTheBalanceInAMenuOfTheCellAndOfTheBo
     expectUnderEditor(forms::Calculator);
     EXPECT_EQ(shared().calcTarget, 2);
     EXPECT_FALSE(box().isEnabled());
-    reckonAndEnter(u"800-795"_s);
+    calculateAndWalkOn(u"800-795"_s);
     EXPECT_EQ(balance(2), u"5");
     EXPECT_EQ(current(), u"2,6");
     EXPECT_TRUE(box().isEnabled());
@@ -194,14 +189,14 @@ TEST_F(LoansCellsTest, OfferTheCalculatorForTheBalanceInAMenuOfTheCellAndOfTheBo
 
 TEST_F(LoansCellsTest, OfferTheMenuToTheKeyboardWhereEnterHasReachedTheBalance) {
     clickCell(1, 4);
-    reckonAndEnter(u"20"_s);
+    calculateAndWalkOn(u"20"_s);
     ASSERT_EQ(current(), u"1,5");
     ASSERT_EQ(rig.mainWindow().focusWidget(), &grid());
     askForMenu(grid(), {}, QContextMenuEvent::Keyboard);
     ASSERT_TRUE(menu());
     ASSERT_TRUE(menu()->activeAction());
     rig.press(*menu(), Qt::Key_Return);
-    reckonAndEnter(u"70"_s);
+    calculateAndWalkOn(u"70"_s);
     EXPECT_EQ(row(1), u"户1|2024-5-1|100|20|70|甲|乙|备1");
 }
 

@@ -45,6 +45,14 @@ void PageTest::calculate(const QString& keys) {
     rig.settle();
 }
 
+void PageTest::calculateAndWalkOn(const QString& keys) {
+    Form* calculator = rig.loaded(forms::Calculator);
+    ASSERT_NE(calculator, nullptr) << "no calculator at " << current().toStdString();
+    rig.type(*calculator, keys);
+    rig.press(*calculator, Qt::Key_Return);
+    rig.settle();
+}
+
 void PageTest::clickFrame() {
     QTest::mouseClick(&frame(), Qt::LeftButton, {}, QPoint(frame().width() / 2, frame().height() - 3));
 }

@@ -40,6 +40,8 @@ protected:
     void fillCell(int row, int col, const QString& text);
     /// Types into the open calculator and closes it by its window's button: its cell is filled and stays the current one.
     void calculate(const QString& keys);
+    /// The same by Enter, which walks on to the next cell.
+    void calculateAndWalkOn(const QString& keys);
     void enter() { rig.press(box(), Qt::Key_Return); }
     void escape() { rig.press(box(), Qt::Key_Escape); }
     /// The bare ground of the main window, in its upper left corner.
