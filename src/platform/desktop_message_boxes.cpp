@@ -78,6 +78,7 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
     box.setIcon(iconOf(style));
     box.setStandardButtons(buttonsOf(style));
     captionButtons(box);
+    standClear(box);
     return answerOf(box.exec());
 }
 
