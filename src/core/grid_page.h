@@ -82,6 +82,7 @@ public:
     /// Brings the page up.
     void tabClicked(PageCode code) override { open(code); }
     void formClicked() override;
+    std::vector<EditorTarget> searchedLists() const override { return {{m_editing.box, m_grid}}; }
 
 protected:
     /// The table on view.

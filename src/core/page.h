@@ -4,8 +4,11 @@
 #include "core/names.h"
 
 #include <span>
+#include <vector>
 
 namespace qinghe {
+
+struct EditorTarget;
 
 class Navigation;
 
@@ -46,6 +49,8 @@ public:
     virtual void formClicked() {}
     /// The main window loads: what is stored of the page's settings is to be shown, and to take effect.
     virtual void windowLoads() {}
+    /// The lists on this page in which words can be looked for at present (FindBar), the usual one first.
+    virtual std::vector<EditorTarget> searchedLists() const;
 
 protected:
     Navigation& navigation() const { return m_navigation; }

@@ -19,6 +19,7 @@ public:
     explicit CategoriesPage(MainWindow& window);
 
     void left() override;
+    std::vector<EditorTarget> searchedLists() const override;
 
     void Form2_Option3_Click();
     void Form2_Option4_Click();
