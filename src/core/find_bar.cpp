@@ -96,7 +96,7 @@ void FindBar::serve(const EditorTarget& list) {
 void FindBar::layOut() {
     const MSFlexGrid& grid = *m_list.grid;
     place(grid.Left(), grid.Top() + grid.Height() - BarHeight, grid.Width(), BarHeight);
-    const bool narrow = grid.Width() < NarrowList;
+    m_isNarrow = grid.Width() < NarrowList;
     double left = Gap;
     const auto put = [&left](Placed& control, double width) {
         control.place(left, ControlTop, width, ControlHeight);
@@ -104,8 +104,8 @@ void FindBar::layOut() {
     };
     put(*m_words, std::min(WidestWords, grid.Width() * WordsShare));
     for (CommandButton* step : {m_previous, m_next}) {
-        step->setRole(narrow ? Role::PickerArrow : Role::Plain);
-        put(*step, narrow ? ArrowButton : WideButton);
+        step->setRole(m_isNarrow ? Role::PickerArrow : Role::Plain);
+        put(*step, m_isNarrow ? ArrowButton : WideButton);
     }
     const double end = grid.Width() - Gap - ArrowButton;
     put(*m_note, end - Gap - left);
@@ -155,7 +155,8 @@ void FindBar::find(Way way) {
     if (cells.empty())
         return note(m_words->Text().isEmpty() ? QString() : u"没有找到"_s);
     if (isTypingOpen())
-        return note(u"先按回车或 Esc"_s, u"格子里的内容还没有填入：先回到那里按回车填入，或按 Esc 放弃，再查找。"_s);
+        return note(m_isNarrow ? u"先按回车或 Esc"_s : u"格子里的内容还没有填入，先在那里按回车或 Esc"_s,
+                    u"先回到格子里，按回车填入，或按 Esc 放弃，再来查找。"_s);
     const GridCell current{m_list.grid->Row(), m_list.grid->Col()};
     auto found = way == Way::Next ? std::ranges::upper_bound(cells, current, isBefore)
                                   : std::ranges::lower_bound(cells, current, isBefore);

@@ -47,7 +47,8 @@ private:
     Label* m_note; ///< which place of how many
     CommandButton* m_close;
 
-    EditorTarget m_list; ///< that it is at; none while it is closed
+    bool m_isNarrow = false; ///< no room for the captions of the buttons
+    EditorTarget m_list;     ///< that it is at; none while it is closed
     QMetaObject::Connection m_following;
 };
 

@@ -3,7 +3,8 @@
 #include "support/page_rig.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+
+#include <ctime>
 
 // Looking for words in every list: Ctrl+F brings up a bar at the list's foot.
 
@@ -77,7 +78,7 @@ TEST_P(EveryListFindTest, LeavesTheCellWhereItIsWhileTypingIsNotEntered) {
     EXPECT_EQ(current(), u"2,%1"_s.arg(list.text));
     EXPECT_EQ(box().Text(), u"改过");
     EXPECT_TRUE(box().Visible());
-    EXPECT_EQ(bar.note(), u"先按回车或 Esc");
+    EXPECT_TRUE(bar.note().contains(u"先在那里按回车或 Esc"_s));
     escape();
     bar.next();
     EXPECT_EQ(current(), u"5,%1"_s.arg(list.text));
@@ -134,11 +135,11 @@ protected:
 TEST_F(FindTest, TakesNoTimeThatIsFeltInTenYearsOfExpenses) {
     openWith(3641);
     bar.open();
-    QElapsedTimer time;
-    time.start();
+    const std::clock_t before = std::clock(); // the program's own time, whatever else the machine does
     rig.type(bar.words(), u"36"_s);
     bar.next();
-    EXPECT_LT(time.elapsed(), 400); // three times through a list that nothing was made quick for
+    const double seconds = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+    EXPECT_LT(seconds, 0.3); // three times through the list, in the slowest of builds
     bar.look(u"备注3641"_s);
     EXPECT_EQ(current(), u"3641,7");
 }
