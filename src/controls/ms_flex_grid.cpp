@@ -185,6 +185,12 @@ bool MSFlexGrid::isAmountColumn(int col) const {
     return std::find(m_amounts.begin(), m_amounts.end(), col) != m_amounts.end();
 }
 
+void MSFlexGrid::setMarked(bool marked) {
+    m_marked = marked;
+    viewport()->update();
+    verticalHeader()->viewport()->update();
+}
+
 void MSFlexGrid::showTop() {
     m_due = Scroll::ToTop;
     changed();

@@ -98,7 +98,9 @@ public:
     bool isCut(int row, int col) const;
 
     /// For the style: whether marks of the current cell are drawn.
-    bool marksCurrent() const { return isEnabled(); }
+    bool marksCurrent() const { return isEnabled() || m_marked; }
+    /// Draws them in a disabled list too, where something was looked for and found.
+    void setMarked(bool marked);
 
 signals:
     /// The cells have moved under the widgets that lie on them.
@@ -131,6 +133,7 @@ private:
     int m_row = 1, m_col = 1;
     GridColumns m_columns;
     std::vector<int> m_amounts;
+    bool m_marked = false;
     bool m_stale = false;        ///< something was written that the view does not show yet
     bool m_staleColumns = false; ///< a column's width was
     Scroll m_due = Scroll::None;

@@ -83,6 +83,7 @@ public:
     void tabClicked(PageCode code) override { open(code); }
     void formClicked() override;
     void rescue(RescuedTexts& texts) const override;
+    std::vector<EditorTarget> searchedLists() const override { return {{m_editing.box, m_grid}}; }
 
 protected:
     /// The table on view.

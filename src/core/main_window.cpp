@@ -1,5 +1,6 @@
 #include "core/main_window.h"
 
+#include "core/find_bar.h"
 #include "core/stored_choice.h"
 #include "core/stored_picture.h"
 #include "core/window_shape.h"
@@ -7,6 +8,7 @@
 #include "store/data_file.h"
 #include "store/header_toggle.h"
 
+#include <QShortcut>
 #include <QTimer>
 
 namespace qinghe {
@@ -56,6 +58,14 @@ void MainWindow::bindEvents() {
     // header stays healed and the pictures stay.
     CloseAsked = [] { throw handlers::ProgramEnd{0}; };
     Timer1->Tick = [this] { m_titleBand.showTime(); };
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+            [this] { handlers::enter([this] { openFindBar(); }); });
+}
+
+void MainWindow::openFindBar() {
+    if (!m_findBar)
+        m_findBar = new FindBar(*this);
+    m_findBar->open();
 }
 
 void MainWindow::load() {

@@ -10,6 +10,8 @@
 
 namespace qinghe {
 
+class FindBar;
+
 /// The main window, `Form2`: its load, tray and drag, and what all pages share. The pages themselves stand above this
 /// floor and enter themselves with the navigation.
 class MainWindow : public Form {
@@ -28,6 +30,8 @@ public:
     Shared& shared() { return m_shared; }
     Navigation& navigation() { return m_navigation; }
     const Navigation& navigation() const { return m_navigation; }
+    /// The picture behind the desktop's figures.
+    Image& desktopPicture() { return *m_desktop->Image2; }
 
     Adodc* Adodc1; // nearly every page's table
     Adodc* Adodc2; // the second recordset of a page
@@ -36,6 +40,7 @@ public:
 
 private:
     void bindEvents();
+    void openFindBar();
     void refuseSecondCopy();
     void startClock();
     void readTraySetting();
@@ -55,6 +60,7 @@ private:
     Navigation m_navigation;
     TitleBand m_titleBand;
     DesktopPage* m_desktop;
+    QPointer<FindBar> m_findBar; ///< made at its first use; a child of the page that it was last at
 
     QElapsedTimer m_sinceReturn; ///< from the tray
 

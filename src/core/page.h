@@ -4,8 +4,11 @@
 #include "core/names.h"
 
 #include <span>
+#include <vector>
 
 namespace qinghe {
+
+struct EditorTarget;
 
 class Navigation;
 class RescuedTexts;
@@ -49,6 +52,8 @@ public:
     virtual void windowLoads() {}
     /// A run-time error ends the program: what was typed here and is not in the book is to be told.
     virtual void rescue(RescuedTexts& texts) const { Q_UNUSED(texts) }
+    /// The lists on this page in which words can be looked for at present (FindBar), the usual one first.
+    virtual std::vector<EditorTarget> searchedLists() const;
 
 protected:
     Navigation& navigation() const { return m_navigation; }

@@ -39,6 +39,7 @@ void TitleBand::makeWords() {
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);
     Label20->Click = [this] { Form2_Label20_Click(); };
+    Label20->setToolTip(u"首页（本机网页）"_s);
     showHandOver(Label20);
 }
 

@@ -25,7 +25,8 @@ constexpr RowButtonTraits Buttons{
     .saveCaption = u"保存日志",
     .saveWidth = 1380,
 };
-constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
+constexpr QStringView HowToRead = u"点标题看正文"; ///< on empty paper
+constexpr double PickerGap = 300;                  ///< twips from the top of the box to the picker
 
 } // namespace
 
@@ -59,6 +60,7 @@ void DiaryPage::bindEvents() {
     Option5->Click = [this] { Form2_Option5_Click(); };
     for (OptionButton* option : {Option6, Option5})
         showHandOver(option);
+    m_buttons.remove->setToolTip(u"删除日记列表里的第一条，不看这里填了什么；\n正文的文件会留着。"_s);
     m_buttons.add->Click = [this] { Form2_Command22_Click(); };
     m_buttons.remove->Click = [this] { Form2_Command23_Click(); };
     m_buttons.save->Click = [this] { Form2_Command24_Click(); };
@@ -90,6 +92,7 @@ void DiaryPage::Form2_Option6_Click() {
     tx8->setBoxText({});
     ms8->setRows(2);
     diarySearchMode = false;
+    tx8->setPlaceholderText({});
     m_editing.close();
     m_buttons.setUsable(true);
     blankRows(*ms8);
@@ -99,6 +102,7 @@ void DiaryPage::Form2_Option6_Click() {
 void DiaryPage::Form2_Option5_Click() {
     m_shared.unloadDatePicker();
     diarySearchMode = true;
+    tx8->setPlaceholderText(HowToRead.toString());
     m_editing.close();
     m_buttons.setUsable(false);
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
@@ -106,6 +110,12 @@ void DiaryPage::Form2_Option5_Click() {
     ms8->setRows(2);
     // An empty text goes to the row number that all lists share, the loan grid's.
     fillList(*ms8, entries, shownFields(Columns), [this] { return m_shared.loanRow(); });
+}
+
+std::vector<EditorTarget> DiaryPage::searchedLists() const {
+    if (!diarySearchMode)
+        return {};
+    return {{m_editing.box, ms8}};
 }
 
 // ---- the grid and its box

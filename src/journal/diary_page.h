@@ -18,6 +18,8 @@ public:
     explicit DiaryPage(MainWindow& window);
 
     void tabClicked(PageCode) override { Form2_Label8_Click(); }
+    /// In find mode; one entry that is being written is no list.
+    std::vector<EditorTarget> searchedLists() const override;
 
     void rescue(RescuedTexts& texts) const override;
 

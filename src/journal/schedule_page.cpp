@@ -107,6 +107,8 @@ void SchedulePage::bindEvents() {
     markHovered(*Frame18, {Command29});
     Check1->Click = [this] { Form2_Check1_Click(); };
     showHandOver(Check1);
+    Check1->setToolTip(
+        u"从下次登陆起算数，不会开始或停止本次运行里的提醒。\n点“保存日程和设置”时，也按这里的勾记下。"_s);
 }
 
 void SchedulePage::windowLoads() {

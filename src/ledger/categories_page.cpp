@@ -95,6 +95,9 @@ void CategoriesPage::bindEvents() {
     m_minors.buttons.add->Click = [this] { Form2_Command10_Click(); };
     m_minors.buttons.remove->Click = [this] { Form2_Command11_Click(); };
     m_minors.buttons.save->Click = [this] { Form2_Command12_Click(); };
+    m_majors.buttons.save->setToolTip(u"只保存大类：原有的小类和快速代码会全部清掉。"_s);
+    m_minors.buttons.save->setToolTip(
+        u"取代当前大类原有的内容：\n下次打开时，这些小类列在大类里，快速代码列在小类里。"_s);
     m_shared.openCategories = [this] { enter(); };
 }
 
@@ -109,6 +112,13 @@ void CategoriesPage::rescue(RescuedTexts& texts) const {
         m_majors.rescue(texts, *m_majorsLoaded);
     if (m_minorsLoaded)
         m_minors.rescue(texts, *m_minorsLoaded);
+}
+
+std::vector<EditorTarget> CategoriesPage::searchedLists() const {
+    std::vector<EditorTarget> lists{{m_majors.editing.box, m_majors.grid}};
+    if (m_minors.grid->isEnabled()) // those of a major
+        lists.push_back({m_minors.editing.box, m_minors.grid});
+    return lists;
 }
 
 void CategoriesPage::enter() {

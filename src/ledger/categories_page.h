@@ -20,6 +20,7 @@ public:
 
     void left() override;
     void rescue(RescuedTexts& texts) const override;
+    std::vector<EditorTarget> searchedLists() const override;
 
     void Form2_Option3_Click();
     void Form2_Option4_Click();

@@ -78,6 +78,7 @@ void IncomeExpensePage::placeControls() {
     Option9->place(3660, 390, 2280, 300);
     Label10->place(240, 5760, 11000, 375);
     Label10->setRole(Role::Total);
+    Label10->setToolTip(u"打开本页时算的总额，之后的增删和保存没有计入；\n再点一次上面的“收入”或“支出”就会重算。"_s);
 }
 
 const IncomeExpensePage::Side& IncomeExpensePage::side() const {

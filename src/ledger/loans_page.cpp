@@ -93,6 +93,7 @@ LoansPage::LoansPage(MainWindow& window)
     Option2->place(1560, 390, 1200, 300);
     Label11->place(240, 5760, 11000, 375);
     Label11->setRole(Role::Total);
+    Label11->setToolTip(u"换到这张表时算的总额，之后的增删和保存没有计入；\n在借入表和借出表之间换一次就会重算。"_s);
     Option1->Click = [this] { Form2_Option1_Click(); };
     Option2->Click = [this] { Form2_Option2_Click(); };
     for (OptionButton* option : {Option1, Option2})

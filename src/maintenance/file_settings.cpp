@@ -17,13 +17,15 @@ FileSettings::FileSettings(MainWindow& form, Frame& page)
       Frame19(new Frame(&page, u"Frame19"_s, u"文件设置"_s)),
       Option14(new OptionButton(Frame19, u"Option14"_s, u"系统数据备份"_s)),
       Option16(new OptionButton(Frame19, u"Option16"_s, u"系统数据还原"_s)),
-      m_caution(new Label(Frame19, {}, u"以下操作不能恢复，请先备份"_s)),
+      m_caution(new Label(Frame19, {}, u"还原和以下操作不能恢复，请先备份"_s)),
       Check3(new CheckBox(Frame19, u"Check3"_s, u"选择删除记录数据..."_s)),
       Check2(new CheckBox(Frame19, u"Check2"_s, u"格式化日志"_s)),
       Check4(new CheckBox(Frame19, u"Check4"_s, u"初始化系统数据"_s)) {
     placeControls();
     Option14->Click = [this] { Form2_Option14_Click(); };
     Option16->Click = [this] { Form2_Option16_Click(); };
+    Option16->setToolTip(
+        u"备份文件会覆盖现在的整个账本：\n各页的记录、分类、用户和密码、设置和图片。\n日记的正文不在账本里，不会改变。"_s);
     Check2->Click = [this] { Form2_Check2_Click(); };
     Check3->Click = [this] { Form2_Check3_Click(); };
     Check4->Click = [this] { Form2_Check4_Click(); };

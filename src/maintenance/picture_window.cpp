@@ -32,6 +32,9 @@ constexpr PictureTarget Targets[] = {
         .nameWords = u"名称",
         .browse = u"打开",
         .store = u"保存",
+        .turned = &DesktopPicture,
+        .next = u"换下一张桌面图片",
+        .turnedTo = u"桌面图片已换成“%1”。",
     },
     {
         .form = names::InjectSignInPicture,
@@ -43,6 +46,11 @@ constexpr PictureTarget Targets[] = {
         .nameWords = u"文件名",
         .browse = u"Command1",
         .store = u"Command2",
+        .browseTip = u"选择图片文件",
+        .storeTip = u"保存图片",
+        .turned = &SignInPicture,
+        .next = u"换下一张登陆图片",
+        .turnedTo = u"登陆图片已换成“%1”，下次启动时显示。",
     },
 };
 
@@ -73,6 +81,8 @@ PictureWindow::PictureWindow(Shared& shared, const PictureTarget& target)
     Text2->place(1440, 960, 3000, 330);
     Command2->place(4560, 1740, 1200, 390);
     Command2->setRole(Role::Primary);
+    Command1->setToolTip(target.browseTip.toString());
+    Command2->setToolTip(target.storeTip.toString());
     Command1->Click = [this] { choosePicture(); };
     Command2->Click = [this] { storePicture(); };
     markHovered(*this, {Command1, Command2});

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/common_dialog.h"
-#include "core/picture_tables.h"
 #include "core/shared.h"
+#include "core/stored_picture.h"
 
 #include <span>
 
@@ -19,6 +19,12 @@ struct PictureTarget {
     QStringView nameWords;
     QStringView browse; ///< the caption of Command1
     QStringView store;  ///< the caption of Command2
+    QStringView browseTip = {}, storeTip = {};
+    /// The picture of whose rows the first counts, and how the settings' menu calls the way to the next one; none where
+    /// there is a list to choose from.
+    const StoredPicture* turned = nullptr;
+    QStringView next = {};
+    QStringView turnedTo = {}; ///< what is told then, with the name for %1
 };
 
 /// The skins on offer, the desktop's picture, the picture of the sign-in.

@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "platform/front_window.h"
 #include "runtime/blanks.h"
 
 namespace qinghe {
@@ -45,6 +46,7 @@ PurgeWindow::PurgeWindow(Shared& shared)
     Frame1->setRole(Role::InnerFrame);
     makeBoxes();
     makeDate();
+    keepInSight(*Frame1); // the question is about what is ticked there
     makeHelp();
     Command1 = new CommandButton(this, u"Command1"_s, u"开始删除"_s);
     Command1->place(4980, 4020, 1380, 390);

@@ -2,6 +2,7 @@
 
 #include "core/hover.h"
 #include "core/stored_choice.h"
+#include "maintenance/next_picture.h"
 #include "maintenance/picture_window.h"
 
 namespace qinghe {
@@ -17,6 +18,7 @@ constexpr PageTraits Settings{u"Frame16", u"设置", 120, 1680, 11655, 6135, Tab
 
 SettingsPage::SettingsPage(MainWindow& form)
     : Page(form.navigation(), Settings),
+      m_window(form),
       m_shared(form.shared()),
       Adodc1(*form.Adodc1),
       Frame20(new Frame(&frame(), u"Frame20"_s, u"系统设置"_s)),
@@ -50,16 +52,33 @@ void SettingsPage::placeBoxes() {
 }
 
 void SettingsPage::makePictureMenu() {
-    for (const PictureTarget& target : pictureTargets()) {
-        const QAction* entry = m_pictures->addAction(target.entry.toString());
-        connect(entry, &QAction::triggered, this,
-                [this, form = target.form] { handlers::enter([this, form] { m_shared.forms.get(form).showForm(); }); });
-    }
+    const auto add = [this](QStringView words, const std::function<void()>& chosen) {
+        connect(m_pictures->addAction(words.toString()), &QAction::triggered, this,
+                [chosen] { handlers::enter(chosen); });
+    };
+    for (const PictureTarget& target : pictureTargets())
+        add(target.entry, [this, form = target.form] { m_shared.forms.get(form).showForm(); });
+    m_pictures->addSeparator();
+    for (const PictureTarget& target : pictureTargets())
+        if (target.turned)
+            add(target.next, [this, &target] { turnPicture(target); });
+}
+
+void SettingsPage::turnPicture(const PictureTarget& target) {
+    const bool isDesktop = target.turned == &DesktopPicture;
+    Image& desktop = m_window.desktopPicture();
+    const auto next = turnToNext(*target.turned, Adodc1, m_shared, desktop);
+    if (!next)
+        return m_shared.tell(u"没有存着别的图片，请先用“%1”添加一张。"_s.arg(target.entry), u"提示"_s);
+    if (isDesktop)
+        desktop.setPicture(next->image);
+    m_shared.tell(target.turnedTo.toString().arg(next->name), u"提示"_s);
 }
 
 void SettingsPage::bindEvents() {
     Check7->Click = [this] { Form2_Check7_Click(); };
     Check8->Click = [this] { Form2_Check8_Click(); };
+    Check8->setToolTip(u"从下次登陆起算数，不会开始或停止本次运行里的提醒。\n在日程页保存日程时，会按那里的勾改写。"_s);
     for (CheckBox* box : {Check5, Check7, Check8})
         showHandOver(box);
     markHovered(*Frame20, {m_skins.Command30, Command31, Command32});

@@ -7,6 +7,8 @@
 
 namespace qinghe {
 
+struct PictureTarget;
+
 /// The settings page, `Frame16`. Every box and option acts at once; nothing is to be confirmed. Here stand the options
 /// of the system (`Frame20`) and the ways to the categories and to the windows that store pictures; what belongs to a
 /// skin stands in SkinChoice, what belongs to the data in FileSettings.
@@ -26,8 +28,10 @@ public:
 private:
     void placeBoxes();
     void makePictureMenu();
+    void turnPicture(const PictureTarget& target);
     void bindEvents();
 
+    MainWindow& m_window;
     Shared& m_shared;
     Adodc& Adodc1;
     Frame* Frame20;           // 系统设置

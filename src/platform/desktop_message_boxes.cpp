@@ -93,6 +93,7 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
     box.setStandardButtons(buttonsOf(style));
     captionButtons(box);
     lay(box);
+    standClear(box);
     return answerOf(box.exec());
 }
 

@@ -35,6 +35,20 @@ TEST_F(ChartControlTest, ShowsItsSamplePaleAndCallsItOne) {
     EXPECT_GT(columnPixels(), 2000);
 }
 
+TEST_F(ChartControlTest, TellsEachMonthOfTheWholeSpanUnderThePointer) {
+    QVariantList rows;
+    for (int i = 0; i < 120; ++i)
+        rows << QVariant(row(QDate(2014, 12, 5).addMonths(i).toString(u"yyyy-M-"_s).left(7), 14000.5 + i));
+    chart.setChartData(rows, ChartLabels::Months);
+    EXPECT_EQ(chart.scrolled(), chart.places().longestScroll());
+    chart.showWhole(true);
+    EXPECT_FALSE(scrolls());
+    const QString tip = tipOver(60);
+    EXPECT_TRUE(tip.contains(u"2019-12"_s)) << tip.toStdString();
+    EXPECT_TRUE(tip.contains(u"14060.50"_s)) << tip.toStdString();
+    EXPECT_GT(columnPixels(), 2000);
+}
+
 TEST_F(ChartControlTest, GivesBackTheDataItTook) {
     const QVariantList data{QVariant(row(u"2024-5-"_s, 12.5)), QVariant(row(u""_s, QVariant()))};
     chart.setProperty("ChartData", data);

@@ -1,4 +1,5 @@
 #include "journal/diary_rig.h"
+#include "support/find_bar.h"
 
 #include <QScrollBar>
 
@@ -134,6 +135,34 @@ TEST_F(DiaryFinding, AListOfManyEntriesNeedsNoBarAcross) {
     EXPECT_FALSE(ms8().horizontalScrollBar()->isVisible());
     ms8().ensureVisible(28, 2);
     EXPECT_TRUE(ms8().cellRoom().contains(ms8().cellRect(28, 2)));
+}
+
+TEST_F(DiaryFinding, TheBarFindsATitleInFindModeAloneAndGoesWithIt) {
+    FindBarRig bar{rig};
+    bar.open(); // an entry that is being written is no list
+    EXPECT_FALSE(bar.isUp());
+    for (const QString& title : {u"播种"_s, u"插秧"_s, u"收割"_s})
+        saveEntry(u"2024-5-3"_s, title, {u"text"_s});
+    find();
+    const QString text = shown(1);
+    bar.look(u"收割"_s);
+    EXPECT_EQ(currentOf(ms8()), u"3,2");
+    EXPECT_EQ(tx8().Text(), text);
+    bar.look(u"2024-5"_s);
+    EXPECT_EQ(bar.note(), u"1 / 3");
+    write();
+    rig.settle();
+    EXPECT_FALSE(bar.isUp());
+    EXPECT_EQ(ms8().height(), pixelEdge(4815));
+}
+
+TEST_F(DiaryFinding, TheEmptyPaperSaysHowATextIsReadInFindModeAlone) {
+    EXPECT_NE(tx8().placeholderText(), u"点标题看正文");
+    saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});
+    find();
+    EXPECT_EQ(tx8().placeholderText(), u"点标题看正文");
+    write();
+    EXPECT_NE(tx8().placeholderText(), u"点标题看正文");
 }
 
 } // namespace

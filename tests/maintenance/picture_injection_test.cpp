@@ -92,7 +92,14 @@ TEST_F(PictureInjectionTest, TheMenuOfTheButtonOpensEachOfThem) {
         EXPECT_TRUE(rig.loaded(window.form)->isVisible());
         EXPECT_FALSE(menu().isVisible());
     }
-    EXPECT_EQ(menu().actions().size(), 3);
+    EXPECT_EQ(menu().actions().mid(0, 4).last()->isSeparator(), true); // behind them the ways to the next ones
+}
+
+TEST_F(PictureInjectionTest, ButtonsWhoseWordsSayNothingHaveToolTips) {
+    const Expected& signIn = Windows[2];
+    open(signIn);
+    EXPECT_EQ(in(signIn, pictures::Browse).toolTip(), u"选择图片文件");
+    EXPECT_EQ(in(signIn, pictures::Store).toolTip(), u"保存图片");
 }
 
 TEST_F(PictureInjectionTest, EachBearsItsOwnWords) {

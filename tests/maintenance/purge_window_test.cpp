@@ -1,7 +1,10 @@
 #include "maintenance/purge_rig.h"
+#include "platform/desktop_message_boxes.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QScreen>
+#include <QTimer>
 
 // The purge window: how it comes and goes, what it shows, and where its date comes from.
 
@@ -12,6 +15,25 @@ using namespace Qt::StringLiterals;
 
 class PurgeWindowTest : public PurgeTest {
 protected:
+    /// Of a real box on the screen, which is answered with no.
+    QRect placeOfQuestion() {
+        rig.program->shared().services.messages = std::make_unique<DesktopMessageBoxes>();
+        window()->activateWindow();
+        QRect place;
+        QTimer::singleShot(0, window(), [&place] {
+            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(question);
+            place = question->frameGeometry();
+            question->button(QMessageBox::No)->click();
+        });
+        rig.click(inside<CommandButton>(purge::Start));
+        return place;
+    }
+    /// The ticks and the date on the screen.
+    QRect asked() {
+        const auto& records = inside<Frame>(purge::Records);
+        return {records.mapToGlobal(QPoint()), records.size()};
+    }
     Form* picker() { return rig.loaded(forms::DatePicker); }
     void openPicker() {
         rig.click(date());
@@ -204,6 +226,17 @@ TEST_F(PurgeWindowTest, LetsItsDateBeTyped) {
     EXPECT_EQ(QApplication::focusWidget(), &date());
     rig.type(date(), u"2024-5-3"_s);
     EXPECT_EQ(date().Text(), u"2024-5-3");
+}
+
+TEST_F(PurgeWindowTest, TheQuestionStandsBelowTheTicksAndTheDateThatItAsksAbout) {
+    const QRect box = placeOfQuestion();
+    EXPECT_GT(box.top(), asked().bottom());
+    EXPECT_TRUE(window()->screen()->availableGeometry().contains(box));
+}
+
+TEST_F(PurgeWindowTest, TheQuestionStandsAboveThemWhereTheScreenEnds) {
+    window()->move(window()->x(), window()->screen()->availableGeometry().bottom() - 220);
+    EXPECT_LT(placeOfQuestion().bottom(), asked().top());
 }
 
 } // namespace

@@ -37,6 +37,7 @@ void openPurge(Program& program) {
 void startPurge(Program& program, const std::vector<std::string>& told) {
     program.click(purge::Start);
     EXPECT_EQ(program.message(), question);
+    EXPECT_GT(program.place("QMessageBox").top(), program.place(purge::Records).bottom()); // below what it asks about
     program.answer("是");
     for (const std::string& text : told) {
         EXPECT_EQ(program.message(), (Message{text, "提示", Message::Information, {"确定"}}));
