@@ -41,7 +41,7 @@ bool CellEditor::event(QEvent* event) {
     if (event->type() == QEvent::ContextMenu) {
         if (m_grid.hints.openMenu(m_row, m_col, *static_cast<QContextMenuEvent*>(event)))
             return true;
-    } else if (event->type() == QEvent::ToolTip) {
+    } else if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
         m_grid.hints.tell(m_row, m_col, static_cast<QHelpEvent*>(event)->globalPos());
         return true;
     } else if (!isEnabled() && hearsWhenClosed && closedEvent(*event)) {

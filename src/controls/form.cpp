@@ -111,7 +111,8 @@ void Form::hang() {
     const QScreen* screen = QGuiApplication::screenAt(hanging.asked);
     if (!screen)
         screen = QGuiApplication::primaryScreen();
-    const QPoint place = placeBeside(hanging.field, {hanging.asked, frameGeometry().size()}, screen->availableGeometry());
+    const QPoint place =
+        placeBeside(hanging.field, {hanging.asked, frameGeometry().size()}, screen->availableGeometry());
     if (place != pos())
         moveTo(place.x() * TwipsPerPixel, place.y() * TwipsPerPixel);
 }

@@ -7,8 +7,31 @@ bool FieldTarget::isCellOf(const FieldTarget& other) const {
 }
 
 bool FieldTarget::isOpen() const {
-    return box && box->Visible() && grid && grid->isEnabled() && grid->isVisible() && row < grid->Rows() &&
-           col < grid->Cols();
+    const TextBox* const over = box;
+    const MSFlexGrid* const list = grid;
+    return over && over->Visible() && list && list->isEnabled() && list->isVisible() && row < list->Rows() &&
+           col < list->Cols();
+}
+
+void FieldTarget::fill(const QString& text) const {
+    TextBox* const over = box;
+    MSFlexGrid* const list = grid;
+    if (!over || !list)
+        return;
+    over->setBoxText(text);
+    list->setTextMatrix(row, col, over->Text());
+}
+
+void FieldTarget::takeKeyboard() const {
+    TextBox* const over = box;
+    MSFlexGrid* const list = grid;
+    if (!over || !list)
+        return;
+    over->activateWindow();
+    if (over->isEnabled())
+        over->takeFocus();
+    else
+        list->takeFocus();
 }
 
 QPointF placeBelow(const QWidget& control, double twips) {

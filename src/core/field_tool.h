@@ -28,6 +28,10 @@ struct FieldTarget {
     bool isCellOf(const FieldTarget& other) const;
     /// Whether the cell is still being written into: its box lies open in a grid that takes input and still has it.
     bool isOpen() const;
+    /// Puts a text into the box and into the cell.
+    void fill(const QString& text) const;
+    /// Gives the keyboard back to the box, or to the grid where the box takes none.
+    void takeKeyboard() const;
 };
 
 /// The place on the screen at a control's left edge, so many twips below its upper one; for a tool that hangs there.

@@ -28,20 +28,6 @@ constexpr std::array<Operator, 6> Operators{{
     {u"sqrt", 3000, 1560, 495, 960},
 }};
 
-void fill(const FieldTarget& field, const QString& number) {
-    field.box->setBoxText(number);
-    field.grid->setTextMatrix(field.row, field.col, field.box->Text());
-}
-
-/// The keyboard goes back to where the number came from.
-void takeKeyboard(const FieldTarget& field) {
-    field.box->activateWindow();
-    if (field.box->isEnabled())
-        field.box->takeFocus();
-    else
-        field.grid->takeFocus();
-}
-
 } // namespace
 
 Calculator::Calculator(Shared& shared)
@@ -168,16 +154,17 @@ void Calculator::keyPressEvent(QKeyEvent* event) {
 }
 
 void Calculator::handBack() {
-    std::optional<QString> number;
-    try {
-        number = holdsNews() ? m_machine.handOver() : std::nullopt;
-    } catch (const RuntimeError&) {
-        return; // "7/0" ends the program by its "=" and by Enter, not by a click somewhere else
-    }
-    if (!number || !m_field.isOpen())
+    if (!holdsNews() || !m_field.isOpen())
         return;
-    fill(m_field, *number);
-    m_handedBack = true;
+    try {
+        if (const auto number = m_machine.handOver()) {
+            m_field.fill(*number);
+            m_handedBack = true;
+        }
+    } catch (const RuntimeError&) {
+        // "7/0" ends the program by its "=" and by Enter, not by a click somewhere else: it has no number to give.
+    }
+    showDisplay();
 }
 
 /// Goes away; what was reckoned goes into the cell that asked. A glance hands nothing back. Tells whether the cell
@@ -189,8 +176,8 @@ bool Calculator::finish() {
     if (news != number.has_value() || !m_field.isOpen())
         return false;
     if (number)
-        fill(m_field, *number);
-    takeKeyboard(m_field);
+        m_field.fill(*number);
+    m_field.takeKeyboard();
     return true;
 }
 

@@ -70,6 +70,17 @@ TEST_F(CalculatorTest, HasItsKeysInTheirPlaces) {
     EXPECT_TRUE(shown.isReadOnly());
 }
 
+TEST_F(CalculatorTest, HasOneMainButtonBelowTheKeysThatSaysWhatItDoes) {
+    CommandButton& fill = key(calculator::Fill);
+    EXPECT_EQ(fill.text(), u"填入（回车）");
+    EXPECT_EQ(fill.role(), Role::Primary);
+    EXPECT_TRUE(calculator().rect().contains(fill.geometry()));
+    for (const Key& entry : Keys) {
+        EXPECT_NE(key(entry.name).role(), Role::Primary);
+        EXPECT_LT(key(entry.name).geometry().bottom(), fill.geometry().top());
+    }
+}
+
 TEST_F(CalculatorTest, StartsWithZero) {
     EXPECT_EQ(display(), u"0");
 }

@@ -223,7 +223,7 @@ TEST_F(HandBackTest, GivesTheNumberToTheSaveBeforeItLooksForGaps) {
 
 TEST_F(HandBackTest, GivesTheNumberToTheAmountThatIsLeftForAnotherOneAndHasDoneWithIt) {
     ms2().setRows(3);
-    type(u"80"_s);
+    type(u"60+20"_s);
     rig.clickCell(ms2(), 2, 5);
     EXPECT_EQ(amount(), u"80");
     EXPECT_EQ(tx2().Text(), u"");
