@@ -8,7 +8,6 @@ namespace qinghe {
 
 namespace {
 
-constexpr int LeftButtonDown = 513;
 constexpr int BalloonMs = 8000; ///< how long a balloon stays
 
 } // namespace
@@ -16,7 +15,7 @@ constexpr int BalloonMs = 8000; ///< how long a balloon stays
 int trayMessage(QSystemTrayIcon::ActivationReason reason) {
     switch (reason) {
     case QSystemTrayIcon::Trigger:
-        return LeftButtonDown;
+        return 513;
     case QSystemTrayIcon::DoubleClick:
         return 515;
     case QSystemTrayIcon::Context:
@@ -35,19 +34,17 @@ void DesktopTray::add(const QString& tip, std::function<void(int)> onMessage) {
         return;
     m_icon = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
     m_icon->setToolTip(tip);
+    // A press on the balloon is left alone: Qt tells of one for every button on the icon while a balloon stands.
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(),
-                     [this](QSystemTrayIcon::ActivationReason reason) { send(trayMessage(reason)); });
-    QObject::connect(m_icon.get(), &QSystemTrayIcon::messageClicked, m_icon.get(), [this] { send(LeftButtonDown); });
+                     [this](QSystemTrayIcon::ActivationReason reason) {
+                         handlers::enter([this, reason] { m_onMessage(trayMessage(reason)); });
+                     });
     m_icon->show();
 }
 
 void DesktopTray::tell(const QString& text) {
     if (m_icon)
         m_icon->showMessage(productName(), text, m_icon->icon(), BalloonMs);
-}
-
-void DesktopTray::send(int message) {
-    handlers::enter([this, message] { m_onMessage(message); });
 }
 
 } // namespace qinghe

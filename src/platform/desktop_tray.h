@@ -21,8 +21,6 @@ public:
     QSystemTrayIcon* icon() const { return m_icon.get(); }
 
 private:
-    void send(int message);
-
     std::unique_ptr<QSystemTrayIcon> m_icon;
     std::function<void(int)> m_onMessage;
 };

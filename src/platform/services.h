@@ -59,8 +59,7 @@ public:
     /// Adds the program's icon, which stays; once more changes nothing for the user. `tip` is shown under the pointer.
     /// The icon's events arrive at `onMessage` with the message number of the mouse (513: the left button's press).
     virtual void add(const QString& tip, std::function<void(int message)> onMessage) = 0;
-    /// Shows a balloon at the icon that was added, for a while; a press on it is a press of the left button on the
-    /// icon.
+    /// Shows a balloon at the icon that was added, for a while.
     virtual void tell(const QString& text) = 0;
 };
 

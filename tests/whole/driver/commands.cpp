@@ -167,6 +167,8 @@ Outcome choose(const QJsonObject& command) {
     auto* name = chooser ? chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")) : nullptr;
     if (!name)
         throw Refusal{QStringLiteral("no file chooser is shown")};
+    if (!chooser->isActiveWindow())
+        throw Refusal{QStringLiteral("the file chooser has not the keyboard yet")};
     name->setText(textIn(command, "file"));
     return {{}, key(QStringLiteral("Return"))};
 }
