@@ -1,8 +1,14 @@
 #include "controls/cell_editor.h"
 
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
 #include <algorithm>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 
 CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : TextBox(frame, name), m_grid(grid) {
     setRole(Role::CellEditor);
@@ -13,6 +19,7 @@ CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : 
         if (Visible())
             followCell();
     });
+    connect(&grid, &MSFlexGrid::refreshed, this, [this] { update(); });
 }
 
 void CellEditor::place() {
@@ -22,7 +29,7 @@ void CellEditor::place() {
 }
 
 void CellEditor::followCell() {
-    if (m_row >= m_grid.Rows() || m_col >= m_grid.Cols())
+    if (!isOverCell())
         return;
     Placed::place(m_grid.Left() + m_grid.ColPos(m_col), m_grid.Top() + m_grid.RowPos(m_row), m_grid.ColWidth(m_col),
                   m_grid.RowHeight(m_row));
@@ -32,6 +39,24 @@ void CellEditor::followCell() {
 void CellEditor::lay() {
     place();
     setBoxText(m_grid.Text());
+}
+
+bool CellEditor::differsFromCell() const {
+    return Visible() && isOverCell() && Text() != m_grid.TextMatrix(m_row, m_col);
+}
+
+QString CellEditor::objection() const {
+    return isOverCell() && !differsFromCell() ? m_grid.objectionTo(m_row, m_col) : QString();
+}
+
+bool CellEditor::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return TextBox::event(event);
+    const QString words = differsFromCell() ? u"按回车写进表格"_s : objection();
+    if (words.isEmpty())
+        return TextBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(words), this);
+    return true;
 }
 
 /// Where its cell reaches under the list's right end the box ends there, edge and all; above and below it slips under

@@ -37,6 +37,7 @@ MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
     : QTableView(parent),
       Placed(this),
       m_model(new GridModel(this)),
+      m_changes(*m_model),
       m_bar(new ReadingBar(*this)),
       m_rim(new GridRim(this)) {
     setObjectName(name);
@@ -129,12 +130,16 @@ int MSFlexGrid::firstEmpty(int row, int from, int behindLast) const {
 }
 
 void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
+    m_model->checkRow(row);
+    m_model->checkCol(col);
+    m_changes.writing(row, col, text);
     m_model->setCell(row, col, text);
     changed();
 }
 
 void MSFlexGrid::RemoveItem(int row) {
     m_model->removeRow(row);
+    m_changes.rowRemoved(row);
     m_row = std::min(m_row, Rows() - 1);
     changed();
 }
@@ -185,6 +190,11 @@ void MSFlexGrid::setAmountColumns(std::vector<int> columns) {
 
 bool MSFlexGrid::isAmountColumn(int col) const {
     return std::find(m_amounts.begin(), m_amounts.end(), col) != m_amounts.end();
+}
+
+QString MSFlexGrid::objectionTo(int row, int col) const {
+    // The view may paint cells that have gone since it was told.
+    return Objection && row < Rows() && col < Cols() ? Objection(row, col) : QString();
 }
 
 void MSFlexGrid::showTop() {
@@ -249,6 +259,7 @@ void MSFlexGrid::bringUpToDate() {
     horizontalHeader()->viewport()->update();
     verticalHeader()->viewport()->update();
     emit scrolled();
+    emit refreshed();
 }
 
 void MSFlexGrid::layColumns() {
@@ -341,15 +352,24 @@ bool MSFlexGrid::viewportEvent(QEvent* event) {
     }
     if (event->type() != QEvent::ToolTip)
         return QTableView::viewportEvent(event);
-    // A text that does not fit is told whole.
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
-    if (index.isValid() && !fits(index))
-        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(index.data().toString()), viewport(),
-                           visualRect(index));
-    else
+    const QString words = index.isValid() ? toolTipOf(index) : QString();
+    if (words.isEmpty())
         QToolTip::hideText();
+    else
+        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(words), viewport(), visualRect(index));
     return true;
+}
+
+/// Why the cell's text will be refused; a text that does not fit is told whole.
+QString MSFlexGrid::toolTipOf(const QModelIndex& index) const {
+    QStringList lines;
+    if (const QString why = objectionTo(index.row() + 1, index.column() + 1); !why.isEmpty())
+        lines << why;
+    if (!fits(index))
+        lines << index.data().toString();
+    return lines.join(u'\n');
 }
 
 void MSFlexGrid::scrollContentsBy(int dx, int dy) {

@@ -122,6 +122,7 @@ private:
     void layColumns();
     int lastColumn() const { return static_cast<int>(list().columns.size()); }
     Kind kindOf(int column) const;
+    QString objectionTo(int row, int col) const;
     bool opensCalculatorOnEnter(int column) const;
     QPointF toolPlace() const;
     void openDatePicker();
@@ -142,6 +143,7 @@ private:
 
     bool m_hasWorkedOut = false;         ///< a column that takes no typing
     std::shared_ptr<LoadedSet> m_loaded; ///< by load, last
+    TableColumns m_savedTo;              ///< what a save writes the grid's columns to, from the first one on
 };
 
 } // namespace qinghe

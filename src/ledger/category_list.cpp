@@ -46,7 +46,9 @@ void CategoryList::layOut(std::span<const ListColumn> columns) {
 }
 
 void CategoryList::fill(Recordset& records, const std::function<int()>& rowForEmptyText) {
+    grid->restChanges();
     fillList(*grid, records, shownFields(m_columns), rowForEmptyText);
+    grid->watchChanges(records.recordCount());
 }
 
 void CategoryList::entered() {
@@ -103,8 +105,9 @@ void CategoryList::save(Recordset& records) {
         if (filledRowMet)
             writer.add(row);
     }
+    grid->watchChanges(grid->Rows() - 1);
     tellSaved(m_shared);
-    editing.close();
+    editing.closeSaved();
 }
 
 } // namespace qinghe
