@@ -1,6 +1,9 @@
 #include "controls/buttons.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QTextDocument>
+#include <QToolTip>
 
 namespace qinghe {
 
@@ -17,6 +20,21 @@ CommandButton::CommandButton(QWidget* parent, const QString& name, const QString
 void CommandButton::handKeyboardTo(QWidget* heir) {
     m_handsKeyboardOn = true;
     setFocusRefuge(heir);
+}
+
+void CommandButton::setMark(const QString& words) {
+    if (m_mark == words)
+        return;
+    m_mark = words;
+    update();
+}
+
+bool CommandButton::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !isMarked() || !isEnabled())
+        return Button::event(event);
+    const QString words = toolTip().isEmpty() ? m_mark : m_mark + u'\n' + toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(words), this);
+    return true;
 }
 
 void CommandButton::keyPressEvent(QKeyEvent* event) {

@@ -46,11 +46,17 @@ public:
     /// After its click the keyboard goes there, so that a key pressed by chance does not click once more.
     void handKeyboardTo(QWidget* heir);
 
+    /// An amber dot, whose words stand in the tool tip before the button's own; without words there is none.
+    void setMark(const QString& words);
+    bool isMarked() const { return !m_mark.isEmpty(); }
+
 protected:
+    bool event(QEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
 private:
     bool m_handsKeyboardOn = false;
+    QString m_mark;
 };
 
 /// One of a group of options (those in the same container). Set by a user or by code, it raises its click once, and

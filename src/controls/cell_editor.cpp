@@ -2,10 +2,14 @@
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include <algorithm>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 
 CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : TextBox(frame, name), m_grid(grid) {
     setRole(Role::CellEditor);
@@ -16,6 +20,7 @@ CellEditor::CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid) : 
         if (Visible())
             followCell();
     });
+    connect(&grid, &MSFlexGrid::refreshed, this, [this] { update(); });
 }
 
 void CellEditor::place() {
@@ -25,7 +30,7 @@ void CellEditor::place() {
 }
 
 void CellEditor::followCell() {
-    if (m_row >= m_grid.Rows() || m_col >= m_grid.Cols())
+    if (!isOverCell())
         return;
     Placed::place(m_grid.Left() + m_grid.ColPos(m_col), m_grid.Top() + m_grid.RowPos(m_row), m_grid.ColWidth(m_col),
                   m_grid.RowHeight(m_row));
@@ -37,17 +42,32 @@ void CellEditor::lay() {
     setBoxText(m_grid.Text());
 }
 
+bool CellEditor::differsFromCell() const {
+    return Visible() && isOverCell() && Text() != m_grid.TextMatrix(m_row, m_col);
+}
+
+QString CellEditor::objection() const {
+    return isOverCell() && !differsFromCell() ? m_grid.objectionTo(m_row, m_col) : QString();
+}
+
 bool CellEditor::event(QEvent* event) {
     if (event->type() == QEvent::ContextMenu) {
         if (m_grid.hints.openMenu(m_row, m_col, *static_cast<QContextMenuEvent*>(event)))
             return true;
-    } else if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        m_grid.hints.tell(m_row, m_col, static_cast<QHelpEvent*>(event)->globalPos());
+    } else if (event->type() == QEvent::ToolTip && (differsFromCell() || toolTip().isEmpty())) {
+        tell(static_cast<QHelpEvent*>(event)->globalPos());
         return true;
     } else if (!isEnabled() && hearsWhenClosed && closedEvent(*event)) {
         return true;
     }
     return TextBox::event(event);
+}
+
+void CellEditor::tell(const QPoint& at) const {
+    if (differsFromCell())
+        QToolTip::showText(at, u"按回车写进表格"_s);
+    else
+        m_grid.hints.tell(m_row, m_col, at);
 }
 
 /// Qt hands a disabled widget's mouse on to its container.

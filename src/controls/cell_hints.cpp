@@ -28,7 +28,7 @@ bool CellHints::openMenu(int row, int col, const QContextMenuEvent& asked) const
 QString CellHints::tip(int row, int col) const {
     if (!indexOf(row, col).isValid())
         return {};
-    QStringList lines;
+    QStringList lines{m_grid.objectionTo(row, col)};
     if (m_grid.isCut(row, col))
         lines << m_grid.TextMatrix(row, col);
     if (tipOf)

@@ -1,5 +1,7 @@
 #include "controls/combo_box.h"
 
+#include "controls/text_menu.h"
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -13,7 +15,7 @@ ComboBox::ComboBox(QWidget* parent, const QString& name, bool typing) : QComboBo
     setInsertPolicy(QComboBox::NoInsert);
     if (typing) {
         setCompleter(nullptr);
-        lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+        offerTextMenu(*lineEdit());
     }
     // Qt tells the same of a typed text that happens to stand in the list; that is no choice.
     connect(this, &QComboBox::activated, this, [this] {

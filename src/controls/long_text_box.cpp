@@ -1,6 +1,9 @@
 #include "controls/long_text_box.h"
 
 #include <QTextBlock>
+#include <QTextCursor>
+
+#include <utility>
 
 namespace qinghe {
 
@@ -27,15 +30,52 @@ QString LongTextBox::Text() const {
 void LongTextBox::setBoxText(const QString& text) {
     // A scroll bar that comes when the text is laid out makes its lines shorter: all would be laid out twice.
     setVerticalScrollBarPolicy(text.size() > SurelyScrolled ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
-    setPlainText(text);
+    replaceText(text);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+void LongTextBox::replaceText(const QString& text) {
+    if (!isTyped() && !document()->isUndoAvailable())
+        return setPlainText(text);
+    QTextCursor whole(document());
+    whole.select(QTextCursor::Document);
+    whole.insertText(text);
+    moveCursor(QTextCursor::Start);
+    document()->setModified(false);
+}
+
+void LongTextBox::forgetTyped() {
+    document()->clearUndoRedoStacks();
+    document()->setModified(false);
+}
+
+void LongTextBox::press(int code) {
+    const int before = document()->revision();
+    KeyPress.fromQt(code);
+    m_pressChangedText = document()->revision() != before;
+}
+
+void LongTextBox::enter(const std::function<void()>& key) {
+    QTextCursor step(document());
+    const bool joins = std::exchange(m_pressChangedText, false) && document()->isUndoAvailable();
+    if (joins)
+        step.joinPreviousEditBlock();
+    key();
+    if (joins)
+        step.endEditBlock();
 }
 
 void LongTextBox::keyPressEvent(QKeyEvent* event) {
     const int code = key_presses::codeOf(*event);
     if (code != key_presses::None && code != key_presses::Escape)
-        KeyPress.fromQt(code);
-    QPlainTextEdit::keyPressEvent(event);
+        press(code);
+    enter([&] { QPlainTextEdit::keyPressEvent(event); });
+}
+
+void LongTextBox::inputMethodEvent(QInputMethodEvent* event) {
+    key_presses::enterOneByOne(
+        *this, *event, [this](int code) { press(code); },
+        [this](QInputMethodEvent& part) { enter([&] { QPlainTextEdit::inputMethodEvent(&part); }); });
 }
 
 } // namespace qinghe

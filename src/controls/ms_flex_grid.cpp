@@ -35,6 +35,7 @@ MSFlexGrid::MSFlexGrid(QWidget* parent, const QString& name)
     : QTableView(parent),
       Placed(this),
       m_model(new GridModel(this)),
+      m_changes(*m_model),
       m_bar(new ReadingBar(*this)),
       m_rim(new GridRim(this)) {
     setObjectName(name);
@@ -127,12 +128,16 @@ int MSFlexGrid::firstEmpty(int row, int from, int behindLast) const {
 }
 
 void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
+    m_model->checkRow(row);
+    m_model->checkCol(col);
+    m_changes.writing(row, col, text);
     m_model->setCell(row, col, text);
     changed();
 }
 
 void MSFlexGrid::RemoveItem(int row) {
     m_model->removeRow(row);
+    m_changes.rowRemoved(row);
     m_row = std::min(m_row, Rows() - 1);
     changed();
 }
@@ -189,6 +194,11 @@ void MSFlexGrid::setMarked(bool marked) {
     m_marked = marked;
     viewport()->update();
     verticalHeader()->viewport()->update();
+}
+
+QString MSFlexGrid::objectionTo(int row, int col) const {
+    // The view may paint cells that have gone since it was told.
+    return Objection && row < Rows() && col < Cols() ? Objection(row, col) : QString();
 }
 
 void MSFlexGrid::showTop() {
@@ -253,6 +263,7 @@ void MSFlexGrid::bringUpToDate() {
     horizontalHeader()->viewport()->update();
     verticalHeader()->viewport()->update();
     emit scrolled();
+    emit refreshed();
 }
 
 void MSFlexGrid::layColumns() {

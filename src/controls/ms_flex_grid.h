@@ -2,12 +2,14 @@
 
 #include "controls/cell_hints.h"
 #include "controls/event.h"
+#include "controls/grid_changes.h"
 #include "controls/grid_columns.h"
 #include "controls/placed.h"
 #include "controls/press_tracker.h"
 
 #include <QTableView>
 
+#include <functional>
 #include <vector>
 
 namespace qinghe {
@@ -76,6 +78,18 @@ public:
     void setAmountColumns(std::vector<int> columns);
     bool isAmountColumn(int col) const;
 
+    /// The list shows so many records of its table as they are; until it rests it is looked whether the two differ.
+    void watchChanges(int records) { m_changes.begin(records), changed(); }
+    void restChanges() { m_changes.rest(); }
+    /// A record of the list has been deleted in its table.
+    void recordDeleted() { m_changes.recordDeleted(), changed(); }
+    bool differsFromTable() const { return m_changes.any(); }
+
+    /// Tells why the table will refuse what stands in a cell, in words for a tool tip; nothing where it takes it. Asked
+    /// for the cells on view as they are painted.
+    std::function<QString(int row, int col)> Objection;
+    QString objectionTo(int row, int col) const;
+
     /// Shows the list from its first row on, wherever the current cell is, until a cell is made current again.
     void showTop();
     /// While this control is on view the grid's own keys leave the current cell, over which it lies, where it is.
@@ -105,6 +119,8 @@ public:
 signals:
     /// The cells have moved under the widgets that lie on them.
     void scrolled();
+    /// What was written before is on view.
+    void refreshed();
 
 protected:
     void mousePressEvent(QMouseEvent*) override;
@@ -130,6 +146,7 @@ private:
     void fitLastColumn();
 
     GridModel* m_model;
+    GridChanges m_changes;
     int m_row = 1, m_col = 1;
     GridColumns m_columns;
     std::vector<int> m_amounts;

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "controls/cell_editor.h"
+#include "controls/label.h"
 
 #include <functional>
 
 namespace qinghe {
 
 /// Writing into the cells of a list, as every list does it: a box is laid over the current cell, Esc drops it, and what
-/// Enter does is the list's own.
+/// Enter does is the list's own. A save that comes while the box holds what its cell does not is told in a faint line
+/// on the frame's own ground, above the list, until the box is opened or closed again.
 class CellEditing {
 public:
     CellEditing(QWidget* frame, QStringView name, MSFlexGrid& grid);
@@ -20,6 +22,8 @@ public:
     /// Lays the box over the current cell, with the keyboard and the cell's text, all of it selected.
     void open();
     void close();
+    /// The list has been saved, without what stood in the box alone.
+    void closeSaved();
     /// The box's text goes into the current cell, wherever the box lies.
     void commit();
     /// The same, unless the box is empty.
@@ -30,7 +34,10 @@ public:
     void keyPressed(int key);
 
 private:
+    void tellUnsaved(const QString& words);
+
     MSFlexGrid& m_grid;
+    Label* m_unsaved; ///< says what a save did not take
 };
 
 } // namespace qinghe

@@ -22,6 +22,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
       m_buttons(&m_frame, differences.buttons, *m_grid),
       m_hasWorkedOut(std::ranges::count(differences.list.columns, Kind::WorkedOut, &Column::kind) > 0) {
     m_grid->place(120, 840, 11415, 4815);
+    m_grid->Objection = [this](int row, int col) { return objectionTo(row, col); };
     m_shared.editors[differences.grid] = {m_editing.box, m_grid};
     bindEvents();
 }
@@ -78,12 +79,17 @@ void GridPage::open(PageCode code) {
 }
 
 void GridPage::loadTable() {
+    m_grid->restChanges();
     Recordset& records = load(list().source.isEmpty() ? list().table : list().source);
+    m_savedTo.clear();
+    for (const QStringView field : savedFields(list().columns))
+        m_savedTo.push_back(records.field(field).column());
     m_grid->place(120, 840, 11415, 4815);
     layColumns();
     startRows(*m_grid);
     fillList(*m_grid, records, shownFields(list().columns),
              [this] { return m_quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row(); });
+    m_grid->watchChanges(records.recordCount());
 }
 
 Recordset& GridPage::load(QStringView source) {
@@ -109,6 +115,14 @@ void GridPage::layColumns() {
 int GridPage::columnOf(QStringView field) const {
     const auto found = std::ranges::find(list().columns, field, &Column::field);
     return static_cast<int>(found - list().columns.begin()) + 1;
+}
+
+/// Asks what the save will ask. Empty cells are not written, and a report is not saved.
+QString GridPage::objectionTo(int row, int col) const {
+    const QString text = m_grid->TextMatrix(row, col);
+    if (text.isEmpty() || !takesClicks() || static_cast<std::size_t>(col) > m_savedTo.size())
+        return {};
+    return stopsTheSave(refusal(m_savedTo[static_cast<std::size_t>(col - 1)], text, m_shared.store.thisYear()));
 }
 
 GridPage::Kind GridPage::kindOf(int column) const {
@@ -272,7 +286,8 @@ void GridPage::deleteRow() {
     m_editing.close();
     if (!isDeletionWanted(m_shared))
         return;
-    deleteAt(loadList(), m_grid->Row());
+    if (deleteAt(loadList(), m_grid->Row()))
+        m_grid->recordDeleted();
     const bool blanked = m_quirks.deleteBlanksFirstRow ? m_grid->Row() == 1 : m_grid->Rows() < 3;
     if (blanked)
         blankRow(*m_grid, 1);
@@ -323,8 +338,9 @@ void GridPage::saveRows() {
         writer.add(row, ++number);
         ++m_shared.saving->written;
     }
+    m_grid->watchChanges(m_grid->Rows() - 1);
     tellSaved(m_shared);
-    m_editing.close();
+    m_editing.closeSaved();
 }
 
 } // namespace qinghe

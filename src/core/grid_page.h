@@ -127,6 +127,7 @@ private:
     void layColumns();
     int lastColumn() const { return static_cast<int>(list().columns.size()); }
     Kind kindOf(int column) const;
+    QString objectionTo(int row, int col) const;
     bool opensCalculatorOnEnter(int column) const;
     QPointF toolPlace() const;
     /// The current cell, as the tools fill it.
@@ -150,6 +151,7 @@ private:
 
     bool m_hasWorkedOut = false;         ///< a column that takes no typing
     std::shared_ptr<LoadedSet> m_loaded; ///< by load, last
+    TableColumns m_savedTo;              ///< what a save writes the grid's columns to, from the first one on
 };
 
 } // namespace qinghe

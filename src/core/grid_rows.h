@@ -95,13 +95,15 @@ inline void emptyTable(Recordset& records) {
         records.deleteCurrent();
 }
 
-/// Deletes the record at a 1-based place; a place behind the last record has none, which is harmless.
-inline void deleteAt(Recordset& records, int position) {
+/// Deletes the record at a 1-based place, and tells whether there was one: a place behind the last record has none,
+/// which is harmless.
+inline bool deleteAt(Recordset& records, int position) {
     if (position > records.recordCount())
-        return;
+        return false;
     records.setAbsolutePosition(position);
     records.deleteCurrent();
     records.update();
+    return true;
 }
 
 } // namespace qinghe

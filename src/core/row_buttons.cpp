@@ -29,11 +29,18 @@ RowButtons::RowButtons(QWidget* frame, const RowButtonTraits& traits, MSFlexGrid
     // Pressed once more by chance they would add and delete once more.
     for (CommandButton* button : {add, remove})
         button->handKeyboardTo(&grid);
+    QObject::connect(&grid, &MSFlexGrid::refreshed, save, [save = save, &grid] {
+        save->setMark(grid.differsFromTable() ? u"这一页有改动还没有保存"_s : QString());
+    });
 }
 
 void RowButtons::setUsable(bool usable) {
     for (CommandButton* button : all())
         button->setUsable(usable);
+}
+
+QString stopsTheSave(const QString& reason) {
+    return reason.isEmpty() ? QString() : reason + u"，保存会在这里中断"_s;
 }
 
 bool isDeletionWanted(const Shared& shared) {

@@ -16,7 +16,8 @@ struct RowButtonTraits {
     double saveWidth = 1080;
 };
 
-/// After adding and deleting the grid has the keyboard.
+/// After adding and deleting the grid has the keyboard. The one that saves bears a mark while the grid differs from its
+/// table.
 class RowButtons {
 public:
     RowButtons(QWidget* frame, const RowButtonTraits& traits, MSFlexGrid& grid);
@@ -29,6 +30,8 @@ public:
     void setUsable(bool usable);
 };
 
+/// What a cell says whose text its table will refuse for this reason; nothing without one.
+QString stopsTheSave(const QString& reason);
 /// Asks before a row is deleted, and tells whether it shall be.
 bool isDeletionWanted(const Shared& shared);
 /// Says that no row is added while there is a blank one.

@@ -30,20 +30,6 @@ bool isReserved(const QString& title) {
     return isPort || std::ranges::find(Devices, name) != Devices.end();
 }
 
-/// Why a title cannot name a file; empty when it can.
-QString objection(const QString& title) {
-    const auto isKept = [](QChar c) { return c < u' ' || QStringView(u"/\\:*?\"<>|").contains(c); };
-    if (title == u"."_s || title == u".."_s)
-        return u"它是文件夹的记号"_s;
-    if (std::ranges::any_of(title, isKept) || !title.isValidUtf16())
-        return u"里面不能有 / \\ : * ? \" < > | 和控制字符"_s;
-    if (isReserved(title))
-        return u"它是系统设备的名称"_s;
-    if ((title + Extension).toUtf8().size() > LongestName)
-        return u"它太长了"_s;
-    return {};
-}
-
 /// How many bytes stand together: the first byte of a pair takes the second one with it, and a character of four bytes
 /// is two pairs.
 qsizetype pairLength(char firstByte) {
@@ -66,6 +52,19 @@ QString decoded(QByteArrayView bytes) {
 }
 
 } // namespace
+
+QString objection(const QString& title) {
+    const auto isKept = [](QChar c) { return c < u' ' || QStringView(u"/\\:*?\"<>|").contains(c); };
+    if (title == u"."_s || title == u".."_s)
+        return u"它是文件夹的记号"_s;
+    if (std::ranges::any_of(title, isKept) || !title.isValidUtf16())
+        return u"里面不能有 / \\ : * ? \" < > | 和控制字符"_s;
+    if (isReserved(title))
+        return u"它是系统设备的名称"_s;
+    if ((title + Extension).toUtf8().size() > LongestName)
+        return u"它太长了"_s;
+    return {};
+}
 
 QString filePath(const QString& folder, const QString& title) {
     if (const QString why = objection(title); !why.isEmpty())

@@ -6,6 +6,9 @@
 /// They are GB18030, which is byte for byte GBK for what GBK can say, and loses nothing.
 namespace qinghe::diary {
 
+/// Why a title cannot name a file (see filePath); nothing where it can.
+QString objection(const QString& title);
+
 /// The file of an entry. The title must be able to name a file on every system and lead nowhere else: no separators
 /// and other marks that file systems keep for themselves, no "." or "..", no name of a device, not too long. Throws
 /// RuntimeError (PathFileAccess) with the reason in its text.

@@ -25,7 +25,8 @@ constexpr RowButtonTraits Buttons{
     .saveCaption = u"保存日志",
     .saveWidth = 1380,
 };
-constexpr QStringView HowToRead = u"点标题看正文"; ///< on empty paper
+constexpr QStringView HowToWrite = u"先填左边的日期和标题，再写正文；清空了的按 Ctrl+Z 找回";
+constexpr QStringView HowToRead = u"点标题看正文"; // on empty paper
 constexpr double PickerGap = 300;                  ///< twips from the top of the box to the picker
 
 } // namespace
@@ -49,6 +50,7 @@ DiaryPage::DiaryPage(MainWindow& window)
         if (!Frame10.Visible())
             return;
         blankRow(*ms8, 1);
+        tx8->forgetTyped(); // what is wiped does not come back
         tx8->setBoxText({});
         m_editing.box->setBoxText({});
     };
@@ -67,6 +69,7 @@ void DiaryPage::bindEvents() {
     markHovered(Frame10, {m_buttons.add, m_buttons.remove, m_buttons.save});
     Frame10.Click = [this] { m_shared.unloadDatePicker(); };
     ms8->Click = [this] { Form2_ms8_Click(); };
+    ms8->Objection = [this](int row, int col) { return objectionTo(row, col); };
     m_editing.box->Click = [this] { Form2_tx9_Click(); };
     m_editing.entered = [this] { entered(); };
     tx8->Click = [this] { Form2_tx8_Click(); };
@@ -92,17 +95,19 @@ void DiaryPage::Form2_Option6_Click() {
     tx8->setBoxText({});
     ms8->setRows(2);
     diarySearchMode = false;
-    tx8->setPlaceholderText({});
     m_editing.close();
     m_buttons.setUsable(true);
+    tx8->setPlaceholderText(HowToWrite.toString());
     blankRows(*ms8);
-    Adodc1.open(tables::Diary.toString());
+    ms8->watchChanges(0);
+    m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
 }
 
 void DiaryPage::Form2_Option5_Click() {
     m_shared.unloadDatePicker();
     diarySearchMode = true;
     tx8->setPlaceholderText(HowToRead.toString());
+    ms8->restChanges();
     m_editing.close();
     m_buttons.setUsable(false);
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
@@ -134,6 +139,17 @@ void DiaryPage::editCell() {
         openPicker();
     else
         m_shared.unloadDatePicker();
+}
+
+/// Of the entry that is being written; what the list shows has been saved.
+QString DiaryPage::objectionTo(int row, int col) const {
+    const QString text = ms8->TextMatrix(row, col);
+    if (diarySearchMode || text.isEmpty())
+        return {};
+    if (col == DateColumn)
+        return stopsTheSave(refusal(m_dayColumn, text, m_shared.store.thisYear()));
+    const QString why = diary::objection(text);
+    return stopsTheSave(why.isEmpty() ? why : u"不能用作文件名（"_s + why + u'）');
 }
 
 void DiaryPage::openPicker() {
@@ -182,6 +198,7 @@ void DiaryPage::Form2_Command22_Click() {
     m_shared.unloadDatePicker();
     ms8->setRows(2);
     blankRows(*ms8);
+    ms8->watchChanges(0);
     tx8->setBoxText({});
 }
 
@@ -228,9 +245,11 @@ void DiaryPage::Form2_Command24_Click() {
     if (refusesTitle())
         return;
     RowWriter(*ms8, entries, savedFields(Columns)).add(ms8->Row());
-    m_editing.close();
+    m_editing.closeSaved();
     diary::write(fileOf(ms8->TextMatrix(1, TitleColumn)), tx8->Text());
     m_kept = entry();
+    tx8->forgetTyped();
+    ms8->watchChanges(1);
     m_shared.services.say(u"日志已经保存！"_s, MessageStyle::Ok, u"保存提示"_s);
 }
 

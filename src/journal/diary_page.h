@@ -36,6 +36,7 @@ public:
 private:
     void bindEvents();
     void layOutGrid();
+    QString objectionTo(int row, int col) const;
     void openPicker();
     void editCell();
     void entered();
@@ -57,6 +58,8 @@ private:
     LongTextBox* tx8;      // the entry's text
 
     std::shared_ptr<LoadedSet> m_entries; ///< that the grid lists in find mode
+
+    Column m_dayColumn{}; ///< that a save writes the date to
 
     bool diarySearchMode = false; ///< in find mode
     QStringList m_kept;           ///< the entry that was saved last

@@ -21,6 +21,7 @@ constexpr PageTraits Schedule{u"Frame17", u"日程提醒", 120, 1680, 11655, 601
 constexpr double PickerGap = 500; ///< twips from the top of the date to the picker
 constexpr int Pieces = 5, Hours = 24, Minutes = 60;
 constexpr qsizetype MostCharacters = 50;
+constexpr QStringView HowToWrite = u"先在这里写日程（不到50字），再在右边选日期和时间";
 
 Label* words(Frame* frame, const QString& name, const QString& caption, double left, double top, double width) {
     auto* label = new Label(frame, name, caption);
@@ -70,6 +71,7 @@ void SchedulePage::placeControls() {
     Label3->place(240, 390, 4000, 360);
     Label3->setRole(Role::Total);
     Text3->place(240, 840, 6240, 4140);
+    Text3->setPlaceholderText(HowToWrite.toString());
     Frame18->place(6720, 840, 4695, 3300);
     Frame18->setRole(Role::InnerFrame);
     words(Frame18, u"Label9"_s, u"日期设置："_s, 240, 480, 1140);
@@ -147,7 +149,7 @@ void SchedulePage::Form2_Text3_KeyPress(int KeyAscii) {
     Label3->setCaption(counted(before + 1));
     if (before == MostCharacters - 1 && KeyAscii != key_presses::Backspace) {
         m_shared.tell(u"日程提醒内容不能超过50字,请重新设置内容。"_s, u"系统提示"_s);
-        // The whole text goes, not only what is too much: that is how the limit is kept.
+        // The whole text goes, not only what is too much: that is how the limit is kept. Ctrl+Z brings it back.
         Text3->setBoxText({});
         Label3->setCaption(counted(1));
     }
@@ -195,6 +197,7 @@ void SchedulePage::writePlan(const DateValue& setAt) {
     plans.field(columns::PlanMusic).setValue(Combo1->Text());
     plans.field(columns::RowNumber).setValue(plans.recordCount() + 1);
     plans.update();
+    Text3->forgetTyped();
     m_kept = Text3->Text();
 }
 

@@ -149,6 +149,7 @@ void CategoriesPage::open(const Classification& chosen) {
     // An empty name goes to the row number that all lists share, wherever it was met here.
     m_majors.fill(records, [this] { return m_shared.loanRow(); });
     blankRows(*m_minors.grid);
+    m_minors.grid->watchChanges(0);
     navigation().bringForward(*this);
     m_majors.editing.close();
     m_minors.editing.close();

@@ -47,7 +47,9 @@ void CategoryList::layOut(std::span<const ListColumn> columns) {
 }
 
 void CategoryList::fill(Recordset& records, const std::function<int()>& rowForEmptyText) {
+    grid->restChanges();
     fillList(*grid, records, shownFields(m_columns), rowForEmptyText);
+    grid->watchChanges(records.recordCount());
 }
 
 void CategoryList::rescue(RescuedTexts& texts, const LoadedSet& loaded) const {
@@ -112,8 +114,9 @@ void CategoryList::save(Recordset& records) {
         writer.add(row);
         ++m_shared.saving->written;
     }
+    grid->watchChanges(grid->Rows() - 1);
     tellSaved(m_shared);
-    editing.close();
+    editing.closeSaved();
 }
 
 } // namespace qinghe

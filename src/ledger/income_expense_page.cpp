@@ -192,6 +192,7 @@ void IncomeExpensePage::Form2_Option9_Click() {
 }
 
 void IncomeExpensePage::closeEditing() {
+    m_grid->restChanges(); // a report follows
     m_editing.box->setBoxText({});
     m_editing.close();
     setEditing(false);

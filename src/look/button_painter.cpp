@@ -1,6 +1,6 @@
 #include "look/button_painter.h"
 
-#include "controls/placed.h"
+#include "controls/buttons.h"
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
@@ -161,6 +161,9 @@ void paintMarkCaption(const QStyleOptionButton& option, QPainter& painter, const
 void paintButton(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) {
     paintButtonBody(option, painter, widget);
     paintButtonCaption(option, painter, widget);
+    const auto* button = qobject_cast<const CommandButton*>(widget);
+    if (button && button->isMarked() && enabled(option))
+        paintPanel(painter, QRectF(option.rect.right() - 10, option.rect.top() + 4, 7, 7), 3.5, colour::Amber, {}, 0);
 }
 
 void paintOption(const QStyleOptionButton& option, QPainter& painter) {

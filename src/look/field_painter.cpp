@@ -1,6 +1,6 @@
 #include "look/field_painter.h"
 
-#include "controls/ms_flex_grid.h"
+#include "controls/cell_editor.h"
 #include "look/cell_type.h"
 #include "look/colours.h"
 #include "look/drawing.h"
@@ -24,6 +24,7 @@ namespace {
 constexpr int BoxMargin = 2;
 constexpr int FieldMargin = 6;
 constexpr double NarrowTwips = 900;
+constexpr int ReturnSide = 8; ///< of the sign in a box that differs from its cell
 
 bool hasRole(const QWidget* widget, Role role) {
     const Placed* placed = Placed::of(widget);
@@ -78,11 +79,44 @@ const MSFlexGrid* gridUnder(const QWidget& editor) {
     return nullptr;
 }
 
-void paintEditor(const QStyleOption& option, QPainter& painter) {
-    if (option.state & QStyle::State_Enabled)
-        paintPanel(painter, option.rect, 0, colour::White, colour::LeafDeep, 2);
-    else
-        paintPanel(painter, option.rect, 0, colour::EditorOff, colour::LeafDeep, 1.5);
+/// The sign that only Enter brings the text into its cell stands where the text does not.
+QRect returnSign(const QRect& box, bool textOnTheRight) {
+    const int middle = box.top() + box.height() / 2;
+    return {textOnTheRight ? box.left() + 3 : box.right() - ReturnSide - 2, middle - ReturnSide / 2, ReturnSide,
+            ReturnSide};
+}
+
+void paintReturnSign(QPainter& painter, const QRectF& place) {
+    const double foot = place.top() + place.height() * 0.68, left = place.left() + 0.5;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour::Amber, 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF hook[] = {{place.right() - 0.5, place.top() + 1}, {place.right() - 0.5, foot}, {left, foot}};
+    const QPointF head[] = {{left + 2.6, foot - 2.6}, {left, foot}, {left + 2.6, foot + 2.6}};
+    painter.drawPolyline(hook, 3);
+    painter.drawPolyline(head, 3);
+    painter.restore();
+}
+
+bool isOnTheRight(const QWidget& editor) {
+    const auto* line = qobject_cast<const QLineEdit*>(&editor);
+    return line && line->alignment() & Qt::AlignRight;
+}
+
+bool differs(const QWidget* widget) {
+    const auto* editor = qobject_cast<const CellEditor*>(widget);
+    return editor && editor->differsFromCell();
+}
+
+void paintEditor(const QStyleOption& option, QPainter& painter, const QWidget& widget) {
+    const auto* editor = qobject_cast<const CellEditor*>(&widget);
+    const bool usable = option.state & QStyle::State_Enabled, unwritten = differs(&widget),
+               refused = editor && !editor->objection().isEmpty();
+    const QColor fill = refused ? colour::AmberPale : usable ? colour::White : colour::EditorOff;
+    paintPanel(painter, option.rect, 0, fill, unwritten || refused ? colour::Amber : colour::LeafDeep,
+               usable ? 2 : 1.5);
+    if (unwritten)
+        paintReturnSign(painter, returnSign(option.rect, isOnTheRight(widget)));
 }
 
 void paintBox(const QStyleOption& option, QPainter& painter) {
@@ -119,7 +153,7 @@ void fitEditor(QLineEdit& editor) {
 void paintField(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
     if (widget && qobject_cast<const QComboBox*>(widget->parentWidget()))
         return; // the list paints the box
-    isEditor(widget) ? paintEditor(option, painter) : paintBox(option, painter);
+    isEditor(widget) ? paintEditor(option, painter, *widget) : paintBox(option, painter);
     if (const QLineEdit* display = cutDisplay(widget))
         paintCut(option, painter, *display);
 }
@@ -140,7 +174,9 @@ QRect fieldText(const QRect& field, const QWidget* widget) {
     }
     const MSFlexGrid* grid = gridUnder(*widget);
     const CellMargins margins = grid ? cellMargins(*grid, grid->Col()) : CellMargins{4, 4, type::Body};
-    return field.adjusted(margins.left - BoxMargin, 0, BoxMargin - margins.right, 0);
+    const int sign = differs(widget) ? ReturnSide : 0;
+    const int atLeft = isOnTheRight(*widget) ? sign : 0;
+    return field.adjusted(margins.left - BoxMargin + atLeft, 0, BoxMargin - margins.right - (sign - atLeft), 0);
 }
 
 void paintWritingPaper(const QPlainTextEdit& text) {

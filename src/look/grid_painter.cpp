@@ -140,8 +140,10 @@ void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFl
     const int row = option.index.row() + 1, col = option.index.column() + 1;
     const QRect cell = option.rect;
     paintUpright(painter, cell.right(), cell.top(), cell.bottom(), UprightLine);
-    if (isCurrentRow(grid, row) && col == grid.Col())
-        paintPanel(painter, cell, 0, colour::LeafSel, colour::LeafDeep, 1.6);
+    const bool current = isCurrentRow(grid, row) && col == grid.Col(), refused = !grid.objectionTo(row, col).isEmpty();
+    if (current || refused)
+        paintPanel(painter, cell, 0, refused ? colour::AmberPale : colour::LeafSel,
+                   refused ? colour::Amber : colour::LeafDeep, current ? 1.6 : 1);
     paintLine(painter, cellTextRoom(cell, grid, col), grid.isAmountColumn(col) ? Qt::AlignRight : Qt::AlignLeft,
               option.text, typeOf(option, grid).font, isReadable(grid) ? colour::Ink : colour::Ink2);
 }

@@ -113,4 +113,13 @@ Value converted(const Column& column, const Value& value, const ThisYear& thisYe
     }
 }
 
+QString refusal(const Column& column, const Value& value, const ThisYear& thisYear) {
+    try {
+        converted(column, value, thisYear);
+        return {};
+    } catch (const RuntimeError&) {
+        return u"不是"_s + rowOf(column.kind).wanted.toString().section(u'，', 0, 0);
+    }
+}
+
 } // namespace qinghe

@@ -34,4 +34,7 @@ ColumnKind kindOfDeclaredType(const QString& type);
 /// RuntimeError (type mismatch) that names the column and the value.
 Value converted(const Column& column, const Value& value, const ThisYear& thisYear = {});
 
+/// Why `converted` refuses a value for the column, in two words ("不是日期"); nothing where it takes it.
+QString refusal(const Column& column, const Value& value, const ThisYear& thisYear = {});
+
 } // namespace qinghe

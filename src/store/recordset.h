@@ -72,6 +72,7 @@ class Field {
 public:
     QString name() const;
     int ordinal() const { return m_ordinal; } ///< 0-based
+    const Column& column() const;             ///< what it can hold
     Value value() const;
     QString text() const; ///< value().text()
     bool isNull() const;
@@ -91,7 +92,6 @@ public:
 private:
     friend class Recordset;
     Field(Recordset& set, int ordinal) : m_set(&set), m_ordinal(ordinal) {}
-    const Column& column() const;
     /// The row that holds the field's value; none while the set stands on no row or the value is pending.
     std::optional<StoredRow> stored() const;
     const std::optional<Value>& pending() const; ///< what was set and not yet stored

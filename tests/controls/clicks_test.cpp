@@ -96,22 +96,21 @@ TEST_F(Clicks, ADisabledTextBoxHandsItsClickToItsContainer) {
     EXPECT_EQ(noted(), QStringList{u"Frame2"_s});
 }
 
-TEST_F(Clicks, ATextBoxIsClickedByTheLeftButtonOnItselfAndOffersNoMenu) {
+TEST_F(Clicks, ATextBoxIsClickedByTheLeftButtonOnItself) {
     auto& line = put<TextBox>(frame, u"Text4"_s, {1800, 600, 1500, 300});
     auto& lines = put<LongTextBox>(frame, u"Text3"_s, {1800, 1200, 1500, 900});
     for (QWidget* box : {static_cast<QWidget*>(&line), lines.viewport()}) {
         const QPoint centre = pointer::inWindow(*box, box->rect().center());
         QTest::mouseClick(form.windowHandle(), Qt::RightButton, {}, centre);
+        if (QWidget* menu = QApplication::activePopupWidget())
+            menu->close();
         QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, centre);
         QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, pointer::inWindow(label, {1, 1}));
     }
     EXPECT_EQ(noted(), QStringList{});
-    EXPECT_FALSE(QApplication::activePopupWidget());
     pointer::click(line);
     pointer::click(*lines.viewport());
     EXPECT_EQ(noted(), (QStringList{u"Text4"_s, u"Text3"_s}));
-    EXPECT_EQ(line.contextMenuPolicy(), Qt::NoContextMenu);
-    EXPECT_EQ(lines.contextMenuPolicy(), Qt::NoContextMenu);
 }
 
 TEST_F(Clicks, TwoQuickClicksOnALabelAreTwoClicks) {

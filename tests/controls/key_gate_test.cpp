@@ -60,7 +60,7 @@ TEST_F(HeldKeys, AnswerNoBox) {
     Question question;
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
         press(question.answer, key, Stroke::Repeated);
-    press(question, Qt::Key_Return, Stroke::Repeated);      // the default button's
+    press(question, Qt::Key_Return, Stroke::Repeated);       // the default button's
     press(question.typed, Qt::Key_Return, Stroke::Repeated); // the same, from a box in it
     EXPECT_EQ(question.answers, 0);
     press(question.answer, Qt::Key_Return, Stroke::Fresh);

@@ -76,5 +76,40 @@ TEST_F(LongTextBoxTest, ShowsItsScrollBarForWhatDoesNotFitAlone) {
     EXPECT_FALSE(box.verticalScrollBar()->isVisible());
 }
 
+TEST_F(LongTextBoxTest, GivesBackByCtrlZWhatWasTypedAndEmptied) {
+    QTest::keyClicks(&box, u"sunny"_s);
+    box.setBoxText({});
+    box.setBoxText(u"程序的话"_s);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"sunny"_s);
+}
+
+TEST_F(LongTextBoxTest, GivesItBackInOneStepWithTheKeyWhosePressEmptiedIt) {
+    box.KeyPress = [this](int code) {
+        if (code == '!' || code == u'！')
+            box.setBoxText({});
+    };
+    QTest::keyClicks(&box, u"abc!"_s);
+    EXPECT_EQ(box.Text(), u"!"_s);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"abc"_s);
+    QInputMethodEvent commit;
+    commit.setCommitString(u"！"_s);
+    QCoreApplication::sendEvent(&box, &commit);
+    EXPECT_EQ(box.Text(), u"！"_s);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"abc"_s);
+}
+
+TEST_F(LongTextBoxTest, GivesNothingBackThatWasForgottenOrNeverTyped) {
+    QTest::keyClicks(&box, u"kept"_s);
+    box.forgetTyped();
+    box.setBoxText(u"程序的话"_s);
+    box.setBoxText({});
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), QString());
+}
+
 } // namespace
 } // namespace qinghe

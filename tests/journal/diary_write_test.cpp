@@ -178,5 +178,25 @@ TEST_F(DiaryWriting, AFolderThatIsGoneStopsBehindTheRow) {
     EXPECT_EQ(rows(), QStringList{u"2024-05-03|a"_s});
 }
 
+TEST_F(DiaryWriting, ATextThatAClickOnTheDateEmptiedComesBackWithCtrlZ) {
+    rig.type(tx8(), u"先写了正文"_s);
+    rig.clickCell(ms8(), 1, 1);
+    EXPECT_EQ(tx8().Text(), QString());
+    EXPECT_TRUE(tx8().placeholderText().startsWith(u"先填左边的日期和标题"_s));
+    QTest::keyClick(&tx8(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(tx8().Text(), u"先写了正文"_s);
+}
+
+TEST_F(DiaryWriting, ADateAndATitleThatTheSaveWillRefuseSaySoBeforehand) {
+    fill(u"2024-11-31"_s, u"a/b"_s);
+    EXPECT_EQ(ms8().objectionTo(1, 1), u"不是日期，保存会在这里中断"_s);
+    EXPECT_TRUE(ms8().objectionTo(1, 2).startsWith(u"不能用作文件名"_s));
+    fill(u"2024-11-30"_s, u"晴"_s);
+    EXPECT_EQ(ms8().objectionTo(1, 1) + ms8().objectionTo(1, 2), QString());
+    EXPECT_TRUE(save().isMarked());
+    rig.click(save());
+    EXPECT_FALSE(save().isMarked());
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -37,6 +37,19 @@ TEST_F(ScheduleTyping, TheCounterTellsTheCharactersAsTheKeyWillLeaveThem) {
     EXPECT_EQ(counter(), u"8当前字数"_s); // the line break is one character
 }
 
+TEST_F(ScheduleTyping, WhatTheLimitTookComesBackWithCtrlZ) {
+    const QString plan = QString(49, u'词');
+    commit(plan);
+    commit(u"多"_s);
+    expectWiped(u"多"_s);
+    QTest::keyClick(&text(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text().Text(), plan);
+}
+
+TEST_F(ScheduleTyping, EmptyPaperSaysWhatComesFirst) {
+    EXPECT_TRUE(text().placeholderText().startsWith(u"先在这里写日程"_s));
+}
+
 TEST_F(ScheduleTyping, TheFiftiethCharacterBringsTheMessageAndIsAllThatIsLeft) {
     rig.type(text(), u"字"_s.repeated(49));
     EXPECT_EQ(counter(), u"49当前字数"_s);

@@ -1,3 +1,4 @@
+#include "controls/cell_editor.h"
 #include "ledger/ledger_lists.h"
 #include "support/page_rig.h"
 
@@ -14,6 +15,7 @@ class EveryListCellsTest : public EveryListTest {
 protected:
     EveryListCellsTest() { openWith(2); }
 
+    CellEditor& box() { return static_cast<CellEditor&>(EveryListTest::box()); }
     QString textOf(int row) { return grid().TextMatrix(row, list.text); }
 };
 
@@ -46,6 +48,19 @@ TEST_P(EveryListCellsTest, AreOfferedWithTheirTextSelected) {
     }
     clickCell(1, list.amount);
     EXPECT_EQ(box().selectedText(), QString()); // no key reaches it
+}
+
+TEST_P(EveryListCellsTest, DifferFromTheirBoxUntilEnterOrEsc) {
+    clickCell(1, list.text);
+    EXPECT_FALSE(box().differsFromCell());
+    write(u"改过"_s);
+    EXPECT_TRUE(box().differsFromCell());
+    enter();
+    EXPECT_FALSE(box().differsFromCell());
+    clickCell(1, list.text);
+    write(u"不要"_s);
+    escape();
+    EXPECT_FALSE(box().differsFromCell());
 }
 
 TEST_P(EveryListCellsTest, StayAsTheyWereOnEsc) {

@@ -37,6 +37,46 @@ TEST_P(EveryListSaveTest, RefusesTheFirstGapInAnyColumnButTheLastAndChangesNothi
     }
 }
 
+TEST_P(EveryListSaveTest, SaysWhichCellItDidNotTakeSinceNoEnterBroughtTheTextThere) {
+    openWith(2);
+    const auto told = [this] {
+        for (const Label* label : frame().findChildren<Label*>())
+            if (label->isVisible() && label->Caption().contains(u"没有按回车"_s))
+                return label->Caption();
+        return QString();
+    };
+    clickCell(2, lastColumn());
+    write(u"忘了回车"_s);
+    press(save());
+    EXPECT_EQ(rig.messages->shown, std::vector{SaveDone});
+    EXPECT_EQ(told(), u"第2行“%1”没有按回车，没有保存"_s.arg(grid().TextMatrix(0, lastColumn())));
+    clickCell(2, lastColumn());
+    EXPECT_EQ(told(), QString());
+    press(save()); // nothing was typed
+    EXPECT_EQ(told(), QString());
+}
+
+TEST_P(EveryListSaveTest, IsMarkedWhileTheGridDiffersFromTheTable) {
+    openWith(3);
+    EXPECT_FALSE(save().isMarked());
+    const QString before = grid().TextMatrix(1, list.text);
+    fillCell(1, list.text, u"改过"_s);
+    EXPECT_TRUE(save().isMarked());
+    fillCell(1, list.text, before);
+    EXPECT_FALSE(save().isMarked());
+    clickCell(2, list.text);
+    press(remove()); // row and record go together
+    EXPECT_FALSE(save().isMarked());
+    press(add());
+    EXPECT_TRUE(save().isMarked());
+    open(); // leaving and coming again drops what was not saved
+    EXPECT_FALSE(save().isMarked());
+    fillCell(1, list.text, u"改过"_s);
+    press(save());
+    EXPECT_EQ(rig.lastMessage(), SaveDone);
+    EXPECT_FALSE(save().isMarked());
+}
+
 TEST_P(EveryListSaveTest, TakesARowWithoutARemark) {
     openWith(1);
     grid().setTextMatrix(1, lastColumn(), {});

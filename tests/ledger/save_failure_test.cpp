@@ -18,6 +18,12 @@ protected:
     void expectStoppedBy(int col, const QString& bad) {
         openWith(5);
         grid().setTextMatrix(3, col, bad);
+        // The mark says it beforehand, of this cell alone.
+        for (int row = 1; row <= 5; ++row)
+            for (int other = 1; other <= lastColumn(); ++other)
+                EXPECT_EQ(!grid().objectionTo(row, other).isEmpty(), row == 3 && other == col) << row << ',' << other;
+        EXPECT_EQ(grid().objectionTo(3, col),
+                  col == list.date ? u"不是日期，保存会在这里中断"_s : u"不是数字，保存会在这里中断"_s);
         press(save());
         expectError(TypeMismatch);
         EXPECT_TRUE(rig.messages->errors.front().second.contains(bad));

@@ -62,6 +62,18 @@ TEST_F(Buttons, TheEdgeIsSharpAtEveryScale) {
     }
 }
 
+TEST_F(Buttons, AMarkIsAnAmberDotInTheCorner) {
+    const auto isAmber = [](const QColor& colour) { return isNear(colour, colour::Amber, 8); };
+    EXPECT_TRUE(extent(rendered(ground), isAmber).isNull());
+    button.setMark(u"还没有保存"_s);
+    const QRect dot = extent(rendered(ground), isAmber);
+    EXPECT_FALSE(dot.isNull());
+    EXPECT_GT(dot.left(), button.width() - 12);
+    EXPECT_LT(dot.bottom(), button.height() / 2);
+    button.setUsable(false);
+    EXPECT_TRUE(extent(rendered(ground), isAmber).isNull());
+}
+
 TEST_F(Buttons, AnAmpersandIsShown) {
     button.setText(u"AB"_s);
     const int without = extent(rendered(ground), isDarkInk).width();

@@ -1,3 +1,4 @@
+#include "controls/cell_editor.h"
 #include "controls/controls.h"
 #include "controls/ms_flex_grid.h"
 #include "look/colours.h"
@@ -216,6 +217,41 @@ TEST_F(Grids, CornersAreRoundAlsoBesideAScrollBar) {
         EXPECT_GT(image.pixelColor(corner).red(), image.pixelColor(corner).green() + 120)
             << corner.x() << ' ' << corner.y();
     EXPECT_TRUE(isNear(image.pixelColor(box.right(), box.center().y()), colour::GridEdge));
+}
+
+TEST_F(Grids, ABoxThatDiffersFromItsCellHasAnAmberEdgeAndTheSignOfEnter) {
+    CellEditor box(&ground, u"tx3"_s, grid);
+    const auto isAmber = [](const QColor& colour) { return isNear(colour, colour::Amber, 8); };
+    for (const int col : {TextCol, WideAmountCol}) {
+        grid.setCol(col);
+        box.lay();
+        box.setShown(true);
+        EXPECT_TRUE(extent(rendered(ground), isAmber).isNull());
+        box.setText(u"12"_s);
+        const QImage picture = rendered(ground).copy(box.geometry());
+        EXPECT_TRUE(isNear(picture.pixelColor(0, 10), colour::Amber));
+        const QRect sign = extent(picture.copy(3, 3, picture.width() - 6, picture.height() - 6), isAmber);
+        EXPECT_FALSE(sign.isNull());
+        EXPECT_EQ(sign.left() < picture.width() / 2, col == WideAmountCol); // never where the text is
+    }
+}
+
+TEST_F(Grids, ACellThatWillBeRefusedIsAmberAlsoUnderItsBox) {
+    CellEditor box(&ground, u"tx3"_s, grid);
+    const auto isAmber = [](const QColor& colour) { return isNear(colour, colour::Amber, 8); };
+    grid.setTextMatrix(3, TextCol, u"明天"_s);
+    EXPECT_TRUE(extent(rendered(ground), isAmber).isNull());
+    grid.Objection = [](int row, int) { return row == 3 ? u"不是日期"_s : QString(); };
+    const QRect cell = grid.cellRect(3, TextCol).translated(grid.pos());
+    EXPECT_TRUE(cell.contains(extent(rendered(ground).copy(cell), isAmber).translated(cell.topLeft())));
+    EXPECT_FALSE(extent(rendered(ground).copy(cell), isAmber).isNull());
+    grid.setRow(3);
+    grid.setCol(TextCol);
+    box.lay();
+    box.setShown(true);
+    const QImage picture = rendered(ground).copy(box.geometry());
+    EXPECT_TRUE(isNear(picture.pixelColor(0, 10), colour::Amber));
+    EXPECT_TRUE(isNear(picture.pixelColor(picture.width() - 6, 10), colour::AmberPale));
 }
 
 } // namespace

@@ -121,5 +121,15 @@ TEST(BinaryColumn, TakesBytesAlone) {
     EXPECT_EQ(refusal(ColumnKind::Binary, u"文字"_s, u"某栏"_s), RuntimeError::TypeMismatch);
 }
 
+TEST(Refusals, AreToldForTheValuesThatAConversionThrowsFor) {
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Date), u"2024-11-31"), u"不是日期"_s);
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Number), u"12+"), u"不是数字"_s);
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Integer), u"一"), u"不是整数"_s);
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Date), u"2024-11-30"), QString());
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Date), u"5-3"), u"不是日期"_s);
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Date), u"5-3", [] { return 2024; }), QString());
+    EXPECT_EQ(qinghe::refusal(column(ColumnKind::Text), u"什么都行"), QString());
+}
+
 } // namespace
 } // namespace qinghe
