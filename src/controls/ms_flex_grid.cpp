@@ -128,8 +128,6 @@ int MSFlexGrid::firstEmpty(int row, int from, int behindLast) const {
 }
 
 void MSFlexGrid::setTextMatrix(int row, int col, const QString& text) {
-    m_model->checkRow(row);
-    m_model->checkCol(col);
     m_changes.writing(row, col, text);
     m_model->setCell(row, col, text);
     changed();

@@ -187,6 +187,18 @@ TEST_F(DiaryWriting, ATextThatAClickOnTheDateEmptiedComesBackWithCtrlZ) {
     EXPECT_EQ(tx8().Text(), u"先写了正文"_s);
 }
 
+TEST_F(DiaryWriting, ATextThatWasSavedOrWipedDoesNotComeBackWithCtrlZ) {
+    fill(u"2024-11-30"_s, u"晴"_s, {u"存过的正文"_s});
+    rig.click(save());
+    rig.click(add());
+    QTest::keyClick(&tx8(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(tx8().Text(), QString());
+    rig.type(tx8(), u"抹去的正文"_s);
+    shared().emptyDiaryPage();
+    QTest::keyClick(&tx8(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(tx8().Text(), QString());
+}
+
 TEST_F(DiaryWriting, ADateAndATitleThatTheSaveWillRefuseSaySoBeforehand) {
     fill(u"2024-11-31"_s, u"a/b"_s);
     EXPECT_EQ(ms8().objectionTo(1, 1), u"不是日期，保存会在这里中断"_s);

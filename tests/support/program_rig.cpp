@@ -116,6 +116,7 @@ void ProgramRig::stop() {
         return;
     const QDateTime time = clock->time;
     program.reset();
+    clock = nullptr; // gone with the program; makeServices would read it
     settle();
     m_spare = makeServices();
     clock->time = time;

@@ -27,6 +27,20 @@ TEST(AtTheDoor, ThreeWrongPasswordsEndTheProgram) {
     EXPECT_EQ(folder.header(), "01 00");
 }
 
+TEST(AtTheDoor, AnEnterThatIsHeldTriesOnceAndAnswersNothing) {
+    const LedgerFolder folder;
+    Program program(folder);
+    program.clearAndType(sign_in::Password, "1");
+    program.key("Return");
+    EXPECT_EQ(program.message(), wrongPassword);
+    program.hold("Return");
+    EXPECT_EQ(program.message(), wrongPassword);
+    program.answer("确定");
+    program.waitForKeyboard(forms::SignIn);
+    program.hold("Return");
+    EXPECT_FALSE(program.showsMessage());
+}
+
 TEST(AtTheDoor, AWrongPasswordMayBeTheLastTry) {
     const LedgerFolder folder;
     Program program(folder);

@@ -130,6 +130,10 @@ void Program::key(const std::string& name) {
     perform({{"do", "key"}, {"key", q(name)}});
 }
 
+void Program::hold(const std::string& name) {
+    perform({{"do", "hold"}, {"key", q(name)}});
+}
+
 void Program::type(const std::string& text) {
     perform({{"do", "type"}, {"text", q(text)}});
 }

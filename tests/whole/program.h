@@ -49,6 +49,7 @@ public:
     void moveTo(const std::string& at);
     void drag(const std::string& at, QPoint from, QPoint way);
     void key(const std::string& name);
+    void hold(const std::string& name); ///< a key that went down before and is still held
     void type(const std::string& text);
     void clearAndType(const std::string& box, const std::string& text);
     void pick(const std::string& entry);    ///< in an open menu or list

@@ -157,6 +157,10 @@ Outcome keyStroke(const QJsonObject& command) {
     return {{}, key(textIn(command, "key"))};
 }
 
+Outcome holdKey(const QJsonObject& command) {
+    return {{}, hold(textIn(command, "key"))};
+}
+
 Outcome typing(const QJsonObject& command) {
     return {{}, type(textIn(command, "text"))};
 }
@@ -216,9 +220,10 @@ const std::map<QString, Command>& commands() {
         {QStringLiteral("message"), message}, {QStringLiteral("answer"), answer},
         {QStringLiteral("click"), clickAt},   {QStringLiteral("move"), moveTo},
         {QStringLiteral("drag"), dragBy},     {QStringLiteral("key"), keyStroke},
-        {QStringLiteral("type"), typing},     {QStringLiteral("choose"), choose},
-        {QStringLiteral("pick"), pick},       {QStringLiteral("close"), close},
-        {QStringLiteral("picture"), picture}, {QStringLiteral("place"), place},
+        {QStringLiteral("hold"), holdKey},    {QStringLiteral("type"), typing},
+        {QStringLiteral("choose"), choose},   {QStringLiteral("pick"), pick},
+        {QStringLiteral("close"), close},     {QStringLiteral("picture"), picture},
+        {QStringLiteral("place"), place},
     };
     return table;
 }

@@ -58,14 +58,14 @@ QWindow& windowWithKeyboard() {
 }
 
 /// A key press goes to whatever has the keyboard when its turn comes.
-void strike(int code, const QString& text, Qt::KeyboardModifiers modifiers) {
+void strike(int code, const QString& text, Qt::KeyboardModifiers modifiers, bool repeated = false) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QWindow* window = QGuiApplication::focusWindow();
         if (!window)
             return;
-        if (type == QEvent::KeyPress && qt_sendShortcutOverrideEvent(window, 0, code, modifiers, text))
+        if (type == QEvent::KeyPress && qt_sendShortcutOverrideEvent(window, 0, code, modifiers, text, repeated))
             continue;
-        qt_handleKeyEvent(window, type, code, modifiers, text);
+        qt_handleKeyEvent(window, type, code, modifiers, text, repeated);
     }
 }
 
@@ -91,6 +91,14 @@ QString textOf(int code) {
     default:
         return code < 0x80 ? QString(QChar(code)) : QString();
     }
+}
+
+QKeyCombination keyOf(const QString& name) {
+    windowWithKeyboard();
+    const QKeySequence sequence(name);
+    if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown)
+        throw Refusal{QStringLiteral("there is no key ") + name};
+    return sequence[0];
 }
 
 } // namespace
@@ -142,17 +150,18 @@ void askForMenu() {
 } // namespace
 
 Steps key(const QString& name) {
-    windowWithKeyboard();
-    const QKeySequence sequence(name);
-    if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown)
-        throw Refusal{QStringLiteral("there is no key ") + name};
-    const QKeyCombination combination = sequence[0];
+    const QKeyCombination combination = keyOf(name);
     if (combination.key() == Qt::Key_Menu)
         return {askForMenu};
     const bool plain = combination.keyboardModifiers() == Qt::NoModifier;
     return {[=] {
         strike(combination.key(), plain ? textOf(combination.key()) : QString(), combination.keyboardModifiers());
     }};
+}
+
+Steps hold(const QString& name) {
+    const int code = keyOf(name).key(), repetitions = 3;
+    return Steps(repetitions, [=] { strike(code, textOf(code), Qt::NoModifier, true); });
 }
 
 Steps type(const QString& text) {

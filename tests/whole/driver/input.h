@@ -22,6 +22,8 @@ Steps drag(QWidget& widget, const QPoint& point, const QPoint& way);
 
 /// One key in the window that has the keyboard, such as Return, Escape, Tab, Backspace.
 Steps key(const QString& name);
+/// A key without others that went down some time ago, in any window, and is still held: it comes again a few times.
+Steps hold(const QString& name);
 /// Plain characters as keys, others as an input method commits them.
 Steps type(const QString& text);
 
