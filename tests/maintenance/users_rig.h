@@ -14,6 +14,7 @@ inline constexpr GridList Users{
     .add = users::Add,
     .remove = users::Remove,
     .save = users::Save,
+    .captions = u"用户名|用户密码",
     .table = u"yhb",
     .values = u"'人' || n, '密码' || n, n",
     .firstRow = u"人1|密码1",
