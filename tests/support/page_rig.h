@@ -38,7 +38,8 @@ protected:
     void write(const QString& text) { typeOver(box(), text); }
     /// Puts a text into a cell by click, typing and Enter. Not for columns that take no keys.
     void fillCell(int row, int col, const QString& text);
-    /// Types into the open calculator and closes it by its window's button: its cell is filled and stays the current one.
+    /// Types into the open calculator and closes it by its window's button: its cell is filled and stays the current
+    /// one.
     void calculate(const QString& keys);
     /// The same by Enter, which walks on to the next cell.
     void calculateAndWalkOn(const QString& keys);
