@@ -192,7 +192,7 @@ bool MSFlexGrid::isAmountColumn(int col) const {
 
 QString MSFlexGrid::objectionTo(int row, int col) const {
     // The view may paint cells that have gone since it was told.
-    return Objection && row < Rows() && col < Cols() ? Objection(row, col) : QString();
+    return objection && row < Rows() && col < Cols() ? objection(row, col) : QString();
 }
 
 void MSFlexGrid::showTop() {
