@@ -196,7 +196,7 @@ void MSFlexGrid::setMarked(bool marked) {
 
 QString MSFlexGrid::objectionTo(int row, int col) const {
     // The view may paint cells that have gone since it was told.
-    return Objection && row < Rows() && col < Cols() ? Objection(row, col) : QString();
+    return objection && row < Rows() && col < Cols() ? objection(row, col) : QString();
 }
 
 void MSFlexGrid::showTop() {

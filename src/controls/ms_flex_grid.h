@@ -87,7 +87,7 @@ public:
 
     /// Tells why the table will refuse what stands in a cell, in words for a tool tip; nothing where it takes it. Asked
     /// for the cells on view as they are painted.
-    std::function<QString(int row, int col)> Objection;
+    std::function<QString(int row, int col)> objection;
     QString objectionTo(int row, int col) const;
 
     /// Shows the list from its first row on, wherever the current cell is, until a cell is made current again.

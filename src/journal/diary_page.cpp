@@ -69,7 +69,7 @@ void DiaryPage::bindEvents() {
     markHovered(Frame10, {m_buttons.add, m_buttons.remove, m_buttons.save});
     Frame10.Click = [this] { m_shared.unloadDatePicker(); };
     ms8->Click = [this] { Form2_ms8_Click(); };
-    ms8->Objection = [this](int row, int col) { return objectionTo(row, col); };
+    ms8->objection = [this](int row, int col) { return objectionTo(row, col); };
     m_editing.box->Click = [this] { Form2_tx9_Click(); };
     m_editing.entered = [this] { entered(); };
     tx8->Click = [this] { Form2_tx8_Click(); };

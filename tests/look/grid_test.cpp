@@ -241,7 +241,7 @@ TEST_F(Grids, ACellThatWillBeRefusedIsAmberAlsoUnderItsBox) {
     const auto isAmber = [](const QColor& colour) { return isNear(colour, colour::Amber, 8); };
     grid.setTextMatrix(3, TextCol, u"明天"_s);
     EXPECT_TRUE(extent(rendered(ground), isAmber).isNull());
-    grid.Objection = [](int row, int) { return row == 3 ? u"不是日期"_s : QString(); };
+    grid.objection = [](int row, int) { return row == 3 ? u"不是日期"_s : QString(); };
     const QRect cell = grid.cellRect(3, TextCol).translated(grid.pos());
     EXPECT_TRUE(cell.contains(extent(rendered(ground).copy(cell), isAmber).translated(cell.topLeft())));
     EXPECT_FALSE(extent(rendered(ground).copy(cell), isAmber).isNull());
