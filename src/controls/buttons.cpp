@@ -1,5 +1,7 @@
 #include "controls/buttons.h"
 
+#include "controls/key_presses.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QTextDocument>
@@ -77,7 +79,7 @@ void CheckBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QCheckBox::keyPressEvent(event);
     else if (!event->isAutoRepeat())
-        Entered.fromQt();
+        KeyPress.fromQt(key_presses::Enter);
 }
 
 void CheckBox::setValue(bool value) {

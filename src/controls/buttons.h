@@ -83,7 +83,7 @@ public:
     bool Value() const { return isChecked(); }
     void setValue(bool value);
 
-    Event<> Entered; ///< Enter, for which a tick itself has no use
+    Event<int> KeyPress; ///< of Enter (13) alone, for which a tick itself has no use
 
 protected:
     void keyPressEvent(QKeyEvent*) override;

@@ -70,7 +70,7 @@ void SignIn::bindEvents() {
         if (key == key_presses::Enter)
             Form5_Label1_Click();
     };
-    Check1->Entered = [this] { Form5_Label1_Click(); };
+    Check1->KeyPress = [this](int) { Form5_Label1_Click(); };
     Label1->MouseMove = [this] {
         Label1->setForeColor(ink::Red);
         Label1->setHandCursor();

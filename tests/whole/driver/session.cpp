@@ -59,7 +59,11 @@ namespace {
 /// Opens the line as soon as the program has an event loop. What the program starts is not driven.
 void openLine() {
     qunsetenv("LD_PRELOAD");
-    new Session(qEnvironmentVariable("QINGHE_DRIVER_SOCKET"), QCoreApplication::instance());
+    // From its loop: an application that is made anew at another scale never comes to it.
+    QCoreApplication* const application = QCoreApplication::instance();
+    QMetaObject::invokeMethod(
+        application, [application] { new Session(qEnvironmentVariable("QINGHE_DRIVER_SOCKET"), application); },
+        Qt::QueuedConnection);
 }
 
 Q_COREAPP_STARTUP_FUNCTION(openLine)
