@@ -37,6 +37,8 @@ const QString& serifFamily() {
     return Family;
 }
 
+constexpr double BoldStroke = 0.045; ///< of the size: what makes a thin outline as dark as a bold face
+
 /// UMing alone has no bold face and is not thickened by Qt.
 bool serifLacksBold() {
     return serifFamily() == "AR PL UMing CN"_L1;
@@ -98,7 +100,8 @@ void drawFigure(QPainter& painter, const QPointF& baseline, const QString& text)
     outline.addText(baseline, painter.font(), text);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(outline, QPen(painter.pen().color(), 0.35));
+    const double thickness = BoldStroke * QFontInfo(painter.font()).pixelSize();
+    painter.strokePath(outline, QPen(painter.pen().color(), thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.restore();
 }
 
