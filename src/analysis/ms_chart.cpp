@@ -45,7 +45,8 @@ ChartMatrix matrixOf(const QVariantList& data, ChartLabels labels) {
     return matrix;
 }
 
-void paintSampleMark(QPainter& painter, const QRect& chart) {
+void paintSampleMark(QPaintDevice& device, const QRect& chart) {
+    QPainter painter(&device);
     QRect plate(0, 0, 72, 34);
     plate.moveCenter(chart.center());
     paintPanel(painter, plate, 5, colour::faded(colour::White, 88), colour::PanelLine);
@@ -118,20 +119,16 @@ void MSChart::showWhole(bool whole) {
 }
 
 bool MSChart::overflows() {
-    return laidOut(ChartLayout::Span::Scrolled).longestScroll() > 0;
+    return places().longestScroll() > 0;
 }
 
-ChartLayout MSChart::laidOut(ChartLayout::Span span) {
+const ChartLayout& MSChart::places() {
     if (!m_rulers) {
         const ChartFonts fonts = fontsFor(m_matrix);
         m_rulers.emplace(FontRuler(fonts.value), FontRuler(fonts.label));
     }
-    return {m_matrix, size(), {m_rulers->first, m_rulers->second}, span};
-}
-
-const ChartLayout& MSChart::places() {
     if (!m_places)
-        m_places.emplace(laidOut(m_span));
+        m_places.emplace(m_matrix, size(), ChartLayout::Rulers{m_rulers->first, m_rulers->second}, m_span);
     return *m_places;
 }
 
@@ -164,14 +161,13 @@ void MSChart::paintOn(QPaintDevice& device) {
         if ((m_drawing = ChartDrawing::load(m_moduleFolder)))
             m_drawing->setMatrix(m_matrix, fontsFor(m_matrix));
     }
-    if (m_drawing)
-        m_drawing->paint(device, places(), size(), scrolled());
-    QPainter painter(&device);
     if (m_drawing) {
+        m_drawing->paint(device, places(), size(), scrolled());
         if (m_matrix.isSample)
-            paintSampleMark(painter, rect());
+            paintSampleMark(device, rect());
         return;
     }
+    QPainter painter(&device);
     painter.setFont(sans(type::Body));
     painter.setPen(colour::Ink2);
     painter.drawText(rect(), Qt::AlignCenter, u"无法载入程序文件夹里的 qinghe_charts，图表显示不出来。"_s);

@@ -35,7 +35,7 @@ public:
     const QVariantList& ChartData() const { return m_data; }
     void setChartData(const QVariantList& rows, ChartLabels labels = ChartLabels::Words);
 
-    /// Whether the columns need more room than there is.
+    /// Whether the columns, as they stand, need more room than there is.
     bool overflows();
     /// All columns in view, however narrow; the next data stand at their own width again. For months.
     void showWhole(bool whole);
@@ -65,7 +65,6 @@ protected:
 
 private:
     void layOutStrip();
-    ChartLayout laidOut(ChartLayout::Span span);
     void redraw();
     /// The row under a place whose label is cut or not there and is told whole, or -1.
     int cutRowAt(const QPoint& place);

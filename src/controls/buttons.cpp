@@ -40,7 +40,7 @@ bool CommandButton::event(QEvent* event) {
 }
 
 void CommandButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    if (!key_presses::isEnter(event->key()))
         QPushButton::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         click();
@@ -76,7 +76,7 @@ CheckBox::CheckBox(QWidget* parent, const QString& name, const QString& caption)
 }
 
 void CheckBox::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    if (!key_presses::isEnter(event->key()))
         QCheckBox::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         KeyPress.fromQt(key_presses::Enter);

@@ -1,5 +1,7 @@
 #include "controls/key_gate.h"
 
+#include "controls/key_presses.h"
+
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>
@@ -16,10 +18,6 @@ bool isOfKeyboard(QEvent::Type type) {
            type == QEvent::InputMethod;
 }
 
-bool isEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 bool takesTyping(const QWidget& control) {
     const auto* list = qobject_cast<const QComboBox*>(&control);
     return qobject_cast<const QLineEdit*>(&control) || qobject_cast<const QPlainTextEdit*>(&control) ||
@@ -28,7 +26,7 @@ bool takesTyping(const QWidget& control) {
 
 /// Whether Enter or Space does something there beyond entering text: presses a button, answers a box.
 bool acts(const QWidget& control, int key) {
-    const bool answers = isEnter(key) && qobject_cast<const QDialog*>(control.window());
+    const bool answers = key_presses::isEnter(key) && qobject_cast<const QDialog*>(control.window());
     return answers || !takesTyping(control);
 }
 
@@ -56,7 +54,7 @@ void KeyGate::noteRelease(const QKeyEvent& event) {
 
 bool KeyGate::isHeldAgainst(const QWidget& control, const QKeyEvent& event) const {
     const int key = event.key();
-    if (!isEnter(key) && key != Qt::Key_Space)
+    if (!key_presses::isEnter(key) && key != Qt::Key_Space)
         return false;
     // The desktop repeats a held key as pairs of a release and a press of one moment. Qt takes the two for a repetition
     // only where it sees both at once.

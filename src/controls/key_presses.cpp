@@ -4,11 +4,14 @@
 
 namespace qinghe::key_presses {
 
+bool isEnter(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 int codeOf(const QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (isEnter(event.key()))
         return Enter;
+    switch (event.key()) {
     case Qt::Key_Escape:
         return Escape;
     case Qt::Key_Backspace:

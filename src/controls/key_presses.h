@@ -11,6 +11,9 @@ namespace qinghe::key_presses {
 
 inline constexpr int None = -1, Backspace = 8, Enter = 13, Escape = 27;
 
+/// Whether a key (Qt::Key) is either of the two Enters.
+bool isEnter(int key);
+
 /// The code of a key: a character's own (of two units the first), 13 for Enter, 8 for Backspace, 27 for Esc. Keys that
 /// enter nothing (arrows, Delete, Ctrl with a letter) have none.
 int codeOf(const QKeyEvent& event);

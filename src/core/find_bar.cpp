@@ -1,5 +1,6 @@
 #include "core/find_bar.h"
 
+#include "controls/key_presses.h"
 #include "core/grid_search.h"
 #include "core/hover.h"
 
@@ -195,8 +196,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_words || event->type() != QEvent::KeyPress)
         return false;
     const auto* key = static_cast<const QKeyEvent*>(event);
-    const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (!enter || !(key->modifiers() & Qt::ShiftModifier))
+    if (!key_presses::isEnter(key->key()) || !(key->modifiers() & Qt::ShiftModifier))
         return false;
     handlers::enter([this] { find(Way::Previous); });
     return true;

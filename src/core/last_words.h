@@ -3,7 +3,7 @@
 #include "core/page.h"
 #include "core/shared.h"
 
-#include <span>
+#include <vector>
 
 namespace qinghe {
 

@@ -90,8 +90,7 @@ void Navigation::chooseTab(const Page& shown) {
     if (own.empty())
         return;
     // A page that came to the front without a click on one of its labels has one label alone.
-    const auto chosen = std::ranges::find(own, static_cast<int>(currentPage),
-                                          [](const PageTab& tab) { return static_cast<int>(tab.code); });
+    const auto chosen = std::ranges::find(own, static_cast<PageCode>(static_cast<int>(currentPage)), &PageTab::code);
     const PageTab* tab = chosen == own.end() ? own.data() : &*chosen;
     for (const Tab& each : m_tabs)
         each.label->setRole(each.traits == tab ? Role::ChosenLabel : Role::PageLabel);

@@ -8,25 +8,28 @@ using namespace whole;
 
 namespace {
 
-/// A screen on which every unit of the desktop is two pixels wide and high, and which the main window fills for the
-/// most part.
-class DenseScreen : public ::testing::Test {
+/// A screen of so many pixels, and how many of them the desktop makes of one of its units.
+class ScaledScreen : public ::testing::Test {
 protected:
-    DenseScreen() { qputenv("QT_SCALE_FACTOR", "2"); }
-    ~DenseScreen() override { qunsetenv("QT_SCALE_FACTOR"); }
+    ScaledScreen(const QString& pixels, const QByteArray& scale) : display(pixels) {
+        qputenv("QT_SCALE_FACTOR", scale);
+    }
+    ~ScaledScreen() override { qunsetenv("QT_SCALE_FACTOR"); }
 
-    const Display display{QStringLiteral("2600x2000")};
+    const Display display;
     const LedgerFolder folder;
 };
 
-/// A small laptop whose desktop shows everything at one and a half of its size.
-class SmallDenseScreen : public ::testing::Test {
+/// The main window fills it for the most part.
+class DenseScreen : public ScaledScreen {
 protected:
-    SmallDenseScreen() { qputenv("QT_SCALE_FACTOR", "1.5"); }
-    ~SmallDenseScreen() override { qunsetenv("QT_SCALE_FACTOR"); }
+    DenseScreen() : ScaledScreen(QStringLiteral("2600x2000"), "2") {}
+};
 
-    const Display display{QStringLiteral("1366x768")};
-    const LedgerFolder folder;
+/// A small laptop whose desktop shows everything at one and a half of its size.
+class SmallDenseScreen : public ScaledScreen {
+protected:
+    SmallDenseScreen() : ScaledScreen(QStringLiteral("1366x768"), "1.5") {}
 };
 
 } // namespace
