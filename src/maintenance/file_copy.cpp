@@ -1,6 +1,6 @@
 #include "maintenance/file_copy.h"
 
-#include "platform/durable.h"
+#include "disk/durable.h"
 #include "platform/files.h"
 #include "runtime/runtime_error.h"
 

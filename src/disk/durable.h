@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+class QFile;
+
+namespace qinghe {
+
+/// Waits until what was written to an open file, and its name in its folder, would outlast a power cut. False when the
+/// disk reports that it failed.
+bool makeDurable(const QFile& file);
+
+/// The same for the names in a folder. A folder that cannot be read, or lies where folders are never synced, counts as
+/// durable: its names reach the disk in their own time.
+bool makeNamesDurable(const QString& folder);
+
+/// Whether there is no room for more: the disk is full, or the account may have no more of it, or no file so long. To
+/// be asked right after a write that failed.
+bool isOutOfRoom();
+
+} // namespace qinghe

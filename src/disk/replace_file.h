@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+
+class QFile;
+
+namespace qinghe {
+
+/// Puts a file under a name at once: it is written beside it, for its owner alone, and is durable before it takes the
+/// name, durably. Whoever looks, after a power cut too, finds what was there before or the whole new file, and never a
+/// part of it. A link under the name is replaced and not followed. What a killed program left half-written goes with
+/// the next attempt at the same name. Throws RuntimeError, with the old file as it was: DiskFull, PathFileAccess (a
+/// folder bears the name, no permission), DeviceFailure, and what `fill` throws.
+void replaceFile(const QString& path, const std::function<void(QFile&)>& fill);
+void replaceFile(const QString& path, const QByteArray& bytes);
+
+/// The pattern of the names under which files lie that are not whole yet; see replaceFile.
+inline constexpr QStringView UnfinishedFiles = u".unfinished-*";
+
+/// Writes all bytes at the file's place. Throws RuntimeError: DiskFull, PathFileAccess.
+void writeWhole(QFile& file, const QByteArray& bytes);
+
+} // namespace qinghe

@@ -1,0 +1,93 @@
+#include "disk/plain_file.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class APlainFile : public ::testing::Test {
+protected:
+    QString at(const QString& name) const { return dir.filePath(name); }
+    void make(const QString& name, const QByteArray& bytes) const {
+        QFile file(at(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray bytes(const QString& name) const {
+        QFile file(at(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+    }
+
+    QTemporaryDir dir;
+};
+
+TEST_F(APlainFile, IsReadAndWrittenLikeAnyOther) {
+    make(u"a"_s, "old content");
+    PlainFile file(at(u"a"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    EXPECT_EQ(file.fileName(), at(u"a"_s));
+    EXPECT_EQ(file.readAll(), "old content");
+    EXPECT_TRUE(file.seek(0));
+    EXPECT_EQ(file.write("new"), 3);
+    file.close();
+    EXPECT_EQ(bytes(u"a"_s), "new content");
+    ASSERT_TRUE(PlainFile(at(u"a"_s)).open(QIODevice::WriteOnly));
+    EXPECT_EQ(bytes(u"a"_s), "");
+    PlainFile again(at(u"a"_s));
+    EXPECT_FALSE(again.open(QIODevice::WriteOnly | QIODevice::NewOnly));
+    EXPECT_FALSE(PlainFile(at(u"none"_s)).open(QIODevice::ReadWrite | QIODevice::ExistingOnly));
+    EXPECT_EQ(kindOf(at(u"none"_s)), FileKind::Missing);
+}
+
+TEST_F(APlainFile, IsMadeForItsOwnerAlone) {
+    const mode_t before = umask(0);
+    EXPECT_TRUE(PlainFile(at(u"new"_s)).open(QIODevice::WriteOnly));
+    umask(before);
+    struct stat info = {};
+    ASSERT_EQ(stat(QFile::encodeName(at(u"new"_s)).constData(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777, 0600U);
+}
+
+TEST_F(APlainFile, IsNoLinkAndWhatItLeadsToStays) {
+    make(u"precious"_s, "kept");
+    QFile::link(at(u"precious"_s), at(u"link"_s));
+    EXPECT_EQ(kindOf(at(u"link"_s)), FileKind::Link);
+    for (const auto mode : {QIODevice::ReadOnly, QIODevice::WriteOnly, QIODevice::ReadWrite}) {
+        PlainFile file(at(u"link"_s));
+        EXPECT_FALSE(file.open(mode));
+        EXPECT_EQ(file.objection(), u"它是一个链接，不是文件");
+    }
+    EXPECT_EQ(bytes(u"precious"_s), "kept");
+    PlainFile followed(at(u"link"_s), Links::Follow);
+    ASSERT_TRUE(followed.open(QIODevice::ReadOnly));
+    EXPECT_EQ(followed.readAll(), "kept");
+}
+
+TEST_F(APlainFile, IsNoPipeNoDeviceAndNoFolder) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(at(u"pipe"_s)).constData(), 0600), 0);
+    EXPECT_EQ(kindOf(at(u"pipe"_s)), FileKind::Other);
+    for (const auto mode : {QIODevice::ReadOnly, QIODevice::WriteOnly, QIODevice::ReadWrite})
+        EXPECT_FALSE(PlainFile(at(u"pipe"_s)).open(mode));
+    EXPECT_FALSE(PlainFile(u"/dev/null"_s, Links::Follow).open(QIODevice::WriteOnly));
+    PlainFile folder(dir.path());
+    EXPECT_FALSE(folder.open(QIODevice::ReadOnly));
+    EXPECT_EQ(folder.objection(), u"它是一个文件夹");
+    EXPECT_EQ(kindOf(dir.path()), FileKind::Folder);
+}
+
+TEST_F(APlainFile, WithASecondNameIsTold) {
+    make(u"one"_s, "x");
+    EXPECT_EQ(kindOf(at(u"one"_s)), FileKind::Plain);
+    ASSERT_EQ(::link(QFile::encodeName(at(u"one"_s)).constData(), QFile::encodeName(at(u"two"_s)).constData()), 0);
+    EXPECT_EQ(kindOf(at(u"one"_s)), FileKind::Shared);
+    EXPECT_TRUE(isOwn(at(u"one"_s)));
+}
+
+} // namespace
+} // namespace qinghe::testing

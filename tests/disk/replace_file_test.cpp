@@ -1,0 +1,103 @@
+#include "disk/replace_file.h"
+#include "runtime/runtime_error.h"
+#include "support/small_disk.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class AReplacedFile : public ::testing::Test {
+protected:
+    QString at(const QString& name) const { return dir.filePath(name); }
+    QByteArray bytes(const QString& name) const {
+        QFile file(at(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+    }
+    QStringList names() const {
+        return QDir(dir.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+    }
+    template<typename Call>
+    static int errorOf(Call call) {
+        try {
+            call();
+        } catch (const RuntimeError& error) {
+            return error.number();
+        }
+        return 0;
+    }
+
+    QTemporaryDir dir;
+};
+
+TEST_F(AReplacedFile, IsWholeForItsOwnerAloneAndLeavesNothingBesideIt) {
+    const mode_t before = umask(0);
+    replaceFile(at(u"a"_s), "one");
+    replaceFile(at(u"a"_s), "two");
+    umask(before);
+    EXPECT_EQ(bytes(u"a"_s), "two");
+    EXPECT_EQ(names(), QStringList{u"a"_s});
+    struct stat info = {};
+    ASSERT_EQ(stat(QFile::encodeName(at(u"a"_s)).constData(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777, 0600U);
+}
+
+TEST_F(AReplacedFile, StaysAsItWasOnAFullDisk) {
+    replaceFile(at(u"a"_s), "old");
+    const SmallDisk disk(1000);
+    EXPECT_EQ(errorOf([this] { replaceFile(at(u"a"_s), QByteArray(5000, 'x')); }), RuntimeError::DiskFull);
+    EXPECT_EQ(bytes(u"a"_s), "old");
+    EXPECT_EQ(names(), QStringList{u"a"_s});
+}
+
+TEST_F(AReplacedFile, StaysAsItWasWhenItsContentCannotBeMade) {
+    replaceFile(at(u"a"_s), "old");
+    EXPECT_EQ(errorOf([this] {
+                  replaceFile(at(u"a"_s), [](QFile& file) {
+                      file.write("half");
+                      throw RuntimeError(RuntimeError::DeviceFailure, u"x"_s);
+                  });
+              }),
+              RuntimeError::DeviceFailure);
+    EXPECT_EQ(bytes(u"a"_s), "old");
+    EXPECT_EQ(names(), QStringList{u"a"_s});
+}
+
+TEST_F(AReplacedFile, TakesThePlaceOfALinkAndNotOfWhatItLeadsTo) {
+    replaceFile(at(u"precious"_s), "kept");
+    QFile::link(at(u"precious"_s), at(u"a"_s));
+    replaceFile(at(u"a"_s), "new");
+    EXPECT_EQ(bytes(u"precious"_s), "kept");
+    EXPECT_EQ(bytes(u"a"_s), "new");
+}
+
+TEST_F(AReplacedFile, TakesNotThePlaceOfAFolder) {
+    QDir(dir.path()).mkdir(u"a"_s);
+    EXPECT_EQ(errorOf([this] { replaceFile(at(u"a"_s), "new"); }), RuntimeError::PathFileAccess);
+    EXPECT_TRUE(QDir(at(u"a"_s)).exists());
+    EXPECT_TRUE(names().isEmpty());
+}
+
+TEST_F(AReplacedFile, ClearsAwayWhatAKilledAttemptLeft) {
+    QString left;
+    replaceFile(at(u"a"_s), [&left](QFile& file) { left = file.fileName(); });
+    {
+        QFile file(left);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("half of it");
+    }
+    EXPECT_FALSE(QDir(dir.path()).entryList({UnfinishedFiles.toString()}, QDir::Files | QDir::Hidden).isEmpty());
+    replaceFile(at(u"a"_s), "whole");
+    EXPECT_EQ(bytes(u"a"_s), "whole");
+    EXPECT_EQ(names(), QStringList{u"a"_s});
+}
+
+} // namespace
+} // namespace qinghe::testing
