@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -40,15 +42,23 @@ struct Store::Impl {
     std::unique_ptr<Session> open;
     int generation = 0;
     bool hasUndone = false;
+    Patience patience = UsualPatience;
 
     /// The open file, opened if need be; one that was replaced under its name is opened anew.
     Session& session() {
         dropIfMoved();
         if (!open) {
             requireStoreFile(path);
-            open = std::make_unique<Session>(path, thisYear);
+            open = std::make_unique<Session>(path, thisYear, patience);
         }
         return *open;
+    }
+
+    /// Gives the one that was.
+    Patience setPatience(Patience next) {
+        if (open)
+            open->setPatience(next);
+        return std::exchange(patience, next);
     }
 
     void dropIfMoved() {
@@ -125,6 +135,45 @@ void Store::close() {
 
 bool Store::hasUndone() const {
     return m_impl->hasUndone;
+}
+
+Store::Stillness Store::holdStill() {
+    commit();
+    const bool undoneBefore = hasUndone();
+    try {
+        m_impl->run([](Session& session) { session.hold(); });
+    } catch (const RuntimeError& error) {
+        if (error.number() == RuntimeError::FileLocked)
+            throw;
+        m_impl->hasUndone = undoneBefore;
+    }
+    return Stillness(*this);
+}
+
+Store::Stillness::~Stillness() {
+    if (m_store.m_impl->open)
+        m_store.m_impl->open->rollBack();
+}
+
+void Store::setPatience(std::chrono::milliseconds patience) {
+    m_impl->setPatience(patience);
+}
+
+bool Store::tryNow(const std::function<void()>& reading) {
+    const bool undoneBefore = hasUndone();
+    const Patience usual = m_impl->setPatience(Patience(0));
+    bool done = true;
+    try {
+        reading();
+    } catch (const RuntimeError& error) {
+        m_impl->setPatience(usual);
+        if (error.number() != RuntimeError::FileLocked)
+            throw;
+        m_impl->hasUndone = undoneBefore; // there was no work to undo
+        done = false;
+    }
+    m_impl->setPatience(usual);
+    return done;
 }
 
 int Store::generation() const {

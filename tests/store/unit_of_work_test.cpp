@@ -3,6 +3,7 @@
 #include <QFile>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace qinghe {
 namespace {
@@ -157,6 +158,7 @@ TEST_F(UnitOfWork, SetsOfOneSourceKnowNothingOfEachOther) {
 }
 
 TEST_F(UnitOfWork, IsRefusedFromItsFirstRowWhileAnotherProgramWrites) {
+    store.setPatience(0ms);
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.commit();
     Recordset& set = control.open(u"srb"_s);
@@ -172,6 +174,7 @@ TEST_F(UnitOfWork, IsRefusedFromItsFirstRowWhileAnotherProgramWrites) {
 }
 
 TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
+    store.setPatience(0ms);
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.commit();
     OtherProgram reader(path());
@@ -188,6 +191,7 @@ TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
 }
 
 TEST_F(UnitOfWork, FailedClosingLeavesTheFileClosed) {
+    store.setPatience(0ms);
     OtherProgram reader(path());
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     reader.run(u"BEGIN"_s);
