@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <utility>
 
@@ -81,6 +82,20 @@ struct Store::Impl {
                 recover(error);
             throw;
         }
+    }
+
+    /// False where the work fails with this error; then it counts as never begun.
+    bool doWithout(int number, const std::function<void()>& work) {
+        const bool undoneBefore = hasUndone;
+        try {
+            work();
+            return true;
+        } catch (const RuntimeError& error) {
+            if (error.number() != number)
+                throw;
+        }
+        hasUndone = undoneBefore;
+        return false;
     }
 
     void recover(const RuntimeError& error) {
@@ -160,20 +175,17 @@ void Store::setPatience(std::chrono::milliseconds patience) {
 }
 
 bool Store::tryNow(const std::function<void()>& reading) {
-    const bool undoneBefore = hasUndone();
     const Patience usual = m_impl->setPatience(Patience(0));
-    bool done = true;
-    try {
-        reading();
-    } catch (const RuntimeError& error) {
-        m_impl->setPatience(usual);
-        if (error.number() != RuntimeError::FileLocked)
-            throw;
-        m_impl->hasUndone = undoneBefore; // there was no work to undo
-        done = false;
-    }
-    m_impl->setPatience(usual);
-    return done;
+    const auto backToUsual = qScopeGuard([&] { m_impl->setPatience(usual); });
+    return m_impl->doWithout(RuntimeError::FileLocked, reading);
+}
+
+bool Store::tryToWrite(const std::function<void()>& writing) {
+    commit();
+    return m_impl->doWithout(RuntimeError::DiskFull, [&] {
+        writing();
+        commit();
+    });
 }
 
 int Store::generation() const {

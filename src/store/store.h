@@ -83,6 +83,10 @@ public:
     /// the file, with nothing lost.
     bool tryNow(const std::function<void()>& reading);
 
+    /// Runs a unit of work of its own that can be done without: false when the disk is full, with nothing of it done.
+    /// What was open before is ended first. Throws RuntimeError: what commit() throws then, and all but DiskFull.
+    bool tryToWrite(const std::function<void()>& writing);
+
     /// Counts the closings: what was read under another number is void. A file that was replaced under its name counts
     /// as closed at the next use.
     int generation() const;
