@@ -6,15 +6,19 @@
 
 #include <QDir>
 
+#include <algorithm>
+#include <array>
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The truth about the book. Nothing is promised of one that is gone or cannot be read.
+/// The truth about the book. Nothing is promised of one that is gone or cannot be read, nor by a disk that fails.
 QString aboutBook(const Shared& shared, const RuntimeError& error) {
-    if (error.number() == RuntimeError::StoreFailure || error.number() == RuntimeError::FileNotFound)
+    constexpr std::array Uncertain{RuntimeError::StoreFailure, RuntimeError::FileNotFound, RuntimeError::DeviceFailure};
+    if (std::ranges::find(Uncertain, error.number()) != Uncertain.end())
         return {};
     const bool undone = shared.store.hasUndone();
     if (const auto& saving = shared.saving)

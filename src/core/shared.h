@@ -55,6 +55,9 @@ public:
     /// between leaves it here, to be told.
     std::optional<SaveAtWork> saving;
 
+    /// What the main window has to say once it stands: one line each.
+    QStringList notes;
+
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;
     /// Empties what stands on the diary page, if that is on view; entered by that page.

@@ -118,6 +118,7 @@ void BackupWindow::Form13_Command1_Click() {
 
 /// The file is only read, and all work stands in it since the last message: recordsets stay good.
 void BackupWindow::backUp(const QString& file) {
+    const Store::Stillness still = m_shared.store.holdStill(); // to the end of the copying, which opens the book once
     FileCopy copying(m_shared.dataFile(), file);
     copy(copying);
 }
@@ -133,7 +134,7 @@ void BackupWindow::restore(const QString& file) {
     } catch (const RuntimeError& error) {
         throw RuntimeError(RuntimeError::StoreFailure,
                            error.text() + u"账本现在不能使用：请把备份文件复制到程序所在的文件夹，改名为 data.dll，"
-                                          u"再启动程序。"_s);
+                                          u"再启动程序。那里如果还有一个 data.dll-journal，要先把它移到别处。"_s);
     }
 }
 
