@@ -2,6 +2,7 @@
 #include "core/main_window.h"
 #include "look/look.h"
 #include "platform/fitted_application.h"
+#include "platform/private_files.h"
 #include "platform/start_ahead.h"
 
 #include <QLibraryInfo>
@@ -9,6 +10,7 @@
 
 int main(int argc, char** argv) {
     using namespace Qt::StringLiterals;
+    qinghe::keepNewFilesPrivate();
     std::thread fonts = qinghe::readFontsAhead();
     qinghe::FittedApplication application(argc, argv, qinghe::MainWindow::sizeInPixels());
     QApplication::setQuitOnLastWindowClosed(false);

@@ -3,6 +3,7 @@
 #include "analysis/charts_page.h"
 #include "core/last_words.h"
 #include "core/main_window.h"
+#include "core/own_files.h"
 #include "core/sign_in.h"
 #include "core/web_window.h"
 #include "journal/diary_page.h"
@@ -90,7 +91,10 @@ void Program::defineForms() {
 }
 
 void Program::start() {
-    handlers::enter([this] { m_shared.forms.get(names::SignIn).showForm(); });
+    handlers::enter([this] {
+        closeOwnFiles(m_shared);
+        m_shared.forms.get(names::SignIn).showForm();
+    });
 }
 
 void Program::comeForward() {

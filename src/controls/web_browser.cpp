@@ -1,5 +1,9 @@
 #include "controls/web_browser.h"
 
+#include "platform/files.h"
+
+#include <QFileInfo>
+
 namespace qinghe {
 
 WebBrowser::WebBrowser(QWidget* parent, const QString& name) : QTextBrowser(parent), Placed(this) {
@@ -11,13 +15,22 @@ WebBrowser::WebBrowser(QWidget* parent, const QString& name) : QTextBrowser(pare
 }
 
 void WebBrowser::navigate(const QUrl& page) {
+    m_folder = QFileInfo(page.toLocalFile()).path();
     setSource(page);
+}
+
+bool WebBrowser::isOfFolder(const QUrl& target) const {
+    return target.isLocalFile() && files::isPlainFileIn(m_folder, target.toLocalFile());
+}
+
+QVariant WebBrowser::loadResource(int type, const QUrl& name) {
+    const QUrl target = source().resolved(name);
+    return isOfFolder(target) ? QTextBrowser::loadResource(type, target) : QVariant();
 }
 
 void WebBrowser::follow(const QUrl& link) {
     const QUrl target = source().resolved(link);
-    const QUrl folder = source().adjusted(QUrl::RemoveFilename);
-    if (folder.isParentOf(target))
+    if (isOfFolder(target))
         setSource(target);
     else
         Leave.fromQt(target);

@@ -8,7 +8,8 @@
 
 namespace qinghe {
 
-/// Shows local pages. A link to another page of the same folder is followed; any other leaves to `Leave`.
+/// Shows local pages, and of what they name only plain files of the first page's folder. A link to another page there
+/// is followed; any other leaves to `Leave`.
 class WebBrowser : public QTextBrowser, public Placed {
     Q_OBJECT
     QINGHE_CONTROL
@@ -20,8 +21,14 @@ public:
 
     Event<const QUrl&> Leave;
 
+protected:
+    QVariant loadResource(int type, const QUrl& name) override;
+
 private:
     void follow(const QUrl& link);
+    bool isOfFolder(const QUrl& target) const;
+
+    QString m_folder;
 };
 
 } // namespace qinghe

@@ -71,7 +71,7 @@ void MainWindow::openFindBar() {
 
 void MainWindow::load() {
     refuseSecondCopy();
-    if (const QString diary = m_shared.diaryFolder(); !files::isFolder(diary))
+    if (const QString diary = m_shared.safeDiaryFolder(); !files::isFolder(diary))
         files::makeFolder(diary);
     shapeMainWindow(*this);
     m_shared.store.close();

@@ -1,5 +1,6 @@
 #include "core/shared.h"
 
+#include "platform/files.h"
 #include "store/connection_text.h"
 #include "store/data_file.h"
 
@@ -21,6 +22,11 @@ QString Shared::dataFile() const {
 
 QString Shared::diaryFolder() const {
     return beside(u"mydiary"_s);
+}
+
+QString Shared::safeDiaryFolder() const {
+    files::requireFolderOfItsOwn(diaryFolder(), services.appPath);
+    return diaryFolder();
 }
 
 QString Shared::beside(const QString& name) const {

@@ -71,8 +71,11 @@ public:
     QString connection() const;
     /// The path of the data file.
     QString dataFile() const;
-    /// The path of the folder in which the diary's texts lie.
+    /// The path of the folder in which the diary's texts lie, as it is told.
     QString diaryFolder() const;
+    /// The same, to write, read or delete there: refused while a link of that name would lead elsewhere. Throws
+    /// RuntimeError (PathFileAccess).
+    QString safeDiaryFolder() const;
     /// The path of a file beside the program.
     QString beside(const QString& name) const;
 

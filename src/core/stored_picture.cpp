@@ -1,6 +1,7 @@
 #include "core/stored_picture.h"
 
 #include "platform/files.h"
+#include "platform/pictures.h"
 
 #include <limits>
 
@@ -21,25 +22,25 @@ PictureBytes pictureOf(const StoredPicture& picture, Recordset& row) {
     return {static_cast<float>(size), row.field(picture.table.bytes).getChunk(static_cast<int>(size))};
 }
 
-/// The first row with bytes, else the first row, which must be there.
-PictureBytes firstWithBytes(const StoredPicture& picture, Adodc& control) {
-    PictureBytes read = readPicture(picture, control);
-    Recordset& rows = control.recordset();
-    for (rows.moveNext(); read.bytes.isEmpty() && !rows.eof(); rows.moveNext())
-        read = pictureOf(picture, rows);
-    return read;
+/// What cannot be shown, be it no picture or too large a one, counts as none where nobody has just asked for it: its
+/// users get in, whatever lies in the book.
+template<class Show>
+QImage orNone(const Show& show) {
+    try {
+        return show();
+    } catch (const RuntimeError& error) {
+        if (error.number() != RuntimeError::InvalidPicture)
+            throw;
+        return {};
+    }
 }
 
-QImage firstThatCanBeShown(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place) {
-    for (Recordset& rows = control.open(picture.source.toString()); !rows.eof(); rows.moveNext()) {
-        try {
-            const QImage image = writeOut(picture, pictureOf(picture, rows).bytes, shared, place);
-            if (!image.isNull())
-                return image;
-        } catch (const RuntimeError& error) {
-            if (error.number() != RuntimeError::InvalidPicture)
-                throw;
-        }
+/// From the row on which the set stands.
+QImage firstThatCanBeShown(const StoredPicture& picture, Recordset& rows, const Shared& shared, const QWidget& place) {
+    for (; !rows.eof(); rows.moveNext()) {
+        const auto show = [&] { return writeOut(picture, pictureOf(picture, rows).bytes, shared, place); };
+        if (const QImage image = orNone(show); !image.isNull())
+            return image;
     }
     return {};
 }
@@ -54,18 +55,24 @@ QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Sha
     if (bytes.isEmpty())
         return {};
     const QString path = shared.beside(picture.file.toString());
+    const QImage image = pictureFrom(bytes, place.size(), path); // what is no picture is not written
     files::writeOver(path, bytes);
-    return files::loadPicture(path, place.size());
+    return image;
 }
 
 QImage writeOut(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place) {
-    return writeOut(picture, firstWithBytes(picture, control).bytes, shared, place);
+    const QByteArray first = readPicture(picture, control).bytes;
+    if (const QImage image = orNone([&] { return writeOut(picture, first, shared, place); }); !image.isNull())
+        return image;
+    control.recordset().moveNext();
+    return firstThatCanBeShown(picture, control.recordset(), shared, place);
 }
 
 QImage writeOutSkin(Adodc& control, const Shared& shared, const QWidget& place) {
     const QByteArray chosen = readPicture(ChosenSkin, control).bytes;
-    return chosen.isEmpty() ? firstThatCanBeShown(OfferedSkins, control, shared, place)
-                            : writeOut(ChosenSkin, chosen, shared, place);
+    if (const QImage image = orNone([&] { return writeOut(ChosenSkin, chosen, shared, place); }); !image.isNull())
+        return image;
+    return firstThatCanBeShown(OfferedSkins, control.open(OfferedSkins.source.toString()), shared, place);
 }
 
 } // namespace qinghe

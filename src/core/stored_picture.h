@@ -29,15 +29,15 @@ struct PictureBytes {
 /// Reads the picture of the first row through `control`; it may have no bytes, which is none. Throws RuntimeError: no
 /// row, a size that no picture has (InvalidPicture), and what the store throws.
 PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QString& endOfSource = {});
-/// Writes the picture's file, over one that was left, whose tail stays when it is longer; then loads it, to be shown on
-/// `place`. A picture of no bytes is none: nothing is written, and the image is null. Throws RuntimeError: not
-/// writable, no picture.
+/// Loads the picture, to be shown on `place`, and writes its file, over one that was left, whose tail stays when it is
+/// longer. What is no picture is not written. A picture of no bytes is none: nothing is written, and the image is null.
+/// Throws RuntimeError: not writable, no picture.
 QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place);
-/// Both, for the first row with bytes; the image is null where none has any. Throws RuntimeError: no row at all, and
-/// what the others throw.
+/// Both, for the first row that can be shown; the image is null where none can. Throws RuntimeError: no row at all, the
+/// size in the first is none that a picture has, not writable.
 QImage writeOut(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place);
-/// The main window's picture: the chosen skin; where that has no bytes the first of the skins on offer that can be
-/// shown, so that nobody is locked out by a choice; else a null image. Throws likewise for the chosen skin.
+/// The main window's picture: the chosen skin; where that cannot be shown the first of the skins on offer that can, so
+/// that nobody is locked out by a choice; else a null image. Throws likewise.
 QImage writeOutSkin(Adodc& control, const Shared& shared, const QWidget& place);
 
 } // namespace qinghe

@@ -18,6 +18,14 @@ FileKind kindOf(const QString& path);
 /// Whether a file or folder belongs to the account that runs the program, or there is none of that name.
 bool isOwn(const QString& path);
 
+/// Whether an open file belongs to the account that runs the program and bears no second name. Asked once more of a
+/// file that is to be written into, since whoever may write in its folder can change what lies under a name.
+bool isOwnAlone(const QFile& opened);
+
+/// Takes every right to a file or folder away from other accounts. Leaves alone what is none, a link, somebody else's
+/// and a file with a second name, and says nothing where it cannot be done.
+void closeToOthers(const QString& path);
+
 /// Whether a link at the end of the path is followed to where it leads.
 enum class Links { Refuse, Follow };
 

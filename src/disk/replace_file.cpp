@@ -26,27 +26,28 @@ QString unfinishedNameOf(const QFileInfo& file) {
     return file.dir().filePath(UnfinishedFiles.toString().replace(u'*', mark));
 }
 
-void makeWhole(const QString& path, const std::function<void(QFile&)>& fill) {
+void makeWhole(const QString& path, const QString& wanted, const std::function<void(QFile&)>& fill) {
     PlainFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-        fail(RuntimeError::PathFileAccess, path, file.objection());
+        fail(isOutOfRoom() ? RuntimeError::DiskFull : RuntimeError::PathFileAccess, wanted, file.objection());
     fill(file);
     if (!makeDurable(file))
-        fail(RuntimeError::DeviceFailure, path, u"磁盘没有收下写入的内容"_s);
+        fail(RuntimeError::DeviceFailure, wanted, u"磁盘没有收下写入的内容"_s);
 }
 
 } // namespace
 
-void writeWhole(QFile& file, const QByteArray& bytes) {
+void writeWhole(QFile& file, const QByteArray& bytes, const QString& shown) {
+    const QString name = shown.isEmpty() ? file.fileName() : shown;
     qint64 written = 0;
     while (written < bytes.size()) { // a disk takes what still fits before it says that it is full
         const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
         if (taken > 0)
             written += taken;
         else if (isOutOfRoom())
-            fail(RuntimeError::DiskFull, file.fileName(), u"磁盘已满，请腾出空间后再试"_s);
+            fail(RuntimeError::DiskFull, name, u"磁盘已满，请腾出空间后再试"_s);
         else
-            fail(RuntimeError::PathFileAccess, file.fileName(), file.errorString());
+            fail(RuntimeError::PathFileAccess, name, file.errorString());
     }
 }
 
@@ -55,7 +56,7 @@ void replaceFile(const QString& path, const std::function<void(QFile&)>& fill) {
     const QString unfinished = unfinishedNameOf(wanted);
     QFile::remove(unfinished);
     try {
-        makeWhole(unfinished, fill);
+        makeWhole(unfinished, path, fill);
         std::error_code failed;
         std::filesystem::rename(QFile(unfinished).filesystemFileName(), QFile(path).filesystemFileName(), failed);
         if (failed)
@@ -69,7 +70,7 @@ void replaceFile(const QString& path, const std::function<void(QFile&)>& fill) {
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes) {
-    replaceFile(path, [&bytes](QFile& file) { writeWhole(file, bytes); });
+    replaceFile(path, [&](QFile& file) { writeWhole(file, bytes, path); });
 }
 
 } // namespace qinghe

@@ -20,7 +20,8 @@ void replaceFile(const QString& path, const QByteArray& bytes);
 /// The pattern of the names under which files lie that are not whole yet; see replaceFile.
 inline constexpr QStringView UnfinishedFiles = u".unfinished-*";
 
-/// Writes all bytes at the file's place. Throws RuntimeError: DiskFull, PathFileAccess.
-void writeWhole(QFile& file, const QByteArray& bytes);
+/// Writes all bytes at the file's place. Throws RuntimeError with the file's name in its text, or the one that it shall
+/// bear: DiskFull, PathFileAccess.
+void writeWhole(QFile& file, const QByteArray& bytes, const QString& shown = {});
 
 } // namespace qinghe

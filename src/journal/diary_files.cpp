@@ -1,5 +1,6 @@
 #include "journal/diary_files.h"
 
+#include "disk/replace_file.h"
 #include "platform/files.h"
 #include "runtime/runtime_error.h"
 
@@ -76,7 +77,8 @@ QString filePath(const QString& folder, const QString& title) {
 
 void write(const QString& path, const QString& text) {
     QStringEncoder encode(TextCodec);
-    files::writeAll(path, encode(text + u"\r\n"_s));
+    const QByteArray bytes = encode(text + u"\r\n"_s);
+    replaceFile(path, bytes);
 }
 
 QString readLines(const QString& path) {

@@ -14,11 +14,13 @@ QString objection(const QString& title);
 /// RuntimeError (PathFileAccess) with the reason in its text.
 QString filePath(const QString& folder, const QString& title);
 
-/// Replaces the file by the text and one line end. Throws RuntimeError (PathFileAccess, DiskFull).
+/// Replaces the file by the text and one line end, durably: what was there before stays until the whole of it is kept.
+/// A link of that name is replaced and not followed. Throws RuntimeError (PathFileAccess, DiskFull, DeviceFailure).
 void write(const QString& path, const QString& text);
 
 /// The lines of a file one behind the other, with nothing between them: CR LF, CR and LF each end a line. Bytes that
-/// are no text read as replacement characters. Throws RuntimeError (FileNotFound, PathFileAccess).
+/// are no text read as replacement characters. A link is not followed. Throws RuntimeError (FileNotFound,
+/// PathFileAccess).
 QString readLines(const QString& path);
 
 } // namespace qinghe::diary

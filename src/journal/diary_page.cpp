@@ -166,7 +166,7 @@ void DiaryPage::showEntry() {
 }
 
 QString DiaryPage::fileOf(const QString& title) const {
-    return diary::filePath(m_shared.diaryFolder(), title);
+    return diary::filePath(m_shared.safeDiaryFolder(), title);
 }
 
 void DiaryPage::Form2_tx9_Click() {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "disk/plain_file.h"
+
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 
 #include <functional>
@@ -12,25 +13,28 @@ namespace qinghe {
 /// source has, its last one twice, and is never cut: an older, longer target keeps its tail. Both are meant to.
 class FileCopy {
 public:
-    /// Opens both, and makes the target where there is none, to be read and written by its owner alone. Throws
-    /// RuntimeError, with nothing written: FileNotFound (no source), PathNotFound (no folder for the target),
-    /// PathFileAccess (no permission, not a plain file, an empty source, one and the same file).
+    /// Opens both, makes the target where there is none, keeps it to its owner alone, and takes all the room that it
+    /// will need. The source may be a link, since it is only read. Throws RuntimeError, with nothing written and no
+    /// target made: FileNotFound (no source), PathNotFound (no folder for the target), DiskFull, PathFileAccess (no
+    /// permission, no plain file, an empty source, one and the same file; a target that is a link, has a second name or
+    /// belongs to another account).
     FileCopy(const QString& source, const QString& target);
 
     /// Of the source when it was opened, in bytes.
     qint64 length() const { return m_length; }
 
     /// Writes, and is durable when it returns. `progress` hears how many bytes stand in the target. Throws
-    /// RuntimeError: DiskFull, PathFileAccess; the target is then left half-written.
+    /// RuntimeError, where the disk fails after all (DeviceFailure, DiskFull, PathFileAccess); the target is then left
+    /// half-written.
     void run(const std::function<void(qint64 written)>& progress);
 
 private:
     QByteArray nextPiece();
     void append(const QByteArray& piece);
-    [[noreturn]] void breakOff(const QString& reason) const;
+    [[noreturn]] void breakOff(int number, const QString& reason) const;
 
-    QFile m_source;
-    QFile m_target;
+    PlainFile m_source;
+    PlainFile m_target;
     qint64 m_length = 0;
 };
 

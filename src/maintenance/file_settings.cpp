@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "disk/replace_file.h"
 #include "maintenance/purge_window.h"
 #include "platform/files.h"
 #include "store/tables.h"
@@ -84,10 +85,17 @@ void FileSettings::Form2_Check2_Click() {
     Recordset& entries = Adodc1.open(tables::Diary.toString());
     // Files of which no row tells are left alone.
     if (entries.recordCount() != 0)
-        files::deleteMatching(m_shared.diaryFolder(), u"*.dll"_s);
+        wipeTexts();
     emptyTable(entries);
     m_shared.emptyDiaryPage();
     m_shared.services.say(u"格式化完成！"_s);
+}
+
+/// What a killed program left half-written goes, too.
+void FileSettings::wipeTexts() {
+    const QString diary = m_shared.safeDiaryFolder();
+    for (const QStringView texts : {QStringView(u"*.dll"), UnfinishedFiles})
+        files::deleteMatching(diary, texts.toString());
 }
 
 void FileSettings::Form2_Check4_Click() {

@@ -21,6 +21,7 @@ public:
 
 private:
     void placeControls();
+    void wipeTexts();
     void openBackup(BackupWindow::Direction direction);
 
     Shared& m_shared;

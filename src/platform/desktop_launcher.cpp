@@ -1,7 +1,9 @@
 #include "platform/desktop_launcher.h"
 
+#include "disk/plain_file.h"
+#include "platform/private_files.h"
+
 #include <QDesktopServices>
-#include <QFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -14,7 +16,7 @@ namespace {
 
 /// Whether this list of the kinds of files and their programs names one for pages.
 bool namesBrowser(const QString& list) {
-    QFile file(list);
+    PlainFile file(list, Links::Follow);
     if (!file.open(QIODevice::ReadOnly))
         return false;
     while (!file.atEnd())
@@ -34,6 +36,7 @@ bool hasBrowser() {
 }
 
 bool DesktopLauncher::explore(const QUrl& page) {
+    const AccountsOwnHabits habits; // what the browser saves is the user's to share
     return hasBrowser() && QDesktopServices::openUrl(page);
 }
 

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace qinghe::testing {
 namespace {
 
@@ -44,6 +46,24 @@ TEST_F(WebBrowserTest, ALinkThatLeavesTheFolderIsHandedOn) {
     emit browser.anchorClicked(QUrl(u"../other.htm"_s));
     EXPECT_EQ(left, (QList<QUrl>{QUrl(u"http://qinghe.example/"_s), outside}));
     EXPECT_TRUE(browser.toPlainText().startsWith(u"软件"_s));
+}
+
+TEST_F(WebBrowserTest, WhatLeadsOutOfTheFolderByALinkOrIsNoPlainFileIsNotShown) {
+    QTemporaryDir elsewhere;
+    QFile secret(elsewhere.filePath(u"secret.htm"_s));
+    ASSERT_TRUE(secret.open(QIODevice::WriteOnly));
+    secret.write("secret");
+    secret.close();
+    QFile::link(secret.fileName(), folder.filePath(u"link.htm"_s));
+    QFile::link(elsewhere.path(), folder.filePath(u"below"_s));
+    ASSERT_EQ(mkfifo(QFile::encodeName(folder.filePath(u"pipe.htm"_s)).constData(), 0600), 0);
+    for (const QString& name : {u"link.htm"_s, u"below/secret.htm"_s, u"pipe.htm"_s, u"%2e%2e/other.htm"_s}) {
+        emit browser.anchorClicked(QUrl(name));
+        EXPECT_TRUE(browser.toPlainText().startsWith(u"软件"_s)) << name.toStdString();
+    }
+    EXPECT_EQ(left.size(), 4);
+    browser.navigate(page(u"link.htm"_s));
+    EXPECT_FALSE(browser.toPlainText().contains(u"secret"_s));
 }
 
 } // namespace

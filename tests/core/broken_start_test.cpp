@@ -1,4 +1,8 @@
 #include "core_fixture.h"
+#include "disk/plain_file.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace qinghe::testing {
 namespace {
@@ -157,10 +161,29 @@ TEST_F(BrokenStart, APictureTableWithoutItsRowIsTold) {
     }
 }
 
-TEST_F(BrokenStart, APictureThatIsNoneIsToldWithItsFile) {
+TEST_F(BrokenStart, APictureThatIsNoneLocksNobodyOutAndIsNotWritten) {
     rig.sql(u"update 皮肤选择 set 文件大小=5, 皮肤文件=x'0102030405'"_s);
+    rig.sql(u"update 主界面 set 大小=5, 文件=x'0102030405'"_s);
+    rig.sql(u"update 登陆皮肤 set 大小=5, 皮肤=x'0102030405'"_s);
     rig.signIn();
-    expectError(RuntimeError::InvalidPicture, u"pf.jpg"_s);
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_TRUE(main().isVisible());
+    for (const QStringView picture : {u"pf.jpg", u"zjm.jpg", u"dlpf.jpg"})
+        EXPECT_FALSE(folder().contains(picture.toString()));
+}
+
+TEST_F(BrokenStart, PicturesAreNotWrittenThroughLinksAndStaysOfPipesAreCleared) {
+    write(u"precious"_s, "kept");
+    ASSERT_TRUE(QFile::link(rig.file(u"precious"_s), rig.file(u"dlpf.jpg"_s)));
+    ASSERT_EQ(mkfifo(QFile::encodeName(rig.file(u"pf.jpg"_s)).constData(), 0600), 0);
+    ASSERT_EQ(link(QFile::encodeName(rig.file(u"precious"_s)).constData(),
+                   QFile::encodeName(rig.file(u"zjm.jpg"_s)).constData()),
+              0);
+    rig.signIn();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_EQ(bytes(u"precious"_s), "kept");
+    for (const QStringView picture : {u"pf.jpg", u"zjm.jpg", u"dlpf.jpg"})
+        EXPECT_EQ(kindOf(rig.file(picture.toString())), FileKind::Plain);
 }
 
 TEST_F(BrokenStart, ASignInPictureThatCannotBeWrittenIsTold) {
@@ -190,6 +213,19 @@ TEST_F(BrokenStart, AFileInPlaceOfTheDiaryFolderIsToldAndKept) {
     EXPECT_TRUE(rig.messages->errors.front().second.contains(u"改名或移到别处"_s));
     EXPECT_EQ(bytes(u"mydiary"_s), "something of the user's");
     QFile::remove(rig.file(u"mydiary"_s));
+    expectNextStartGood();
+}
+
+TEST_F(BrokenStart, ALinkInPlaceOfTheDiaryFolderIsToldAndKept) {
+    for (const QString& target : {u"."_s, u"elsewhere"_s}) {
+        ASSERT_TRUE(QFile::link(target, rig.file(u"mydiary"_s)));
+        rig.signIn();
+        expectError(RuntimeError::PathFileAccess, u"/mydiary”是一个链接"_s);
+        EXPECT_EQ(kindOf(rig.file(u"mydiary"_s)), FileKind::Link);
+        QFile::remove(rig.file(u"mydiary"_s));
+        rig.stop();
+    }
+    EXPECT_FALSE(folder().contains(u"elsewhere"_s));
     expectNextStartGood();
 }
 

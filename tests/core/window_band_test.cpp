@@ -98,6 +98,29 @@ TEST_F(WindowBand, ALinkOutOfTheToolsWindowOpensInTheSystemsBrowser) {
     EXPECT_EQ(rig.launcher->opened, std::vector<QUrl>{QUrl(u"http://qinghe.example/"_s)});
 }
 
+TEST_F(WindowBand, ALinkThatWouldShowAFileOrStartAProgramIsNotFollowed) {
+    deliverWebPages(rig.folder());
+    click(title::Tools);
+    const auto follow = [this](const QString& link) { emit rig.at(web::Browser).anchorClicked(QUrl(link)); };
+    for (const QString& link :
+         {u"file:///etc/passwd"_s, u"../data.dll"_s, u"smb://host/share"_s, u"javascript:alert(1)"_s, u"http:///x"_s,
+          u"mailto:a@b.example?attach=/etc/passwd"_s, u"mailto:a@b.example?subject=x&ATTACHMENT=/etc/passwd"_s,
+          u"apt:xterm"_s, u"data:text/html,x"_s})
+        follow(link);
+    EXPECT_TRUE(rig.launcher->opened.empty());
+    EXPECT_TRUE(rig.messages->shown.empty());
+    follow(u"mailto:a@b.example?subject=x"_s);
+    follow(u"https://qinghe.example/a"_s);
+    EXPECT_EQ(rig.launcher->opened.size(), 2u);
+    EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(WindowBand, APageThatIsNotThereIsTold) {
+    click(title::About);
+    EXPECT_TRUE(rig.launcher->opened.empty());
+    EXPECT_TRUE(rig.lastMessage().text.contains(u"adetail.htm"_s));
+}
+
 TEST_F(WindowBand, WithoutABrowserThePagesOpenInTheProgramsOwnWindow) {
     deliverWebPages(rig.folder());
     rig.launcher->present = false;

@@ -1,5 +1,6 @@
 #include "disk/plain_file.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -87,6 +88,41 @@ TEST_F(APlainFile, WithASecondNameIsTold) {
     ASSERT_EQ(::link(QFile::encodeName(at(u"one"_s)).constData(), QFile::encodeName(at(u"two"_s)).constData()), 0);
     EXPECT_EQ(kindOf(at(u"one"_s)), FileKind::Shared);
     EXPECT_TRUE(isOwn(at(u"one"_s)));
+    PlainFile opened(at(u"one"_s));
+    ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
+    EXPECT_FALSE(isOwnAlone(opened));
+    QFile::remove(at(u"two"_s));
+    EXPECT_TRUE(isOwnAlone(opened));
+}
+
+TEST_F(APlainFile, IsClosedToOthersAndWhatIsNotOursStaysAsItIs) {
+    const auto mode = [this](const QString& name) {
+        struct stat info = {};
+        stat(QFile::encodeName(at(name)).constData(), &info);
+        return info.st_mode & 0777;
+    };
+    const auto loose = [this](const QString& name, mode_t rights) {
+        chmod(QFile::encodeName(at(name)).constData(), rights);
+    };
+    for (const QString& name : {u"own"_s, u"precious"_s, u"one"_s, u"others"_s})
+        make(name, "x");
+    QDir(dir.path()).mkdir(u"folder"_s);
+    QFile::link(at(u"precious"_s), at(u"link"_s));
+    ASSERT_EQ(::link(QFile::encodeName(at(u"one"_s)).constData(), QFile::encodeName(at(u"two"_s)).constData()), 0);
+    for (const QString& name : {u"own"_s, u"precious"_s, u"one"_s, u"others"_s})
+        loose(name, 0644);
+    loose(u"folder"_s, 0775);
+    const bool canGive = chown(QFile::encodeName(at(u"others"_s)).constData(), 65534, 65534) == 0;
+    for (const QString& name : {u"own"_s, u"folder"_s, u"link"_s, u"two"_s, u"others"_s, u"none"_s})
+        closeToOthers(at(name));
+    EXPECT_EQ(mode(u"own"_s), 0600U);
+    EXPECT_EQ(mode(u"folder"_s), 0700U);
+    for (const QString& name : {u"precious"_s, u"one"_s})
+        EXPECT_EQ(mode(name), 0644U) << name.toStdString();
+    EXPECT_EQ(mode(u"others"_s), canGive ? 0644U : 0600U);
+    loose(u"own"_s, 0444);
+    closeToOthers(at(u"own"_s));
+    EXPECT_EQ(mode(u"own"_s), 0400U); // what its owner may not do stays
 }
 
 } // namespace

@@ -57,6 +57,20 @@ TEST_F(AReplacedFile, StaysAsItWasOnAFullDisk) {
     EXPECT_EQ(names(), QStringList{u"a"_s});
 }
 
+TEST_F(AReplacedFile, IsCalledByItsOwnNameWhenItCannotBeWritten) {
+    const auto said = [](const QString& path) {
+        try {
+            replaceFile(path, QByteArray(5000, 'x'));
+        } catch (const RuntimeError& error) {
+            return error.text();
+        }
+        return QString();
+    };
+    EXPECT_TRUE(said(at(u"none/a"_s)).contains(at(u"none/a"_s)));
+    const SmallDisk disk(1000);
+    EXPECT_TRUE(said(at(u"a"_s)).contains(at(u"a"_s)));
+}
+
 TEST_F(AReplacedFile, StaysAsItWasWhenItsContentCannotBeMade) {
     replaceFile(at(u"a"_s), "old");
     EXPECT_EQ(errorOf([this] {

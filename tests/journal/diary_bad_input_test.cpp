@@ -90,6 +90,23 @@ TEST_F(DiaryBadInput, AFileInPlaceOfTheFolderStopsBehindTheRow) {
     EXPECT_EQ(rows(), QStringList{u"2024-05-03|a"_s});
 }
 
+TEST_F(DiaryBadInput, AFolderThatIsALinkStopsBehindTheRowAndTheBookStays) {
+    QDir(rig.file(u"mydiary"_s)).removeRecursively();
+    ASSERT_TRUE(QFile::link(u"."_s, rig.file(u"mydiary"_s)));
+    saveEntry(u"2024-5-3"_s, u"data"_s, {u"text"_s});
+    expectErrorAbout(u"mydiary”是一个链接"_s);
+    EXPECT_EQ(rows(), QStringList{u"2024-05-03|data"_s}); // out of a book that is one
+}
+
+TEST_F(DiaryBadInput, AFolderThatIsALinkIsNotReadFrom) {
+    put(u"a"_s, "text\r\n");
+    QDir().rename(rig.file(u"mydiary"_s), rig.file(u"elsewhere"_s));
+    ASSERT_TRUE(QFile::link(u"elsewhere"_s, rig.file(u"mydiary"_s)));
+    find();
+    shown(1);
+    expectErrorAbout(u"mydiary”是一个链接"_s);
+}
+
 TEST_F(DiaryBadInput, AFileThatCannotBeWrittenStopsBehindTheRow) {
     QDir().mkdir(path(u"a"_s));
     saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});

@@ -1,13 +1,16 @@
 #include "journal/diary_files.h"
 #include "qt_printing.h"
 #include "runtime/runtime_error.h"
+#include "support/small_disk.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
-namespace qinghe {
+namespace qinghe::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -66,6 +69,35 @@ TEST_F(DiaryFiles, TextsAreBytesOfTheSystemsOldCodePage) {
     EXPECT_EQ(file.readAll(), QByteArray("\xD6\xD0\xCE\xC4\xA3\xAC\x81\x39\xEE\x39\r\n"));
 }
 
+TEST_F(DiaryFiles, AnEntryThatCannotBeWrittenWholeLeavesTheOneBeforeAndNoPart) {
+    diary::write(path(u"x"_s), u"old"_s);
+    const SmallDisk disk(1000);
+    try {
+        diary::write(path(u"x"_s), QString(5000, u'a'));
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeError::DiskFull);
+    }
+    EXPECT_EQ(diary::readLines(path(u"x"_s)), u"old");
+    EXPECT_EQ(QDir(path({})).entryList(QDir::Files | QDir::Hidden), QStringList{u"x"_s});
+}
+
+TEST_F(DiaryFiles, ALinkIsReplacedAndNeverWrittenOrReadThrough) {
+    diary::write(path(u"precious"_s), u"kept"_s);
+    QFile::link(path(u"precious"_s), path(u"x"_s));
+    EXPECT_THROW(diary::readLines(path(u"x"_s)), RuntimeError);
+    diary::write(path(u"x"_s), u"new"_s);
+    EXPECT_EQ(diary::readLines(path(u"x"_s)), u"new");
+    EXPECT_EQ(diary::readLines(path(u"precious"_s)), u"kept");
+}
+
+TEST_F(DiaryFiles, APipeIsNotWaitedAt) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(path(u"x"_s)).constData(), 0600), 0);
+    EXPECT_THROW(diary::readLines(path(u"x"_s)), RuntimeError);
+    diary::write(path(u"x"_s), u"new"_s);
+    EXPECT_EQ(diary::readLines(path(u"x"_s)), u"new");
+}
+
 TEST_F(DiaryFiles, EveryCodePointReadsBack) {
     QString all;
     for (char32_t c = 0x20; c <= 0x10FFFF; ++c)
@@ -106,4 +138,4 @@ TEST_F(DiaryFiles, AMissingFileIsSaidToBeMissing) {
 }
 
 } // namespace
-} // namespace qinghe
+} // namespace qinghe::testing

@@ -5,6 +5,7 @@
 
 #include <QDir>
 
+#include <optional>
 #include <unistd.h>
 
 // Backup and restore that cannot be done.
@@ -13,6 +14,26 @@ namespace qinghe::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+/// The disk takes no more from the moment at which the room for a file was taken and the window is painted.
+class DiskFailingInTheMidst : public QObject {
+public:
+    DiskFailingInTheMidst(QWidget& window, const QString& file, qint64 largest) : m_file(file), m_largest(largest) {
+        window.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !m_disk && QFileInfo(m_file).size() > m_largest)
+            m_disk.emplace(static_cast<rlim_t>(m_largest));
+        return false;
+    }
+
+private:
+    QString m_file;
+    qint64 m_largest;
+    std::optional<SmallDisk> m_disk;
+};
 
 class BackupFailureTest : public BackupTest {
 protected:
@@ -45,15 +66,15 @@ TEST_F(BackupFailureTest, WhileAnotherProgramWritesNoBackupIsMade) {
     EXPECT_EQ(bytes(u"b.dat"_s), "(missing)");
 }
 
-TEST_F(BackupFailureTest, ABackupThatDoesNotFitIsToldToBeIncomplete) {
+TEST_F(BackupFailureTest, ABackupThatDoesNotFitIsRefusedAndLeavesNoPart) {
     openFor(backup());
     rig.chooser->names = {rig.file(u"b.dat"_s)};
     {
         const SmallDisk disk(static_cast<rlim_t>(before.size() / 2));
         rig.click(start());
     }
-    refused(RuntimeError::PathFileAccess, u"没有写完"_s);
-    EXPECT_TRUE(bytes(u"b.dat"_s) == before.first(before.size() / 2));
+    refused(RuntimeError::DiskFull, u"磁盘空间不够"_s);
+    EXPECT_EQ(bytes(u"b.dat"_s), "(missing)");
     EXPECT_TRUE(bytes(u"data.dll"_s) == before);
 }
 
@@ -108,7 +129,7 @@ TEST_F(BackupFailureTest, ALedgerThatMayNotBeWrittenIsNotRestored) {
     EXPECT_TRUE(bytes(u"data.dll"_s) == before);
 }
 
-TEST_F(BackupFailureTest, ARestoreThatBreaksOffSaysThatTheLedgerIsIncompleteAndWhatToDo) {
+TEST_F(BackupFailureTest, ARestoreThatDoesNotFitIsRefusedAndTheLedgerStays) {
     write(u"b.dat"_s, before + QByteArray(100000, 'z'));
     openFor(restore());
     rig.chooser->names = {rig.file(u"b.dat"_s)};
@@ -116,9 +137,29 @@ TEST_F(BackupFailureTest, ARestoreThatBreaksOffSaysThatTheLedgerIsIncompleteAndW
         const SmallDisk disk(static_cast<rlim_t>(before.size() + 100));
         rig.click(start());
     }
+    refused(RuntimeError::DiskFull, u"原来的内容都还在"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before);
+}
+
+TEST_F(BackupFailureTest, ARestoreThatBreaksOffSaysThatTheLedgerIsIncompleteAndWhatToDo) {
+    write(u"b.dat"_s, before + QByteArray(100000, 'z'));
+    openFor(restore());
+    rig.chooser->names = {rig.file(u"b.dat"_s)};
+    const DiskFailingInTheMidst failing(*window(), rig.dataFile(), before.size() + 100);
+    rig.click(start());
     refused(RuntimeError::StoreFailure, u"没有写完"_s);
     expectError(RuntimeError::StoreFailure, u"改名为 data.dll"_s);
-    EXPECT_TRUE(bytes(u"data.dll"_s) == before + QByteArray(100, 'z'));
+    EXPECT_TRUE(bytes(u"data.dll"_s).first(before.size() + 100) == before + QByteArray(100, 'z'));
+}
+
+TEST_F(BackupFailureTest, ARestoreIsNeverWrittenThroughALink) {
+    write(u"b.dat"_s, before);
+    openFor(restore());
+    QFile::rename(rig.dataFile(), rig.file(u"precious"_s));
+    ASSERT_TRUE(QFile::link(rig.file(u"precious"_s), rig.dataFile()));
+    startWith(rig.file(u"b.dat"_s));
+    refused(RuntimeError::PathFileAccess, u"是一个链接"_s);
+    EXPECT_TRUE(bytes(u"precious"_s) == before);
 }
 
 TEST_F(BackupFailureTest, AForeignFileIsRestoredAsToldAndTheNextReadingSaysWhatToDo) {

@@ -142,6 +142,25 @@ TEST_F(DiaryWipe, AFileThatCannotBeDeletedIsToldAndTheEntriesStay) {
     expectNothingGone();
 }
 
+TEST_F(DiaryWipe, AFolderThatIsALinkIsRefusedAndNothingIsGone) {
+    const QByteArray book = bytes(u"data.dll"_s);
+    ASSERT_TRUE(QDir(rig.file(u"mydiary"_s)).removeRecursively());
+    ASSERT_TRUE(QFile::link(u"."_s, rig.file(u"mydiary"_s)));
+    tick(wipe());
+    expectError(RuntimeError::PathFileAccess, u"是一个链接"_s);
+    EXPECT_TRUE(bytes(u"data.dll"_s) == book);
+    EXPECT_EQ(rows().size(), 2);
+}
+
+TEST_F(DiaryWipe, ALinkGoesAndNotWhatItLeadsToAndNoHalfWrittenTextStays) {
+    write(u"外面.txt"_s, "kept");
+    ASSERT_TRUE(QFile::link(rig.file(u"外面.txt"_s), rig.file(u"mydiary/链接.dll"_s)));
+    write(u"mydiary/.unfinished-12ab"_s, "half of an entry");
+    tick(wipe());
+    EXPECT_TRUE(files().isEmpty());
+    EXPECT_EQ(bytes(u"外面.txt"_s), "kept");
+}
+
 TEST_F(DiaryWipe, EmptiesTheFirstRowAndTheBoxesOfADiaryPageThatIsOnView) {
     leaveTextsOnTheDiaryPage();
     ASSERT_EQ(onTheDiaryPage(), (QStringList{u"2024-5-3|春耕"_s, u"2024-9-20|秋收"_s, u"晒谷子"_s, u"标题"_s}));

@@ -186,20 +186,75 @@ TEST_F(FileCopyTest, WhatMayNotBeReadOrWrittenIsTold) {
     ASSERT_TRUE(QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
-TEST_F(FileCopyTest, ATargetThatCannotTakeAllIsToldToBeHalfWritten) {
+TEST_F(FileCopyTest, ATargetThatWouldNotTakeAllIsRefusedAndStaysAsItWas) {
     const QByteArray whole = patterned(3 << 20);
     write(u"a"_s, whole);
+    write(u"old.dat"_s, whole.first(1000));
     const SmallDisk disk((2 << 20) + 777);
-    const auto [number, text] = copy(u"a"_s, u"b.dat"_s);
-    EXPECT_EQ(number, RuntimeError::PathFileAccess);
-    EXPECT_TRUE(text.contains(u"没有写完"_s) && text.contains(u"b.dat"_s)) << qPrintable(text);
-    EXPECT_TRUE(bytes(u"b.dat"_s) == whole.first((2 << 20) + 777));
+    refused(u"a"_s, u"b.dat"_s, RuntimeError::DiskFull, u"b.dat"_s);
+    refused(u"a"_s, u"old.dat"_s, RuntimeError::DiskFull, u"原来的内容都还在"_s);
+    EXPECT_EQ(bytes(u"b.dat"_s), "(missing)");
+    EXPECT_TRUE(bytes(u"old.dat"_s) == whole.first(1000));
 }
 
-TEST_F(FileCopyTest, TheByteBehindTheEndIsMissedToo) {
+TEST_F(FileCopyTest, RoomIsTakenForTheByteBehindTheEndToo) {
     write(u"a"_s, QByteArray(5000, 'a'));
     const SmallDisk disk(5000);
-    EXPECT_EQ(copy(u"a"_s, u"b.dat"_s).first, RuntimeError::PathFileAccess);
+    EXPECT_EQ(copy(u"a"_s, u"b.dat"_s).first, RuntimeError::DiskFull);
+}
+
+TEST_F(FileCopyTest, ADiskThatFailsInTheMidstIsToldToHaveLeftAHalf) {
+    const QByteArray whole = patterned(3 << 20);
+    write(u"a"_s, whole);
+    FileCopy copying(at(u"a"_s), at(u"b.dat"_s));
+    const SmallDisk disk((2 << 20) + 777);
+    try {
+        copying.run([](qint64) {});
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeError::DiskFull);
+        EXPECT_TRUE(error.text().contains(u"没有写完"_s) && error.text().contains(u"b.dat"_s));
+    }
+    EXPECT_TRUE(bytes(u"b.dat"_s).first((2 << 20) + 777) == whole.first((2 << 20) + 777));
+}
+
+TEST_F(FileCopyTest, ATargetThatIsALinkOrHasASecondNameIsRefusedAndWhatItLeadsToStays) {
+    write(u"a"_s, "abc");
+    write(u"precious"_s, "kept");
+    alias(symlink, u"precious"_s, u"soft.dat"_s);
+    alias(symlink, u"none"_s, u"dangling.dat"_s);
+    alias(link, u"precious"_s, u"hard.dat"_s);
+    refused(u"a"_s, u"soft.dat"_s, RuntimeError::PathFileAccess, u"是一个链接"_s);
+    refused(u"a"_s, u"dangling.dat"_s, RuntimeError::PathFileAccess, u"是一个链接"_s);
+    refused(u"a"_s, u"hard.dat"_s, RuntimeError::PathFileAccess, u"还有一个名字"_s);
+    EXPECT_EQ(bytes(u"precious"_s), "kept");
+    EXPECT_EQ(bytes(u"none"_s), "(missing)");
+}
+
+TEST_F(FileCopyTest, ASourceMayBeALinkSinceItIsOnlyRead) {
+    write(u"a"_s, "abc");
+    alias(symlink, u"a"_s, u"soft"_s);
+    EXPECT_EQ(copy(u"soft"_s, u"b.dat"_s).first, 0);
+    EXPECT_EQ(bytes(u"b.dat"_s), "abcc");
+}
+
+TEST_F(FileCopyTest, AFileOfAnotherAccountIsRefused) {
+    write(u"a"_s, "abc");
+    write(u"b.dat"_s, "0123");
+    if (chown(QFile::encodeName(at(u"b.dat"_s)).constData(), 12345, 12345) != 0)
+        return; // only the administrator can lay one there
+    refused(u"a"_s, u"b.dat"_s, RuntimeError::PathFileAccess, u"另一个账户"_s);
+    EXPECT_EQ(bytes(u"b.dat"_s), "0123");
+}
+
+TEST_F(FileCopyTest, AnOlderTargetIsClosedToOthersBeforeTheFirstByte) {
+    write(u"a"_s, "abc");
+    write(u"b.dat"_s, "0123");
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    ASSERT_TRUE(QFile::setPermissions(at(u"b.dat"_s), QFile::ReadOwner | QFile::WriteOwner | others));
+    const FileCopy copying(at(u"a"_s), at(u"b.dat"_s));
+    EXPECT_FALSE(QFile::permissions(at(u"b.dat"_s)) & others);
+    EXPECT_EQ(bytes(u"b.dat"_s), "0123");
 }
 
 } // namespace

@@ -1,11 +1,14 @@
+#include "disk/plain_file.h"
+#include "disk/replace_file.h"
 #include "platform/files.h"
 #include "support/guard_fixture.h"
+#include "support/ordinary_user.h"
+#include "support/small_disk.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QFile>
-#include <QImageWriter>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 namespace qinghe::testing {
 namespace {
@@ -13,21 +16,13 @@ namespace {
 class Files : public ::testing::Test {
 protected:
     QString at(const QString& name) const { return dir.filePath(name); }
-    void make(const QString& name, const QByteArray& bytes = "x") const { files::writeAll(at(name), bytes); }
+    void make(const QString& name, const QByteArray& bytes = "x") const { replaceFile(at(name), bytes); }
     QByteArray bytes(const QString& name) const {
         QFile file(at(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
     }
     QStringList names() const {
         return QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-    static QByteArray picture(QSize size, const char* format) {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(Qt::darkGreen);
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, format);
-        return buffer.data();
     }
     static QString textOf(const std::function<void()>& call) {
         try {
@@ -56,14 +51,6 @@ TEST_F(Files, AFolderIsMadeAndRefusedWhereSomethingLiesInItsPlace) {
     EXPECT_EQ(errorOf([this] { files::makeFolder(at(u"none/below"_s)); }), RuntimeError::PathFileAccess);
 }
 
-TEST_F(Files, WritingReplacesTheWholeFile) {
-    make(u"pf.jpg"_s, QByteArray(1000, 'a'));
-    make(u"pf.jpg"_s, "b");
-    EXPECT_EQ(bytes(u"pf.jpg"_s), "b");
-    make(u"pf.jpg"_s, {});
-    EXPECT_EQ(bytes(u"pf.jpg"_s), "");
-}
-
 TEST_F(Files, OpeningAsABinaryMakesAMissingFileAndLeavesAnotherAsItIs) {
     EXPECT_EQ(files::readAllOrMake(at(u"new"_s)), "");
     EXPECT_EQ(bytes(u"new"_s), "");
@@ -78,14 +65,92 @@ TEST_F(Files, OpeningAsABinaryMakesAMissingFileAndLeavesAnotherAsItIs) {
 
 TEST_F(Files, AFileThatCannotBeWrittenIsToldWithItsName) {
     files::makeFolder(at(u"pf.jpg"_s));
-    const auto write = [this] { make(u"pf.jpg"_s); };
+    const auto write = [this] { files::writeOver(at(u"pf.jpg"_s), "x"); };
     EXPECT_EQ(errorOf(write), RuntimeError::PathFileAccess);
     EXPECT_TRUE(textOf(write).contains(u"pf.jpg"_s));
     EXPECT_TRUE(textOf(write).contains(u"不能写入"_s));
 }
 
-TEST_F(Files, AFullDiskIsToldAsSuch) {
-    EXPECT_EQ(errorOf([] { files::writeAll(u"/dev/full"_s, QByteArray(100000, 'a')); }), RuntimeError::DiskFull);
+TEST_F(Files, AFileIsWrittenOverFromItsBeginningAndKeepsItsTail) {
+    files::writeOver(at(u"pf.jpg"_s), "abcdef");
+    files::writeOver(at(u"pf.jpg"_s), "xy");
+    EXPECT_EQ(bytes(u"pf.jpg"_s), "xycdef");
+}
+
+TEST_F(Files, AFileThatWasLeftReadOnlyIsWrittenOverWithItsTail) {
+    make(u"pf.jpg"_s, "abcdef");
+    make(u"unreadable.jpg"_s, "abcdef");
+    QFile::setPermissions(at(u"pf.jpg"_s), QFile::ReadOwner);
+    QFile::setPermissions(at(u"unreadable.jpg"_s), {});
+    const AsOrdinaryUser user({dir.path(), at(u"pf.jpg"_s), at(u"unreadable.jpg"_s)});
+    files::writeOver(at(u"pf.jpg"_s), "xy");
+    files::writeOver(at(u"unreadable.jpg"_s), "xy");
+    EXPECT_EQ(bytes(u"pf.jpg"_s), "xycdef");
+    EXPECT_EQ(bytes(u"unreadable.jpg"_s), "xy");
+}
+
+TEST_F(Files, WhatLeadsElsewhereIsTakenAwayAndTheFileMadeAnewForItsOwnerAlone) {
+    const auto native = [this](const QString& name) { return QFile::encodeName(at(name)); };
+    make(u"autostart"_s, "kept");
+    QFile::link(at(u"autostart"_s), at(u"link.jpg"_s));
+    QFile::link(at(u"none"_s), at(u"dangling.jpg"_s));
+    ASSERT_EQ(::link(native(u"autostart"_s).constData(), native(u"second.jpg"_s).constData()), 0);
+    ASSERT_EQ(mkfifo(native(u"pipe.jpg"_s).constData(), 0600), 0);
+    const mode_t before = umask(0);
+    for (const QString& name : {u"link.jpg"_s, u"dangling.jpg"_s, u"second.jpg"_s, u"pipe.jpg"_s}) {
+        files::writeOver(at(name), "picture");
+        EXPECT_EQ(bytes(name), "picture") << name.toStdString();
+        EXPECT_EQ(kindOf(at(name)), FileKind::Plain);
+        EXPECT_EQ(QFile::permissions(at(name)) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther), 0);
+    }
+    umask(before);
+    EXPECT_EQ(bytes(u"autostart"_s), "kept");
+    EXPECT_FALSE(QFile::exists(at(u"none"_s)));
+}
+
+TEST_F(Files, AFileOfSomebodyElsesIsTakenAwayWhereThatCanBeDone) {
+    make(u"pf.jpg"_s, "abcdef");
+    QFile::setPermissions(at(u"pf.jpg"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther | QFile::ReadOther);
+    if (geteuid() != 0)
+        return; // the file is one's own then
+    const AsOrdinaryUser user({dir.path()});
+    files::writeOver(at(u"pf.jpg"_s), "xy");
+    EXPECT_EQ(bytes(u"pf.jpg"_s), "xy");
+    EXPECT_TRUE(isOwn(at(u"pf.jpg"_s)));
+}
+
+TEST_F(Files, ReadingFollowsNoLinkAndWaitsAtNoPipe) {
+    make(u"secret"_s, "kept");
+    QFile::link(at(u"secret"_s), at(u"link.dll"_s));
+    ASSERT_EQ(mkfifo(QFile::encodeName(at(u"pipe.dll"_s)).constData(), 0600), 0);
+    for (const QString& name : {u"link.dll"_s, u"pipe.dll"_s}) {
+        EXPECT_EQ(errorOf([&] { files::readAll(at(name)); }), RuntimeError::PathFileAccess);
+        EXPECT_TRUE(textOf([&] { files::readAll(at(name)); }).contains(name));
+    }
+    EXPECT_EQ(files::readAllOrMake(at(u"link.dll"_s)), "kept"); // where the user has named it
+}
+
+TEST_F(Files, ANewFileGetsAFreeNameAndIsNotLeftInPartOnAFullDisk) {
+    EXPECT_EQ(files::writeNewForOwner(at(u"a.txt"_s), "1"), at(u"a.txt"_s));
+    QFile::link(at(u"none"_s), at(u"a（2）.txt"_s));
+    EXPECT_EQ(files::writeNewForOwner(at(u"a.txt"_s), "2"), at(u"a（3）.txt"_s));
+    EXPECT_EQ(bytes(u"a.txt"_s) + bytes(u"a（3）.txt"_s), "12");
+    const QStringList before = names();
+    const SmallDisk disk(1000);
+    EXPECT_EQ(errorOf([this] { files::writeNewForOwner(at(u"a.txt"_s), QByteArray(5000, 'x')); }),
+              RuntimeError::DiskFull);
+    EXPECT_EQ(names(), before);
+}
+
+TEST_F(Files, AFolderThatIsALinkOrTheFolderAboveIsRefused) {
+    files::makeFolder(at(u"real"_s));
+    QFile::link(u"."_s, at(u"here"_s));
+    QFile::link(at(u"real"_s), at(u"elsewhere"_s));
+    for (const QString& name : {u"here"_s, u"elsewhere"_s, u"real/.."_s})
+        EXPECT_EQ(errorOf([&] { files::requireFolderOfItsOwn(at(name), dir.path()); }), RuntimeError::PathFileAccess)
+            << name.toStdString();
+    for (const QString& name : {u"real"_s, u"missing"_s})
+        EXPECT_EQ(errorOf([&] { files::requireFolderOfItsOwn(at(name), dir.path()); }), 0) << name.toStdString();
 }
 
 TEST_F(Files, DeletingFindsNamesByPatternHiddenOnesIncluded) {
@@ -130,56 +195,6 @@ TEST_F(Files, DeletingWhatIsNotThereIsHarmless) {
     files::deleteMatching(dir.path(), u"pf.jpg"_s);
     files::deleteMatching(at(u"nofolder"_s), u"*.dll"_s);
     EXPECT_EQ(names(), QStringList{});
-}
-
-class Pictures : public Files {
-protected:
-    QImage load(const QString& name, QSize fill = {100, 100}) const { return files::loadPicture(at(name), fill); }
-};
-
-TEST_F(Pictures, AreReadByTheirContentWhateverTheirNamesSay) {
-    make(u"dlpf.jpg"_s, picture({30, 20}, "PNG"));
-    EXPECT_EQ(load(u"dlpf.jpg"_s).size(), QSize(30, 20));
-    make(u"bild"_s, picture({12, 8}, "BMP"));
-    EXPECT_EQ(load(u"bild"_s).size(), QSize(12, 8));
-}
-
-TEST_F(Pictures, ReplacedWithinTheSameMomentAreReadAnew) {
-    make(u"pf.jpg"_s, picture({30, 20}, "JPG"));
-    load(u"pf.jpg"_s);
-    make(u"pf.jpg"_s, picture({40, 20}, "JPG"));
-    EXPECT_EQ(load(u"pf.jpg"_s).width(), 40);
-}
-
-TEST_F(Pictures, APhotoOf48MegapixelsIsAllowedAndReadNoLargerThanShown) {
-    make(u"photo.jpg"_s, picture({8000, 6000}, "JPG"));
-    EXPECT_EQ(load(u"photo.jpg"_s, {8000, 6000}).size(), QSize(8000, 6000));
-    EXPECT_EQ(load(u"photo.jpg"_s, {800, 540}).size(), QSize(800, 540));
-}
-
-TEST_F(Pictures, APictureThatIsSmallerInOneDirectionIsReadAsItIs) {
-    make(u"strip.jpg"_s, picture({400, 50}, "JPG"));
-    EXPECT_EQ(load(u"strip.jpg"_s, {100, 100}).size(), QSize(400, 50));
-}
-
-TEST_F(Pictures, TheCamerasOrientationIsHonoured) {
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    for (const QSize& size : {QSize(40, 20), QSize(4000, 2000)}) {
-        QImageWriter writer(at(u"turned.jpg"_s));
-        writer.setTransformation(QImageIOHandler::TransformationRotate90);
-        ASSERT_TRUE(writer.write(image.scaled(size)));
-        EXPECT_EQ(load(u"turned.jpg"_s, {20, 40}).size(), QSize(20, 40));
-    }
-}
-
-TEST_F(Pictures, WhatIsNoPictureOrNotThereIsToldWithItsName) {
-    make(u"pf.jpg"_s, "no picture at all");
-    make(u"empty.jpg"_s, {});
-    EXPECT_EQ(errorOf([this] { load(u"pf.jpg"_s); }), RuntimeError::InvalidPicture);
-    EXPECT_EQ(errorOf([this] { load(u"empty.jpg"_s); }), RuntimeError::InvalidPicture);
-    EXPECT_EQ(errorOf([this] { load(u"none.jpg"_s); }), RuntimeError::FileNotFound);
-    EXPECT_TRUE(textOf([this] { load(u"none.jpg"_s); }).contains(u"none.jpg"_s));
 }
 
 } // namespace

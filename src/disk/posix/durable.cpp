@@ -22,6 +22,17 @@ bool makeNamesDurable(const QString& folder) {
     return kept;
 }
 
+bool reserve(QFile& file, qint64 length) {
+    const qint64 before = file.size();
+    const int failure = ::posix_fallocate(file.handle(), 0, length);
+    if (failure == 0)
+        return true;
+    if (file.size() > before) // part of the room was there
+        file.resize(before);
+    errno = failure;
+    return !isOutOfRoom();
+}
+
 bool isOutOfRoom() {
     return errno == ENOSPC || errno == EDQUOT || errno == EFBIG;
 }

@@ -77,6 +77,24 @@ bool isOwn(const QString& path) {
     return ::lstat(QFile::encodeName(path).constData(), &info) != 0 || info.st_uid == ::geteuid();
 }
 
+bool isOwnAlone(const QFile& opened) {
+    struct stat info = {};
+    return ::fstat(opened.handle(), &info) == 0 && info.st_uid == ::geteuid() && info.st_nlink == 1;
+}
+
+void closeToOthers(const QString& path) {
+    constexpr mode_t Owners = S_IRWXU, All = S_IRWXU | S_IRWXG | S_IRWXO;
+    const int opened =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (opened < 0)
+        return;
+    struct stat info = {};
+    if (::fstat(opened, &info) == 0 && info.st_uid == ::geteuid() && (info.st_mode & All & ~Owners) != 0 &&
+        (S_ISDIR(info.st_mode) || (S_ISREG(info.st_mode) && info.st_nlink == 1)))
+        ::fchmod(opened, info.st_mode & Owners);
+    ::close(opened);
+}
+
 bool PlainFile::refuse(const QString& objection) {
     m_objection = objection;
     setErrorString(objection);

@@ -1,7 +1,7 @@
+#include "disk/plain_file.h"
 #include "platform/services.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <SDL.h>
 #include <SDL_audio.h>
@@ -23,7 +23,10 @@ struct Samples {
     Uint32 size = 0; ///< bytes
 
     explicit Samples(const QString& wav) {
-        if (!SDL_LoadWAV(QFile::encodeName(wav).constData(), &form, &bytes, &size))
+        PlainFile file(wav, Links::Follow); // a pipe under a piece's name would be waited at for ever
+        const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        SDL_RWops* source = SDL_RWFromConstMem(content.constData(), static_cast<int>(content.size()));
+        if (!source || !SDL_LoadWAV_RW(source, 1, &form, &bytes, &size))
             bytes = nullptr;
     }
     ~Samples() { SDL_FreeWAV(bytes); }

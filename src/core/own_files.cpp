@@ -1,0 +1,78 @@
+#include "core/own_files.h"
+
+#include "core/stored_picture.h"
+#include "disk/plain_file.h"
+#include "disk/replace_file.h"
+#include "store/data_file.h"
+#include "store/header_toggle.h"
+#include "store/safety_folder.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace qinghe {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto AllFiles = QDir::Files | QDir::Hidden | QDir::System;
+
+const QString Backups = u"*.dat"_s;
+
+/// What the program itself has written beside it under names of its own.
+QStringList writtenNames() {
+    QStringList names{DataFileName.toString() + u'*', UnfinishedFiles.toString(), u"没有保存的内容*.txt"_s};
+    for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
+        names << picture.file.toString();
+    return names;
+}
+
+/// What it brings along.
+QStringList deliveredNames() {
+    return {u"qinghe"_s, u"*.so"_s, u"音乐*.wav"_s, u"web"_s};
+}
+
+void closeFiles(const QDir& folder, const QStringList& names) {
+    for (const QString& name : folder.entryList(names, AllFiles))
+        closeToOthers(folder.filePath(name));
+}
+
+/// A folder that is closed keeps others from all that lies in it, so that ten years of a diary cost a start nothing.
+void closeFolder(const QString& path, const QStringList& names) {
+    constexpr auto Others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    if (kindOf(path) != FileKind::Folder || !isOwn(path) || !(QFile::permissions(path) & Others))
+        return;
+    closeFiles(path, names);
+    closeToOthers(path);
+}
+
+bool isBook(const QString& path) {
+    return kindOf(path) == FileKind::Plain && hasFormOfBook(path);
+}
+
+} // namespace
+
+void closeOwnFiles(const Shared& shared) {
+    const QDir folder(shared.services.appPath);
+    const QString diary = shared.diaryFolder(), safety = safetyFolderOf(shared.dataFile());
+    closeFiles(folder, writtenNames());
+    for (const QString& name : folder.entryList({Backups}, AllFiles))
+        if (const QString path = folder.filePath(name); isBook(path))
+            closeToOthers(path);
+    closeFolder(diary, {u"*.dll"_s, UnfinishedFiles.toString()});
+    closeFolder(safety, {u"*"_s});
+
+    const QStringList own =
+        writtenNames() + deliveredNames() + QStringList{QDir(diary).dirName(), QDir(safety).dirName()};
+    const auto isOurs = [&](const QString& name) {
+        return QDir::match(own, name) || (QDir::match(Backups, name) && isBook(folder.filePath(name)));
+    };
+    if (std::ranges::all_of(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+                            isOurs))
+        closeFolder(folder.path(), {});
+}
+
+} // namespace qinghe

@@ -1,0 +1,45 @@
+#include "disk/durable.h"
+#include "disk/plain_file.h"
+#include "support/small_disk.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace qinghe::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class AReservedFile : public ::testing::Test {
+protected:
+    AReservedFile() {
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+        file.write("abc");
+    }
+    QByteArray content() {
+        file.seek(0);
+        return file.readAll();
+    }
+
+    QTemporaryDir dir;
+    PlainFile file{dir.filePath(u"a"_s)};
+};
+
+TEST_F(AReservedFile, HasTheRoomAndKeepsItsContent) {
+    ASSERT_TRUE(reserve(file, 20000));
+    EXPECT_EQ(file.size(), 20000);
+    EXPECT_EQ(content().first(3), "abc");
+    ASSERT_TRUE(reserve(file, 2)); // it is longer already
+    EXPECT_EQ(file.size(), 20000);
+}
+
+TEST_F(AReservedFile, IsAsItWasWhenThereIsNoRoom) {
+    const SmallDisk disk(10000);
+    EXPECT_FALSE(reserve(file, 20000));
+    EXPECT_TRUE(isOutOfRoom());
+    EXPECT_EQ(content(), "abc");
+}
+
+} // namespace
+} // namespace qinghe::testing
