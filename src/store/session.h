@@ -25,6 +25,8 @@ public:
 
     bool inTransaction() const { return m_connection.inTransaction(); }
     bool fileMoved() const { return m_connection.fileMoved(); }
+    HeldFile heldFile() const { return m_connection.heldFile(); }
+    HeldFile heldJournal() const { return m_connection.heldJournal(); }
     void commit();
     void rollBack() noexcept;
 
