@@ -27,6 +27,11 @@ QString aboutBook(const Shared& shared, const RuntimeError& error) {
     return undone ? u"这一步没有做成，已经撤销；以前写入账本的内容都还在。"_s : u"出错以前写入账本的内容都已保留。"_s;
 }
 
+/// A save that was undone needs no way back.
+QString aboutCopy(const Shared& shared) {
+    return shared.store.hasUndone() ? QString() : shared.safety.aboutFailedSave();
+}
+
 QString asFile(const Shared& shared, const RuntimeError& error, const QString& book, const QStringList& rescued) {
     QStringList lines{
         u"%1：没有存进账本的内容"_s.arg(productName()),
@@ -73,8 +78,9 @@ QString lastWords(Shared& shared, const std::vector<Page*>& pages, const Runtime
         const QString book = aboutBook(shared, error);
         const RescuedTexts texts = gathered(shared, pages);
         QStringList words;
-        if (!book.isEmpty())
-            words << book;
+        for (const QString& told : {book, aboutCopy(shared)})
+            if (!told.isEmpty())
+                words << told;
         if (!texts.lines().isEmpty())
             words << keep(shared, asFile(shared, error, book, texts.lines()));
         return words.join(u"\n\n"_s);

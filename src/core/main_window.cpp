@@ -86,6 +86,14 @@ void MainWindow::load() {
     m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_shared, *m_desktop->Image2));
     m_desktop->computeSums();
     m_desktop->listPlans(false);
+    showNotes();
+    // When the window has been shown, and the sign-in has ended.
+    QTimer::singleShot(0, this, [this] { handlers::tick(&m_shared.safety, [this] { m_shared.safety.copyToday(); }); });
+}
+
+void MainWindow::showNotes() {
+    m_titleBand.showNotes(m_shared.notes);
+    m_shared.noted = [this] { m_titleBand.showNotes(m_shared.notes); };
 }
 
 void MainWindow::refuseSecondCopy() {

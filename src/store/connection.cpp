@@ -42,6 +42,13 @@ void limitPages(sqlite3* database, int kib) {
                  nullptr);
 }
 
+/// `which` asks for a file of SQLite's own.
+HeldFile held(sqlite3* database, int which, const QString& path) {
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(database, "main", which, &file);
+    return HeldFile(file, path);
+}
+
 } // namespace
 
 void Connection::Closer::operator()(sqlite3* database) const {
@@ -116,6 +123,14 @@ void Connection::copyTo(const QString& path) {
     const int code = copying ? sqlite3_backup_finish(copying) : sqlite3_extended_errcode(target);
     if (code != SQLITE_OK)
         throwSqliteFailure(code, path, QString::fromUtf8(sqlite3_errmsg(target)));
+}
+
+HeldFile Connection::heldFile() const {
+    return held(m_database.get(), SQLITE_FCNTL_FILE_POINTER, m_path);
+}
+
+HeldFile Connection::heldJournal() const {
+    return held(m_database.get(), SQLITE_FCNTL_JOURNAL_POINTER, m_path);
 }
 
 int Connection::version() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/held_file.h"
 #include "store/statement.h"
 
 #include <chrono>
@@ -39,6 +40,10 @@ public:
 
     /// Makes a new file at `path` with the same pages, durably. Call it outside a transaction.
     void copyTo(const QString& path);
+
+    /// The open file and its journal, as they lie on the disk.
+    HeldFile heldFile() const;
+    HeldFile heldJournal() const;
 
     /// The number of its form that the file bears, whatever it is; see migrations.h.
     int version();

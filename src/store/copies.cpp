@@ -3,6 +3,8 @@
 #include "store/data_file.h"
 #include "store/file_head.h"
 #include "store/header_toggle.h"
+#include "store/safety_folder.h"
+#include "store/safety_retention.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -27,7 +29,7 @@ bool isWhole(const QFileInfo& file) {
 }
 
 QStringList foldersOf(const QString& book) {
-    QStringList folders{QFileInfo(book).absolutePath()};
+    QStringList folders{QFileInfo(book).absolutePath(), safetyFolderOf(book)};
     for (const auto place : {QStandardPaths::DocumentsLocation, QStandardPaths::DesktopLocation,
                              QStandardPaths::DownloadLocation, QStandardPaths::HomeLocation})
         folders << QStandardPaths::writableLocation(place);
@@ -41,7 +43,7 @@ QStringList copiesOf(const QString& book) {
     QFileInfoList found;
     for (const QString& folder : foldersOf(book))
         found << QDir(folder).entryInfoList({u"*.dat"_s}, QDir::Files | QDir::Readable);
-    found.removeIf([](const QFileInfo& file) { return !isWhole(file); });
+    found.removeIf([](const QFileInfo& file) { return file.fileName().contains(DamagedMark) || !isWhole(file); });
     std::ranges::stable_sort(found, std::ranges::greater(), &QFileInfo::lastModified);
     QStringList copies;
     for (const QFileInfo& file : found)

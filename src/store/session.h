@@ -27,6 +27,8 @@ public:
     bool inTransaction() const { return m_connection.inTransaction(); }
     bool fileMoved() const { return m_connection.fileMoved(); }
     void hold() { m_connection.hold(); }
+    HeldFile heldFile() const { return m_connection.heldFile(); }
+    HeldFile heldJournal() const { return m_connection.heldJournal(); }
     void commit();
     void rollBack() noexcept;
 

@@ -192,6 +192,14 @@ int Store::generation() const {
     return m_impl->generation;
 }
 
+HeldFile Store::heldFile() const {
+    return m_impl->open->heldFile();
+}
+
+HeldFile Store::heldJournal() const {
+    return m_impl->open->heldJournal();
+}
+
 const ThisYear& Store::thisYear() const {
     return m_impl->thisYear;
 }

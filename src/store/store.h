@@ -11,6 +11,7 @@
 
 namespace qinghe {
 
+class HeldFile;
 class ResultSet;
 struct ResultShape;
 struct StoredValue;
@@ -90,6 +91,11 @@ public:
     /// Counts the closings: what was read under another number is void. A file that was replaced under its name counts
     /// as closed at the next use.
     int generation() const;
+
+    /// While a unit of work is open: the file as it lies on the disk, and the journal that leads back to the last
+    /// commit, where something has reached the file. They hold still until the next call on the store.
+    HeldFile heldFile() const;
+    HeldFile heldJournal() const;
 
     /// Throws RuntimeError (QueryFailure) when there is no such table.
     const TableColumns& columns(const QString& table);

@@ -127,7 +127,7 @@ TEST_F(Browsers, OneIsKnownByTheListOfProgramsOrByItsCommand) {
 TEST(DesktopServices, AreAllThere) {
     const Services services = desktopServices();
     EXPECT_TRUE(services.clock && services.messages && services.tray && services.launcher && services.instance &&
-                services.process);
+                services.background && services.process);
     EXPECT_EQ(services.appPath, QCoreApplication::applicationDirPath());
     EXPECT_LT(std::abs(services.clock->now().secsTo(QDateTime::currentDateTime())), 5);
     EXPECT_EQ(services.clock->today(), services.clock->now().date());
