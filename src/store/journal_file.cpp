@@ -1,13 +1,17 @@
 #include "store/journal_file.h"
 
 #include "disk/plain_file.h"
+#include "runtime/runtime_error.h"
 #include "store/file_head.h"
 
+#include <QDir>
 #include <QtEndian>
 
 #include <optional>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -108,27 +112,45 @@ bool fits(const PartHead& part, const Kept& kept, const QByteArray& firstPage, q
     return part.pageCount >= least && part.pageCount <= most;
 }
 
-} // namespace
+void open(PlainFile& file) {
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        throw RuntimeError(
+            RuntimeError::PathFileAccess,
+            u"不能读取“%1”：%2。账本没有改动。"_s.arg(QDir::toNativeSeparators(file.fileName()), file.objection()));
+}
 
-JournalKind judgeJournal(const QString& journal, const QString& book) {
-    const FileKind kind = kindOf(journal);
-    if (kind == FileKind::Missing)
-        return JournalKind::Missing;
-    PlainFile file(journal), data(book, Links::Follow);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
-        !data.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return JournalKind::Foreign;
+JournalKind judge(QFile& file, QFile& data, qint64 pageSize) {
     const QByteArray start = file.read(1);
-    if (start.isEmpty() || start[0] == 0) // SQLite writes over it, and a second name must not lead elsewhere
-        return kind == FileKind::Shared ? JournalKind::Foreign : JournalKind::Cold;
+    if (start.isEmpty() || start[0] == 0)
+        return JournalKind::Cold;
     const std::optional<PartHead> first = partAt(file, 0);
-    const QByteArray firstPage = data.read(headOf(book).pageSize);
+    const QByteArray firstPage = data.read(pageSize);
     if (!first || !isSound(*first) || first->pageSize != firstPage.size() || namesAnotherFile(file))
         return JournalKind::Foreign;
     const Kept kept = keptIn(file, *first);
     if (!fits(*first, kept, firstPage, data.size()))
         return JournalKind::Foreign;
     return kept.records == 0 ? JournalKind::Cold : JournalKind::Own;
+}
+
+} // namespace
+
+JournalKind judgeJournal(const QString& journal, const QString& book) {
+    const FileKind kind = kindOf(journal);
+    if (kind == FileKind::Missing)
+        return JournalKind::Missing;
+    if (kind != FileKind::Plain && kind != FileKind::Shared)
+        return JournalKind::Foreign;
+    PlainFile file(journal), data(book, Links::Follow);
+    open(file);
+    open(data);
+    const JournalKind judged = judge(file, data, headOf(book).pageSize);
+    if (file.error() != QFile::NoError || data.error() != QFile::NoError)
+        throw RuntimeError(RuntimeError::DeviceFailure,
+                           u"读取账本旁边的“%1”时磁盘出错。请检查磁盘或者 U 盘是否接好，再启动程序试一次。"_s.arg(
+                               QDir::toNativeSeparators(journal)));
+    // SQLite writes over one that holds nothing, and a second name must not lead it elsewhere.
+    return judged == JournalKind::Cold && kind == FileKind::Shared ? JournalKind::Foreign : judged;
 }
 
 } // namespace qinghe
