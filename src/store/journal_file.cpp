@@ -39,9 +39,9 @@ std::optional<PartHead> partAt(QFile& file, qint64 place) {
 }
 
 bool isSound(const PartHead& part) {
-    constexpr qint64 SmallestSector = 32, SmallestPage = 512, Largest = 65536;
-    return part.sectorSize >= SmallestSector && part.sectorSize <= Largest &&
-           (part.sectorSize & (part.sectorSize - 1)) == 0 && part.pageSize >= SmallestPage;
+    constexpr qint64 Smallest = 512, Largest = 65536;
+    return part.sectorSize >= Smallest && part.sectorSize <= Largest &&
+           (part.sectorSize & (part.sectorSize - 1)) == 0 && part.pageSize >= Smallest;
 }
 
 quint32 checksumOf(const QByteArray& page, quint32 nonce) {
@@ -56,6 +56,7 @@ quint32 checksumOf(const QByteArray& page, quint32 nonce) {
 struct Kept {
     qint64 records = 0;
     QByteArray firstPage; ///< of the data file, if it is among them
+    bool isOdd = false;   ///< more parts or pages than any work leaves
 };
 
 /// False where the promised record is not there or not whole; nothing behind it is played back either.
@@ -78,10 +79,17 @@ Kept keptIn(QFile& file, const PartHead& first) {
     Kept kept;
     qint64 place = 0;
     for (std::optional<PartHead> part = first; part; part = partAt(file, place)) {
+        if (place > 0 && kept.records == 0) // a part without pages is the last one
+            kept.isOdd = true;
+        if (kept.isOdd)
+            return kept;
         file.seek(place + first.sectorSize);
-        for (quint32 i = 0; i < part->records; ++i)
-            if (kept.records > first.pageCount || !readRecord(file, *part, first.pageSize, kept))
-                return kept; // each page of the file is kept once at most
+        for (quint32 i = 0; i < part->records; ++i) {
+            if (kept.records == first.pageCount) // each page of the file is kept once at most
+                kept.isOdd = true;
+            if (kept.isOdd || !readRecord(file, *part, first.pageSize, kept))
+                return kept;
+        }
         place = (file.pos() + first.sectorSize - 1) / first.sectorSize * first.sectorSize;
     }
     return kept;
@@ -105,7 +113,7 @@ bool precedes(const QByteArray& kept, const QByteArray& now) {
 
 bool fits(const PartHead& part, const Kept& kept, const QByteArray& firstPage, qint64 size) {
     const FileHead head(firstPage);
-    if (kept.records > part.pageCount || (!kept.firstPage.isEmpty() && !precedes(kept.firstPage, firstPage)))
+    if (kept.isOdd || (!kept.firstPage.isEmpty() && !precedes(kept.firstPage, firstPage)))
         return false;
     const qint64 least = kept.firstPage.isEmpty() ? head.pageCount : FileHead(kept.firstPage).pageCount;
     const qint64 most = (size + head.pageSize - 1) / head.pageSize; // a tail that means nothing is counted as well

@@ -163,6 +163,16 @@ TEST_F(LeftJournal, WithAFalseBeginningNeitherCutsTheBookNorBlowsItUp) {
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
 }
 
+TEST_F(LeftJournal, OfMorePartsOrPagesThanAWorkLeavesIsSetAside) {
+    put(journal(), headOnly(pages()) + headOnly(pages()));
+    expectSetAside(0);
+    store.close();
+    const QByteArray page = number(2) + QByteArray(4096, '\0') + number(0);
+    QByteArray manyTimes = headOnly(pages()) + page.repeated(static_cast<qsizetype>(pages()) + 1);
+    put(journal(), manyTimes.replace(8, 4, number(pages() + 1)));
+    expectSetAside(0);
+}
+
 TEST_F(LeftJournal, ThatIsNoneIsSetAside) {
     put(journal(), QByteArray("no journal at all ").repeated(100));
     expectSetAside(0);
