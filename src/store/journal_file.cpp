@@ -1,13 +1,17 @@
 #include "store/journal_file.h"
 
 #include "disk/plain_file.h"
+#include "runtime/runtime_error.h"
 #include "store/file_head.h"
 
+#include <QDir>
 #include <QtEndian>
 
 #include <optional>
 
 namespace qinghe {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,9 +39,9 @@ std::optional<PartHead> partAt(QFile& file, qint64 place) {
 }
 
 bool isSound(const PartHead& part) {
-    constexpr qint64 SmallestSector = 32, SmallestPage = 512, Largest = 65536;
-    return part.sectorSize >= SmallestSector && part.sectorSize <= Largest &&
-           (part.sectorSize & (part.sectorSize - 1)) == 0 && part.pageSize >= SmallestPage;
+    constexpr qint64 Smallest = 512, Largest = 65536;
+    return part.sectorSize >= Smallest && part.sectorSize <= Largest &&
+           (part.sectorSize & (part.sectorSize - 1)) == 0 && part.pageSize >= Smallest;
 }
 
 quint32 checksumOf(const QByteArray& page, quint32 nonce) {
@@ -52,6 +56,7 @@ quint32 checksumOf(const QByteArray& page, quint32 nonce) {
 struct Kept {
     qint64 records = 0;
     QByteArray firstPage; ///< of the data file, if it is among them
+    bool isOdd = false;   ///< more parts or pages than any work leaves
 };
 
 /// False where the promised record is not there or not whole; nothing behind it is played back either.
@@ -74,10 +79,17 @@ Kept keptIn(QFile& file, const PartHead& first) {
     Kept kept;
     qint64 place = 0;
     for (std::optional<PartHead> part = first; part; part = partAt(file, place)) {
+        if (place > 0 && kept.records == 0) // a part without pages is the last one
+            kept.isOdd = true;
+        if (kept.isOdd)
+            return kept;
         file.seek(place + first.sectorSize);
-        for (quint32 i = 0; i < part->records; ++i)
-            if (kept.records > first.pageCount || !readRecord(file, *part, first.pageSize, kept))
-                return kept; // each page of the file is kept once at most
+        for (quint32 i = 0; i < part->records; ++i) {
+            if (kept.records == first.pageCount) // each page of the file is kept once at most
+                kept.isOdd = true;
+            if (kept.isOdd || !readRecord(file, *part, first.pageSize, kept))
+                return kept;
+        }
         place = (file.pos() + first.sectorSize - 1) / first.sectorSize * first.sectorSize;
     }
     return kept;
@@ -101,11 +113,32 @@ bool precedes(const QByteArray& kept, const QByteArray& now) {
 
 bool fits(const PartHead& part, const Kept& kept, const QByteArray& firstPage, qint64 size) {
     const FileHead head(firstPage);
-    if (kept.records > part.pageCount || (!kept.firstPage.isEmpty() && !precedes(kept.firstPage, firstPage)))
+    if (kept.isOdd || (!kept.firstPage.isEmpty() && !precedes(kept.firstPage, firstPage)))
         return false;
     const qint64 least = kept.firstPage.isEmpty() ? head.pageCount : FileHead(kept.firstPage).pageCount;
     const qint64 most = (size + head.pageSize - 1) / head.pageSize; // a tail that means nothing is counted as well
     return part.pageCount >= least && part.pageCount <= most;
+}
+
+void open(PlainFile& file) {
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        throw RuntimeError(
+            RuntimeError::PathFileAccess,
+            u"不能读取“%1”：%2。账本没有改动。"_s.arg(QDir::toNativeSeparators(file.fileName()), file.objection()));
+}
+
+JournalKind judge(QFile& file, QFile& data, qint64 pageSize) {
+    const QByteArray start = file.read(1);
+    if (start.isEmpty() || start[0] == 0)
+        return JournalKind::Cold;
+    const std::optional<PartHead> first = partAt(file, 0);
+    const QByteArray firstPage = data.read(pageSize);
+    if (!first || !isSound(*first) || first->pageSize != firstPage.size() || namesAnotherFile(file))
+        return JournalKind::Foreign;
+    const Kept kept = keptIn(file, *first);
+    if (!fits(*first, kept, firstPage, data.size()))
+        return JournalKind::Foreign;
+    return kept.records == 0 ? JournalKind::Cold : JournalKind::Own;
 }
 
 } // namespace
@@ -114,21 +147,18 @@ JournalKind judgeJournal(const QString& journal, const QString& book) {
     const FileKind kind = kindOf(journal);
     if (kind == FileKind::Missing)
         return JournalKind::Missing;
+    if (kind != FileKind::Plain && kind != FileKind::Shared)
+        return JournalKind::Foreign;
     PlainFile file(journal), data(book, Links::Follow);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
-        !data.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return JournalKind::Foreign;
-    const QByteArray start = file.read(1);
-    if (start.isEmpty() || start[0] == 0) // SQLite writes over it, and a second name must not lead elsewhere
-        return kind == FileKind::Shared ? JournalKind::Foreign : JournalKind::Cold;
-    const std::optional<PartHead> first = partAt(file, 0);
-    const QByteArray firstPage = data.read(headOf(book).pageSize);
-    if (!first || !isSound(*first) || first->pageSize != firstPage.size() || namesAnotherFile(file))
-        return JournalKind::Foreign;
-    const Kept kept = keptIn(file, *first);
-    if (!fits(*first, kept, firstPage, data.size()))
-        return JournalKind::Foreign;
-    return kept.records == 0 ? JournalKind::Cold : JournalKind::Own;
+    open(file);
+    open(data);
+    const JournalKind judged = judge(file, data, headOf(book).pageSize);
+    if (file.error() != QFile::NoError || data.error() != QFile::NoError)
+        throw RuntimeError(RuntimeError::DeviceFailure,
+                           u"读取账本旁边的“%1”时磁盘出错。请检查磁盘或者 U 盘是否接好，再启动程序试一次。"_s.arg(
+                               QDir::toNativeSeparators(journal)));
+    // SQLite writes over one that holds nothing, and a second name must not lead it elsewhere.
+    return judged == JournalKind::Cold && kind == FileKind::Shared ? JournalKind::Foreign : judged;
 }
 
 } // namespace qinghe

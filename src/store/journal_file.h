@@ -15,7 +15,7 @@ enum class JournalKind {
 /// Judges a journal before anybody plays it back, by what holds of each that this program leaves: it is a plain file,
 /// names no other file, has the data file's page size, does not cut it or blow it up, and the first page that it keeps
 /// is that of the commit before, or the one that still lies in the file. `book` is a data file of which the head can be
-/// read. Reads only.
+/// read. Reads only. Throws RuntimeError where it cannot read what may be sound: PathFileAccess, DeviceFailure.
 JournalKind judgeJournal(const QString& journal, const QString& book);
 
 } // namespace qinghe

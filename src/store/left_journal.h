@@ -11,8 +11,8 @@ namespace qinghe {
 /// aside there, or beside the book under another name. What another program is just writing is left alone.
 ///
 /// To be called while no transaction is open, by the one copy of the program that works in this folder. Gives what the
-/// user has to know, a line each. A copy that cannot be kept is none. Throws RuntimeError (PathFileAccess) when a
-/// foreign journal can not be set aside: the book must not be opened then.
+/// user has to know, a line each. A copy that cannot be kept is none. Throws RuntimeError when a foreign journal can
+/// not be set aside (PathFileAccess), and what judgeJournal throws: the book must not be opened then.
 QStringList settleWhatWasLeft(const QString& book, const QDateTime& now);
 
 } // namespace qinghe

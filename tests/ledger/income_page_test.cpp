@@ -28,7 +28,7 @@ TEST_F(IncomeTest, CanBeLookedAtOnAFullDiskAndItsReportsSayThatTheyCannot) {
     const SmallDisk disk(100);
     open(0);
     ASSERT_TRUE(rig.messages->errors.empty()) << rig.messages->errors.front().second.toStdString();
-    EXPECT_EQ(ProgramRig::rowText(ms2(), 1), u"1|2024-5-3|工资|我| 12.5|现金|");
+    EXPECT_EQ(ProgramRig::rowText(ms2(), 1), u"1|2024-5-3|工资|我|12.5|现金|");
     EXPECT_FALSE(shared().store.hasUndone());
     rig.click(rig.at(income::ByItem));
     expectError(RuntimeError::DiskFull);

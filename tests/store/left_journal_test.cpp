@@ -96,6 +96,26 @@ TEST_F(LeftJournal, OfASaveThatBrokeOffIsPlayedBackBehindACopyOfBothFiles) {
     EXPECT_FALSE(QFile::exists(journal()));
 }
 
+TEST_F(LeftJournal, OfABookBehindWhichThereIsATailIsKnownToo) {
+    setFileBytes(fileBytes() + QByteArray(5000, 'x'));
+    ASSERT_NO_FATAL_FAILURE(breakOff());
+    EXPECT_EQ(settled().size(), 1);
+    EXPECT_EQ(markOfTable(control, Rows), u"旧"_s);
+}
+
+TEST_F(LeftJournal, ThatMayNotBeReadIsNotJudged) {
+    ASSERT_NO_FATAL_FAILURE(breakOff());
+    const QByteArray before = fileBytes();
+    {
+        const testing::AsOrdinaryUser user({folder.path(), path(), journal()});
+        QFile::setPermissions(journal(), QFile::Permissions());
+        EXPECT_EQ(errorOf([&] { settled(); }, u"权限"_s), RuntimeError::PathFileAccess);
+        QFile::setPermissions(journal(), QFile::ReadOwner | QFile::WriteOwner);
+    }
+    EXPECT_EQ(fileBytes(), before);
+    EXPECT_EQ(markOfTable(control, Rows), u"旧"_s);
+}
+
 TEST_F(LeftJournal, IsPlayedBackWhereNoCopyCanBeKept) {
     ASSERT_NO_FATAL_FAILURE(breakOff());
     put(safetyFolderOf(path()), "a file in the way");
@@ -141,6 +161,16 @@ TEST_F(LeftJournal, WithAFalseBeginningNeitherCutsTheBookNorBlowsItUp) {
     put(journal(), headOnly(pages()));
     EXPECT_EQ(settled(), QStringList()) << "this one changes nothing";
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
+}
+
+TEST_F(LeftJournal, OfMorePartsOrPagesThanAWorkLeavesIsSetAside) {
+    put(journal(), headOnly(pages()) + headOnly(pages()));
+    expectSetAside(0);
+    store.close();
+    const QByteArray page = number(2) + QByteArray(4096, '\0') + number(0);
+    QByteArray manyTimes = headOnly(pages()) + page.repeated(static_cast<qsizetype>(pages()) + 1);
+    put(journal(), manyTimes.replace(8, 4, number(pages() + 1)));
+    expectSetAside(0);
 }
 
 TEST_F(LeftJournal, ThatIsNoneIsSetAside) {
