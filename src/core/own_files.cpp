@@ -72,7 +72,7 @@ void closeOwnFiles(const Shared& shared) {
     };
     if (std::ranges::all_of(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
                             isOurs))
-        closeFolder(folder.path(), {});
+        closeToOthers(folder.path());
 }
 
 } // namespace qinghe
