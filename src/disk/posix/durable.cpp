@@ -32,8 +32,10 @@ bool reserve(QFile& file, qint64 length) {
     }
     if (::fallocate(file.handle(), FALLOC_FL_KEEP_SIZE, 0, length) == 0)
         return true;
-    if (!isOutOfRoom())
-        return QStorageInfo(QFileInfo(file.fileName()).path()).bytesAvailable() >= length - file.size();
+    if (!isOutOfRoom()) {
+        const QStorageInfo disk(QFileInfo(file.fileName()).path());
+        return !disk.isValid() || disk.bytesAvailable() >= length - file.size();
+    }
     file.resize(file.size()); // lets go what it has been given behind its end
     return false;
 }
