@@ -39,11 +39,15 @@ void closeFiles(const QDir& folder, const QStringList& names) {
         closeToOthers(folder.filePath(name));
 }
 
-/// A folder that is closed keeps others from all that lies in it, so that ten years of a diary cost a start nothing.
-void closeFolder(const QString& path, const QStringList& names) {
+bool isOpenToOthers(const QString& folder) {
     constexpr auto Others =
         QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-    if (kindOf(path) != FileKind::Folder || !isOwn(path) || !(QFile::permissions(path) & Others))
+    return kindOf(folder) == FileKind::Folder && isOwn(folder) && (QFile::permissions(folder) & Others);
+}
+
+/// A folder that is closed keeps others from all that lies in it, so that ten years of a diary cost a start nothing.
+void closeFolder(const QString& path, const QStringList& names) {
+    if (!isOpenToOthers(path))
         return;
     closeFiles(path, names);
     closeToOthers(path);
@@ -53,26 +57,27 @@ bool isBook(const QString& path) {
     return kindOf(path) == FileKind::Plain && hasFormOfBook(path);
 }
 
+bool holdsNothingElse(const QDir& folder, const QStringList& own) {
+    constexpr auto All = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    return std::ranges::all_of(folder.entryList(All), [&](const QString& name) {
+        return QDir::match(own, name) || (QDir::match(Backups, name) && isBook(folder.filePath(name)));
+    });
+}
+
 } // namespace
 
 void closeOwnFiles(const Shared& shared) {
     const QDir folder(shared.services.appPath);
     const QString diary = shared.diaryFolder(), safety = safetyFolderOf(shared.dataFile());
-    closeFiles(folder, writtenNames());
+    const QStringList written = writtenNames(), folders{QDir(diary).dirName(), QDir(safety).dirName()};
+    closeFiles(folder, written);
     for (const QString& name : folder.entryList({Backups}, AllFiles))
         if (const QString path = folder.filePath(name); isBook(path))
             closeToOthers(path);
     closeFolder(diary, {u"*.dll"_s, UnfinishedFiles.toString()});
     closeFolder(safety, {u"*"_s});
-
-    const QStringList own =
-        writtenNames() + deliveredNames() + QStringList{QDir(diary).dirName(), QDir(safety).dirName()};
-    const auto isOurs = [&](const QString& name) {
-        return QDir::match(own, name) || (QDir::match(Backups, name) && isBook(folder.filePath(name)));
-    };
-    if (std::ranges::all_of(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
-                            isOurs))
-        closeFolder(folder.path(), {});
+    if (isOpenToOthers(folder.path()) && holdsNothingElse(folder, written + deliveredNames() + folders))
+        closeToOthers(folder.path());
 }
 
 } // namespace qinghe

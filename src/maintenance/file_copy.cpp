@@ -45,15 +45,17 @@ void requireOwnFile(const QFile& target) {
     const FileKind kind = kindOf(path);
     if (kind == FileKind::Link)
         refuse(RuntimeError::PathFileAccess,
-               u"“%1”是一个链接，写进去会改掉它指向的文件。程序没有写入，请另选一个文件名。"_s, target);
+               u"“%1”是一个链接，写进去会改掉它指向的文件，程序没有写入。请改用一个不是链接的文件。"_s, target);
     files::requirePlainFile(path);
     if (kind == FileKind::Shared)
         refuse(RuntimeError::PathFileAccess,
-               u"“%1”在别处还有一个名字，写进去会改掉那边的文件。程序没有写入，请另选一个文件名。"_s, target);
-    if (!isOwn(path))
-        refuse(RuntimeError::PathFileAccess,
-               u"“%1”是这台电脑上另一个账户的文件，那个账户能读到写进去的内容。程序没有写入，请另选一个文件名。"_s,
+               u"“%1”在别处还有一个名字，写进去会改掉那边的文件，程序没有写入。请另选一个文件，或者先去掉那个名字。"_s,
                target);
+    if (!isOwn(path))
+        refuse(
+            RuntimeError::PathFileAccess,
+            u"“%1”是这台电脑上另一个账户的文件，那个账户能读到写进去的内容，程序没有写入。请另选一个文件，或者用那个账户来做。"_s,
+            target);
 }
 
 void openTarget(PlainFile& target, bool isNew) {

@@ -73,7 +73,7 @@ PictureWindow::PictureWindow(Shared& shared, const PictureTarget& target)
       Command1(new CommandButton(this, u"Command1"_s, target.browse.toString())),
       Command2(new CommandButton(this, u"Command2"_s, target.store.toString())) {
     setCaption(target.caption.toString());
-    m_dialog->setFilter(u"图片|*.jpg;*.jpeg;*.png;*.bmp|所有文件|*"_s);
+    m_dialog->setFilter(u"图片|*.jpg;*.jpeg;*.png;*.bmp;*.gif|所有文件|*"_s);
     Label1->place(240, 360, 1140, 330);
     Text1->place(1440, 360, 3000, 330);
     Command1->place(4560, 330, 1200, 390);

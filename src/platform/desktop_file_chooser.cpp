@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QListView>
+#include <QPixmapCache>
 #include <QSettings>
 #include <QSplitter>
 #include <QStandardPaths>
@@ -85,7 +86,9 @@ std::optional<QString> DesktopFileChooser::choose(const QString& filter, const Q
         dialog.setNameFilters(filters);
     if (!name.isEmpty())
         dialog.selectFile(name);
-    if (dialog.exec() != QFileDialog::Accepted)
+    const int answer = dialog.exec();
+    QPixmapCache::clear(); // 60 KB of icons that no later dialog would find again
+    if (answer != QFileDialog::Accepted)
         return std::nullopt;
     return QDir::toNativeSeparators(dialog.selectedFiles().value(0));
 }

@@ -62,8 +62,8 @@ void requireFolderOfItsOwn(const QString& path, const QString& apart) {
     if (link || (QFileInfo(path).isDir() && std::filesystem::equivalent(native(path), native(apart), none)))
         throw RuntimeError(
             RuntimeError::PathFileAccess,
-            u"“%1”%2，程序不在那里存放或删除内容。请把它改名或移到别处，再启动程序，程序会另建一个文件夹。"_s.arg(
-                path, link ? u"是一个链接，不是文件夹"_s : u"就是程序所在的文件夹"_s));
+            u"“%1”%2，程序不在那里存放或删除内容。请把它改名或移到别处，再启动程序，程序会另建一个文件夹，"
+            u"要用的文件可以复制进去。"_s.arg(path, link ? u"是一个链接，不是文件夹"_s : u"就是程序所在的文件夹"_s));
 }
 
 bool isPlainFileIn(const QString& folder, const QString& path) {

@@ -15,23 +15,25 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The disk takes no more from the moment at which the room for a file was taken and the window is painted.
+/// The disk takes no more from the moment at which a file was opened to be copied into, and so closed to others, and
+/// the window is painted.
 class DiskFailingInTheMidst : public QObject {
 public:
-    DiskFailingInTheMidst(QWidget& window, const QString& file, qint64 largest) : m_file(file), m_largest(largest) {
+    DiskFailingInTheMidst(QWidget& window, const QString& file, rlim_t largest) : m_file(file), m_largest(largest) {
+        QFile::setPermissions(m_file, QFile::permissions(m_file) | QFile::ReadOther);
         window.installEventFilter(this);
     }
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint && !m_disk && QFileInfo(m_file).size() > m_largest)
-            m_disk.emplace(static_cast<rlim_t>(m_largest));
+        if (event->type() == QEvent::Paint && !m_disk && !(QFile::permissions(m_file) & QFile::ReadOther))
+            m_disk.emplace(m_largest);
         return false;
     }
 
 private:
     QString m_file;
-    qint64 m_largest;
+    rlim_t m_largest;
     std::optional<SmallDisk> m_disk;
 };
 
@@ -145,11 +147,11 @@ TEST_F(BackupFailureTest, ARestoreThatBreaksOffSaysThatTheLedgerIsIncompleteAndW
     write(u"b.dat"_s, before + QByteArray(100000, 'z'));
     openFor(restore());
     rig.chooser->names = {rig.file(u"b.dat"_s)};
-    const DiskFailingInTheMidst failing(*window(), rig.dataFile(), before.size() + 100);
+    const DiskFailingInTheMidst failing(*window(), rig.dataFile(), static_cast<rlim_t>(before.size() + 100));
     rig.click(start());
     refused(RuntimeError::StoreFailure, u"没有写完"_s);
     expectError(RuntimeError::StoreFailure, u"改名为 data.dll"_s);
-    EXPECT_TRUE(bytes(u"data.dll"_s).first(before.size() + 100) == before + QByteArray(100, 'z'));
+    EXPECT_TRUE(bytes(u"data.dll"_s) == before + QByteArray(100, 'z'));
 }
 
 TEST_F(BackupFailureTest, ARestoreIsNeverWrittenThroughALink) {

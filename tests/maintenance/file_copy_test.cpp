@@ -215,7 +215,7 @@ TEST_F(FileCopyTest, ADiskThatFailsInTheMidstIsToldToHaveLeftAHalf) {
         EXPECT_EQ(error.number(), RuntimeError::DiskFull);
         EXPECT_TRUE(error.text().contains(u"没有写完"_s) && error.text().contains(u"b.dat"_s));
     }
-    EXPECT_TRUE(bytes(u"b.dat"_s).first((2 << 20) + 777) == whole.first((2 << 20) + 777));
+    EXPECT_TRUE(bytes(u"b.dat"_s) == whole.first((2 << 20) + 777));
 }
 
 TEST_F(FileCopyTest, ATargetThatIsALinkOrHasASecondNameIsRefusedAndWhatItLeadsToStays) {

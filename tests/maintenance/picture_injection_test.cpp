@@ -188,7 +188,7 @@ TEST_F(PictureInjectionTest, YesAsksForTheNextPictureAndKeepsTheName) {
     rig.click(in(skins, pictures::Store));
     EXPECT_EQ(added(skins), (QStringList{row(u"同名"_s, "one"), row(u"同名"_s, "two")}));
     EXPECT_EQ(rig.chooser->asked.size(), 1u);
-    EXPECT_EQ(rig.chooser->asked.front().filter, u"图片|*.jpg;*.jpeg;*.png;*.bmp|所有文件|*"_s);
+    EXPECT_EQ(rig.chooser->asked.front().filter, u"图片|*.jpg;*.jpeg;*.png;*.bmp;*.gif|所有文件|*"_s);
 }
 
 TEST_F(PictureInjectionTest, TheRowIsOnTheDiskWhenTheQuestionIsAsked) {

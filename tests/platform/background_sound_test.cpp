@@ -9,6 +9,7 @@
 #include <QtEndian>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace qinghe::testing {
 namespace {
@@ -100,6 +101,15 @@ TEST_F(BackgroundSoundTest, BehindItsEndThereIsSilence) {
     const QByteArray bytes = heard();
     ASSERT_GE(bytes.indexOf(ramp), 0);
     EXPECT_EQ(bytes.mid(bytes.indexOf(ramp) + ramp.size(), more), QByteArray(more, '\0'));
+}
+
+TEST_F(BackgroundSoundTest, APipeUnderItsNameIsNotWaitedAtAndALinkToAPieceIsOne) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(path(u"pipe.wav"_s)).constData(), 0600), 0);
+    const auto none = device->open(path(u"pipe.wav"_s));
+    QFile::link(written(u"a.wav"_s, wav(2000)), path(u"link.wav"_s));
+    const auto sound = device->open(path(u"link.wav"_s)); // behind the pipe, on the same thread
+    ASSERT_TRUE(known(*sound));
+    EXPECT_EQ(none->length(), 0);
 }
 
 TEST_F(BackgroundSoundTest, APieceOfTwoChannelsIsAsLongAsEachOfThem) {

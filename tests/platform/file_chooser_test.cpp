@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListView>
+#include <QPixmapCache>
 #include <QSet>
 #include <QSettings>
 #include <QStandardItemModel>
@@ -51,6 +52,16 @@ protected:
     QTemporaryDir dir;
     DesktopFileChooser chooser;
 };
+
+TEST_F(FileChooserTest, WhatQtKeepsOfItsIconsIsGivenBackWhenItCloses) {
+    QPixmapCache::Key icon;
+    choose(u"*.dat|*.dat"_s, {}, [&icon](QFileDialog& dialog, QLineEdit&) {
+        icon = QPixmapCache::insert(dialog.grab());
+        dialog.reject();
+    });
+    QPixmap kept;
+    EXPECT_FALSE(QPixmapCache::find(icon, &kept));
+}
 
 TEST_F(FileChooserTest, AnExistingAndANewNameServeAlikeAndNothingIsAdded) {
     QFile file(at(u"旧.dat"_s));

@@ -1,5 +1,6 @@
 #include "household.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace whole;
@@ -79,6 +80,12 @@ TEST(FirstEvening, AnIncomeIsEnteredSavedAndFoundAgain) {
     EXPECT_EQ(folder.header(), "00 00");
     for (const char* picture : {"pf.jpg", "zjm.jpg", "dlpf.jpg"})
         EXPECT_FALSE(folder.has(picture)) << picture;
+    using std::filesystem::perms;
+    for (const char* own : {".", "data.dll", "mydiary"}) // nobody else on this machine reads along
+        EXPECT_EQ(std::filesystem::status(folder.file(own).toStdString()).permissions() &
+                      (perms::group_all | perms::others_all),
+                  perms::none)
+            << own;
 
     Program program(folder, "2024-11-19 07:10:00");
     signIn(program);

@@ -2,9 +2,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace qinghe {
@@ -23,14 +25,19 @@ bool makeNamesDurable(const QString& folder) {
 }
 
 bool reserve(QFile& file, qint64 length) {
-    const qint64 before = file.size();
-    const int failure = ::posix_fallocate(file.handle(), 0, length);
-    if (failure == 0)
+    struct rlimit largest = {};
+    if (::getrlimit(RLIMIT_FSIZE, &largest) == 0 && static_cast<rlim_t>(length) > largest.rlim_cur) {
+        errno = EFBIG;
+        return false;
+    }
+    if (::fallocate(file.handle(), FALLOC_FL_KEEP_SIZE, 0, length) == 0)
         return true;
-    if (file.size() > before) // part of the room was there
-        file.resize(before);
-    errno = failure;
-    return !isOutOfRoom();
+    if (!isOutOfRoom()) {
+        const QStorageInfo disk(QFileInfo(file.fileName()).path());
+        return !disk.isValid() || disk.bytesAvailable() >= length - file.size();
+    }
+    file.resize(file.size()); // lets go what it has been given behind its end
+    return false;
 }
 
 bool isOutOfRoom() {
