@@ -118,10 +118,10 @@ void SafetyCopies::keepBefore(Occasion occasion, Label& label, const QString& sp
     try {
         const SafetyCopy copy = keepCopy(book, {now, rowOf(occasion).name.toString()}, IfDamaged::Keep);
         removeOutdatedCopies(book, now.date(), spared);
-        label.setCaption(u"%1的账本已留在“安全副本”里，指这里看怎么恢复。"_s.arg(rowOf(occasion).name.toString()));
+        label.setCaption(u"已留安全副本，指这里看怎么恢复。"_s);
         label.setToolTip(howToRestore(copy.path));
     } catch (const RuntimeError& error) {
-        label.setCaption(u"没有做成安全副本，请指这里看原因。"_s);
+        label.setCaption(u"没有做成安全副本，指这里看原因。"_s);
         label.setToolTip(error.text());
         tellOnce(error.text());
     }
