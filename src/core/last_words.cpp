@@ -21,7 +21,8 @@ QString aboutBook(const Shared& shared, const RuntimeError& error) {
         return undone ? u"保存没有完成，已经撤销：这一页原有的 %1 条都还在账本里。"_s.arg(saving->had)
                       : u"保存没有完成：这一页原有 %1 条，已写回 %2 条。\n\n%3"_s.arg(saving->had)
                             .arg(saving->written)
-                            .arg(shared.safety.aboutFailedSave());
+                            .arg(shared.safety.aboutFailedSave())
+                            .trimmed();
     return undone ? u"这一步没有做成，已经撤销；以前写入账本的内容都还在。"_s : u"出错以前写入账本的内容都已保留。"_s;
 }
 
