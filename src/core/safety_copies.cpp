@@ -36,9 +36,14 @@ const OccasionRow& rowOf(Occasion occasion) {
     return Occasions[static_cast<std::size_t>(occasion)];
 }
 
-QString howToRestore(const QString& copy) {
+QString aboutRestoring(const QString& copy) {
     return u"%1\n要恢复成那时的账本：在“设置”页选“系统数据还原”，选这个文件；在那以后记的内容会被它覆盖。"_s.arg(
         QDir::toNativeSeparators(copy));
+}
+
+QString aboutCopy(const SafetyCopy& copy) {
+    const QString damaged = u"留这份副本的时候，账本已经损坏；副本是原样：\n"_s;
+    return (copy.isSound ? QString() : damaged) + aboutRestoring(copy.path);
 }
 
 QString aboutDamage(const QString& book) {
@@ -47,7 +52,7 @@ QString aboutDamage(const QString& book) {
     const QStringList copies = copiesOf(book);
     if (copies.isEmpty())
         return text + u"没有找到从前的备份或安全副本。"_s;
-    return text + u"从前完好的副本还在，最近的一份是：\n"_s + howToRestore(copies.front());
+    return text + u"从前完好的副本还在，最近的一份是：\n"_s + aboutRestoring(copies.front());
 }
 
 } // namespace
@@ -118,10 +123,10 @@ void SafetyCopies::keepBefore(Occasion occasion, Label& label, const QString& sp
     try {
         const SafetyCopy copy = keepCopy(book, {now, rowOf(occasion).name.toString()}, IfDamaged::Keep);
         removeOutdatedCopies(book, now.date(), spared);
-        label.setCaption(u"%1的账本已留在“安全副本”里，指这里看怎么恢复。"_s.arg(rowOf(occasion).name.toString()));
-        label.setToolTip(howToRestore(copy.path));
+        label.setCaption(u"已留安全副本，指这里看怎么恢复。"_s);
+        label.setToolTip(aboutCopy(copy));
     } catch (const RuntimeError& error) {
-        label.setCaption(u"没有做成安全副本，请指这里看原因。"_s);
+        label.setCaption(u"没有做成安全副本，指这里看原因。"_s);
         label.setToolTip(error.text());
         tellOnce(error.text());
     }

@@ -56,15 +56,8 @@ public:
     /// between leaves it here, to be told.
     std::optional<SaveAtWork> saving;
 
-    /// Copies of the book against accidents.
-    SafetyCopies safety{*this};
-
     /// What the main window has to say once it stands: one line each.
     QStringList notes;
-    /// Has the main window say something more, in its first line; the lines behind it are told on demand.
-    void note(const QString& text);
-    /// Something has been noted; entered by the main window.
-    std::function<void()> noted;
 
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;
@@ -72,6 +65,13 @@ public:
     std::function<void()> emptyDiaryPage;
     /// What follows when the date picker goes; entered by the purge window while it is loaded.
     std::function<void()> pickerGone;
+    /// There is something new in the notes; entered by the main window.
+    std::function<void()> noted;
+    /// Adds to the notes. Of a text of many lines the window shows the first, and the others on demand.
+    void note(const QString& text);
+
+    /// Copies of the book against accidents.
+    SafetyCopies safety{*this};
 
     /// A data control on the program's own file.
     Adodc* newControl(const QString& name, QObject* parent);

@@ -40,7 +40,7 @@ void TitleBand::makeWords() {
     Label16->setRole(Role::ClockText);
     Label17->setRole(Role::ClockText);
     m_notes->setRole(Role::ClockText);
-    m_notes->setForeColor(ink::Red);
+    m_notes->setForeColor(ink::Amber);
     m_notes->setShown(false);
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);

@@ -11,7 +11,7 @@
 namespace qinghe {
 
 namespace {
-constexpr qint64 PieceSize = 1 << 20;
+constexpr qint64 PieceSize = 1 << 18;
 }
 
 void HeldFile::fail(int code) const {

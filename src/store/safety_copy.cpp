@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PieceSize = 1 << 20;
+constexpr qint64 PieceSize = 1 << 18;
 
 using Fill = std::function<void(QFile& copy)>;
 
@@ -28,7 +28,7 @@ using Fill = std::function<void(QFile& copy)>;
     throw RuntimeError(RuntimeError::PathFileAccess, u"“%1”%2。"_s.arg(QDir::toNativeSeparators(path), why));
 }
 
-void open(PlainFile& file, QIODevice::OpenMode mode) {
+void openPlain(PlainFile& file, QIODevice::OpenMode mode) {
     if (!file.open(mode))
         refuse(file.fileName(), u"不能使用：%1"_s.arg(file.objection()));
 }
@@ -75,7 +75,7 @@ void readInPieces(const QString& book, QFile& copy, const std::stop_token& stop)
 
 void readAsItIs(const QString& book, QFile& copy) {
     PlainFile source(book, Links::Follow); // its owner may have laid it elsewhere
-    open(source, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    openPlain(source, QIODevice::ReadOnly | QIODevice::Unbuffered);
     for (QByteArray piece = source.read(PieceSize); !piece.isEmpty(); piece = source.read(PieceSize))
         writeWhole(copy, piece);
 }
@@ -88,13 +88,14 @@ void readBeforeWork(const Store& store, QFile& copy) {
     if (!journal.isOpen())
         return;
     PlainFile beside(journalOf(copy.fileName()));
-    open(beside, QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
+    openPlain(beside, QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
     journal.copyTo(beside);
 }
 
 /// Opens the copy, which plays a journal beside it back, and looks through all of it.
 bool isSound(const QString& copy) {
     Connection opened(copy);
+    opened.run("PRAGMA cache_size = -1000"); // KiB: each page is looked at once
     Statement check = opened.prepare("PRAGMA quick_check(1)");
     return check.step() && check.column(0).bytes == "ok";
 }
@@ -110,8 +111,9 @@ QString keep(const QString& book, const SafetyStamp& stamp, const Fill& fill, Ch
         removeJournal(); // of a program that was killed
         const auto atEnd = qScopeGuard(removeJournal);
         fill(copy);
-        const bool hasJournal = QFile::exists(journal);
-        if ((check == Check::Sound || hasJournal) && !isSound(copy.fileName()) && check == Check::Sound)
+        if (check == Check::None && !QFile::exists(journal))
+            return;
+        if (!isSound(copy.fileName()) && check == Check::Sound)
             throw RuntimeError(RuntimeError::StoreFailure,
                                u"账本文件“%1”已经损坏。"_s.arg(QDir::toNativeSeparators(book)));
     });
@@ -130,18 +132,21 @@ bool isDamage(const RuntimeError& error) {
 } // namespace
 
 SafetyCopy keepCopy(const QString& book, const SafetyStamp& stamp, IfDamaged damaged, const std::stop_token& stop) {
-    const Fill asItIs = [&](QFile& copy) { readAsItIs(book, copy); };
+    const bool mayPassSqlite = damaged == IfDamaged::Keep;
     const Fill inPieces = [&](QFile& copy) { readInPieces(book, copy, stop); };
-    requireRoom(book);
-    readySafetyFolder(book);
-    const Fill closed = [&](QFile& copy) { // put here while the program runs: SQLite does not read it
+    const Fill asItIs = [&](QFile& copy) { readAsItIs(book, copy); };
+    const Fill healed = [&](QFile& copy) {
         readAsItIs(book, copy);
         healHeader(copy.fileName());
     };
+    requireRoom(book);
+    readySafetyFolder(book);
+    // A closed book that was put here while the program runs is sound, yet nothing that SQLite reads.
+    const bool isClosed = mayPassSqlite && headerIsSpoilt(book);
     try {
-        return {keep(book, stamp, headerIsSpoilt(book) ? closed : inPieces, Check::Sound)};
+        return {keep(book, stamp, isClosed ? healed : inPieces, Check::Sound)};
     } catch (const RuntimeError& error) {
-        if (damaged == IfDamaged::Tell || !isDamage(error))
+        if (!mayPassSqlite || !isDamage(error))
             throw;
     }
     return {keep(book, stamp, asItIs, Check::None), false};

@@ -29,8 +29,9 @@ struct BrokenOff {};
 
 /// Copies a book into its folder of safety copies, in the form of a backup: whole, durable and proved sound, or not
 /// there at all. Reads through SQLite with a connection of its own, on any thread, piece by piece: whoever wants to
-/// write waits for a piece at most, and the copy is then begun anew. Only a damaged book that is kept is read past
-/// SQLite: no transaction may be open on it then. Throws RuntimeError.
+/// write waits for a piece at most, and the copy is then begun anew. Only with IfDamaged::Keep it may be read past
+/// SQLite: no transaction may be open on it then, since that would give up the locks of this process. Throws
+/// RuntimeError.
 SafetyCopy keepCopy(const QString& book, const SafetyStamp& stamp, IfDamaged damaged, const std::stop_token& stop = {});
 
 /// While a unit of work is open on the store: the same of the book as it stood before. What the unit of work has done

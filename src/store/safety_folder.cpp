@@ -1,5 +1,6 @@
 #include "store/safety_folder.h"
 
+#include "disk/durable.h"
 #include "disk/plain_file.h"
 #include "runtime/runtime_error.h"
 
@@ -33,6 +34,8 @@ QString readySafetyFolder(const QString& book) {
     if (kind != FileKind::Missing && kind != FileKind::Folder)
         refuse(folder, kind == FileKind::Link ? u"它是一个链接"_s : u"它不是文件夹"_s);
     QFile::setPermissions(folder, ForOwner);
+    if (kind == FileKind::Missing)
+        makeNamesDurable(QFileInfo(folder).path());
     return folder;
 }
 

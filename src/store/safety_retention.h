@@ -24,11 +24,11 @@ struct SafetyFile {
 bool hasDailyCopy(const std::vector<SafetyFile>& files, QDate day);
 
 /// The files that go. Of the copies of the day the last seven days stay and the first of each of the last twelve
-/// months; copies made before something happened stay for twelve months, of the damaged ones the newest alone. If the
-/// rest takes more than SafetyRoom, damaged ones go first, then the oldest. The newest sound copy never goes, nor does
-/// `spared`; the one before stays for want of age at least, so that a clock which is wrong for a day does not clear the
-/// folder. Copies of days to come stay for the same reason. Files with other names are none of ours: they stay and do
-/// not count.
+/// months; copies made before something happened stay for twelve months, of those of a damaged book the newest alone.
+/// If what is left takes more than SafetyRoom, those of a damaged book go first, then the oldest. The newest sound copy
+/// never goes, nor does `spared`; and age alone takes neither the sound one before nor copies of days to come, so that
+/// a clock which is wrong for a day does not clear the folder. Files with other names are none of ours: they stay and
+/// do not count.
 QStringList outdatedCopies(const std::vector<SafetyFile>& files, QDate today, const QString& spared = {});
 
 } // namespace qinghe

@@ -27,10 +27,10 @@ public:
     bool inTransaction() const { return m_connection.inTransaction(); }
     bool fileMoved() const { return m_connection.fileMoved(); }
     void hold() { m_connection.hold(); }
-    HeldFile heldFile() const { return m_connection.heldFile(); }
-    HeldFile heldJournal() const { return m_connection.heldJournal(); }
     void commit();
     void rollBack() noexcept;
+    HeldFile heldFile() const { return m_connection.heldFile(); }
+    HeldFile heldJournal() const { return m_connection.heldJournal(); }
 
     qint64 insertRow(const QString& table, std::span<const int> ordinals, std::span<const StoredValue> values);
     void updateRow(const QString& table, qint64 rowid, std::span<const int> ordinals,
