@@ -67,7 +67,7 @@ Answer answerOf(int button) {
 /// The text as far as it has room on every screen; the words of this program are far shorter than that. What has no
 /// blanks may be broken anywhere.
 QString fitting(const QString& text) {
-    constexpr qsizetype LongestText = 700, MostLines = 24, LongestWord = 60; // characters, lines
+    constexpr qsizetype LongestText = 500, MostLines = 24, LongestWord = 60; // characters, lines
     qsizetype end = -1;
     for (qsizetype line = 0; line < MostLines && (line == 0 || end >= 0); ++line)
         end = text.indexOf(u'\n', end + 1);

@@ -19,7 +19,7 @@ struct Token {
 };
 
 [[noreturn]] void throwRefusal(QStringView source, qsizetype at, const QString& problem) {
-    constexpr qsizetype LongestSource = 400; ///< shown whole: as long as queries are but for a name in them
+    constexpr qsizetype LongestSource = 200; ///< shown whole: as long as queries are but for a name in them
     const QStringView rest = source.mid(at);
     QString text = u"查询无法执行："_s + problem;
     if (!rest.trimmed().isEmpty())
