@@ -1,15 +1,18 @@
 #include "app/program.h"
 #include "core/main_window.h"
 #include "look/look.h"
+#include "platform/end_requests.h"
 #include "platform/fitted_application.h"
 #include "platform/private_files.h"
 #include "platform/start_ahead.h"
+#include "platform/steady_process.h"
 
 #include <QLibraryInfo>
 #include <QTranslator>
 
 int main(int argc, char** argv) {
     using namespace Qt::StringLiterals;
+    qinghe::steadyProcess();
     qinghe::keepNewFilesPrivate();
     std::thread fonts = qinghe::readFontsAhead();
     qinghe::FittedApplication application(argc, argv, qinghe::MainWindow::sizeInPixels());
@@ -20,6 +23,7 @@ int main(int argc, char** argv) {
     fonts.join();
     qinghe::dress(*application);
     qinghe::Program program(qinghe::desktopServices());
+    const qinghe::EndRequests requests([&program] { program.endAsked(); });
     program.start();
     return QApplication::exec();
 }

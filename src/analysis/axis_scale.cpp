@@ -9,7 +9,6 @@ namespace qinghe {
 
 namespace {
 
-constexpr double Farthest = 1e200; ///< what lies beyond is drawn as far as this; the plot's own limit lies behind it
 constexpr double Cent = 0.01;
 constexpr double NothingToShow = 100;
 constexpr int MostSteps = 6; ///< in the range; rounding its ends outward may add one

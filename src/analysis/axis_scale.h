@@ -8,7 +8,10 @@ namespace qinghe {
 /// them. Every value of the range given lies between the first line and the last.
 class AxisScale {
 public:
-    /// At most eight lines. Both numbers must be finite; with nothing to show the axis goes to 100.
+    /// What lies beyond is drawn as far as this, infinite values too; the plot's own limit lies behind it.
+    static constexpr double Farthest = 1e200;
+
+    /// At most eight lines. Both must be numbers; with nothing to show the axis goes to 100.
     AxisScale(double lowest, double highest);
 
     /// Lines are counted from 0 at the foot.
@@ -21,6 +24,8 @@ public:
     double high() const { return m_last * m_step; }
     /// How far up the axis a value stands: 0 at the first line, 1 at the last.
     double share(double value) const;
+    /// The same of a line, which may lie beyond what is drawn.
+    double lineShare(int index) const { return static_cast<double>(index) / (m_last - m_first); }
 
     /// One more line below the others, for what hangs from the lowest value.
     void addLineBelow() { --m_first; }

@@ -27,7 +27,7 @@ constexpr double LegendWidth = 40;
 constexpr double TooLongForCents = 1e15;
 
 QString textOf(double value) {
-    if (!std::isfinite(value))
+    if (std::isnan(value))
         return {};
     return std::abs(value) < TooLongForCents ? formatNumber(value, u"0.00"_s) : numberText(value);
 }
@@ -60,7 +60,7 @@ std::pair<double, double> range(const ChartMatrix& matrix) {
     std::pair<double, double> ends{0, 0};
     for (const auto& series : matrix.values)
         for (const double value : series)
-            if (std::isfinite(value))
+            if (!std::isnan(value))
                 ends = {std::min(ends.first, value), std::max(ends.second, value)};
     return ends;
 }
@@ -154,7 +154,7 @@ double ChartLayout::y(double value) const {
 }
 
 double ChartLayout::lineY(int index) const {
-    return y(m_scale.line(index));
+    return m_plot.bottom() - m_scale.lineShare(index) * m_plot.height();
 }
 
 const QString& ChartLayout::unit() {

@@ -194,8 +194,8 @@ void ChartsPage::draw(Recordset& records, ChartLabels labels) {
     QVariantList points;
     points.reserve(records.recordCount());
     for (; !records.eof(); records.moveNext()) {
-        const Value value = records.field(1).value();
-        points << QVariant(QVariantList{records.field(0).text(), value.isNull() ? QVariant() : value.number()});
+        const auto value = records.field(1).value().numberIfAny(); // a balance may be what no number can be read from
+        points << QVariant(QVariantList{records.field(0).text(), value ? QVariant(*value) : QVariant()});
     }
     if (labels == ChartLabels::Months)
         std::ranges::stable_sort(

@@ -5,6 +5,7 @@
 #include "look/colours.h"
 #include "look/drawing.h"
 #include "look/fonts.h"
+#include "runtime/shown_value.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
@@ -57,7 +58,7 @@ void paintSampleMark(QPaintDevice& device, const QRect& chart) {
 
 /// Text for a tool tip, in lines that no screen is too narrow for.
 QString tipText(const QString& label, const QString& value) {
-    const QString head = label.size() > LongestTip ? label.left(LongestTip) + u'…' : label;
+    const QString head = shownValue(label, LongestTip);
     QStringList lines;
     for (qsizetype at = 0; at < head.size(); at += TipLine)
         lines << head.mid(at, TipLine);

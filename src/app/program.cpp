@@ -110,9 +110,23 @@ void Program::comeForward() {
         box->activateWindow();
 }
 
-void Program::tellError(const RuntimeError& error) {
+std::vector<Page*> Program::pages() const {
     const auto* window = static_cast<MainWindow*>(m_shared.forms.loaded(names::Main)); // made above, see defineForms
-    const QString became = lastWords(m_shared, window ? window->navigation().pages() : std::vector<Page*>(), error);
+    return window ? window->navigation().pages() : std::vector<Page*>();
+}
+
+void Program::endAsked() {
+    if (handlers::ending())
+        return end(1);
+    handlers::enter([this] {
+        handlers::boundary();
+        keepUnsaved(m_shared, pages());
+        throw handlers::ProgramEnd{0};
+    });
+}
+
+void Program::tellError(const RuntimeError& error) {
+    const QString became = lastWords(m_shared, pages(), error);
     m_shared.services.messages->showError(error.number(), error.text(), became);
 }
 

@@ -1,12 +1,19 @@
 #include "controls/cell_hints.h"
 
 #include "controls/ms_flex_grid.h"
+#include "runtime/shown_value.h"
 
 #include <QMenu>
 #include <QTextDocument>
 #include <QToolTip>
 
 namespace qinghe {
+
+namespace {
+
+constexpr qsizetype LongestTip = 800; ///< characters: what a screen has room for
+
+} // namespace
 
 QModelIndex CellHints::indexOf(int row, int col) const {
     return m_grid.model()->index(row - 1, col - 1);
@@ -30,7 +37,7 @@ QString CellHints::tip(int row, int col) const {
         return {};
     QStringList lines{m_grid.objectionTo(row, col)};
     if (m_grid.isCut(row, col))
-        lines << m_grid.TextMatrix(row, col);
+        lines << shownValue(m_grid.TextMatrix(row, col), LongestTip);
     if (tipOf)
         lines << tipOf(row, col);
     lines.removeAll({});

@@ -30,16 +30,15 @@ QString aboutBook(const Shared& shared, const RuntimeError& error) {
     return undone ? u"这一步没有做成，已经撤销；以前写入账本的内容都还在。"_s : u"出错以前写入账本的内容都已保留。"_s;
 }
 
-QString asFile(const Shared& shared, const RuntimeError& error, const QString& book, const QStringList& rescued) {
+/// `why` the program was closed, in half a sentence, and `more` that is to be said of it.
+QString asFile(const Shared& shared, const QString& why, const QStringList& more, const QStringList& rescued) {
     QStringList lines{
         u"%1：没有存进账本的内容"_s.arg(productName()),
         {},
-        u"%1，程序因为出错而关闭，关闭以前把屏幕上还没有存进账本的内容写在这里。"_s.arg(
-            shared.services.clock->now().toString(u"yyyy年M月d日 H:mm:ss"_s)),
-        u"运行时错误 %1：%2"_s.arg(error.number()).arg(error.text()),
+        u"%1，%2，关闭以前把屏幕上还没有存进账本的内容写在这里。"_s.arg(
+            shared.services.clock->now().toString(u"yyyy年M月d日 H:mm:ss"_s), why),
     };
-    if (!book.isEmpty())
-        lines << book;
+    lines << more;
     lines << u"这个文件只有您自己能读。重新启动程序，照着它补记以后，就可以删掉它。"_s << rescued;
     return lines.join(u'\n').remove(u'\r') + u'\n';
 }
@@ -78,11 +77,21 @@ QString lastWords(Shared& shared, const std::vector<Page*>& pages, const Runtime
         QStringList words;
         if (!book.isEmpty())
             words << book;
-        if (!texts.lines().isEmpty())
-            words << keep(shared, asFile(shared, error, book, texts.lines()));
+        if (!texts.lines().isEmpty()) {
+            const QStringList told = QStringList{u"运行时错误 %1：%2"_s.arg(error.number()).arg(error.text())} + words;
+            words << keep(shared, asFile(shared, u"程序因为出错而关闭"_s, told, texts.lines()));
+        }
         return words.join(u"\n\n"_s);
     } catch (...) {
         return {};
+    }
+}
+
+void keepUnsaved(Shared& shared, const std::vector<Page*>& pages) {
+    try {
+        if (const RescuedTexts texts = gathered(shared, pages); !texts.lines().isEmpty())
+            keep(shared, asFile(shared, u"程序应系统的要求关闭（例如注销或关机）"_s, {}, texts.lines()));
+    } catch (...) { // the end comes all the same
     }
 }
 

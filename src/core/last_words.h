@@ -12,4 +12,7 @@ namespace qinghe {
 /// called when the unit of work has ended. Throws nothing: whatever fails here, the error itself is still to be told.
 QString lastWords(Shared& shared, const std::vector<Page*>& pages, const RuntimeError& error);
 
+/// The same file when the system ends the program: nobody is there to be told. Throws nothing.
+void keepUnsaved(Shared& shared, const std::vector<Page*>& pages);
+
 } // namespace qinghe

@@ -34,10 +34,11 @@ QStringList linesOf(const MSFlexGrid& grid) {
 
 /// The text in the box where it has not reached its cell; none otherwise.
 QStringList typedText(const MSFlexGrid& grid, const CellEditing& editing) {
-    if (!editing.box->Visible() || editing.box->Text() == grid.Text())
+    const CellEditor& box = *editing.box;
+    if (!box.differsFromCell()) // which need not be the current cell: a save walks along the rows
         return {};
-    return {u"还没有按回车的一格：第%1行“%2”，写的是：%3"_s.arg(grid.Row())
-                .arg(grid.TextMatrix(0, grid.Col()), inLine(editing.box->Text()))};
+    return {u"还没有按回车的一格：第%1行“%2”，写的是：%3"_s.arg(box.row()).arg(grid.TextMatrix(0, box.col()),
+                                                                               inLine(box.Text()))};
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "disk/replace_file.h"
 #include "platform/files.h"
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 #include <QStringDecoder>
 #include <QStringEncoder>
@@ -71,7 +72,7 @@ QString filePath(const QString& folder, const QString& title) {
     if (const QString why = objection(title); !why.isEmpty())
         throw RuntimeError(
             RuntimeError::PathFileAccess,
-            u"日记标题“%1”不能用作文件名：%2。正文没有文件可存，请换一个标题。"_s.arg(title.left(40), why));
+            u"日记标题“%1”不能用作文件名：%2。正文没有文件可存，请换一个标题。"_s.arg(shownValue(title), why));
     return folder + u'/' + title + Extension;
 }
 

@@ -23,9 +23,10 @@ bool isFigures(const QString& text) {
     return std::ranges::any_of(text, [](QChar c) { return c.isDigit(); }) && std::ranges::all_of(text, isFigure);
 }
 
-/// With the pixel that a text box wants beside its text.
+/// With the pixel that a text box wants beside its text. A text of more characters than pixels is not measured: it may
+/// be as long as a book.
 bool fits(const QString& text, const QFont& font, int room) {
-    return qRound(QFontMetricsF(font).horizontalAdvance(text)) + 1 <= room;
+    return text.size() <= room && qRound(QFontMetricsF(font).horizontalAdvance(text)) + 1 <= room;
 }
 
 } // namespace

@@ -53,7 +53,9 @@ void paintUpright(QPainter& painter, double x, double top, double bottom, const 
 void paintLine(QPainter& painter, const QRect& room, Qt::Alignment alignment, const QString& words, const QFont& font,
                const QColor& colour) {
     const QFontMetrics metrics(font);
-    const QString shown = metrics.elidedText(words, Qt::ElideRight, room.width());
+    // No character is narrower than a pixel: of a text as long as a book its head says that it has no room.
+    const QString head = words.left(std::max(0, room.width()) + 1);
+    const QString shown = metrics.elidedText(head, Qt::ElideRight, room.width());
     // QLineEdit's own sums, half pixels rounded as there.
     const double advance = QFontMetricsF(font).horizontalAdvance(shown);
     const int used = qRound(advance) + 1;

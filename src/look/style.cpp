@@ -29,6 +29,8 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
@@ -91,7 +93,8 @@ void prepareMessage(QWidget& box) {
     if (!words)
         return;
     words->setFont(sans(type::Message));
-    words->setMinimumHeight(MessageIcon);
+    // A least height of its own takes the place of the one that the lines ask for.
+    words->setMinimumHeight(std::max(MessageIcon, words->sizeHint().height()));
     words->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
 }
 

@@ -4,6 +4,7 @@
 #include "core/stored_choice.h"
 #include "maintenance/next_picture.h"
 #include "maintenance/picture_window.h"
+#include "runtime/shown_value.h"
 
 namespace qinghe {
 
@@ -72,7 +73,7 @@ void SettingsPage::turnPicture(const PictureTarget& target) {
         return m_shared.tell(u"没有存着别的图片，请先用“%1”添加一张。"_s.arg(target.entry), u"提示"_s);
     if (isDesktop)
         desktop.setPicture(next->image);
-    m_shared.tell(target.turnedTo.toString().arg(next->name), u"提示"_s);
+    m_shared.tell(target.turnedTo.toString().arg(shownValue(next->name)), u"提示"_s);
 }
 
 void SettingsPage::bindEvents() {

@@ -1,12 +1,13 @@
 #include "platform/desktop_message_boxes.h"
 
 #include "platform/front_window.h"
-#include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <utility>
 
 namespace qinghe {
@@ -63,6 +64,27 @@ Answer answerOf(int button) {
     }
 }
 
+/// The text as far as it has room on every screen; the words of this program are far shorter than that. What has no
+/// blanks may be broken anywhere.
+QString fitting(const QString& text) {
+    constexpr qsizetype LongestText = 500, MostLines = 24, LongestWord = 60; // characters, lines
+    qsizetype end = -1;
+    for (qsizetype line = 0; line < MostLines && (line == 0 || end >= 0); ++line)
+        end = text.indexOf(u'\n', end + 1);
+    const QString shown = shownValue(text, end < 0 ? LongestText : std::min(end, LongestText));
+    QString fitted;
+    qsizetype word = 0;
+    for (const QChar c : shown) {
+        word = c.isSpace() || c.script() == QChar::Script_Han ? 0 : word + 1;
+        if (word > LongestWord && !c.isLowSurrogate()) {
+            fitted += QChar(0x200B); // a blank without a width
+            word = 1;
+        }
+        fitted += c;
+    }
+    return fitted;
+}
+
 /// Wide enough for its title and what the desktop puts beside it; without an icon its words begin at the margin.
 void lay(QMessageBox& box) {
     constexpr int BesideTitle = 110; // pixels: the window's icon, its button, their margins
@@ -88,7 +110,7 @@ void fill(QMessageBox& box, const QString& text, const QString& title) {
 
 Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const QString& title) {
     QMessageBox box(windowInFront());
-    fill(box, text, title);
+    fill(box, fitting(text), title);
     box.setIcon(iconOf(style));
     box.setStandardButtons(buttonsOf(style));
     captionButtons(box);
@@ -99,7 +121,8 @@ Answer DesktopMessageBoxes::show(const QString& text, MessageStyle style, const 
 
 void DesktopMessageBoxes::showError(int number, const QString& text, const QString& became) {
     QMessageBox box(windowInFront());
-    fill(box, u"运行时错误 %1：\n\n%2\n\n程序将关闭。%3"_s.arg(number).arg(text, became), productName());
+    fill(box, u"运行时错误 %1：\n\n%2\n\n程序将关闭。%3"_s.arg(number).arg(fitting(text), fitting(became)),
+         productName());
     box.setIcon(QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     captionButtons(box);

@@ -40,8 +40,8 @@ public:
     /// Shows the box over the active window and waits. Text and title are plain text. Use say() instead: it ends the
     /// unit of work first.
     virtual Answer show(const QString& text, MessageStyle style, const QString& title) = 0;
-    /// The window of a run-time error, the last one of the program; `text` is told whole, and so is what became of the
-    /// user's records and texts, which may be nothing.
+    /// The window of a run-time error, the last one of the program. `text` is told, and what became of the user's
+    /// records and texts, which may be nothing; each of them as far as a screen has room.
     virtual void showError(int number, const QString& text, const QString& became) = 0;
 };
 

@@ -1,7 +1,6 @@
 #include "runtime/money.h"
 
 #include "runtime/number_format.h"
-#include "runtime/runtime_error.h"
 
 #include <cmath>
 #include <limits>
@@ -27,9 +26,8 @@ QString none() {
 }
 
 float singleTotal(double total) {
-    if (!(std::abs(total) <= std::numeric_limits<float>::max()))
-        throw RuntimeError(RuntimeError::Overflow, u"溢出：收支总额太大，超过了 3.4E+38。"_s);
-    return static_cast<float>(total);
+    using Limits = std::numeric_limits<float>;
+    return std::abs(total) > Limits::max() ? Limits::infinity() : static_cast<float>(total);
 }
 
 } // namespace qinghe::money

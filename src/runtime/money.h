@@ -8,8 +8,8 @@ namespace qinghe::money {
 /// Stands behind a sum. Whoever wants another currency changes it here.
 inline constexpr QStringView Sign = u"元";
 
-/// Two places behind the point and no zero before it: "12.50", ".50". NULL has no text. Throws RuntimeError (type
-/// mismatch, overflow) as formatNumber does.
+/// Two places behind the point and no zero before it: "12.50", ".50". NULL has no text, and a sum beyond
+/// all range is OverflowText. Throws RuntimeError (type mismatch) for what is no number.
 QString amount(const Value& value);
 /// The same with the sign behind it: "12.50元".
 QString yuan(const Value& value);
@@ -18,7 +18,7 @@ QString fullYuan(double sum);
 /// What stands where nothing was summed: "0.00元".
 QString none();
 
-/// A total as the ledger keeps it for later, rounded to a single. Throws RuntimeError (overflow) beyond its range.
+/// A total as the ledger keeps it for later, rounded to a single; infinite beyond its range.
 float singleTotal(double total);
 
 } // namespace qinghe::money

@@ -1,6 +1,6 @@
 #include "runtime/number_format.h"
 
-#include "runtime/runtime_error.h"
+#include "runtime/number_text.h"
 
 #include <array>
 #include <charconv>
@@ -100,7 +100,7 @@ QByteArray trimmedTo(QByteArray fraction, qsizetype least) {
 
 QString formatNumber(double value, const QString& pattern) {
     if (!std::isfinite(value))
-        throw RuntimeError(RuntimeError::Overflow, u"溢出：数字太大，无法显示。"_s);
+        return OverflowText.toString();
     const Pattern form = parsed(pattern);
     const Decimal number = rounded(decimalOf(std::abs(value)), form.mostFraction);
     QByteArray text = value < 0 && !number.isZero() ? "-" : "";

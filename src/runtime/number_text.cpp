@@ -1,6 +1,7 @@
 #include "runtime/number_text.h"
 
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 #include <array>
 #include <charconv>
@@ -227,7 +228,7 @@ double leadingNumber(const QString& text) {
     reader.exponent();
     const double value = reader.value();
     if (std::isinf(value))
-        throw RuntimeError(RuntimeError::Overflow, u"溢出：“%1”太大，无法作为数字。"_s.arg(text));
+        throw RuntimeError(RuntimeError::Overflow, u"溢出：“%1”太大，无法作为数字。"_s.arg(shownValue(text)));
     return value;
 }
 

@@ -2,6 +2,7 @@
 
 #include "runtime/number_text.h"
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 #include <type_traits>
 
@@ -22,7 +23,7 @@ QString named(const Value& value) {
     if (value.isNull())
         return u"空值"_s;
     const bool binary = std::holds_alternative<QByteArray>(value.data());
-    return binary ? u"二进制数据"_s : u'“' + value.text() + u'”';
+    return binary ? u"二进制数据"_s : u'“' + shownValue(value.text()) + u'”';
 }
 
 template<class... Cases>
@@ -56,16 +57,20 @@ QString Value::text() const {
                       m_data);
 }
 
-double Value::number() const {
-    std::optional<double> number;
+std::optional<double> Value::numberIfAny() const {
     if (const auto* text = std::get_if<QString>(&m_data))
-        number = fullNumber(*text);
-    else if (const auto* real = std::get_if<double>(&m_data))
-        number = *real;
-    else if (const auto* integer = std::get_if<qint64>(&m_data))
-        number = static_cast<double>(*integer);
-    else if (const auto* flag = std::get_if<bool>(&m_data))
-        number = *flag ? TrueNumber : 0;
+        return fullNumber(*text);
+    if (const auto* real = std::get_if<double>(&m_data))
+        return *real;
+    if (const auto* integer = std::get_if<qint64>(&m_data))
+        return static_cast<double>(*integer);
+    if (const auto* flag = std::get_if<bool>(&m_data))
+        return *flag ? TrueNumber : 0;
+    return std::nullopt;
+}
+
+double Value::number() const {
+    const auto number = numberIfAny();
     if (!number)
         throwMismatch(named(*this) + u"不是数字。"_s);
     return *number;

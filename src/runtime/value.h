@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -36,6 +37,8 @@ public:
     /// The value as a number; a text goes through the full conversion, true is -1. Throws RuntimeError (type mismatch)
     /// for NULL and for what is no number.
     double number() const;
+    /// The same, or nothing where number() would throw.
+    std::optional<double> numberIfAny() const;
     /// True for true and for any number but 0, as a text too ("True", "-1"); false for NULL. Throws RuntimeError (type
     /// mismatch) for other texts and kinds.
     bool truth() const;

@@ -1,6 +1,7 @@
 #include "store/column.h"
 
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 #include <array>
 #include <cmath>
@@ -33,7 +34,7 @@ const KindRow& rowOf(ColumnKind kind) {
 
 [[noreturn]] void throwRefusal(const Column& column, const Value& value) {
     const bool binary = std::holds_alternative<QByteArray>(value.data());
-    const QString shown = binary ? u"二进制数据"_s : u'“' + value.text() + u'”';
+    const QString shown = binary ? u"二进制数据"_s : u'“' + shownValue(value.text()) + u'”';
     throw RuntimeError(RuntimeError::TypeMismatch, u"类型不匹配：“%1”一栏需要%2，不能存放%3。"_s.arg(
                                                        column.name, rowOf(column.kind).wanted, shown));
 }
@@ -98,7 +99,7 @@ ColumnKind kindOfDeclaredType(const QString& type) {
         if (type.compare(row.declared, Qt::CaseInsensitive) == 0)
             return row.kind;
     }
-    throw RuntimeError(RuntimeError::StoreFailure, u"账本文件的格式不对：不认识的列类型“%1”。"_s.arg(type));
+    throw RuntimeError(RuntimeError::StoreFailure, u"账本文件的格式不对：不认识的列类型“%1”。"_s.arg(shownValue(type)));
 }
 
 Value converted(const Column& column, const Value& value, const ThisYear& thisYear) {

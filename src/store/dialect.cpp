@@ -1,6 +1,7 @@
 #include "store/dialect.h"
 
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 namespace qinghe {
 
@@ -18,15 +19,15 @@ struct Token {
 };
 
 [[noreturn]] void throwRefusal(QStringView source, qsizetype at, const QString& problem) {
-    constexpr qsizetype Shown = 40;
+    constexpr qsizetype LongestSource = 200; ///< shown whole: as long as queries are but for a name in them
     const QStringView rest = source.mid(at);
     QString text = u"查询无法执行："_s + problem;
     if (!rest.trimmed().isEmpty())
-        text += u"，问题出在“%1”处"_s.arg(rest.left(Shown));
+        text += u"，问题出在“%1”处"_s.arg(shownValue(rest));
     text += u'。';
     if (source.contains(u'\''))
         text += u"用于查询的文字里不能有英文单引号（'）。"_s;
-    throw RuntimeError(RuntimeError::QueryFailure, text + u"\r\n查询内容：%1"_s.arg(source));
+    throw RuntimeError(RuntimeError::QueryFailure, text + u"\r\n查询内容：%1"_s.arg(shownValue(source, LongestSource)));
 }
 
 bool isBlank(QChar c) {

@@ -1,6 +1,7 @@
 #include "store/recordset.h"
 
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 #include "store/cursor.h"
 #include "store/dialect.h"
 #include "store/pending_row.h"
@@ -151,7 +152,8 @@ void Recordset::find(const QString& criterion) {
     update();
     const Comparison sought = parsedComparison(criterion);
     if (sought.sign != u"=" || sought.leading > 0 || sought.literals.front().isDate)
-        throw RuntimeError(RuntimeError::QueryFailure, u"查找条件应为 名称='文字'，不能是：%1"_s.arg(criterion));
+        throw RuntimeError(RuntimeError::QueryFailure,
+                           u"查找条件应为 名称='文字'，不能是：%1"_s.arg(shownValue(criterion)));
     const int column = field(sought.column).m_ordinal;
     const QString& text = sought.literals.front().text;
     const auto matches = [&](int row) {
@@ -195,7 +197,7 @@ Field Recordset::field(QStringView name) {
     const TableColumns& columns = m_impl->rows.shape().columns;
     const auto found = std::ranges::find(columns, name, &Column::name);
     if (found == columns.end())
-        throw RuntimeError(RuntimeError::NoSuchField, u"记录里没有“%1”这一栏。"_s.arg(name));
+        throw RuntimeError(RuntimeError::NoSuchField, u"记录里没有“%1”这一栏。"_s.arg(shownValue(name)));
     return Field(*this, static_cast<int>(found - columns.begin()));
 }
 

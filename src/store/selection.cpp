@@ -1,6 +1,7 @@
 #include "store/selection.h"
 
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 #include "store/sql_text.h"
 
 #include <algorithm>
@@ -65,7 +66,7 @@ private:
 
     void addGroupColumn(const SelectItem& item) {
         if (std::ranges::find(m_query.groupBy, item.column) == m_query.groupBy.end())
-            throwRefusal(u"“%1”既不是合计，也不在 group by 中。"_s.arg(item.column));
+            throwRefusal(u"“%1”既不是合计，也不在 group by 中。"_s.arg(shownValue(item.column)));
         addColumn(item.column, item.name);
     }
 
@@ -73,7 +74,7 @@ private:
     void addSum(const SelectItem& item) {
         const Column& column = columnNamed(item.column);
         if (column.kind != ColumnKind::Number && column.kind != ColumnKind::Integer)
-            throwRefusal(u"“%1”不是数字，不能合计。"_s.arg(item.column));
+            throwRefusal(u"“%1”不是数字，不能合计。"_s.arg(shownValue(item.column)));
         m_result.shape.columns.push_back({item.name, ColumnKind::Number});
         m_sqlItems += "sum(" + quotedName(column.name) + "+0.0)";
     }
@@ -97,20 +98,20 @@ private:
     QString boundText(const Column& column, bool cut, const Literal& literal) const {
         const bool dated = column.kind == ColumnKind::Date;
         if ((!dated && column.kind != ColumnKind::Text) || literal.isDate != (dated && !cut))
-            throwRefusal(u"“%1”一栏不能与“%2”比较，类型不符。"_s.arg(column.name, literal.text));
+            throwRefusal(u"“%1”一栏不能与“%2”比较，类型不符。"_s.arg(column.name, shownValue(literal.text)));
         return literal.isDate ? dateText(column, literal.text) : literal.text;
     }
 
     QString dateText(const Column& column, const QString& text) const {
         if (!parseDate(text, m_thisYear))
-            throwRefusal(u"“%1”不是日期，日期应写成 2024-5-3 的样子。"_s.arg(text));
+            throwRefusal(u"“%1”不是日期，日期应写成 2024-5-3 的样子。"_s.arg(shownValue(text)));
         return std::get<DateValue>(converted(column, text, m_thisYear).data()).iso();
     }
 
     const Column& columnNamed(const QString& name) const {
         const auto found = std::ranges::find(m_columns, name, &Column::name);
         if (found == m_columns.end())
-            throwRefusal(u"表“%1”里没有“%2”这一栏。"_s.arg(m_query.table, name));
+            throwRefusal(u"表“%1”里没有“%2”这一栏。"_s.arg(shownValue(m_query.table), shownValue(name)));
         return *found;
     }
 

@@ -1,6 +1,7 @@
 #include "store/session.h"
 
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 #include "store/migrations.h"
 #include "store/selection.h"
 #include "store/sql_text.h"
@@ -91,7 +92,7 @@ const TableColumns& Session::columns(const QString& table) {
         columns.push_back({QString::fromUtf8(statement.column(0).bytes),
                            kindOfDeclaredType(QString::fromUtf8(statement.column(1).bytes))});
     if (columns.empty())
-        throw RuntimeError(RuntimeError::QueryFailure, u"账本文件里没有“%1”这张表。"_s.arg(table));
+        throw RuntimeError(RuntimeError::QueryFailure, u"账本文件里没有“%1”这张表。"_s.arg(shownValue(table)));
     return *m_columns.insert(table, columns);
 }
 

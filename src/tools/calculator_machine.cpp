@@ -2,6 +2,7 @@
 
 #include "runtime/number_text.h"
 #include "runtime/runtime_error.h"
+#include "runtime/shown_value.h"
 
 #include <cmath>
 
@@ -63,7 +64,7 @@ double calculated(CalculatorMachine::Operator operation, double first, double se
 double squareRoot(const QString& operand) {
     const double value = leadingNumber(operand);
     if (value < 0)
-        throw RuntimeError(RuntimeError::InvalidCall, u"计算器：%1 没有平方根。"_s.arg(operand));
+        throw RuntimeError(RuntimeError::InvalidCall, u"计算器：%1 没有平方根。"_s.arg(shownValue(operand)));
     return std::sqrt(value);
 }
 

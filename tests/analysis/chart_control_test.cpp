@@ -192,6 +192,10 @@ double endless(int i) {
     return std::pow(10.0, i % 300);
 }
 
+double beyondAll(int i) {
+    return i % 2 ? HUGE_VAL : -HUGE_VAL;
+}
+
 class ChartShapesTest : public ChartControlTest, public ::testing::WithParamInterface<Shape> {};
 
 TEST_P(ChartShapesTest, WriteNothingOverAnything) {
@@ -215,7 +219,8 @@ INSTANTIATE_TEST_SUITE_P(Charts, ChartShapesTest,
                                            Shape{"ThreeHundredPoints", 300, fallen}, Shape{"HugeValues", 12, huge},
                                            Shape{"AllNegative", 12, bottomless}, Shape{"EqualValues", 12, equal},
                                            Shape{"AllZero", 12, nothing}, Shape{"MissingValues", 12, missing},
-                                           Shape{"ValuesWithoutEnd", 300, endless}),
+                                           Shape{"ValuesWithoutEnd", 300, endless},
+                                           Shape{"BeyondAllNumbers", 12, beyondAll}),
                          [](const auto& shape) { return shape.param.name; });
 
 TEST_F(ChartControlTest, TellsALabelWholeThatIsCut) {

@@ -89,7 +89,7 @@ TEST_F(ChartLayoutTest, WritesValuesWithTwoDecimals) {
     EXPECT_EQ(layout.valueText(3), u"1E+15");
     EXPECT_EQ(layout.valueText(4), u"2.5E+20");
     EXPECT_EQ(layout.valueText(5), u"");
-    EXPECT_EQ(layout.valueText(6), u"");
+    EXPECT_EQ(layout.valueText(6), u"溢出");
 }
 
 TEST_F(ChartLayoutTest, KnowsTheRowsInView) {

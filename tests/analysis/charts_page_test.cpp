@@ -253,5 +253,19 @@ TEST_F(ChartsTest, ScrollsManyAccounts) {
     EXPECT_EQ(chart().scrolled(), chart().places().longestScroll());
 }
 
+TEST_F(ChartsTest, DrawsSumsBeyondAllNumbersAndBalancesThatAreNone) {
+    storeAccount(u"'现金'"_s, u"'十元'"_s);
+    storeAccount(u"'存折'"_s, u"9e999"_s);
+    for (int i = 0; i < 2; ++i)
+        store(u"srb"_s, u"'2024-05-03'"_s, u"'工资'"_s, 1e308);
+    open();
+    EXPECT_EQ(points(), u"现金= 存折=inf");
+    for (const QString& name : {QString(charts::YearsIncome), QString(charts::IncomeByItem)}) {
+        click(name);
+        EXPECT_EQ(chart().places().valueText(0), u"溢出");
+    }
+    EXPECT_FALSE(rig.ended());
+}
+
 } // namespace
 } // namespace qinghe::testing

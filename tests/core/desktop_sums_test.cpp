@@ -110,6 +110,14 @@ TEST_F(DesktopSums, ALongFigureHasTheRestOfItsCardAndAnyOtherItsUsualWidth) {
     EXPECT_EQ(widthWith(u"1"_s), 1560);
 }
 
+TEST_F(DesktopSums, ASumBeyondAllNumbersSaysSoAndKeepsNobodyOut) {
+    bookIncome(u"2024-10-01"_s, QString(308, u'9') + u".0"_s);
+    bookIncome(u"2024-10-02"_s, QString(308, u'9') + u".0"_s);
+    startOn({2024, 10, 18});
+    EXPECT_EQ(caption(desktop::Income), u"溢出"_s);
+    EXPECT_FALSE(rig.ended());
+}
+
 TEST_F(DesktopSums, ASumBelowNoughtKeepsItsSign) {
     bookIncome(u"2024-10-01"_s, u"-12.5"_s);
     startOn({2024, 10, 18});

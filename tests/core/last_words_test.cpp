@@ -135,5 +135,53 @@ TEST_F(LastWords, NothingIsPromisedOfABookThatCannotBeRead) {
     EXPECT_TRUE(rescuedText().contains(u"2024-5-2\t项目2\t99"_s));
 }
 
+// ---- when the system ends the program
+
+TEST_F(LastWords, ALogOutKeepsWhatWasTypedAndEndsWithoutAWord) {
+    openWith(2);
+    rig.clickCell(rig.at(budget::Grid), 2, 2);
+    typeOver(rig.at(budget::Box), u"还在写"_s);
+    rig.program->endAsked();
+    EXPECT_EQ(rig.process->codes, std::vector<int>{0});
+    EXPECT_TRUE(rig.messages->shown.empty());
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_TRUE(rescuedText().contains(u"第2行“预算项目”，写的是：还在写\n"_s));
+    EXPECT_TRUE(rescuedText().contains(u"程序应系统的要求关闭"_s));
+    EXPECT_EQ(rig.headerBytes(), QByteArray("\x01\x00", 2)); // healed, as the desktop's closing leaves it
+}
+
+TEST_F(LastWords, ALogOutWithNothingTypedLeavesNoFile) {
+    openWith(2);
+    rig.program->endAsked();
+    EXPECT_EQ(rig.process->codes, std::vector<int>{0});
+    EXPECT_EQ(rescuedText(), QString());
+}
+
+TEST_F(LastWords, ALogOutEndsTheProgramAlsoWhileAMessageWaits) {
+    openWith(2);
+    rig.clickCell(rig.at(budget::Grid), 1, 2);
+    rig.messages->whileShown = [this](const ShownMessage&) { rig.program->endAsked(); };
+    rig.click(rig.at(budget::Save));
+    EXPECT_EQ(rig.process->codes.front(), 0);
+    EXPECT_EQ(rig.sql(u"select count(*) from ysb"_s), QStringList{u"2"_s});
+    EXPECT_EQ(rescuedText(), QString());
+}
+
+TEST_F(LastWords, ALogOutTakesAnErrorWindowThatWaitsWithIt) {
+    openWith(2);
+    fail();
+    rig.process->codes.clear(); // its window still waits
+    rig.program->endAsked();
+    EXPECT_EQ(rig.process->codes, std::vector<int>{1});
+}
+
+TEST_F(LastWords, ALogOutAtTheSignInEndsTheProgram) {
+    rig.stop();
+    rig.start();
+    rig.program->endAsked();
+    EXPECT_EQ(rig.process->codes, std::vector<int>{0});
+    EXPECT_EQ(rig.headerBytes(), QByteArray("\x01\x00", 2));
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -43,6 +43,18 @@ TEST_F(CategoriesSaveTest, MajorsOfExpenseGoIntoTheirOwnTable) {
     EXPECT_EQ(stored(Income), QStringList{u"工资|基本工资|gz"_s});
 }
 
+TEST_F(CategoriesSaveTest, NamesWhoseBytesAreNoTextStayAsTheyAre) {
+    rig.sql(u"insert into srflb values(cast(x'E5FFB7' as text), 'a', 'b'), ('甲', cast(x'EFBBBF41' as text), 'c')"_s);
+    open();
+    clickMajor(2);
+    save(12);
+    EXPECT_EQ(rig.sql(u"select hex(收入大类) from srflb"_s), (QStringList{u"E5FFB7"_s, u"EFBBBF41"_s}));
+    open(Expense);
+    open();
+    save(9);
+    EXPECT_EQ(rig.sql(u"select hex(收入大类) from srflb"_s), (QStringList{u"E5FFB7"_s, u"EFBBBF41"_s}));
+}
+
 TEST_F(CategoriesSaveTest, SavingMajorsTakesEveryRowBehindThem) {
     openWith({u"甲|1|a"_s, u"甲|2|b"_s, u"甲|3|c"_s, u"NULL|4|d"_s, u"乙|5|e"_s});
     ASSERT_EQ(majors().size(), 3);

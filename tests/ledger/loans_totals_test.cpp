@@ -105,5 +105,12 @@ TEST_F(LoansTotalsTest, WriteAVeryLargeSumOut) {
     EXPECT_EQ(total(), u"当前借出总额为：1"_s + QString(300, u'0') + u".00元 ，已还金额为：.00 元，目前余额为.00 元"_s);
 }
 
+TEST_F(LoansTotalsTest, SayWhichSumIsBeyondAllNumbers) {
+    storeLoan(Lent, u"1e308,1,1e308"_s);
+    storeLoan(Lent, u"1e308,1,1e308"_s);
+    open();
+    EXPECT_EQ(total(), u"当前借出总额为：溢出元 ，已还金额为：2.00 元，目前余额为溢出 元");
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -113,5 +113,16 @@ TEST_F(MonthItemsTest, LeaveTheCalculatorOpenWhenNoPickerIsOnView) {
     EXPECT_EQ(tools(), forms::Calculator);
 }
 
+TEST_F(MonthItemsTest, SayWhichSumIsBeyondAllNumbers) {
+    for (int i = 0; i < 2; ++i)
+        record(u"2024-10-01"_s, u"'工资'"_s, u"'甲'"_s, u"1e308"_s);
+    open(0);
+    showItems();
+    EXPECT_EQ(rows(), QStringList{u"工资|溢出"_s});
+    EXPECT_EQ(total(), u"本月收入总额为：溢出");
+    showPeople();
+    EXPECT_EQ(rows(), QStringList{u"甲|工资|溢出"_s});
+}
+
 } // namespace
 } // namespace qinghe::testing

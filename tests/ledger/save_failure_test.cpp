@@ -37,8 +37,10 @@ protected:
 };
 
 class SaveDateFailureTest : public SaveFailureTest {};
+class LongTextFailureTest : public SaveFailureTest {};
 
 INSTANTIATE_TEST_SUITE_P(Of, SaveFailureTest, ::testing::ValuesIn(LedgerLists), listName);
+INSTANTIATE_TEST_SUITE_P(Of, LongTextFailureTest, ::testing::Values(Budget), listName);
 INSTANTIATE_TEST_SUITE_P(Of, SaveDateFailureTest, ::testing::ValuesIn(DatedLists), listName);
 
 TEST_P(SaveFailureTest, StopsAtAnAmountWithItsUnit) {
@@ -63,6 +65,16 @@ TEST_P(SaveFailureTest, StopsAtANegativeResultBehindItsZero) {
 
 TEST_P(SaveFailureTest, StopsAtAnAmountBeyondADouble) {
     expectStoppedBy(list.amount, u"1e400"_s);
+}
+
+TEST_P(LongTextFailureTest, QuotesOfALongTextItsHeadAndKeepsAllOfItInTheRescuedTexts) {
+    openWith(1);
+    const QString text(1'000'000, u'长');
+    grid().setTextMatrix(1, list.date, text);
+    press(save());
+    expectError(TypeMismatch, QString(40, u'长') + u"…（共 1000000 个字）"_s);
+    EXPECT_LT(rig.messages->errors.front().second.size(), 200);
+    EXPECT_TRUE(rescuedText().contains(text));
 }
 
 TEST_P(SaveDateFailureTest, StopsAtATextThatIsNoDate) {

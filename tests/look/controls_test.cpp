@@ -219,6 +219,15 @@ TEST(ScrollBars, PartsFillTheBarWithoutGap) {
     EXPECT_EQ(part(QStyle::SC_ScrollBarSlider).bottom(), 199);
 }
 
+TEST(MessageBoxes, HaveRoomForEveryOneOfTheirShortLines) {
+    for (const int lines : {1, 2, 5, 20}) {
+        QMessageBox box(QMessageBox::Warning, u"提示"_s, u"行\n"_s.repeated(lines).chopped(1), QMessageBox::Ok);
+        box.show();
+        const auto* words = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+        EXPECT_GE(words->height(), words->sizeHint().height()) << lines;
+    }
+}
+
 TEST(MessageBoxes, TheDefaultButtonIsThePrimaryOne) {
     QMessageBox box(QMessageBox::Question, u"提示"_s, u"是否需要删除?"_s, QMessageBox::Ok | QMessageBox::Cancel);
     box.setDefaultButton(QMessageBox::Ok);

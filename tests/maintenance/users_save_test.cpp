@@ -26,6 +26,14 @@ TEST_F(UsersSaveTest, WritesTheRowsAnewInTheOrderOfTheGridAndNumbersThem) {
     EXPECT_EQ(adodc1().recordSource(), u"yhb");
 }
 
+TEST_F(UsersSaveTest, KeepsNamesAndPasswordsWhoseBytesAreNoText) {
+    rig.sql(u"insert into yhb values(cast(x'E5FFB7' as text), cast(x'EFBBBF41' as text), 1)"_s);
+    open();
+    press(save());
+    EXPECT_EQ(rig.lastMessage(), SaveDone);
+    EXPECT_EQ(stored(u"hex(用户名) || hex(用户密码)"_s), QStringList{u"E5FFB7EFBBBF41"_s});
+}
+
 TEST_F(UsersSaveTest, HasCommittedWhenItSaysSo) {
     openWith(1);
     fillCell(1, 2, u"改过"_s);

@@ -73,6 +73,25 @@ TEST_F(MessageBoxTest, TextAndTitleArePlainText) {
     boxes.show(u"<b>饭</b>"_s, MessageStyle::Ok, u"提醒"_s);
 }
 
+TEST_F(MessageBoxTest, StaysOnTheScreenWhateverItsText) {
+    const QString endless[] = {QString(1'000'000, u'长'), QString(1'000'000, u'a'), u"行\n"_s.repeated(100'000)};
+    for (const QString& text : endless) {
+        const auto look = [](QMessageBox& box) {
+            EXPECT_LE(box.height(), box.screen()->availableGeometry().height());
+            EXPECT_LE(box.width(), box.screen()->availableGeometry().width());
+            EXPECT_TRUE(box.text().contains(u" 个字）"_s));
+            box.accept();
+        };
+        whenShown(look);
+        boxes.show(text, MessageStyle::Ok, {});
+        whenShown([&](QMessageBox& box) {
+            EXPECT_TRUE(box.text().contains(u"程序将关闭。记录都在。"_s));
+            look(box);
+        });
+        boxes.showError(13, text, u"记录都在。"_s);
+    }
+}
+
 TEST_F(MessageBoxTest, AMessageWithoutATitleBearsTheProgramsName) {
     whenShown([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), u"青禾家庭记账本"_s);

@@ -58,9 +58,10 @@ TEST(FormatNumber, FillsLargeNumbersWithZerosBehindFifteenDigits) {
     expectFormatted(table, u"##.00"_s);
 }
 
-TEST(FormatNumber, WritesAVeryLargeNumberOutAndRefusesWhatIsBeyondAll) {
+TEST(FormatNumber, WritesAVeryLargeNumberOutAndSaysWhereASumIsBeyondAll) {
     EXPECT_EQ(formatNumber(1e300, u"##.00"_s), u'1' + QString(300, u'0') + u".00"_s);
-    EXPECT_THROW(formatNumber(std::numeric_limits<double>::infinity(), u"##.00"_s), RuntimeError);
+    EXPECT_EQ(formatNumber(std::numeric_limits<double>::infinity(), u"##.00元"_s), u"溢出"_s);
+    EXPECT_EQ(formatNumber(-std::numeric_limits<double>::infinity(), u"##.00"_s), u"溢出"_s);
 }
 
 TEST(FormatNumber, KeepsTheTextBehindThePattern) {

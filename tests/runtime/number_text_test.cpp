@@ -164,7 +164,7 @@ TEST(LeadingNumber, OverflowsBeyondTheRangeOfADouble) {
             ADD_FAILURE() << text.toStdString();
         } catch (const RuntimeError& error) {
             EXPECT_EQ(error.number(), RuntimeError::Overflow);
-            EXPECT_TRUE(error.text().contains(text));
+            EXPECT_TRUE(error.text().contains(text.left(40)));
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "store/store_fixture.h"
+#include "store/stored_value.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,6 +50,45 @@ TEST_F(Fields, PendingValuesAreReadBack) {
     EXPECT_TRUE(set.field(0).equalsEmpty());
     set.field(0).setValue(Value());
     EXPECT_TRUE(set.field(0).isNull());
+}
+
+TEST_F(Fields, StoredValuesAreWrittenAsTheyAre) {
+    OtherProgram(path()).run(u"insert into srb(编号,时间,金额) values(cast(x'FF41' as text),'2024/5/3',1e17)"_s);
+    Recordset& set = control.open(u"srb"_s);
+    std::vector<std::optional<QString>> texts(5);
+    EXPECT_FALSE(set.readTexts(texts));
+    const StoredValue code = set.field(0).asStored(), day = set.field(1).asStored(), amount = set.field(4).asStored();
+    set.addNew();
+    set.field(0).setStored(code);
+    set.field(1).setStored(day);
+    EXPECT_EQ(set.field(1).text(), u"2024/5/3"_s); // pending
+    set.field(4).setStored(amount);
+    set.field(4).setValue(5); // the last one counts
+    set.update();
+    EXPECT_TRUE(set.field(2).isNull());
+    store.close();
+    EXPECT_EQ(OtherProgram(path()).rows(u"select hex(编号), 时间, 金额 from srb"_s),
+              (QStringList{u"FF41|2024/5/3|100000000000000000"_s, u"FF41|2024/5/3|5"_s}));
+}
+
+TEST_F(Fields, OneChangedFieldRewritesNoOther) {
+    OtherProgram(path()).run(u"insert into srb(编号,时间,金额) values(cast(x'FF41' as text),'2024/5/3',1e17)"_s);
+    Recordset& set = control.open(u"srb"_s);
+    set.field(3).setValue(u"张"_s);
+    set.update();
+    store.close();
+    EXPECT_EQ(OtherProgram(path()).rows(u"select hex(编号), 时间, 收款人, 金额 from srb"_s),
+              QStringList{u"FF41|2024/5/3|张|100000000000000000"_s});
+}
+
+TEST_F(Fields, OrdinaryValuesComeBackFromTheirTexts) {
+    OtherProgram(path()).run(u"insert into srb values('甲','2024-05-03','','a b',0.1,' ',null,1),"
+                             "('1','2024-12-31 08:05:09','🙂','李',999999999999999,'x',char(65533),2),"
+                             "('','1000-01-01','','',-1e300,'','',3)"_s);
+    Recordset& set = control.open(u"srb"_s);
+    std::vector<std::optional<QString>> texts(7);
+    for (; !set.eof(); set.moveNext())
+        EXPECT_TRUE(set.readTexts(texts)) << texts[0]->toStdString();
 }
 
 TEST_F(Fields, DatesReadInTheirTextForm) {

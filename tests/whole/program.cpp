@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <csignal>
 #include <stdexcept>
 
 namespace whole {
@@ -287,6 +288,10 @@ int Program::exitCode() {
         throw std::runtime_error("the program does not end");
     m_errors += m_process.readAllStandardError().toStdString();
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+void Program::tell(int signal) {
+    ::kill(static_cast<pid_t>(m_id), signal);
 }
 
 void Program::kill() {

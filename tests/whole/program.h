@@ -91,6 +91,7 @@ public:
     /// Waits for its end; -1 when it was killed or crashed.
     int exitCode();
     void kill(); ///< without a warning
+    void tell(int signal);
     std::string errors() const { return m_errors; }
 
 private:

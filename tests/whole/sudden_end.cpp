@@ -1,9 +1,11 @@
 #include "household.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QThread>
 
+#include <csignal>
 #include <gtest/gtest.h>
 
 using namespace whole;
@@ -72,4 +74,36 @@ TEST(SuddenEnd, ASaveIsDoneOrWasNeverBegun) {
     std::cout << "saving took " << saving << " ms; of " << Kills << " kills " << inTheMidst
               << " met a save in the midst, and " << before << " left the table as it was\n";
     EXPECT_GT(inTheMidst, 0);
+}
+
+TEST(SuddenEnd, ALogOutEndsTheProgramInOrderAndKeepsWhatWasTyped) {
+    const LedgerFolder folder;
+    folder.execute("insert into ysb values('2024-11-01', '买菜', 500, '', 1)");
+    QElapsedTimer timer;
+    {
+        Program program(folder);
+        signIn(program);
+        program.click(pages::Budget);
+        program.clickCell(budget::Grid, 1, 2);
+        program.type("还在写");
+        timer.start();
+        program.tell(SIGTERM);
+        program.tell(SIGTERM); // impatient
+        EXPECT_EQ(program.exitCode(), 0);
+        EXPECT_LT(timer.elapsed(), 2000);
+    }
+    EXPECT_EQ(folder.rows("select 预算项目 from ysb"), std::vector<std::string>{"买菜"});
+    EXPECT_FALSE(folder.has("data.dll-journal"));
+    const QStringList kept = QDir(folder.path()).entryList({QStringLiteral("没有保存的内容*.txt")});
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_TRUE(folder.bytes(kept.front().toStdString()).contains("还在写"));
+
+    Program program(folder); // while a message waits
+    signIn(program);
+    program.click(pages::Budget);
+    program.clickCell(budget::Grid, 1, 2);
+    program.click(budget::Save);
+    EXPECT_EQ(program.message().text, "保存成功");
+    program.tell(SIGHUP);
+    EXPECT_EQ(program.exitCode(), 0);
 }

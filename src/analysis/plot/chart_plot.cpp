@@ -113,8 +113,10 @@ void ChartPlot::setMatrix(const ChartMatrix& matrix, const ChartFonts& fonts) {
     std::iota(rows.begin(), rows.end(), 0);
     for (int i = 0; i < matrix.columnCount(); ++i) {
         auto* columns = new RoundedColumns(m_plot.xAxis, m_plot.yAxis, shadeOf(i, matrix.columnCount()));
-        const std::vector<double>& values = matrix.values[static_cast<size_t>(i)];
-        columns->setData(rows, QVector<double>(values.begin(), values.end()), true);
+        QVector<double> values;
+        for (const double value : matrix.values[static_cast<size_t>(i)]) // one that is missing stays so
+            values << std::clamp(value, -AxisScale::Farthest, AxisScale::Farthest);
+        columns->setData(rows, values, true);
         columns->setBarsGroup(m_group);
         m_series.push_back(columns);
     }
