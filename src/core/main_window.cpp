@@ -87,7 +87,7 @@ void MainWindow::load() {
     m_desktop->computeSums();
     m_desktop->listPlans(false);
     showNotes();
-    // When the window has been shown, and the sign-in has ended.
+    // When the sign-in has ended.
     QTimer::singleShot(0, this, [this] { handlers::tick(&m_shared.safety, [this] { m_shared.safety.copyToday(); }); });
 }
 

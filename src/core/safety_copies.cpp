@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto TimeToPaint = std::chrono::milliseconds(500); ///< the desktop, which the user waits for
 constexpr auto PatienceAtEnd = std::chrono::milliseconds(300);
 constexpr QStringView FailedSave = u"保存出错以前";
 
@@ -75,6 +76,7 @@ void SafetyCopies::copyToday() {
         return;
     const auto outcome = std::make_shared<Outcome>();
     m_shared.services.background->start(
+        TimeToPaint,
         [book, now, outcome](const std::stop_token& stop) {
             try {
                 keepCopy(book, {now, DailyCopy.toString()}, IfDamaged::Tell, stop);

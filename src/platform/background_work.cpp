@@ -4,7 +4,9 @@
 
 #include <QObject>
 
+#include <condition_variable>
 #include <future>
+#include <mutex>
 #include <thread>
 
 namespace qinghe {
@@ -15,14 +17,16 @@ class OwnThread : public Background {
 public:
     ~OwnThread() override { stop(Forever); }
 
-    void start(std::function<void(std::stop_token)> work, std::function<void()> done) override {
+    void start(std::chrono::milliseconds delay, std::function<void(std::stop_token)> work,
+               std::function<void()> done) override {
         stop(Forever);
         std::promise<void> end;
         m_ended = end.get_future();
         m_home = std::make_unique<QObject>();
-        m_thread = std::jthread([this, work = std::move(work), done = std::move(done), home = m_home.get(),
+        m_thread = std::jthread([this, delay, work = std::move(work), done = std::move(done), home = m_home.get(),
                                  end = std::move(end)](const std::stop_token& stopped) mutable {
-            work(stopped);
+            if (waitFor(delay, stopped))
+                work(stopped);
             // The home outlives the thread; a call that waits goes with it.
             QMetaObject::invokeMethod(
                 home, [this, done] { handlers::tick(this, done); }, Qt::QueuedConnection);
@@ -42,6 +46,15 @@ public:
     }
 
 private:
+    /// False when it is told to stop meanwhile.
+    static bool waitFor(std::chrono::milliseconds delay, const std::stop_token& stopped) {
+        std::mutex mutex;
+        std::condition_variable_any never;
+        std::unique_lock lock(mutex);
+        never.wait_for(lock, stopped, delay, [] { return false; });
+        return !stopped.stop_requested();
+    }
+
     std::unique_ptr<QObject> m_home; ///< where the end is told
     std::future<void> m_ended;
     std::jthread m_thread;

@@ -108,9 +108,10 @@ public:
     static constexpr auto Forever = std::chrono::milliseconds::max();
 
     virtual ~Background() = default;
-    /// Runs `work`, which throws nothing and soon ends when its token asks it to; then `done`, as a tick, see
-    /// handlers::tick. Ends the work before, if there is one.
-    virtual void start(std::function<void(std::stop_token)> work, std::function<void()> done) = 0;
+    /// Runs `work` after a while; it throws nothing and soon ends when its token asks it to. Then `done`, as a tick,
+    /// see handlers::tick. Ends the work before, if there is one.
+    virtual void start(std::chrono::milliseconds delay, std::function<void(std::stop_token)> work,
+                       std::function<void()> done) = 0;
     /// Asks the work to end and waits for that as long; its `done` does not run any more.
     virtual void stop(std::chrono::milliseconds patience = Forever) = 0;
 };

@@ -157,7 +157,7 @@ TEST_F(SafetyCopiesTest, WhoeverLeavesInTheMidstLeavesNothingHalfDone) {
     shared().services.background = backgroundWork();
     rig.background = nullptr;
     rig.click(signInButton());
-    rig.settle();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(safetyFolder()); }));
     rig.click(rig.at(title::Close));
     expectEndedWell();
     EXPECT_EQ(rig.headerBytes(), Spoilt);
@@ -176,6 +176,7 @@ TEST_F(SafetyCopiesTest, ASaveGoesOnWhileTheThreadCopies) {
     rig.click(signInButton());
     rig.settle();
     click(pages::Budget);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(safetyFolder()); }));
     for (int i = 0; i < 20; ++i)
         press(rig.at(budget::Save));
     EXPECT_TRUE(rig.messages->errors.empty());

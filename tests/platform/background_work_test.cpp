@@ -9,6 +9,8 @@
 namespace qinghe::testing {
 namespace {
 
+constexpr auto Now = std::chrono::milliseconds(0);
+
 class BackgroundWork : public GuardTest {
 protected:
     std::unique_ptr<Background> background = backgroundWork();
@@ -30,7 +32,8 @@ protected:
 
 TEST_F(BackgroundWork, RunsOnAThreadOfItsOwnAndEndsAsATick) {
     QThread* on = nullptr;
-    background->start([&](const std::stop_token&) { on = QThread::currentThread(); }, noteDone());
+    background->start(
+        Now, [&](const std::stop_token&) { on = QThread::currentThread(); }, noteDone());
     EXPECT_TRUE(QTest::qWaitFor([this] { return done; }));
     EXPECT_NE(on, QThread::currentThread());
     EXPECT_TRUE(log.contains(u"returned"_s));
@@ -38,7 +41,8 @@ TEST_F(BackgroundWork, RunsOnAThreadOfItsOwnAndEndsAsATick) {
 
 TEST_F(BackgroundWork, ItsEndWaitsForAHandlerThatIsAtWork) {
     handlers::enter([this] {
-        background->start([this](const std::stop_token&) { reached = true; }, noteDone());
+        background->start(
+            Now, [this](const std::stop_token&) { reached = true; }, noteDone());
         EXPECT_TRUE(QTest::qWaitFor([this] { return reached.load(); }));
         turnLoop();
         EXPECT_FALSE(done);
@@ -47,7 +51,7 @@ TEST_F(BackgroundWork, ItsEndWaitsForAHandlerThatIsAtWork) {
 }
 
 TEST_F(BackgroundWork, StopsWhenItIsToldToAndItsEndIsNotHeard) {
-    background->start(endless(), noteDone());
+    background->start(Now, endless(), noteDone());
     EXPECT_TRUE(QTest::qWaitFor([this] { return reached.load(); }));
     background->stop();
     turnLoop();
@@ -55,9 +59,18 @@ TEST_F(BackgroundWork, StopsWhenItIsToldToAndItsEndIsNotHeard) {
     background->stop(); // once more is harmless
 }
 
+TEST_F(BackgroundWork, WhatIsToldToStopBeforeItsTimeNeverBegins) {
+    background->start(
+        std::chrono::hours(1), [this](const std::stop_token&) { reached = true; }, noteDone());
+    background->stop();
+    turnLoop();
+    EXPECT_FALSE(reached || done);
+}
+
 TEST_F(BackgroundWork, AnEndThatWaitsIsDroppedToo) {
     handlers::enter([this] {
-        background->start([this](const std::stop_token&) { reached = true; }, noteDone());
+        background->start(
+            Now, [this](const std::stop_token&) { reached = true; }, noteDone());
         EXPECT_TRUE(QTest::qWaitFor([this] { return reached.load(); }));
         turnLoop();
         background->stop();
@@ -69,6 +82,7 @@ TEST_F(BackgroundWork, AnEndThatWaitsIsDroppedToo) {
 TEST_F(BackgroundWork, NobodyWaitsForItLongerThanHeWants) {
     std::atomic<bool> mayEnd = false;
     background->start(
+        Now,
         [&](const std::stop_token&) {
             while (!mayEnd)
                 QThread::msleep(1);

@@ -114,7 +114,8 @@ public:
 /// Keeps the work until a test runs it, in place of the thread.
 class WaitingWork : public Background {
 public:
-    void start(std::function<void(std::stop_token)> work, std::function<void()> done) override {
+    void start(std::chrono::milliseconds, std::function<void(std::stop_token)> work,
+               std::function<void()> done) override {
         m_work = std::move(work);
         m_done = std::move(done);
         m_stop = {};
