@@ -53,6 +53,8 @@ Value decoded(const StoredValue& stored, ColumnKind kind) {
     case Storage::Text:
         return decodedText(QString::fromUtf8(stored.bytes), kind);
     case Storage::Blob:
+        if (kind != ColumnKind::Binary)
+            return QString::fromUtf8(stored.bytes);
         return QByteArray(stored.bytes.constData(), stored.bytes.size());
     }
     return {};
