@@ -53,6 +53,8 @@ Value decoded(const StoredValue& stored, ColumnKind kind) {
     case Storage::Text:
         return decodedText(QString::fromUtf8(stored.bytes), kind);
     case Storage::Blob:
+        if (kind != ColumnKind::Binary)
+            return QString::fromUtf8(stored.bytes);
         return QByteArray(stored.bytes.constData(), stored.bytes.size());
     }
     return {};
@@ -102,7 +104,7 @@ bool isOrdinary(const StoredValue& stored, const QString& text, ColumnKind kind)
             return !stored.bytes.startsWith('0') && textOfIsoDay(stored.bytes);
         return kind == ColumnKind::Text && isPlainText(stored, text);
     case Storage::Integer:
-        return kind == ColumnKind::Number && std::abs(stored.integer) < BeyondDigits;
+        return kind == ColumnKind::Number && -BeyondDigits < stored.integer && stored.integer < BeyondDigits;
     case Storage::Real:
         return kind == ColumnKind::Number && isAmount(stored.real);
     case Storage::Blob:

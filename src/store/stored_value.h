@@ -21,7 +21,8 @@ struct StoredValue {
 StoredValue encoded(const Value& value);
 
 /// What a stored value means in a column of that kind. What another program left there and the kind can not hold is
-/// handed through as it is: a date column may so give a text.
+/// handed through as it is: a date column may so give a text. One bit of a disk makes a blob of a text: outside binary
+/// columns it reads as the text that it was.
 Value decoded(const StoredValue& stored, ColumnKind kind);
 
 /// decoded(...).text(), without the way round where there is a shorter one.
