@@ -6,6 +6,13 @@ target_compile_options(qinghe_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Wnull-dereference
     $<$<BOOL:${QINGHE_DEVELOP}>:-Werror>)
+# What ships is hardened as the system's own packages are (their flags, "hardening=+all"), and its library checks what it
+# is handed.
+if(NOT QINGHE_SANITIZE)
+    target_compile_options(qinghe_flags INTERFACE "$<$<CONFIG:Release>:-fstack-protector-strong;-D_FORTIFY_SOURCE=2>")
+    target_compile_definitions(qinghe_flags INTERFACE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
+    target_link_options(qinghe_flags INTERFACE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+endif()
 target_compile_definitions(qinghe_flags INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(QINGHE_SANITIZE)

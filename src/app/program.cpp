@@ -53,6 +53,7 @@ Form* mainWindowWithPages(Shared& shared) {
 
 Program::Program(Services services) : m_shared(std::move(services)) {
     handlers::install({
+        .failed = [this] { m_shared.safety.keepFailedSave(); },
         .commit = [this] { m_shared.store.commit(); },
         .report = [this](const RuntimeError& error) { tellError(error); },
         .end = [this](int code) { end(code); },
@@ -73,6 +74,7 @@ Program::Program(Services services) : m_shared(std::move(services)) {
 
 Program::~Program() {
     handlers::bar();
+    m_shared.safety.breakOff();
     m_shared.forms.clear();
     handlers::reset();
 }
@@ -115,6 +117,7 @@ void Program::tellError(const RuntimeError& error) {
 }
 
 void Program::end(int code) {
+    m_shared.safety.breakOffAtEnd();
     // The guard has ended the unit of work; the file is released by the end of the process.
     m_shared.services.process->end(code);
 }

@@ -37,6 +37,7 @@ void GridModel::resize(int rows, int cols) {
     if (cols < 1)
         requireIndex(cols, 0, ColWord);
     m_texts.resize(rows, cols);
+    m_rowData.erase(m_rowData.lower_bound(rows), m_rowData.end());
 }
 
 void GridModel::removeRow(int row) {
@@ -44,6 +45,11 @@ void GridModel::removeRow(int row) {
     if (row == 0 || rows() <= 2)
         throw RuntimeError(RuntimeError::RowNotRemovable, u"表格的最后一行不能移除。"_s);
     m_texts.removeRow(row);
+    std::map<int, int> moved;
+    for (const auto& [at, number] : m_rowData)
+        if (at != row)
+            moved.emplace(at - (at > row), number);
+    m_rowData = std::move(moved);
 }
 
 QString GridModel::cell(int row, int col) const {
@@ -70,6 +76,20 @@ int GridModel::firstEmpty(int row, int from, int behindLast) const {
 void GridModel::setCell(int row, int col, const QString& text) {
     checkCell(row, col);
     m_texts.setText(row, col, text);
+}
+
+int GridModel::rowData(int row) const {
+    checkRow(row);
+    const auto known = m_rowData.find(row);
+    return known == m_rowData.end() ? 0 : known->second;
+}
+
+void GridModel::setRowData(int row, int number) {
+    checkRow(row);
+    if (number != 0)
+        m_rowData[row] = number;
+    else
+        m_rowData.erase(row);
 }
 
 void GridModel::announce() {

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+#include <map>
+
 namespace qinghe {
 
 /// The texts of a grid, captions (row 0) and marker column (column 0) included; the view is shown the data cells as its
@@ -32,6 +34,10 @@ public:
     int firstEmpty(int row, int from, int behindLast) const;
     void setCell(int row, int col, const QString& text);
 
+    /// The number that a row bears, 0 where none was given; it goes with its row.
+    int rowData(int row) const;
+    void setRowData(int row, int number);
+
     /// Tells the view of all that has been written since.
     void announce();
     /// Whether the view knows how many rows and columns there are.
@@ -46,6 +52,7 @@ private:
     void checkCell(int row, int col) const;
 
     CellTexts m_texts;
+    std::map<int, int> m_rowData;         ///< by row, where it is not 0: few rows bear one
     int m_shownRows = 1, m_shownCols = 1; ///< what the view knows
 };
 

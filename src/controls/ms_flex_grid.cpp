@@ -164,6 +164,14 @@ void MSFlexGrid::setRowHeight(int row, double twips) {
         throw RuntimeError(RuntimeError::InvalidCall, u"表格的行高只能是 %1。"_s.arg(DefaultRowHeight));
 }
 
+int MSFlexGrid::RowData(int row) const {
+    return m_model->rowData(row);
+}
+
+void MSFlexGrid::setRowData(int row, int number) {
+    m_model->setRowData(row, number);
+}
+
 double MSFlexGrid::ColPos(int col) {
     m_model->checkCol(col);
     bringUpToDate();

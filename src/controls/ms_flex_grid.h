@@ -68,6 +68,9 @@ public:
     void setColWidth(int col, double twips);
     Q_INVOKABLE double RowHeight(int row) const;
     void setRowHeight(int row, double twips);
+    /// A number that whoever fills the grid gives a row; it goes with the row. 0 for one that was given none.
+    int RowData(int row) const;
+    void setRowData(int row, int number);
     /// Places inside the grid; they follow the scroll, so a cell that is scrolled out lies outside.
     double ColPos(int col);
     double RowPos(int row);

@@ -87,7 +87,7 @@ void GridPage::loadTable() {
     m_grid->place(120, 840, 11415, 4815);
     layColumns();
     startRows(*m_grid);
-    fillList(*m_grid, records, shownFields(list().columns),
+    fillList(*m_grid, records, shownFields(list().columns), m_kept,
              [this] { return m_quirks.emptyTextsGoToLoanRow ? m_shared.loanRow() : m_grid->Row(); });
     m_grid->watchChanges(records.recordCount());
 }
@@ -117,10 +117,11 @@ int GridPage::columnOf(QStringView field) const {
     return static_cast<int>(found - list().columns.begin()) + 1;
 }
 
-/// Asks what the save will ask. Empty cells are not written, and a report is not saved.
+/// Asks what the save will ask. Empty cells and kept values are not asked for, and a report is not saved.
 QString GridPage::objectionTo(int row, int col) const {
     const QString text = m_grid->TextMatrix(row, col);
-    if (text.isEmpty() || !takesClicks() || static_cast<std::size_t>(col) > m_savedTo.size())
+    if (text.isEmpty() || !takesClicks() || static_cast<std::size_t>(col) > m_savedTo.size() ||
+        m_kept.behind(*m_grid, row, col, text))
         return {};
     return stopsTheSave(refusal(m_savedTo[static_cast<std::size_t>(col - 1)], text, m_shared.store.thisYear()));
 }
@@ -330,7 +331,7 @@ void GridPage::saveRows() {
     emptyTable(m_loaded->records());
     if (m_quirks.saveReadsEmptied)
         m_loaded->reload();
-    RowWriter writer(*m_grid, m_loaded->records(), savedFields(list().columns));
+    RowWriter writer(*m_grid, m_loaded->records(), savedFields(list().columns), m_kept);
     Int16 number;
     for (int row = 1; row < m_grid->Rows(); ++row) { // none is blank: that would have been a gap
         if (m_quirks.rowInSave != RowInSave::Stays)

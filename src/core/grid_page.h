@@ -151,6 +151,7 @@ private:
 
     bool m_hasWorkedOut = false;         ///< a column that takes no typing
     std::shared_ptr<LoadedSet> m_loaded; ///< by load, last
+    KeptValues m_kept;                   ///< of the list as it was filled
     TableColumns m_savedTo;              ///< what a save writes the grid's columns to, from the first one on
 };
 

@@ -63,7 +63,9 @@ inline bool isRowBlank(const MSFlexGrid& grid, int row) {
     return true;
 }
 
+/// It stands for no record from then on.
 inline void blankRow(MSFlexGrid& grid, int row) {
+    grid.setRowData(row, 0);
     for (int column = 1; column < grid.Cols(); ++column)
         grid.setTextMatrix(row, column, {});
 }

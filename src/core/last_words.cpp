@@ -6,21 +6,30 @@
 
 #include <QDir>
 
+#include <algorithm>
+#include <array>
+
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The truth about the book. Nothing is promised of one that is gone or cannot be read.
+/// The truth about the book. Nothing is promised of one that is gone or cannot be read, nor by a disk that fails.
 QString aboutBook(const Shared& shared, const RuntimeError& error) {
-    if (error.number() == RuntimeError::StoreFailure || error.number() == RuntimeError::FileNotFound)
+    constexpr std::array Uncertain{RuntimeError::StoreFailure, RuntimeError::FileNotFound, RuntimeError::DeviceFailure};
+    if (std::ranges::find(Uncertain, error.number()) != Uncertain.end())
         return {};
     const bool undone = shared.store.hasUndone();
     if (const auto& saving = shared.saving)
         return undone ? u"保存没有完成，已经撤销：这一页原有的 %1 条都还在账本里。"_s.arg(saving->had)
                       : u"保存没有完成：这一页原有 %1 条，已写回 %2 条。"_s.arg(saving->had).arg(saving->written);
     return undone ? u"这一步没有做成，已经撤销；以前写入账本的内容都还在。"_s : u"出错以前写入账本的内容都已保留。"_s;
+}
+
+/// A save that was undone needs no way back.
+QString aboutCopy(const Shared& shared) {
+    return shared.store.hasUndone() ? QString() : shared.safety.aboutFailedSave();
 }
 
 QString asFile(const Shared& shared, const RuntimeError& error, const QString& book, const QStringList& rescued) {
@@ -69,8 +78,9 @@ QString lastWords(Shared& shared, const std::vector<Page*>& pages, const Runtime
         const QString book = aboutBook(shared, error);
         const RescuedTexts texts = gathered(shared, pages);
         QStringList words;
-        if (!book.isEmpty())
-            words << book;
+        for (const QString& told : {book, aboutCopy(shared)})
+            if (!told.isEmpty())
+                words << told;
         if (!texts.lines().isEmpty())
             words << keep(shared, asFile(shared, error, book, texts.lines()));
         return words.join(u"\n\n"_s);

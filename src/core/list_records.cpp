@@ -17,7 +17,8 @@ public:
         m_texts.resize(m_ordinals.empty() ? 0 : *std::ranges::max_element(m_ordinals) + 1);
     }
 
-    void read() { m_records.readTexts(m_texts); }
+    /// Tells whether all values would come back from their texts.
+    bool read() { return m_records.readTexts(m_texts); }
     std::size_t count() const { return m_ordinals.size(); }
     /// std::nullopt for NULL.
     const std::optional<QString>& text(std::size_t field) const { return m_texts[m_ordinals[field]]; }
@@ -30,11 +31,13 @@ private:
 
 } // namespace
 
-void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
+void fillList(MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields, KeptValues& kept,
               const std::function<int()>& rowForEmptyText) {
     TextReader reader(records, fields);
+    kept.clear();
     fillRows(grid, records, [&] {
-        reader.read();
+        if (!reader.read())
+            kept.keep(grid, records, fields);
         for (std::size_t field = 0; field < reader.count(); ++field) {
             const std::optional<QString>& text = reader.text(field);
             const int column = static_cast<int>(field) + 1;
@@ -64,8 +67,9 @@ bool showsRecords(const MSFlexGrid& grid, Recordset& records, const std::vector<
     return row == grid.Rows();
 }
 
-RowWriter::RowWriter(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields)
-    : m_grid(grid), m_records(records) {
+RowWriter::RowWriter(const MSFlexGrid& grid, Recordset& records, const std::vector<QStringView>& fields,
+                     const KeptValues& kept)
+    : m_grid(grid), m_records(records), m_kept(kept) {
     for (const QStringView field : fields)
         m_fields.push_back(records.field(field));
 }
@@ -74,8 +78,12 @@ void RowWriter::begin(int row) {
     m_records.addNew();
     const QStringList texts = m_grid.rowTexts(row);
     for (int column = 1; Field & field : m_fields) {
-        if (const QString& text = texts[column++]; !text.isEmpty())
+        const QString& text = texts[column];
+        if (const StoredValue* value = m_kept.behind(m_grid, row, column, text))
+            field.setStored(*value);
+        else if (!text.isEmpty())
             field.setValue(text);
+        ++column;
     }
 }
 

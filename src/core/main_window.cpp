@@ -20,6 +20,7 @@ namespace {
 constexpr double FormWidth = 12000, FormHeight = 8100; // twips
 constexpr int Minimised = 1, Normal = 0;
 constexpr int LateReportMs = 250;     ///< how long a busy window manager may still tell of the way to the tray
+constexpr int AskAgainMs = 300;       ///< after another program held the book while the window was minimised
 constexpr int LeftButtonDown = 513;   ///< the tray's message for a press of the left button
 constexpr int OtherTrayMessage = 130; ///< brings the window back as well
 
@@ -85,6 +86,14 @@ void MainWindow::load() {
     m_desktop->Image2->setPicture(writeOut(DesktopPicture, *Adodc1, m_shared, *m_desktop->Image2));
     m_desktop->computeSums();
     m_desktop->listPlans(false);
+    showNotes();
+    // When the window has been shown, and the sign-in has ended.
+    QTimer::singleShot(0, this, [this] { handlers::tick(&m_shared.safety, [this] { m_shared.safety.copyToday(); }); });
+}
+
+void MainWindow::showNotes() {
+    m_titleBand.showNotes(m_shared.notes);
+    m_shared.noted = [this] { m_titleBand.showNotes(m_shared.notes); };
 }
 
 void MainWindow::refuseSecondCopy() {
@@ -141,7 +150,13 @@ void MainWindow::Form2_Form_Resize() {
         return;
     if (WindowState() == Minimised && m_sinceReturn.isValid() && m_sinceReturn.elapsed() < LateReportMs)
         return setWindowState(Normal);
-    if (MinimiseToTray.isYes(*Adodc1) && WindowState() == Minimised)
+    bool yes = false;
+    const bool known = m_shared.store.tryNow([&] { yes = MinimiseToTray.isYes(*Adodc1); });
+    if (WindowState() != Minimised)
+        return;
+    if (!known)
+        QTimer::singleShot(AskAgainMs, this, [this] { handlers::tick(this, [this] { Form2_Form_Resize(); }); });
+    else if (yes)
         toTray();
 }
 

@@ -43,6 +43,7 @@ private:
     void openFindBar();
     void refuseSecondCopy();
     void startClock();
+    void showNotes();
     void readTraySetting();
     void toTray();
     void onTrayMessage(int message);

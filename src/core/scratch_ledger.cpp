@@ -1,6 +1,7 @@
 #include "core/scratch_ledger.h"
 
 #include "runtime/months.h"
+#include "store/stored_value.h"
 #include "store/tables.h"
 
 #include <utility>
@@ -18,10 +19,10 @@ void fillScratchLedger(Recordset& ledger, Recordset& scratch, std::span<const Sc
     for (int counter = 1; !ledger.eof(); ledger.moveNext(), ++counter) {
         scratch.addNew();
         month.setValue(months::ofDay(day.text()));
-        sum.setValue(amount.value());
+        sum.setStored(amount.asStored());
         number.setValue(counter);
         for (auto& [from, to] : others)
-            to.setValue(from.value());
+            to.setStored(from.asStored());
         scratch.update();
     }
 }

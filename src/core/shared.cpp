@@ -33,6 +33,12 @@ QString Shared::beside(const QString& name) const {
     return services.appPath.endsWith('/'_L1) ? services.appPath + name : services.appPath + '/'_L1 + name;
 }
 
+void Shared::note(const QString& text) {
+    notes << text;
+    if (noted)
+        noted();
+}
+
 void Shared::unloadTools() {
     forms.unload(names::DatePicker);
     forms.unload(names::Purge);

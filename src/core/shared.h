@@ -2,6 +2,7 @@
 
 #include "core/field_tool.h"
 #include "core/names.h"
+#include "core/safety_copies.h"
 #include "platform/services.h"
 #include "runtime/integers.h"
 #include "store/adodc.h"
@@ -54,6 +55,16 @@ public:
     /// From the moment at which a save begins to empty its table until it says that it is done; a run-time error in
     /// between leaves it here, to be told.
     std::optional<SaveAtWork> saving;
+
+    /// Copies of the book against accidents.
+    SafetyCopies safety{*this};
+
+    /// What the main window has to say once it stands: one line each.
+    QStringList notes;
+    /// Has the main window say something more, in its first line; the lines behind it are told on demand.
+    void note(const QString& text);
+    /// Something has been noted; entered by the main window.
+    std::function<void()> noted;
 
     /// Brings up the page of the categories, which has no label of its own; entered by that page.
     std::function<void()> openCategories;

@@ -8,8 +8,11 @@
 #include "platform/files.h"
 #include "store/data_file.h"
 #include "store/header_toggle.h"
+#include "store/left_journal.h"
+#include "store/migrations.h"
 #include "store/tables.h"
 
+#include <QFileInfo>
 #include <QPainterPath>
 
 namespace qinghe {
@@ -90,12 +93,29 @@ void SignIn::bindEvents() {
 
 void SignIn::load() {
     Label1->setTop(3420);
-    healHeader(m_shared.dataFile());
+    readyBook();
     offerNames();
     recallPair();
     Text2->setFocus();
     Text2->selectText();
     setPicture(writeOut(SignInPicture, *Adodc1, m_shared, *this));
+}
+
+void SignIn::readyBook() {
+    const QString book = m_shared.dataFile();
+    requireKnownVersion(book);
+    if (m_shared.services.instance->tryTake()) // else what lies beside the book belongs to the copy that runs
+        m_shared.notes << settleWhatWasLeft(book, m_shared.services.clock->now());
+    healHeader(book);
+}
+
+/// Another copy of the program may have ended while this one waited here, and left the book as every end leaves it.
+void SignIn::readyBookAgain() {
+    const QString book = m_shared.dataFile();
+    if (!headerIsSpoilt(book) && !QFileInfo::exists(journalOf(book)))
+        return;
+    m_shared.store.close();
+    readyBook();
 }
 
 void SignIn::offerNames() {
@@ -123,6 +143,7 @@ void SignIn::Form5_Label1_Click() {
         m_shared.services.say(u"用户名和登录密码不能为空！"_s, MessageStyle::OkWarning, u"登录提醒"_s);
         return;
     }
+    readyBookAgain();
     Recordset& users = Adodc1->open(tables::Users.toString());
     users.find(columns::UserName.toString() + u"='"_s + Combo1->Text() + u"'"_s);
     if (users.eof())

@@ -25,6 +25,9 @@ public:
 
 private:
     void bindEvents();
+    /// Before the book is read: what lies beside it is settled, its header healed.
+    void readyBook();
+    void readyBookAgain();
     void offerNames();
     void recallPair();
     void refuseUnknownName();

@@ -1,6 +1,7 @@
 #include "core/title_band.h"
 
 #include "core/hover.h"
+#include "core/ink.h"
 #include "core/stored_picture.h"
 #include "core/web_pages.h"
 #include "core/web_window.h"
@@ -23,7 +24,8 @@ TitleBand::TitleBand(Form& window, Shared& shared)
       Label16(new Label(Picture3, u"Label16"_s)),
       Label17(new Label(Picture3, u"Label17"_s)),
       Label20(new Label(Picture3, u"Label20"_s, WebAddressCaption.toString())),
-      Label26(new Label(&window, u"Label26"_s, productName())) {
+      Label26(new Label(&window, u"Label26"_s, productName())),
+      m_notes(new Label(Picture3, {})) {
     makeWords();
     makeImages();
 }
@@ -34,8 +36,12 @@ void TitleBand::makeWords() {
     Label17->place(2880, 0, 1000, 330);
     Label20->place(9255, 0, 2280, 330);
     Label26->place(960, 240, 2175, 375);
+    m_notes->place(4080, 0, 5100, 330);
     Label16->setRole(Role::ClockText);
     Label17->setRole(Role::ClockText);
+    m_notes->setRole(Role::ClockText);
+    m_notes->setForeColor(ink::Red);
+    m_notes->setShown(false);
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);
     Label20->Click = [this] { Form2_Label20_Click(); };
@@ -77,8 +83,18 @@ void TitleBand::showTime() {
     Label17->setCaption(timeText(m_shared.services.clock->now().time()));
 }
 
+void TitleBand::showNotes(const QStringList& notes) {
+    m_notes->setShown(!notes.isEmpty());
+    if (notes.isEmpty())
+        return;
+    const QString last = notes.back().section(u'\n', 0, 0);
+    m_notes->setCaption(notes.size() == 1 ? last : u"%1（共 %2 条）"_s.arg(last).arg(notes.size()));
+    m_notes->setToolTip(notes.join(u"\n\n"_s));
+}
+
 void TitleBand::Form2_Image3_Click() {
     m_shared.unloadTools();
+    m_shared.safety.breakOffAtEnd();
     for (const StoredPicture& picture : {ChosenSkin, DesktopPicture, SignInPicture})
         files::deleteMatching(m_shared.services.appPath, picture.file.toString());
     m_shared.store.close();

@@ -14,6 +14,8 @@ public:
     void showDateAndTime();
     /// Writes the time of now.
     void showTime();
+    /// Says what there is to be said, quietly and to the end: the first line of the last one, the rest on demand.
+    void showNotes(const QStringList& notes);
 
 private:
     void makeWords();
@@ -32,6 +34,7 @@ private:
     Label* Label17;  // time
     Label* Label20;  // the makers' address
     Label* Label26;  // the program's name
+    Label* m_notes;  ///< between the time and the address
 };
 
 } // namespace qinghe

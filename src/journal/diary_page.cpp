@@ -114,7 +114,8 @@ void DiaryPage::Form2_Option5_Click() {
     m_entries = Adodc1.loaded();
     ms8->setRows(2);
     // An empty text goes to the row number that all lists share, the loan grid's.
-    fillList(*ms8, entries, shownFields(Columns), [this] { return m_shared.loanRow(); });
+    KeptValues unsaved; // what is found is only read
+    fillList(*ms8, entries, shownFields(Columns), unsaved, [this] { return m_shared.loanRow(); });
 }
 
 std::vector<EditorTarget> DiaryPage::searchedLists() const {
@@ -244,7 +245,8 @@ void DiaryPage::Form2_Command24_Click() {
     Adodc1.setRecordSource(u"select 日记标题 from rjb"_s);
     if (refusesTitle())
         return;
-    RowWriter(*ms8, entries, savedFields(Columns)).add(ms8->Row());
+    const KeptValues none; // the entry has just been typed
+    RowWriter(*ms8, entries, savedFields(Columns), none).add(ms8->Row());
     m_editing.closeSaved();
     diary::write(fileOf(ms8->TextMatrix(1, TitleColumn)), tx8->Text());
     m_kept = entry();

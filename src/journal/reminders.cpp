@@ -43,22 +43,26 @@ void Reminders::pause() {
 
 void Reminders::Form2_Timer2_Timer() {
     if (!remindersChecked) {
-        if (!anyPlanToday())
+        if (!readPlans(m_shared.services.clock->today(), u"*"))
+            return;
+        if (Adodc1.recordset().recordCount() == 0)
             return Timer2->setEnabled(false);
         remindersChecked = true;
     }
     ringDue();
 }
 
-bool Reminders::anyPlanToday() {
-    return plans::watched(Adodc1, m_shared.services.clock->today(), u"*").recordCount() != 0;
+bool Reminders::readPlans(const QDate& day, QStringView columns) {
+    return m_shared.store.tryNow([&] { plans::watched(Adodc1, day, columns); });
 }
 
 void Reminders::ringDue() {
     const QDateTime now = m_shared.services.clock->now();
     const QString minute = reminderTime(now.time());
     // Asked anew at every tick: a plan saved a moment ago counts.
-    Recordset& plans = plans::watched(Adodc1, now.date(), u"提醒时间,提醒音乐,日程内容");
+    if (!readPlans(now.date(), u"提醒时间,提醒音乐,日程内容"))
+        return;
+    Recordset& plans = Adodc1.recordset();
     for (; !plans.eof(); plans.moveNext())
         // The window reads the current row as it loads. One that stands already is left as it is.
         if (plans.field(0).text() == minute && !m_shared.forms.loaded(names::Reminder))

@@ -34,7 +34,8 @@ public:
     void Form2_Timer3_Timer();
 
 private:
-    bool anyPlanToday();
+    /// Opens the plans of a day; false while another program holds the book: the next tick asks again.
+    bool readPlans(const QDate& day, QStringView columns);
     void ringDue();
 
     Shared& m_shared;

@@ -48,7 +48,7 @@ void CategoryList::layOut(std::span<const ListColumn> columns) {
 
 void CategoryList::fill(Recordset& records, const std::function<int()>& rowForEmptyText) {
     grid->restChanges();
-    fillList(*grid, records, shownFields(m_columns), rowForEmptyText);
+    fillList(*grid, records, shownFields(m_columns), m_kept, rowForEmptyText);
     grid->watchChanges(records.recordCount());
 }
 
@@ -104,7 +104,7 @@ void CategoryList::save(Recordset& records) {
         grid->RemoveItem(grid->Row());
     m_shared.saving = SaveAtWork{records.recordCount()};
     emptyTable(records);
-    RowWriter writer(*grid, records, savedFields(m_columns));
+    RowWriter writer(*grid, records, savedFields(m_columns), m_kept);
     bool filledRowMet = false; // from the first one on blank rows are written as well
     for (int row = 1; row < grid->Rows(); ++row) {
         grid->setRow(row);

@@ -61,6 +61,7 @@ private:
 
     Shared& m_shared;
     std::span<const ListColumn> m_columns;
+    KeptValues m_kept; ///< of the list as it was filled
 };
 
 } // namespace qinghe

@@ -119,7 +119,7 @@ void IncomeExpensePage::Form2_Label2_Click(int index) {
     ledgerSide = index == 0 ? 1 : 0;
     navigation().leaveOthers(*this, side().page);
     Adodc1.open(side().statisticsSource.toString());
-    refillStatistics();
+    m_statisticsStand = m_shared.store.tryToWrite([this] { refillStatistics(); });
 
     m_grid->setUsable(true);
     m_frame.setCaption(side().frameCaption.toString());
@@ -138,6 +138,12 @@ void IncomeExpensePage::refillStatistics() {
     emptyTable(statistics);
     const ScratchColumn more[] = {{columns::Item, columns::Item}, {side().person, columns::Person}};
     fillScratchLedger(Adodc1.recordset(), statistics, more);
+}
+
+/// The records can be looked at on a full disk too; the reports, which would be of another time or side, can not.
+void IncomeExpensePage::requireStatistics() const {
+    if (!m_statisticsStand)
+        throw RuntimeError(RuntimeError::DiskFull, u"磁盘已满，本月的统计没有能算出来。请腾出空间，再启动程序。"_s);
 }
 
 void IncomeExpensePage::showTotal() {
@@ -177,6 +183,7 @@ bool IncomeExpensePage::pickerIsVisible() const {
 }
 
 void IncomeExpensePage::Form2_Option8_Click() {
+    requireStatistics();
     if (pickerIsVisible())
         m_shared.unloadPickers();
     closeEditing();
@@ -184,6 +191,7 @@ void IncomeExpensePage::Form2_Option8_Click() {
 }
 
 void IncomeExpensePage::Form2_Option9_Click() {
+    requireStatistics();
     // A calculator stays open here: somebody may be reckoning with what the report shows.
     if (pickerIsVisible())
         m_shared.unloadDatePicker();

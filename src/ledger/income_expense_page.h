@@ -33,6 +33,7 @@ private:
     const Side& side() const;
     void placeControls();
     void refillStatistics();
+    void requireStatistics() const;
     void showTotal();
     void setEditing(bool allowed);
     void closeEditing();
@@ -46,6 +47,7 @@ private:
     Int16 ledgerSide = 0; ///< 1 income, 0 expense
     float incomeTotal = 0;
     float expenseTotal = 0;
+    bool m_statisticsStand = true; ///< what the reports of the month read is of this opening of the page
     MonthStatistics m_statistics;
 };
 

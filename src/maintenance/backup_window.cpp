@@ -64,6 +64,7 @@ BackupWindow::BackupWindow(Shared& shared)
       m_diary(new Label(Frame1, {})),
       Pro1(new ProgressBar(Frame1, u"Pro1"_s)),
       Command1(new CommandButton(this, u"Command1"_s, {})),
+      m_safety(new Label(this, {})),
       Com1(new CommonDialog(*shared.services.chooser, u"Com1"_s, this)) {
     Frame1->place(240, 240, 4920, 2670);
     Frame1->setRole(Role::InnerFrame);
@@ -75,6 +76,8 @@ BackupWindow::BackupWindow(Shared& shared)
     Pro1->place(240, 2190, 4440, 285);
     Pro1->setShown(false);
     Command1->place(3720, 3060, 1440, 390);
+    m_safety->place(240, 3000, 3360, 510);
+    m_safety->setRole(Role::Help);
     Command1->setRole(Role::Primary);
     Command1->Click = [this] { Form13_Command1_Click(); };
     markHovered(*this, {Command1}, {Frame1});
@@ -92,6 +95,9 @@ void BackupWindow::turnTo(Direction direction) {
     Command1->setText(texts.start.toString());
     Command1->setGlyph(texts.glyph);
     m_disc->setGlyph(texts.glyph);
+    m_safety->setShown(direction == Direction::Restore);
+    SafetyCopies::promise(*m_safety, Occasion::Restore);
+    m_safety->setToolTip({});
 }
 
 void BackupWindow::unloaded() {
@@ -118,6 +124,7 @@ void BackupWindow::Form13_Command1_Click() {
 
 /// The file is only read, and all work stands in it since the last message: recordsets stay good.
 void BackupWindow::backUp(const QString& file) {
+    const Store::Stillness still = m_shared.store.holdStill(); // to the end of the copying, which opens the book once
     FileCopy copying(m_shared.dataFile(), file);
     copy(copying);
 }
@@ -126,6 +133,7 @@ void BackupWindow::restore(const QString& file) {
     requireKnownVersion(file); // a backup of a later program must not take the place of a book that can be read
     m_shared.store.close();    // the next use opens it anew, and what was read before is void
     FileCopy copying(file, m_shared.dataFile());
+    m_shared.safety.keepBefore(Occasion::Restore, *m_safety, file); // what refuses the file has been asked
     files::deleteMatching(m_shared.services.appPath,
                           journalOf(DataFileName.toString())); // it belongs to the file that goes
     try {
@@ -133,7 +141,7 @@ void BackupWindow::restore(const QString& file) {
     } catch (const RuntimeError& error) {
         throw RuntimeError(RuntimeError::StoreFailure,
                            error.text() + u"账本现在不能使用：请把备份文件复制到程序所在的文件夹，改名为 data.dll，"
-                                          u"再启动程序。"_s);
+                                          u"再启动程序。那里如果还有一个 data.dll-journal，要先把它移到别处。"_s);
     }
 }
 

@@ -37,6 +37,7 @@ private:
     Label* m_diary; ///< what becomes of the diary's texts
     ProgressBar* Pro1;
     CommandButton* Command1; // 开始备份, 开始还原
+    Label* m_safety;         ///< the way back from a restore
     CommonDialog* Com1;
 };
 

@@ -19,6 +19,7 @@ FileSettings::FileSettings(MainWindow& form, Frame& page)
       Option14(new OptionButton(Frame19, u"Option14"_s, u"系统数据备份"_s)),
       Option16(new OptionButton(Frame19, u"Option16"_s, u"系统数据还原"_s)),
       m_caution(new Label(Frame19, {}, u"还原和以下操作不能恢复，请先备份"_s)),
+      m_safety(new Label(Frame19, {})),
       Check3(new CheckBox(Frame19, u"Check3"_s, u"选择删除记录数据..."_s)),
       Check2(new CheckBox(Frame19, u"Check2"_s, u"格式化日志"_s)),
       Check4(new CheckBox(Frame19, u"Check4"_s, u"初始化系统数据"_s)) {
@@ -41,8 +42,11 @@ void FileSettings::placeControls() {
     Frame19->setRole(Role::InnerFrame);
     Option14->place(360, 600, 2400, 330);
     Option16->place(2880, 600, 2400, 330);
-    m_caution->place(240, 1320, 5040, 2640);
+    m_caution->place(240, 1320, 5040, 2760);
     m_caution->setRole(Role::Caution);
+    m_safety->place(390, 3540, 4740, 510);
+    m_safety->setRole(Role::Help);
+    SafetyCopies::promise(*m_safety, Occasion::Initialise);
     Check3->place(390, 1980, 4000, 330);
     Check2->place(390, 2580, 4000, 330);
     Check4->place(390, 3180, 4000, 330);
@@ -105,6 +109,7 @@ void FileSettings::Form2_Check4_Click() {
                                                 MessageStyle::YesNoQuestion, u"系统提示"_s);
     if (answer != Answer::Yes)
         return Check4->setValue(false);
+    m_shared.safety.keepBefore(Occasion::Initialise, *m_safety);
     for (QStringView table : tables::Initialised)
         emptyTable(Adodc1.open(table.toString()));
     m_shared.tell(u"初始化完毕"_s, u"提示"_s);

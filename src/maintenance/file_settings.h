@@ -30,6 +30,7 @@ private:
     OptionButton* Option14; // 系统数据备份
     OptionButton* Option16; // 系统数据还原
     Label* m_caution;       ///< the ground of what cannot be undone
+    Label* m_safety;        ///< the way back from it
     CheckBox* Check3;       // 选择删除记录数据...
     CheckBox* Check2;       // 格式化日志
     CheckBox* Check4;       // 初始化系统数据

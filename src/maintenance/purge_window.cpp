@@ -55,6 +55,10 @@ PurgeWindow::PurgeWindow(Shared& shared)
     Command1->Click = [this] { Form3_Command1_Click(); };
     Command1->handKeyboardTo(this);
     markHovered(*this, {Command1}, {Frame1, Frame2});
+    m_safety = new Label(this, {});
+    m_safety->place(240, 3990, 4560, 510);
+    m_safety->setRole(Role::Help);
+    SafetyCopies::promise(*m_safety, Occasion::Purge);
 }
 
 void PurgeWindow::makeBoxes() {
@@ -140,9 +144,16 @@ void PurgeWindow::tell(QStringView text) {
 void PurgeWindow::Form3_Command1_Click() {
     if (m_shared.services.say(u"是否确定清空选择的记录？"_s, MessageStyle::YesNoQuestion, u"提示"_s) != Answer::Yes)
         return;
+    m_hasCopy = false;
     for (std::size_t i = 0; i < Kinds.size(); ++i)
         if (m_checks[i]->Value())
             purge(Kinds[i]);
+}
+
+/// Before the first row of a run goes.
+void PurgeWindow::keepWayBack() {
+    if (!std::exchange(m_hasCopy, true))
+        m_shared.safety.keepBefore(Occasion::Purge, *m_safety);
 }
 
 void PurgeWindow::purge(const Records& kind) {
@@ -154,6 +165,7 @@ void PurgeWindow::purge(const Records& kind) {
     Recordset& records = Adodc1->open(source);
     if (records.recordCount() == 0)
         return tell(kind.none);
+    keepWayBack();
     emptyTable(records);
     tell(kind.done);
 }

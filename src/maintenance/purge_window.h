@@ -34,6 +34,7 @@ private:
     void makeDate();
     void makeHelp();
     void purge(const Records& kind);
+    void keepWayBack();
     void tell(QStringView text);
     void setDateShown(bool shown);
 
@@ -46,6 +47,8 @@ private:
     Label* Label3;                     // 以前的记录
     Frame* Frame2;                     // 操作说明
     CommandButton* Command1;           // 开始删除
+    Label* m_safety;                   ///< the way back
+    bool m_hasCopy = false;            ///< in this run
 };
 
 } // namespace qinghe

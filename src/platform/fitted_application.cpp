@@ -1,5 +1,7 @@
 #include "platform/fitted_application.h"
 
+#include "platform/plugin_places.h"
+
 #include <QScreen>
 
 #include <algorithm>
@@ -39,6 +41,7 @@ FittedApplication::FittedApplication(int argc, char** argv, QSize window) : m_ar
 
 void FittedApplication::make() {
     const DisplayWatch watch;
+    keepPluginsFromProgramFolder();
     m_arguments.emplace(m_argc, m_argv); // an application takes away what it has understood
     m_application.emplace(m_arguments->count(), m_arguments->values());
 }

@@ -64,7 +64,17 @@ void commitQuietly() {
     }
 }
 
+/// A way back that fails as well is no reason not to tell the error.
+void keepWayBack() {
+    try {
+        if (state().hooks.failed)
+            state().hooks.failed();
+    } catch (...) {
+    }
+}
+
 void fail(const RuntimeError& error) {
+    keepWayBack();
     commitQuietly();
     state().ending = true;
     if (state().hooks.report)

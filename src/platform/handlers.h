@@ -20,7 +20,8 @@ struct ProgramEnd {
 
 /// What the guard needs of the program; set once at start.
 struct Hooks {
-    std::function<void()> commit;                    ///< ends the store's unit of work; may throw RuntimeError
+    std::function<void()> failed = {}; ///< a run-time error stops a handler, whose work stands as it has left it
+    std::function<void()> commit;      ///< ends the store's unit of work; may throw RuntimeError
     std::function<void(const RuntimeError&)> report; ///< shows the error window
     std::function<void(int code)> end;               ///< ends the process; returns in tests only
     std::function<void()> returned;                  ///< the outermost handler has returned and its work is kept

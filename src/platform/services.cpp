@@ -1,6 +1,7 @@
 #include "platform/services.h"
 
 #include "platform/background_sound.h"
+#include "platform/background_work.h"
 #include "platform/desktop_file_chooser.h"
 #include "platform/desktop_launcher.h"
 #include "platform/desktop_message_boxes.h"
@@ -53,6 +54,7 @@ Services desktopServices() {
     services.launcher = std::make_unique<DesktopLauncher>();
     services.sound = backgroundSound(services.appPath);
     services.instance = folderLock(services.appPath);
+    services.background = backgroundWork();
     services.process = std::make_unique<DesktopProcess>();
     return services;
 }

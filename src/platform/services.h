@@ -4,9 +4,11 @@
 #include <QString>
 #include <QUrl>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 
 /// The desktop's services behind narrow seams: made once in main, replaced by doubles in tests, reached by everybody
 /// through one Services object.
@@ -100,6 +102,19 @@ public:
     virtual void callHolder() = 0;
 };
 
+/// One piece of work beside the handlers, on a thread of its own.
+class Background {
+public:
+    static constexpr auto Forever = std::chrono::milliseconds::max();
+
+    virtual ~Background() = default;
+    /// Runs `work`, which throws nothing and soon ends when its token asks it to; then `done`, as a tick, see
+    /// handlers::tick. Ends the work before, if there is one.
+    virtual void start(std::function<void(std::stop_token)> work, std::function<void()> done) = 0;
+    /// Asks the work to end and waits for that as long; its `done` does not run any more.
+    virtual void stop(std::chrono::milliseconds patience = Forever) = 0;
+};
+
 class Process {
 public:
     virtual ~Process() = default;
@@ -115,6 +130,7 @@ struct Services {
     std::unique_ptr<Launcher> launcher;
     std::unique_ptr<SoundDevice> sound;
     std::unique_ptr<InstanceLock> instance;
+    std::unique_ptr<Background> background;
     std::unique_ptr<Process> process;
     QString appPath; ///< the program's folder (App.Path), without a separator at its end unless it is a root
 

@@ -24,6 +24,8 @@ template<typename Number>
 QString generalText(Number value, int digits) {
     if (value == 0)
         return u"0"_s; // a negative zero has no sign
+    if (!std::isfinite(value))
+        return OverflowText.toString();
     NumberBuffer text;
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
     return QString::fromLatin1(text.data(), end.ptr - text.data()).toUpper();
@@ -32,12 +34,9 @@ QString generalText(Number value, int digits) {
 /// The same text for a double that is a whole number of hundredths, as amounts are; they need no search for digits.
 /// A decimal of at most 15 digits that reads as the double is its text. Nothing for others.
 std::optional<QString> amountText(double value) {
-    constexpr double Most = 1e13;
-    if (!(std::abs(value) < Most))
+    if (!isAmount(value))
         return std::nullopt;
     const double hundredths = std::nearbyint(value * 100);
-    if (hundredths / 100 != value)
-        return std::nullopt;
     NumberBuffer text;
     char* const end = text.data() + text.size();
     char* at = end;
@@ -191,6 +190,11 @@ QString withoutBlanks(const QString& text) {
 }
 
 } // namespace
+
+bool isAmount(double value) {
+    constexpr double Most = 1e13;
+    return std::abs(value) < Most && std::nearbyint(value * 100) / 100 == value;
+}
 
 QString numberText(double value) {
     const auto amount = amountText(value);

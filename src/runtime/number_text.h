@@ -6,11 +6,18 @@
 
 namespace qinghe {
 
+/// What stands where a sum has left a double's range. It is a text like any other and no number: what merely shows a
+/// sum must never end the program over it, else the book that holds it could not be opened any more.
+inline constexpr QStringView OverflowText = u"溢出";
+
 /// The text of a number as the store and the grids show it: at most 15 significant digits, no trailing zeros,
 /// "0.5", "-0.5", "1250.5", "1E+15" from 16 places on ("1.5E+20", "1E-07" for very small ones).
 QString numberText(double value);
 /// The same for a single: at most 7 significant digits of its own value, "1E+07" from 8 places on.
 QString numberText(float value);
+
+/// Whether a number is one of whole hundredths, as amounts are, and small enough that its text reads as the number.
+bool isAmount(double value);
 
 /// The calculator's text of a number: as numberText, but without the zero before the point: ".5", "-.5".
 QString pointNumberText(double value);

@@ -45,11 +45,14 @@ QString dataSource(const QString& connectionText) {
 
 QString systemPath(const QString& path) {
     const qsizetype last = path.lastIndexOf(u'\\');
-    if (QDir::separator() == u'\\' || last <= path.lastIndexOf(u'/') || QFileInfo::exists(path))
+    if (QDir::separator() == u'\\' || last <= path.lastIndexOf(u'/'))
         return path;
-    const QString name = u'/' + path.sliced(last + 1);
-    const QString outside = path.first(last) + name, inside = path.first(last + 1) + name;
-    return !QFileInfo::exists(outside) && QFileInfo::exists(inside) ? inside : outside;
+    const QString folder = path.first(last), oddFolder = path.first(last + 1), name = u'/' + path.sliced(last + 1);
+    if (!QFileInfo::exists(folder + name) && QFileInfo::exists(oddFolder + name))
+        return oddFolder + name;
+    // A file of the literal name may be laid beside the folder by anybody, and stands for none in it.
+    const bool isLiteral = !QFileInfo::exists(folder) && !QFileInfo::exists(oddFolder) && QFileInfo::exists(path);
+    return isLiteral ? path : folder + name;
 }
 
 QString systemPath(const QString& path, const QString& inUse) {

@@ -14,9 +14,9 @@ QString connectionText(const QString& appPath);
 /// Throws RuntimeError (3706) when the text names no provider of this store or no file.
 QString dataSource(const QString& connectionText);
 
-/// A path as the system takes it. Where "\" is no separator, the last "\" before the file's name stands for "/", unless
-/// the file exists under the literal name; other "\" are part of folder names. It may be the end of the folder's own
-/// name as well, to which none was added then: the file is sought in that folder too.
+/// A path as the system takes it. Where "\" is no separator, the last "\" before the file's name stands for "/"; other
+/// "\" are part of folder names. It may be the end of the folder's own name as well, to which none was added then: the
+/// file is sought in that folder too. Where there is no such folder at all, a file of the literal name is meant.
 QString systemPath(const QString& path);
 /// The same for a program that has a file in use: the path names this one wherever it can.
 QString systemPath(const QString& path, const QString& inUse);

@@ -1,11 +1,13 @@
 #include "store/header_toggle.h"
 
+#include "disk/plain_file.h"
+#include "disk/replace_file.h"
 #include "runtime/runtime_error.h"
 #include "store/copies.h"
+#include "store/file_head.h"
 #include "store/migrations.h"
 
 #include <QDir>
-#include <QFile>
 
 namespace qinghe {
 
@@ -20,25 +22,21 @@ const QByteArray Healed("\x01\x00", 2), Spoilt("\x00\x00", 2);
     throw RuntimeError(number, problem.arg(QDir::toNativeSeparators(path)) + help);
 }
 
-QByteArray headWith(const QByteArray& mark) {
-    return "S" + mark + QByteArray("ite format 3\0", 13);
-}
-
-QByteArray headOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(headWith(Healed).size()) : QByteArray();
-}
-
+/// Nothing is written into what is no book, whatever its name. The book may be a link that its owner has laid.
 void writeMark(const QString& path, const QByteArray& mark) {
-    QFile file(path);
+    PlainFile file(path, Links::Follow);
     if (!file.exists())
         throwFor(RuntimeError::FileNotFound, u"找不到账本文件“%1”。"_s, path, wayBack(path));
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
         throwFor(RuntimeError::PathFileAccess, u"无法写入账本文件“%1”，请检查它和所在文件夹的权限。"_s, path);
-    if (file.size() < MarkOffset + mark.size())
+    const QByteArray head = file.read(FileHead::Size);
+    if (file.error() != QFile::NoError)
+        throwFor(RuntimeError::DeviceFailure,
+                 u"读取账本文件“%1”时磁盘出错。请检查磁盘或者 U 盘是否接好，再启动程序试一次。"_s, path);
+    if (FileHead(head).mark == FileHead::Mark::None)
         throwFor(RuntimeError::StoreFailure, u"“%1”不是账本文件，或者已经损坏。"_s, path, wayBack(path));
-    if (!file.seek(MarkOffset) || file.write(mark) != mark.size())
-        throwFor(RuntimeError::PathFileAccess, u"写入账本文件“%1”失败。"_s, path);
+    file.seek(MarkOffset);
+    writeWhole(file, mark);
 }
 
 } // namespace
@@ -53,12 +51,12 @@ void spoilHeader(const QString& path) {
 }
 
 bool headerIsSpoilt(const QString& path) {
-    return headOf(path) == headWith(Spoilt);
+    return headOf(path).mark == FileHead::Mark::Spoilt;
 }
 
 bool hasFormOfBook(const QString& path) {
-    const QByteArray head = headOf(path);
-    return head == headWith(Healed) || head == headWith(Spoilt);
+    const FileHead::Mark mark = headOf(path).mark;
+    return mark == FileHead::Mark::Healed || mark == FileHead::Mark::Spoilt;
 }
 
 } // namespace qinghe

@@ -3,11 +3,11 @@
 #include "runtime/runtime_error.h"
 #include "store/connection.h"
 #include "store/data_file.h"
+#include "store/file_head.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QtEndian>
 
 #include <algorithm>
 
@@ -83,13 +83,9 @@ void runSteps(Connection& connection, int version, std::span<const Migration> st
 } // namespace
 
 void requireKnownVersion(const QString& path) {
-    constexpr qsizetype NumberAt = 60;
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return;
-    const QByteArray head = file.read(NumberAt + 4);
-    if (head.size() == NumberAt + 4 && head.startsWith('S') && head.sliced(3, 13) == QByteArray("ite format 3\0", 13))
-        versionOf(qFromBigEndian<qint32>(head.constData() + NumberAt), path, CurrentVersion);
+    const FileHead head = headOf(path);
+    if (head.isWhole)
+        versionOf(head.version, path, CurrentVersion);
 }
 
 void bringUpToDate(Connection& connection, std::span<const Migration> steps) {

@@ -45,6 +45,12 @@ struct Recordset::Impl {
         rows.requireCurrent();
     }
 
+    void requireRowToWrite() const {
+        requireWritable();
+        if (!pending.isNew())
+            requireRow();
+    }
+
     StoredRow currentRow() {
         requireRow();
         if (const auto row = rows.withValues(cursor.row()))
@@ -161,17 +167,22 @@ int Recordset::fieldCount() const {
     return m_impl->columnCount();
 }
 
-void Recordset::readTexts(std::span<std::optional<QString>> texts) {
-    const int count = static_cast<int>(texts.size());
+bool Recordset::readTexts(std::span<std::optional<QString>> texts) {
     const bool changed = !m_impl->pending.isEmpty();
     const auto row = changed ? std::nullopt : std::optional(m_impl->currentRow());
-    for (int i = 0; i < count; ++i) {
-        auto& text = texts[static_cast<size_t>(i)];
-        if (row ? row->isNull(i) : field(i).isNull())
+    bool comeBack = true;
+    for (int i = 0; auto& text : texts) {
+        const int column = i++;
+        if (row ? row->isNull(column) : field(column).isNull()) {
             text.reset();
-        else
-            text = row ? row->text(i) : field(i).text();
+        } else if (row) {
+            text = row->text(column);
+            comeBack = comeBack && row->comesBack(column, *text);
+        } else {
+            text = field(column).text();
+        }
     }
+    return comeBack;
 }
 
 Field Recordset::field(int ordinal) {
@@ -222,10 +233,18 @@ bool Field::equalsEmpty() const {
 
 void Field::setValue(const Value& value) {
     auto& set = *m_set->m_impl;
-    set.requireWritable();
-    if (!set.pending.isNew())
-        set.requireRow();
+    set.requireRowToWrite();
     set.pending.set(m_ordinal, converted(column(), value, set.store.thisYear()));
+}
+
+StoredValue Field::asStored() const {
+    return m_set->m_impl->currentRow().stored(m_ordinal);
+}
+
+void Field::setStored(const StoredValue& value) {
+    auto& set = *m_set->m_impl;
+    set.requireRowToWrite();
+    set.pending.setStored(m_ordinal, value, column().kind);
 }
 
 QByteArray Field::getChunk(int count) const {

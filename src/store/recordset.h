@@ -12,6 +12,7 @@
 namespace qinghe {
 
 struct StoredRow;
+struct StoredValue;
 
 /// One column of the current row; made by Recordset::field.
 class Field;
@@ -56,8 +57,9 @@ public:
 
     int fieldCount() const;
     /// The texts of the first fields of the current row, as many as `texts` has room for, std::nullopt for NULL;
-    /// quicker than field by field.
-    void readTexts(std::span<std::optional<QString>> texts);
+    /// quicker than field by field. Tells whether each value that is stored would be the same again once its text is
+    /// written into its column (comesBack).
+    bool readTexts(std::span<std::optional<QString>> texts);
     Field field(int ordinal);      ///< 0-based; throws RuntimeError (3265, no such item)
     Field field(QStringView name); ///< throws likewise
 
@@ -83,6 +85,12 @@ public:
     /// Writes into the pending row or the current one; reaches the store with Recordset::update. Throws RuntimeError
     /// (type mismatch) for what the column cannot hold.
     void setValue(const Value& value);
+
+    /// The current row's value as it lies in the file; there must be one, and nothing pending. It has its bytes as long
+    /// as the row has its values: who keeps it copies them.
+    StoredValue asStored() const;
+    /// Writes what such a field held, storage and bytes, without asking what the column can hold.
+    void setStored(const StoredValue& value);
 
     /// The first `count` bytes of a binary column, or all when there are fewer.
     QByteArray getChunk(int count) const;

@@ -15,6 +15,10 @@ struct StoredRow {
 
     bool isNull(int column) const { return rows->isNull(row, column); }
     QString text(int column) const { return rows->text(row, column); }
+    StoredValue stored(int column) const { return rows->stored(row, column); }
+    bool comesBack(int column, const QString& text) const {
+        return qinghe::comesBack(stored(column), text, rows->shape().columns[static_cast<size_t>(column)].kind);
+    }
 };
 
 /// The rows of a recordset, which keep their identities, and their values only as long as the handler lasts

@@ -40,6 +40,8 @@ public:
     bool isNull(int row, int column) const;
     Value value(int row, int column) const;
     QString text(int row, int column) const;
+    /// As it lies in the file; a text or a blob is good as long as the row has its values.
+    StoredValue stored(int row, int column) const;
     /// Whether the cell is neither NULL nor an empty text.
     bool holdsText(int row, int column) const;
     /// The stored rows behind a row; none in a set that is read only.
@@ -73,7 +75,6 @@ private:
 
     Cell packed(const StoredValue& value);
     quint64 keep(const QByteArray& bytes);
-    StoredValue stored(int row, int column) const;
     size_t cellIndex(int row, int column) const;
     bool lastTwoRowsEqual() const;
 

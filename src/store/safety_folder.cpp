@@ -37,7 +37,11 @@ QString readySafetyFolder(const QString& book) {
 }
 
 QString nameInSafety(const QString& book, const QDateTime& when, const QString& occasion, const QString& suffix) {
-    const QDir folder(safetyFolderOf(book));
+    return nameIn(safetyFolderOf(book), when, occasion, suffix);
+}
+
+QString nameIn(const QString& path, const QDateTime& when, const QString& occasion, const QString& suffix) {
+    const QDir folder(path);
     const QString base = u"%1 %2"_s.arg(when.toString(u"yyyy-MM-dd HHmmss"_s), occasion);
     QString name = base + suffix;
     for (int number = 2; kindOf(folder.filePath(name)) != FileKind::Missing; ++number)

@@ -24,7 +24,8 @@ QByteArray placeholders(qsizetype count) {
 
 } // namespace
 
-Session::Session(const QString& path, const ThisYear& thisYear) : m_thisYear(thisYear), m_connection(path) {
+Session::Session(const QString& path, const ThisYear& thisYear, Patience patience)
+    : m_thisYear(thisYear), m_connection(path, patience) {
     bringUpToDate(m_connection);
     m_dataVersion = m_connection.dataVersion();
 }
@@ -81,9 +82,9 @@ const TableColumns& Session::columns(const QString& table) {
     const auto known = m_columns.constFind(table);
     if (known != m_columns.constEnd())
         return *known;
-    Statement statement =
-        m_connection.prepare("SELECT c.name, c.type FROM sqlite_schema s, pragma_table_info(s.name) c "
-                             "WHERE s.type = 'table' AND s.name = ? ORDER BY c.cid");
+    Statement statement = m_connection.prepare(
+        "SELECT c.name, c.type FROM pragma_table_list l, pragma_table_info(l.name) c "
+        "WHERE l.schema = 'main' AND l.type = 'table' AND l.name NOT GLOB 'sqlite_*' AND l.name = ? ORDER BY c.cid");
     statement.bind(1, encoded(table));
     TableColumns columns;
     while (statement.step())

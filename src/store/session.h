@@ -16,7 +16,8 @@ namespace qinghe {
 class Session {
 public:
     /// Opens the file and brings it up to date. `thisYear` is the store's, which outlives its sessions.
-    Session(const QString& path, const ThisYear& thisYear);
+    Session(const QString& path, const ThisYear& thisYear, Patience patience);
+    void setPatience(Patience patience) { m_connection.setPatience(patience); }
 
     std::shared_ptr<ResultSet> fetch(const QString& source);
     std::shared_ptr<ResultSet> fetchAgain(const ResultShape& shape, qint64 first, qint64 last);
@@ -25,6 +26,9 @@ public:
 
     bool inTransaction() const { return m_connection.inTransaction(); }
     bool fileMoved() const { return m_connection.fileMoved(); }
+    void hold() { m_connection.hold(); }
+    HeldFile heldFile() const { return m_connection.heldFile(); }
+    HeldFile heldJournal() const { return m_connection.heldJournal(); }
     void commit();
     void rollBack() noexcept;
 

@@ -6,6 +6,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
+
+#include <utility>
 
 namespace qinghe {
 
@@ -40,15 +43,23 @@ struct Store::Impl {
     std::unique_ptr<Session> open;
     int generation = 0;
     bool hasUndone = false;
+    Patience patience = UsualPatience;
 
     /// The open file, opened if need be; one that was replaced under its name is opened anew.
     Session& session() {
         dropIfMoved();
         if (!open) {
             requireStoreFile(path);
-            open = std::make_unique<Session>(path, thisYear);
+            open = std::make_unique<Session>(path, thisYear, patience);
         }
         return *open;
+    }
+
+    /// Gives the one that was.
+    Patience setPatience(Patience next) {
+        if (open)
+            open->setPatience(next);
+        return std::exchange(patience, next);
     }
 
     void dropIfMoved() {
@@ -71,6 +82,20 @@ struct Store::Impl {
                 recover(error);
             throw;
         }
+    }
+
+    /// False where the work fails with this error; then it counts as never begun.
+    bool doWithout(int number, const std::function<void()>& work) {
+        const bool undoneBefore = hasUndone;
+        try {
+            work();
+            return true;
+        } catch (const RuntimeError& error) {
+            if (error.number() != number)
+                throw;
+        }
+        hasUndone = undoneBefore;
+        return false;
     }
 
     void recover(const RuntimeError& error) {
@@ -127,8 +152,52 @@ bool Store::hasUndone() const {
     return m_impl->hasUndone;
 }
 
+Store::Stillness Store::holdStill() {
+    commit();
+    const bool undoneBefore = hasUndone();
+    try {
+        m_impl->run([](Session& session) { session.hold(); });
+    } catch (const RuntimeError& error) {
+        if (error.number() == RuntimeError::FileLocked)
+            throw;
+        m_impl->hasUndone = undoneBefore;
+    }
+    return Stillness(*this);
+}
+
+Store::Stillness::~Stillness() {
+    if (m_store.m_impl->open)
+        m_store.m_impl->open->rollBack();
+}
+
+void Store::setPatience(std::chrono::milliseconds patience) {
+    m_impl->setPatience(patience);
+}
+
+bool Store::tryNow(const std::function<void()>& reading) {
+    const Patience usual = m_impl->setPatience(Patience(0));
+    const auto backToUsual = qScopeGuard([&] { m_impl->setPatience(usual); });
+    return m_impl->doWithout(RuntimeError::FileLocked, reading);
+}
+
+bool Store::tryToWrite(const std::function<void()>& writing) {
+    commit();
+    return m_impl->doWithout(RuntimeError::DiskFull, [&] {
+        writing();
+        commit();
+    });
+}
+
 int Store::generation() const {
     return m_impl->generation;
+}
+
+HeldFile Store::heldFile() const {
+    return m_impl->open->heldFile();
+}
+
+HeldFile Store::heldJournal() const {
+    return m_impl->open->heldJournal();
 }
 
 const ThisYear& Store::thisYear() const {

@@ -4,11 +4,14 @@
 
 #include <QString>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <span>
 
 namespace qinghe {
 
+class HeldFile;
 class ResultSet;
 struct ResultShape;
 struct StoredValue;
@@ -56,9 +59,43 @@ public:
     void close();
     /// Whether the file itself has failed: the unit of work that was open then, if any, was undone.
     bool hasUndone() const;
+    /// While it lives nobody changes the file, so that its bytes can be copied. Whoever copies them opens the file once
+    /// and closes it when all is read: on some systems the process lets go of its locks on a file with the first
+    /// closing of any descriptor of it.
+    class Stillness {
+    public:
+        ~Stillness();
+        Stillness(const Stillness&) = delete;
+        Stillness& operator=(const Stillness&) = delete;
+
+    private:
+        friend Store;
+        explicit Stillness(Store& store) : m_store(store) {}
+        Store& m_store;
+    };
+    /// Ends the unit of work first. A file that is missing or cannot be read is not held; its bytes are what they are.
+    /// Throws RuntimeError: FileLocked, and what commit() throws.
+    [[nodiscard]] Stillness holdStill();
+
+    /// How long the store waits for another program that holds the file, before it throws FileLocked; some seconds when
+    /// it is not told.
+    void setPatience(std::chrono::milliseconds patience);
+    /// Runs what reads and comes again by itself, such as a tick, without any waiting: false when another program holds
+    /// the file, with nothing lost.
+    bool tryNow(const std::function<void()>& reading);
+
+    /// Runs a unit of work of its own that can be done without: false when the disk is full, with nothing of it done.
+    /// What was open before is ended first. Throws RuntimeError: what commit() throws then, and all but DiskFull.
+    bool tryToWrite(const std::function<void()>& writing);
+
     /// Counts the closings: what was read under another number is void. A file that was replaced under its name counts
     /// as closed at the next use.
     int generation() const;
+
+    /// While a unit of work is open: the file as it lies on the disk, and the journal that leads back to the last
+    /// commit, where something has reached the file. They hold still until the next call on the store.
+    HeldFile heldFile() const;
+    HeldFile heldJournal() const;
 
     /// Throws RuntimeError (QueryFailure) when there is no such table.
     const TableColumns& columns(const QString& table);

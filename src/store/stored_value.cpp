@@ -1,10 +1,15 @@
 #include "store/stored_value.h"
 
 #include "runtime/number_text.h"
+#include "runtime/runtime_error.h"
+
+#include <cmath>
 
 namespace qinghe {
 
 namespace {
+
+constexpr qint64 BeyondDigits = 1'000'000'000'000'000; ///< from here on a text has not all digits of a whole number
 
 StoredValue storedText(const QString& text) {
     return {.storage = Storage::Text, .bytes = text.toUtf8()};
@@ -62,6 +67,60 @@ QString decodedText(const StoredValue& stored, ColumnKind kind) {
     if (stored.storage == Storage::Real)
         return numberText(stored.real);
     return decoded(stored, kind).text();
+}
+
+namespace {
+
+/// Qt drops the mark and puts another character for what is no UTF-8.
+bool isPlainText(const StoredValue& stored, const QString& text) {
+    static constexpr QByteArrayView Mark = "\xEF\xBB\xBF";
+    return !stored.bytes.startsWith(Mark) &&
+           (!text.contains(QChar::ReplacementCharacter) || text.toUtf8() == stored.bytes);
+}
+
+/// A number column keeps whole numbers as integers, however they were given.
+bool isSameNumber(double one, const StoredValue& other) {
+    constexpr double Exact = 1LL << 53;
+    if (other.storage == Storage::Real)
+        return one == other.real;
+    return other.storage == Storage::Integer && std::abs(one) < Exact && static_cast<qint64>(one) == other.integer;
+}
+
+bool isSame(const StoredValue& one, const StoredValue& other) {
+    if (one.storage == Storage::Real)
+        return isSameNumber(one.real, other);
+    return one.storage == other.storage && one.integer == other.integer && one.bytes == other.bytes;
+}
+
+/// What nearly all values of a book are, told without writing them once more.
+bool isOrdinary(const StoredValue& stored, const QString& text, ColumnKind kind) {
+    switch (stored.storage) {
+    case Storage::Null:
+        return true;
+    case Storage::Text:
+        if (kind == ColumnKind::Date) // years before 1000 may read as others
+            return !stored.bytes.startsWith('0') && textOfIsoDay(stored.bytes);
+        return kind == ColumnKind::Text && isPlainText(stored, text);
+    case Storage::Integer:
+        return kind == ColumnKind::Number && std::abs(stored.integer) < BeyondDigits;
+    case Storage::Real:
+        return kind == ColumnKind::Number && isAmount(stored.real);
+    case Storage::Blob:
+        break;
+    }
+    return false;
+}
+
+} // namespace
+
+bool comesBack(const StoredValue& stored, const QString& text, ColumnKind kind) {
+    if (isOrdinary(stored, text, kind))
+        return true;
+    try {
+        return isSame(encoded(converted({{}, kind}, text)), stored);
+    } catch (const RuntimeError&) {
+        return false;
+    }
 }
 
 } // namespace qinghe

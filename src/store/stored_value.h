@@ -27,4 +27,9 @@ Value decoded(const StoredValue& stored, ColumnKind kind);
 /// decoded(...).text(), without the way round where there is a shorter one.
 QString decodedText(const StoredValue& stored, ColumnKind kind);
 
+/// Whether a value is the same again, storage and bytes, once its text (`text`, as decodedText gives it) is written
+/// into a column of that kind. Not so a text in a date or a number column, bytes that are no UTF-8, a mark of byte
+/// order, a number of more digits than are shown: what another program or a failing disk left there.
+bool comesBack(const StoredValue& stored, const QString& text, ColumnKind kind);
+
 } // namespace qinghe

@@ -44,7 +44,7 @@ TEST_F(BrokenStart, AForeignFileIsTold) {
     write(u"data.dll"_s, QByteArray("no ledger at all\n").repeated(500));
     rig.start();
     expectError(RuntimeError::StoreFailure, u"data.dll"_s);
-    EXPECT_EQ(bytes(u"data.dll"_s).size(), 17 * 500);
+    EXPECT_EQ(bytes(u"data.dll"_s), QByteArray("no ledger at all\n").repeated(500));
 }
 
 TEST_F(BrokenStart, AnEmptyFileIsToldAndStaysEmpty) {
@@ -78,10 +78,31 @@ TEST_F(BrokenStart, TheWayBackNamesTheCopiesThatLieBesideTheBook) {
         EXPECT_TRUE(text.contains(rig.file(u"备份.dat"_s))) << text.toStdString();
         EXPECT_FALSE(text.contains(u"照片.dat"_s) || text.contains(u"一半.dat"_s));
         EXPECT_EQ(text.contains(u"改名留着"_s), damaged);
-        const QString words = QString(text).remove(rig.folder()).remove(u"data.dll"_s).remove(u".dat"_s);
+        EXPECT_TRUE(text.contains(u"data.dll-journal，要先把它移到别处"_s));
+        const QString words =
+            QString(text).remove(rig.folder()).remove(u"data.dll-journal"_s).remove(u"data.dll"_s).remove(u".dat"_s);
         for (const QChar c : words)
             EXPECT_FALSE(c >= u'a' && c <= u'z') << text.toStdString();
     }
+}
+
+TEST_F(BrokenStart, AForeignJournalIsSetAsideAndToldAndNothingIsLost) {
+    write(u"data.dll-journal"_s, QByteArray("of another book ").repeated(100));
+    rig.signIn();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_TRUE(main().isVisible());
+    ASSERT_EQ(shared().notes.size(), 1);
+    EXPECT_TRUE(shared().notes.front().contains(u"data.dll-journal"_s));
+    EXPECT_FALSE(folder().contains(u"data.dll-journal"_s));
+}
+
+TEST_F(BrokenStart, TheJournalOfACopyThatRunsIsLeftAlone) {
+    rig.lock->free = false;
+    write(u"data.dll-journal"_s, QByteArray(100, '\0')); // as a work begins
+    rig.start();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_TRUE(shared().notes.isEmpty());
+    EXPECT_TRUE(folder().contains(u"data.dll-journal"_s));
 }
 
 TEST_F(BrokenStart, AFolderInPlaceOfTheFileIsTold) {

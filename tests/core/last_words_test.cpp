@@ -102,9 +102,15 @@ TEST_F(LastWords, ASaveThatIsUndoneSaysSo) {
         const SmallDisk disk(static_cast<rlim_t>(QFileInfo(rig.dataFile()).size()) + 50'000);
         press(rig.at(budget::Save));
     }
-    expectError(RuntimeError::DeviceFailure);
+    expectError(RuntimeError::DiskFull);
     EXPECT_TRUE(words().startsWith(u"保存没有完成，已经撤销：这一页原有的 3 条都还在账本里。"_s));
     EXPECT_EQ(rig.sql(u"select count(*) from ysb"_s), QStringList{u"3"_s});
+}
+
+TEST_F(LastWords, OfADiskThatFailsNothingIsPromised) {
+    openWith(2);
+    handlers::enter([] { throw RuntimeError(RuntimeError::DeviceFailure, u"磁盘出错。"_s); });
+    EXPECT_EQ(words(), QString());
 }
 
 TEST_F(LastWords, AFileThatCannotBeWrittenIsToldWithTheErrorAndNotInsteadOfIt) {

@@ -1,4 +1,5 @@
 #include "core_fixture.h"
+#include "store/header_toggle.h"
 
 #include <QPointer>
 
@@ -28,6 +29,18 @@ TEST_F(SignInChecks, NameAndPasswordThatAreRightLoadTheMainWindowAndUnloadTheSig
     EXPECT_TRUE(main().isVisible());
     EXPECT_EQ(rig.messages->shown, Messages{});
     EXPECT_FALSE(rig.ended());
+}
+
+TEST_F(SignInChecks, WhileOneWaitedHereAnotherCopyMayHaveEnded) {
+    rig.lock->free = false;
+    rig.start();
+    rig.lock->free = true;
+    spoilHeader(rig.dataFile());
+    trySignIn(me, u"123456"_s);
+    rig.settle();
+    EXPECT_TRUE(rig.messages->errors.empty());
+    EXPECT_TRUE(signedIn());
+    EXPECT_EQ(rig.headerBytes(), Healed);
 }
 
 TEST_F(SignInChecks, EnterInThePasswordSignsInToo) {

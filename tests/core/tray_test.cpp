@@ -1,4 +1,5 @@
 #include "core_fixture.h"
+#include "support/held_book.h"
 #include "support/pointer.h"
 
 namespace qinghe::testing {
@@ -96,6 +97,21 @@ TEST_F(TrayIcon, AMinimiseLooksIntoTheProgramsOwnFileWhateverTheControlWasPointe
     EXPECT_TRUE(rig.messages->errors.empty());
     EXPECT_EQ(added(), 1u);
     EXPECT_EQ(main().Adodc1->connectionString(), rig.program->shared().connection());
+}
+
+TEST_F(TrayIcon, AMinimiseWhileAnotherProgramHoldsTheBookIsMadeUpForLater) {
+    rig.signIn();
+    want(true);
+    {
+        const HeldBook held(rig.dataFile());
+        minimise();
+        main().setWindowState(0);
+        minimise();
+    }
+    EXPECT_FALSE(rig.ended());
+    EXPECT_EQ(added(), 0u);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !main().Visible(); }, 3000));
+    EXPECT_GE(added(), 1u);
 }
 
 TEST_F(TrayIcon, TheMinimiseImageGoesToTheTrayToo) {

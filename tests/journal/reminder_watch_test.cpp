@@ -1,4 +1,5 @@
 #include "reminder_rig.h"
+#include "support/held_book.h"
 
 namespace qinghe::testing {
 namespace {
@@ -39,6 +40,21 @@ TEST_F(ReminderWatch, APlanRingsInItsMinuteAndShowsItsText) {
     ASSERT_TRUE(rings());
     EXPECT_EQ(shownPlan(), u"给爷爷打电话"_s);
     EXPECT_FALSE(rig.loaded(forms::Reminder)->isModal());
+}
+
+TEST_F(ReminderWatch, WhileAnotherProgramHoldsTheBookTicksEndNothingAndTheNextOneRings) {
+    plant(u"2024-06-18"_s, u"20 37"_s, u"a"_s);
+    setClock(u"2024-06-18T20:36:58"_s);
+    watch();
+    for (int held = 0; held < 2; ++held) { // at the first look at the day, and at a later one
+        const HeldBook other(rig.dataFile());
+        pass(held);
+        tickAll();
+    }
+    EXPECT_FALSE(rings() || rig.ended());
+    EXPECT_TRUE(timer2().Enabled());
+    pass();
+    EXPECT_TRUE(rings());
 }
 
 TEST_F(ReminderWatch, EverySecondOfTheMinuteMatches) {

@@ -1,5 +1,6 @@
 #include "ledger/income_rig.h"
 #include "runtime/runtime_error.h"
+#include "support/small_disk.h"
 
 // Opening the page of income and of expense, and coming back to entry by its option.
 
@@ -20,6 +21,17 @@ TEST_F(IncomeTest, HasTheCaptionsAndWidthsOfIncomeAfterItsLabel) {
     for (int col = 1; col <= 6; ++col)
         EXPECT_EQ(ms2().ColWidth(col), 1150);
     EXPECT_EQ(ms2().ColWidth(7), 3900);
+}
+
+TEST_F(IncomeTest, CanBeLookedAtOnAFullDiskAndItsReportsSayThatTheyCannot) {
+    rig.sql(u"insert into srb values('1','2024-05-03','工资','我',12.5,'现金','',1)"_s);
+    const SmallDisk disk(100);
+    open(0);
+    ASSERT_TRUE(rig.messages->errors.empty()) << rig.messages->errors.front().second.toStdString();
+    EXPECT_EQ(ProgramRig::rowText(ms2(), 1), u"1|2024-5-3|工资|我| 12.5|现金|");
+    EXPECT_FALSE(shared().store.hasUndone());
+    rig.click(rig.at(income::ByItem));
+    expectError(RuntimeError::DiskFull);
 }
 
 TEST_F(IncomeTest, HasTheCaptionsOfExpenseAfterItsLabel) {

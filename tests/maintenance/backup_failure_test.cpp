@@ -1,4 +1,5 @@
 #include "backup_rig.h"
+#include "support/held_book.h"
 #include "support/ordinary_user.h"
 #include "support/small_disk.h"
 
@@ -57,6 +58,14 @@ TEST_F(BackupFailureTest, ABackupIntoAFolderThatMayNotBeWrittenIsRefused) {
     ASSERT_TRUE(QFile::setPermissions(rig.file(u"closed"_s), QFile::ReadOwner | QFile::ExeOwner));
     backUpTo(u"closed/b.dat"_s);
     refused(RuntimeError::PathFileAccess, u"权限"_s);
+}
+
+TEST_F(BackupFailureTest, WhileAnotherProgramWritesNoBackupIsMade) {
+    shared().store.setPatience(std::chrono::milliseconds(0));
+    const HeldBook held(rig.dataFile());
+    backUpTo(u"b.dat"_s);
+    refused(RuntimeError::FileLocked, u"占用"_s);
+    EXPECT_EQ(bytes(u"b.dat"_s), "(missing)");
 }
 
 TEST_F(BackupFailureTest, ABackupThatDoesNotFitIsRefusedAndLeavesNoPart) {

@@ -9,6 +9,20 @@
 #include <QTemporaryDir>
 
 #include <array>
+#include <cerrno>
+#include <sys/file.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+int lockFailure = 0; ///< with which the system refuses locks; 0: it gives them
+}
+
+/// Stands before the system's own in this program.
+extern "C" int flock(int file, int operation) {
+    errno = lockFailure;
+    return lockFailure ? -1 : static_cast<int>(syscall(SYS_flock, file, operation));
+}
 
 namespace qinghe::testing {
 namespace {
@@ -20,6 +34,16 @@ TEST(FolderLock, OneFolderIsLockedOnce) {
     EXPECT_FALSE(second->tryTake());
     EXPECT_TRUE(first->tryTake());
     EXPECT_TRUE(third->tryTake());
+}
+
+TEST(FolderLock, OnlyOneThatIsHeldTellsOfASecondCopy) {
+    const QTemporaryDir folder;
+    const auto lock = folderLock(folder.path());
+    for (const int failure : {ENOLCK, EINVAL, EOPNOTSUPP, EIO, EWOULDBLOCK}) {
+        lockFailure = failure;
+        EXPECT_EQ(lock->tryTake(), failure != EWOULDBLOCK) << failure;
+    }
+    lockFailure = 0;
 }
 
 TEST(FolderLock, IsFreeAgainWhenItsHolderIsGone) {
@@ -103,7 +127,7 @@ TEST_F(Browsers, OneIsKnownByTheListOfProgramsOrByItsCommand) {
 TEST(DesktopServices, AreAllThere) {
     const Services services = desktopServices();
     EXPECT_TRUE(services.clock && services.messages && services.tray && services.launcher && services.instance &&
-                services.process);
+                services.background && services.process);
     EXPECT_EQ(services.appPath, QCoreApplication::applicationDirPath());
     EXPECT_LT(std::abs(services.clock->now().secsTo(QDateTime::currentDateTime())), 5);
     EXPECT_EQ(services.clock->today(), services.clock->now().date());

@@ -50,6 +50,15 @@ TEST(SystemPath, LeavesTheNameOfAnExistingFileAlone) {
     EXPECT_EQ(systemPath(name), name);
 }
 
+TEST(SystemPath, NeverMeansAFileThatIsLaidBesideTheFolder) {
+    const QTemporaryDir parent;
+    const QString folder = parent.filePath(u"青禾家庭记账本"_s);
+    ASSERT_TRUE(QFile(folder + u"\\data.dll"_s).open(QIODevice::WriteOnly) && QDir().mkpath(folder));
+    EXPECT_EQ(systemPath(folder + u"\\data.dll"_s), folder + u"/data.dll"_s) << "none is in it";
+    ASSERT_TRUE(QFile(folder + u"/data.dll"_s).open(QIODevice::WriteOnly));
+    EXPECT_EQ(systemPath(folder + u"\\data.dll"_s), folder + u"/data.dll"_s);
+}
+
 TEST(ConnectionText, LeadsToTheFileInFoldersWithOddNames) {
     const QTemporaryDir parent;
     for (const auto& name : {u"青禾家庭记账本"_s, u"a;b"_s, u"it's"_s, u"a\\b"_s, u"末尾\\"_s, u"两 个 blanks "_s,

@@ -1,3 +1,4 @@
+#include "store/failing_disk.h"
 #include "store/header_toggle.h"
 #include "store/store_fixture.h"
 #include "support/ordinary_user.h"
@@ -182,6 +183,45 @@ TEST_F(DamagedFile, FolderThatMayNotBeWrittenHoldsTheWorkBack) {
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.close();
     EXPECT_EQ(control.open(u"srb"_s).recordCount(), 1);
+}
+
+TEST_F(DamagedFile, WhatTheDiskDoesNotReadIsToldAsThatAndNotAsDamage) {
+    fill(3000);
+    failing_disk::failReads(true);
+    EXPECT_EQ(opening(u"再启动程序试一次"_s), RuntimeError::DeviceFailure);
+    failing_disk::failReads(false);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 3000);
+    store.rest();
+    OtherProgram(path()).run(u"UPDATE srb SET 账户 = 'x'"_s); // what is in memory is read again
+    failing_disk::failReads(true);
+    EXPECT_EQ(opening(u"再启动程序试一次"_s), RuntimeError::DeviceFailure);
+    failing_disk::failReads(false);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 3000);
+}
+
+TEST_F(DamagedFile, APlaceWithoutLocksIsNotAProgramThatHoldsTheFile) {
+    failing_disk::refuseLocks(true);
+    EXPECT_EQ(opening(u"加锁"_s), RuntimeError::DeviceFailure);
+    failing_disk::refuseLocks(false);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
+}
+
+TEST_F(DamagedFile, ViewsInThePlaceOfTablesAreNone) {
+    OtherProgram(path()).run(u"DROP TABLE srb; CREATE VIEW srb AS SELECT * FROM zcb"_s);
+    EXPECT_EQ(opening(u"“srb”"_s), RuntimeError::QueryFailure);
+    OtherProgram(path()).run(u"DROP VIEW srb; CREATE VIRTUAL TABLE srb USING fts5(项目)"_s);
+    EXPECT_EQ(opening(u"“srb”"_s), RuntimeError::QueryFailure);
+    EXPECT_EQ(errorOf([&] { control.open(u"srb_content"_s); }, u"“srb_content”"_s), RuntimeError::QueryFailure);
+    EXPECT_EQ(control.open(u"zcb"_s).recordCount(), 0);
+}
+
+TEST_F(DamagedFile, WhatIsDeletedIsNotLeftInTheFile) {
+    addIncome(u"2024-5-3"_s, u"密码是青禾"_s, 1);
+    store.commit();
+    ASSERT_TRUE(fileBytes().contains(u"密码是青禾"_s.toUtf8()));
+    control.open(u"srb"_s).deleteCurrent();
+    store.commit();
+    EXPECT_FALSE(fileBytes().contains(u"密码是青禾"_s.toUtf8()));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "store/failing_disk.h"
 #include "store/rewritten_table.h"
+#include "support/small_disk.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,7 +9,7 @@ namespace {
 
 constexpr int Rows = 150;
 
-class DiskFull : public StoreTest, public testing::WithParamInterface<bool> {
+class DiskFull : public StoreTest, public ::testing::WithParamInterface<bool> {
 protected:
     ~DiskFull() override { failing_disk::makeSpace(); }
     bool once() const { return GetParam(); }
@@ -65,7 +66,17 @@ TEST_P(DiskFull, LeavesTheStoreUsableOnceThereIsSpace) {
     EXPECT_EQ(markOfTable(control, Rows), u"新"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(OnceAndLasting, DiskFull, testing::Bool());
+TEST_F(StoreTest, TheEndOfAnAccountsRoomIsAFullDisk) {
+    rewriteTable(store, control, u"旧"_s, Rows);
+    {
+        const testing::SmallDisk disk(static_cast<rlim_t>(fileBytes().size()) + 10'000);
+        EXPECT_EQ(errorOf([&] { rewriteTable(store, control, QString(1000, u'新'), Rows); }, u"磁盘已满"_s),
+                  RuntimeError::DiskFull);
+    }
+    EXPECT_EQ(markOfTable(control, Rows), u"旧"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(OnceAndLasting, DiskFull, ::testing::Bool());
 
 } // namespace
 } // namespace qinghe

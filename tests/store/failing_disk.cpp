@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -65,6 +66,8 @@ struct Disk {
     int healthyWrites = Never;
     bool once = false;
     bool writeFailed = false;
+    bool readsFail = false;
+    bool locksFail = false;
     int healthyChanges = Never;
     bool dead = false;
     std::map<std::string, File> files;
@@ -135,6 +138,17 @@ int writeFile(sqlite3_file* file, const void* data, int amount, sqlite3_int64 of
     return real(file)->pMethods->xWrite(real(file), data, amount, offset);
 }
 
+int readFile(sqlite3_file* file, void* data, int amount, sqlite3_int64 offset) {
+    return disk.readsFail ? SQLITE_IOERR_CORRUPTFS : real(file)->pMethods->xRead(real(file), data, amount, offset);
+}
+
+int lockFile(sqlite3_file* file, int level) {
+    if (!disk.locksFail)
+        return real(file)->pMethods->xLock(real(file), level);
+    errno = ENOLCK;
+    return SQLITE_BUSY;
+}
+
 int truncateFile(sqlite3_file* file, sqlite3_int64 size) {
     if (!note(file, {.cut = true, .offset = static_cast<size_t>(size)}))
         return SQLITE_IOERR_TRUNCATE;
@@ -160,12 +174,12 @@ using Methods = sqlite3_io_methods;
 constexpr Methods ShimMethods{
     1,
     closeFile,
-    forward<&Methods::xRead>,
+    readFile,
     writeFile,
     truncateFile,
     syncFile,
     forward<&Methods::xFileSize>,
-    forward<&Methods::xLock>,
+    lockFile,
     forward<&Methods::xUnlock>,
     forward<&Methods::xCheckReservedLock>,
     forward<&Methods::xFileControl>,
@@ -225,6 +239,14 @@ void fillUpAfter(int healthyWrites, bool once) {
 bool makeSpace() {
     disk.healthyWrites = Never;
     return disk.writeFailed;
+}
+
+void failReads(bool fail) {
+    disk.readsFail = fail;
+}
+
+void refuseLocks(bool refuse) {
+    disk.locksFail = refuse;
 }
 
 void cutPowerAfter(int healthyChanges) {

@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace qinghe {
@@ -121,16 +123,30 @@ TEST_F(Header, TogglesRefuseAFolder) {
     EXPECT_EQ(errorOf([&] { healHeader(folder.path()); }), RuntimeError::PathFileAccess);
 }
 
-TEST_F(Header, TogglesLeaveAFileThatIsTooShortAsItIs) {
-    for (const QByteArray& bytes : {QByteArray(), QByteArray("S"), QByteArray("SQ")}) {
+TEST_F(Header, TogglesLeaveWhatIsNoBookAsItIs) {
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("S"), QByteArray("SQL"), QByteArray("\xff\xd8\xff\xe0 a photo").repeated(50),
+          QByteArray("SXXite format 3\0 nearly one", 27)}) {
         setFileBytes(bytes);
         EXPECT_EQ(errorOf([&] { healHeader(path()); }, u"data.dll"_s), RuntimeError::StoreFailure);
         EXPECT_EQ(errorOf([&] { spoilHeader(path()); }, u"data.dll"_s), RuntimeError::StoreFailure);
         EXPECT_EQ(fileBytes(), bytes);
     }
-    setFileBytes("SQL");
+}
+
+TEST_F(Header, TogglesReachABookThatIsAPlainFileBehindALinkOfItsOwner) {
+    const QString real = folder.filePath(u"elsewhere"_s);
+    ASSERT_TRUE(QFile::rename(path(), real) && QFile::link(real, path()));
+    spoilHeader(path());
+    EXPECT_EQ(mark(), Spoiled);
     healHeader(path());
-    EXPECT_EQ(fileBytes(), "S" + Healed);
+    EXPECT_EQ(control.open(u"srb"_s).recordCount(), 0);
+}
+
+TEST_F(Header, TogglesWaitForNoPipe) {
+    ASSERT_TRUE(QFile::remove(path()));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    EXPECT_EQ(errorOf([&] { healHeader(path()); }), RuntimeError::PathFileAccess);
 }
 
 TEST_F(Header, ShimOffersNoWriteAheadLog) {

@@ -41,8 +41,8 @@ protected:
                                  "SELECT '第 '||i||' 项', '备注'||i FROM n"_s);
     }
 
-    void bring(std::initializer_list<Migration> steps) {
-        Connection connection(path());
+    void bring(std::initializer_list<Migration> steps, Patience patience = UsualPatience) {
+        Connection connection(path(), patience);
         bringUpToDate(connection, steps);
     }
     QString asked(const QString& sql, const QString& name = u"data.dll"_s) const {
@@ -177,7 +177,7 @@ TEST_F(Migrating, WithoutRoomForACopyNothingIsDone) {
 TEST_F(Migrating, AnotherProgramInTheMidstOfWritingIsWaitedForInVain) {
     OtherProgram other(path());
     other.run(u"BEGIN IMMEDIATE"_s);
-    EXPECT_EQ(errorOf([&] { bring({{2, addShop}}); }, u"占用"_s), RuntimeError::FileLocked);
+    EXPECT_EQ(errorOf([&] { bring({{2, addShop}}, Patience(0)); }, u"占用"_s), RuntimeError::FileLocked);
     other.run(u"ROLLBACK"_s);
     EXPECT_EQ(version(), u"0"_s);
     bring({{2, addShop}});

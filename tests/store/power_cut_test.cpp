@@ -1,4 +1,6 @@
+#include "store/data_file.h"
 #include "store/failing_disk.h"
+#include "store/journal_file.h"
 #include "store/rewritten_table.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +17,7 @@ protected:
 
 TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBackACommit) {
     rewriteTable(store, control, u"0"_s, Rows);
-    int cuts = 0;
+    int cuts = 0, ownJournals = 0;
     for (bool cut = true; cut; ++cuts) {
         const QString before = markOfTable(control, Rows);
         const QString mark = QString::number(cuts + 1);
@@ -23,6 +25,9 @@ TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBack
         const int error = errorOf([&] { rewriteTable(store, control, mark, Rows); });
         store.close();
         cut = failing_disk::restorePower();
+        const JournalKind left = judgeJournal(journalOf(path()), path());
+        EXPECT_NE(left, JournalKind::Foreign) << "after change " << cuts;
+        ownJournals += left == JournalKind::Own;
         const QString after = markOfTable(control, Rows);
         EXPECT_TRUE(after == mark || (error && after == before)) << "after change " << cuts;
         EXPECT_EQ(fileBytes().mid(1, 2), QByteArray("\x01\x00", 2));
@@ -30,6 +35,7 @@ TEST_F(PowerCut, AtAnyChangeOfASaveLeavesTheOldTableOrTheNewOneAndNeverTakesBack
             return;
     }
     EXPECT_GT(cuts, 20);
+    EXPECT_GT(ownJournals, 5);
     EXPECT_EQ(OtherProgram(path()).row(u"PRAGMA integrity_check"_s), u"ok"_s);
 }
 

@@ -1,8 +1,10 @@
 #include "store/store_fixture.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace qinghe {
 namespace {
@@ -157,6 +159,7 @@ TEST_F(UnitOfWork, SetsOfOneSourceKnowNothingOfEachOther) {
 }
 
 TEST_F(UnitOfWork, IsRefusedFromItsFirstRowWhileAnotherProgramWrites) {
+    store.setPatience(0ms);
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.commit();
     Recordset& set = control.open(u"srb"_s);
@@ -172,6 +175,7 @@ TEST_F(UnitOfWork, IsRefusedFromItsFirstRowWhileAnotherProgramWrites) {
 }
 
 TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
+    store.setPatience(0ms);
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     store.commit();
     OtherProgram reader(path());
@@ -187,7 +191,46 @@ TEST_F(UnitOfWork, CommitThatFailsIsUndoneAsAWhole) {
     EXPECT_EQ(outside(), u"2"_s);
 }
 
+TEST_F(UnitOfWork, ReadingThatComesAgainByItselfDoesNotWaitForAnotherProgram) {
+    control.open(u"srb"_s);
+    OtherProgram other(path());
+    other.run(u"BEGIN EXCLUSIVE"_s);
+    const auto read = [this] { control.open(u"srb"_s); };
+    QElapsedTimer watch;
+    watch.start();
+    EXPECT_FALSE(store.tryNow(read));
+    EXPECT_LT(watch.elapsed(), 1000);
+    EXPECT_FALSE(store.hasUndone());
+    EXPECT_EQ(errorOf([&] { store.tryNow([this] { control.open(u"没有"_s); }); }), 0);
+    other.run(u"ROLLBACK"_s);
+    EXPECT_TRUE(store.tryNow(read));
+    EXPECT_EQ(errorOf([&] { store.tryNow([this] { control.open(u"没有"_s); }); }), RuntimeError::QueryFailure);
+}
+
+TEST_F(UnitOfWork, TheFileIsHeldStillWhileItsBytesAreCopied) {
+    addIncome(u"2024-5-3"_s, u"甲"_s, 1);
+    OtherProgram other(path());
+    const QString write = u"INSERT INTO srb (项目) VALUES ('乙')"_s;
+    {
+        const Store::Stillness still = store.holdStill();
+        EXPECT_EQ(outside(), u"1"_s) << "what was open is ended first, and others still read";
+        const QByteArray before = fileBytes();
+        EXPECT_ANY_THROW(other.run(write));
+        EXPECT_EQ(fileBytes(), before);
+    }
+    EXPECT_FALSE(store.inTransaction());
+    other.run(write);
+    EXPECT_EQ(outside(), u"2"_s);
+}
+
+TEST_F(UnitOfWork, WhatCannotBeReadIsNotHeldAndMayBeCopiedAsItIs) {
+    setFileBytes(QByteArray("no book at all ").repeated(100));
+    EXPECT_EQ(errorOf([&] { const Store::Stillness still = store.holdStill(); }), 0);
+    EXPECT_FALSE(store.hasUndone());
+}
+
 TEST_F(UnitOfWork, FailedClosingLeavesTheFileClosed) {
+    store.setPatience(0ms);
     OtherProgram reader(path());
     addIncome(u"2024-5-3"_s, u"甲"_s, 1);
     reader.run(u"BEGIN"_s);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/handlers.h"
 #include "platform/services.h"
 
 #include <functional>
@@ -108,6 +109,34 @@ public:
     bool free = true;
     std::function<void()> call; ///< what a call of another copy sets off
     int calls = 0;              ///< of this copy
+};
+
+/// Keeps the work until a test runs it, in place of the thread.
+class WaitingWork : public Background {
+public:
+    void start(std::function<void(std::stop_token)> work, std::function<void()> done) override {
+        m_work = std::move(work);
+        m_done = std::move(done);
+        m_stop = {};
+        ++started;
+    }
+    void stop(std::chrono::milliseconds) override {
+        m_stop.request_stop();
+        m_work = {};
+    }
+    bool waits() const { return bool(m_work); }
+    /// As a thread would, but for `done`, which runs at once.
+    void run() {
+        const auto work = std::exchange(m_work, {});
+        work(m_stop.get_token());
+        handlers::tick(this, m_done);
+    }
+    int started = 0;
+
+private:
+    std::function<void(std::stop_token)> m_work;
+    std::function<void()> m_done;
+    std::stop_source m_stop;
 };
 
 class NotedEnd : public Process {

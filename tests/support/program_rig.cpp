@@ -91,6 +91,7 @@ Services ProgramRig::makeServices() {
     put(services.launcher, launcher, std::make_unique<NotingLauncher>());
     put(services.sound, sound, std::make_unique<NotingSound>());
     put(services.instance, lock, std::make_unique<GivenLock>());
+    put(services.background, background, std::make_unique<WaitingWork>());
     put(services.process, process, std::make_unique<NotedEnd>());
     services.appPath = folder();
     return services;

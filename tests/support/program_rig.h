@@ -88,6 +88,7 @@ public:
     NotingLauncher* launcher = nullptr;
     NotingSound* sound = nullptr;
     GivenLock* lock = nullptr;
+    WaitingWork* background = nullptr;
     NotedEnd* process = nullptr;
 
     std::unique_ptr<Program> program;

@@ -1,7 +1,4 @@
-#include "ledger_folder.h"
-
-#include <QProcess>
-#include <QProcessEnvironment>
+#include "started.h"
 
 #include <gtest/gtest.h>
 
@@ -9,39 +6,17 @@ using namespace whole;
 
 namespace {
 
-struct Refusal {
-    int code = -1; ///< -1 when it crashed or runs on
-    std::string words;
-};
-
-/// Starts the program with these variables set, or taken away where they are empty, and waits for its end.
-Refusal start(const LedgerFolder& folder, const std::vector<std::pair<QString, QString>>& variables) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const auto& [name, value] : variables)
-        value.isEmpty() ? environment.remove(name) : environment.insert(name, value);
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(folder.file("qinghe"), {});
-    if (!process.waitForFinished(10000)) {
-        process.kill();
-        process.waitForFinished();
-        return {};
-    }
-    const bool ended = process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, process.readAllStandardError().toStdString()};
-}
-
 const std::pair<QString, QString> noPlatform{QStringLiteral("QT_QPA_PLATFORM"), {}};
 const std::pair<QString, QString> noDisplay{QStringLiteral("DISPLAY"), {}};
 const std::pair<QString, QString> noWayland{QStringLiteral("WAYLAND_DISPLAY"), {}};
 
-testing::AssertionResult says(const Refusal& refusal, const std::string& words) {
+testing::AssertionResult says(const Ended& refusal, const std::string& words) {
     if (refusal.words.find(words) != std::string::npos)
         return testing::AssertionSuccess();
     return testing::AssertionFailure() << "not " << words << " but: " << refusal.words;
 }
 
-void expectHelp(const Refusal& refusal) {
+void expectHelp(const Ended& refusal) {
     EXPECT_EQ(refusal.code, 1);
     EXPECT_TRUE(says(refusal, "青禾家庭记账本不能启动"));
     EXPECT_TRUE(says(refusal, "XWayland"));
@@ -52,7 +27,7 @@ void expectHelp(const Refusal& refusal) {
 
 TEST(WithoutDisplay, AMachineWithoutADisplayIsToldWhatHelps) {
     const LedgerFolder folder;
-    const Refusal refusal = start(folder, {noPlatform, noDisplay, noWayland});
+    const Ended refusal = started(folder, {noPlatform, noDisplay, noWayland});
     expectHelp(refusal);
     EXPECT_TRUE(says(refusal, "DISPLAY 没有设置"));
     EXPECT_EQ(folder.header(), "00 00");
@@ -60,22 +35,22 @@ TEST(WithoutDisplay, AMachineWithoutADisplayIsToldWhatHelps) {
 
 TEST(WithoutDisplay, ADisplayThatCannotBeReachedIsNamed) {
     const LedgerFolder folder;
-    const Refusal refusal = start(folder, {noPlatform, {QStringLiteral("DISPLAY"), QStringLiteral(":999")}, noWayland});
+    const Ended refusal = started(folder, {noPlatform, {QStringLiteral("DISPLAY"), QStringLiteral(":999")}, noWayland});
     expectHelp(refusal);
     EXPECT_TRUE(says(refusal, "连不上 X 显示 :999"));
 }
 
 TEST(WithoutDisplay, ADesktopWithoutXIsToldTheSame) {
     const LedgerFolder folder;
-    const Refusal refusal =
-        start(folder, {noPlatform, noDisplay, {QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-0")}});
+    const Ended refusal =
+        started(folder, {noPlatform, noDisplay, {QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-0")}});
     expectHelp(refusal);
     EXPECT_TRUE(says(refusal, "DISPLAY 没有设置"));
 }
 
 TEST(WithoutDisplay, APlatformThatSomebodyNamesAndThatIsNotThereIsTold) {
     const LedgerFolder folder;
-    const Refusal refusal = start(folder, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("nowhere")}});
+    const Ended refusal = started(folder, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("nowhere")}});
     expectHelp(refusal);
     EXPECT_TRUE(says(refusal, "QT_QPA_PLATFORM=nowhere"));
 }

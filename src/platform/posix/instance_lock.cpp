@@ -6,6 +6,7 @@
 #include <QSocketNotifier>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -48,11 +49,12 @@ public:
             if (opened >= 0)
                 ::close(opened);
     }
-    /// A folder that cannot be opened has no second copy to be told from.
+    /// Only a lock that is held tells of a second copy; a folder that cannot be opened, or lies where there are no
+    /// locks, has none to be told from.
     bool tryTake() override {
         if (m_folder < 0)
             return true;
-        if (::flock(m_folder, LOCK_EX | LOCK_NB) != 0)
+        if (isHeldElsewhere())
             return false;
         listen();
         return true;
@@ -67,6 +69,14 @@ public:
     }
 
 private:
+    bool isHeldElsewhere() const {
+        int result = 0;
+        do
+            result = ::flock(m_folder, LOCK_EX | LOCK_NB);
+        while (result != 0 && errno == EINTR);
+        return result != 0 && errno == EWOULDBLOCK;
+    }
+
     void listen() {
         const Address address(m_folder);
         if (!m_called || m_calls || ::bind(m_socket, address.get(), address.size) != 0)
