@@ -175,14 +175,12 @@ bool Recordset::readTexts(std::span<std::optional<QString>> texts) {
     bool comeBack = true;
     for (int i = 0; auto& text : texts) {
         const int column = i++;
-        if (row ? row->isNull(column) : field(column).isNull()) {
+        if (row)
+            comeBack &= row->read(column, text);
+        else if (field(column).isNull())
             text.reset();
-        } else if (row) {
-            text = row->text(column);
-            comeBack = comeBack && row->comesBack(column, *text);
-        } else {
+        else
             text = field(column).text();
-        }
     }
     return comeBack;
 }

@@ -16,8 +16,20 @@ struct StoredRow {
     bool isNull(int column) const { return rows->isNull(row, column); }
     QString text(int column) const { return rows->text(row, column); }
     StoredValue stored(int column) const { return rows->stored(row, column); }
-    bool comesBack(int column, const QString& text) const {
-        return qinghe::comesBack(stored(column), text, rows->shape().columns[static_cast<size_t>(column)].kind);
+    /// Its text, none for NULL, and whether the value comes back from it.
+    bool read(int column, std::optional<QString>& text) const {
+        const StoredValue value = stored(column);
+        if (value.storage == Storage::Null) {
+            text.reset();
+            return true;
+        }
+        const ColumnKind kind = rows->shape().columns[static_cast<size_t>(column)].kind;
+        text = decodedText(value, kind);
+        // Whole amounts are most of what long lists hold; they are told here, without a call.
+        constexpr qint64 AllDigits = 1'000'000'000;
+        const bool isWholeAmount = value.storage == Storage::Integer && kind == ColumnKind::Number &&
+                                   -AllDigits < value.integer && value.integer < AllDigits;
+        return isWholeAmount || comesBack(value, *text, kind);
     }
 };
 

@@ -94,14 +94,27 @@ bool isSame(const StoredValue& one, const StoredValue& other) {
     return one.storage == other.storage && one.integer == other.integer && one.bytes == other.bytes;
 }
 
+/// Whether a text is a day as the store writes it, of a year from 1000 on: others may read as other days. A day that
+/// every month has needs no calendar.
+bool isPlainDay(QByteArrayView iso) {
+    const auto number = [iso](qsizetype at) {
+        const int tens = iso[at] - '0', ones = iso[at + 1] - '0';
+        return tens < 0 || tens > 9 || ones < 0 || ones > 9 ? -1 : tens * 10 + ones;
+    };
+    if (iso.size() != 10 || iso[4] != '-' || iso[7] != '-' || number(0) < 10 || number(2) < 0)
+        return false;
+    const int month = number(5), day = number(8);
+    return month >= 1 && month <= 12 && day >= 1 && (day <= 28 || textOfIsoDay(iso));
+}
+
 /// What nearly all values of a book are, told without writing them once more.
 bool isOrdinary(const StoredValue& stored, const QString& text, ColumnKind kind) {
     switch (stored.storage) {
     case Storage::Null:
         return true;
     case Storage::Text:
-        if (kind == ColumnKind::Date) // years before 1000 may read as others
-            return !stored.bytes.startsWith('0') && textOfIsoDay(stored.bytes);
+        if (kind == ColumnKind::Date)
+            return isPlainDay(stored.bytes);
         return kind == ColumnKind::Text && isPlainText(stored, text);
     case Storage::Integer:
         return kind == ColumnKind::Number && -BeyondDigits < stored.integer && stored.integer < BeyondDigits;
