@@ -23,26 +23,34 @@ PictureBytes pictureOf(const StoredPicture& picture, Recordset& row) {
 }
 
 /// What cannot be shown, be it no picture or too large a one, counts as none where nobody has just asked for it: its
-/// users get in, whatever lies in the book.
+/// users get in, whatever lies in the book. `why` tells of it, until something does so already.
 template<class Show>
-QImage orNone(const Show& show) {
+QImage orNone(const Show& show, QString& why) {
     try {
         return show();
     } catch (const RuntimeError& error) {
         if (error.number() != RuntimeError::InvalidPicture)
             throw;
+        if (why.isEmpty())
+            why = error.text();
         return {};
     }
 }
 
 /// From the row on which the set stands.
-QImage firstThatCanBeShown(const StoredPicture& picture, Recordset& rows, const Shared& shared, const QWidget& place) {
+QImage firstThatCanBeShown(const StoredPicture& picture, Recordset& rows, const Shared& shared, const QWidget& place,
+                           QString& why) {
     for (; !rows.eof(); rows.moveNext()) {
         const auto show = [&] { return writeOut(picture, pictureOf(picture, rows).bytes, shared, place); };
-        if (const QImage image = orNone(show); !image.isNull())
+        if (const QImage image = orNone(show, why); !image.isNull())
             return image;
     }
     return {};
+}
+
+void tellOf(const QString& why, Shared& shared) {
+    if (!why.isEmpty())
+        shared.note(u"有图片不能显示，请指这里看原因。\n"_s + why);
 }
 
 } // namespace
@@ -60,19 +68,26 @@ QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Sha
     return image;
 }
 
-QImage writeOut(const StoredPicture& picture, Adodc& control, const Shared& shared, const QWidget& place) {
+QImage writeOut(const StoredPicture& picture, Adodc& control, Shared& shared, const QWidget& place) {
     const QByteArray first = readPicture(picture, control).bytes;
-    if (const QImage image = orNone([&] { return writeOut(picture, first, shared, place); }); !image.isNull())
-        return image;
-    control.recordset().moveNext();
-    return firstThatCanBeShown(picture, control.recordset(), shared, place);
+    QString why;
+    QImage image = orNone([&] { return writeOut(picture, first, shared, place); }, why);
+    if (image.isNull()) {
+        control.recordset().moveNext();
+        image = firstThatCanBeShown(picture, control.recordset(), shared, place, why);
+    }
+    tellOf(why, shared);
+    return image;
 }
 
-QImage writeOutSkin(Adodc& control, const Shared& shared, const QWidget& place) {
+QImage writeOutSkin(Adodc& control, Shared& shared, const QWidget& place) {
     const QByteArray chosen = readPicture(ChosenSkin, control).bytes;
-    if (const QImage image = orNone([&] { return writeOut(ChosenSkin, chosen, shared, place); }); !image.isNull())
-        return image;
-    return firstThatCanBeShown(OfferedSkins, control.open(OfferedSkins.source.toString()), shared, place);
+    QString why;
+    QImage image = orNone([&] { return writeOut(ChosenSkin, chosen, shared, place); }, why);
+    if (image.isNull())
+        image = firstThatCanBeShown(OfferedSkins, control.open(OfferedSkins.source.toString()), shared, place, why);
+    tellOf(why, shared);
+    return image;
 }
 
 } // namespace qinghe

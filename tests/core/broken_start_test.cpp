@@ -168,8 +168,10 @@ TEST_F(BrokenStart, APictureThatIsNoneLocksNobodyOutAndIsNotWritten) {
     rig.signIn();
     EXPECT_TRUE(rig.messages->errors.empty());
     EXPECT_TRUE(main().isVisible());
-    for (const QStringView picture : {u"pf.jpg", u"zjm.jpg", u"dlpf.jpg"})
+    for (const QStringView picture : {u"pf.jpg", u"zjm.jpg", u"dlpf.jpg"}) {
         EXPECT_FALSE(folder().contains(picture.toString()));
+        EXPECT_TRUE(shared().notes.join(u'\n').contains(picture)) << "it is told why";
+    }
 }
 
 TEST_F(BrokenStart, PicturesAreNotWrittenThroughLinksAndStaysOfPipesAreCleared) {
