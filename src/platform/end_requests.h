@@ -9,8 +9,8 @@ namespace qinghe {
 
 /// The system's own ways of asking a program to end: the log-out, the closed terminal, the machine's shutdown. While it
 /// lives each of them calls `asked` from the event loop, in the loop of a message box too, and so never in the midst of
-/// a handler's work; asking again hurries nothing. What the process was told to ignore when it was started (as by nohup)
-/// stays ignored. One at a time.
+/// a handler's work; asking again hurries nothing. What the process was told to ignore when it was started (as by
+/// nohup) stays ignored. One at a time.
 class EndRequests {
 public:
     explicit EndRequests(std::function<void()> asked);
