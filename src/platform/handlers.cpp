@@ -85,7 +85,7 @@ void fail(const RuntimeError& error) {
 /// A fault of the program itself; `trace` says which, to whoever is asked for help.
 RuntimeError internalError(const char* trace) {
     return RuntimeError(RuntimeError::InternalError,
-                        u"程序内部出错，无法继续。出错以前的改动已经保存。请重新启动程序，核对刚才的记录；"
+                        u"程序内部出错，无法继续。请重新启动程序，核对刚才的记录；"
                         "如果再次出现，请先备份账本（复制 data.dll），再把下面这行文字告诉维护程序的人。\r\n%1"_s.arg(
                             QString::fromUtf8(trace)));
 }

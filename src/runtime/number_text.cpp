@@ -32,12 +32,18 @@ QString generalText(Number value, int digits) {
     return QString::fromLatin1(text.data(), end.ptr - text.data()).toUpper();
 }
 
+/// Rounded, of a number whose hundredths have room. Long lists ask this of every amount: no call to a library.
+std::int64_t hundredthsOf(double value) {
+    constexpr double Half = 0.5;
+    return static_cast<std::int64_t>(value * 100 + (value < 0 ? -Half : Half));
+}
+
 /// The same text for a double that is a whole number of hundredths, as amounts are; they need no search for digits.
 /// A decimal of at most 15 digits that reads as the double is its text. Nothing for others.
 std::optional<QString> amountText(double value) {
     if (!isAmount(value))
         return std::nullopt;
-    const double hundredths = std::nearbyint(value * 100);
+    const std::int64_t hundredths = hundredthsOf(value);
     NumberBuffer text;
     char* const end = text.data() + text.size();
     char* at = end;
@@ -194,7 +200,7 @@ QString withoutBlanks(const QString& text) {
 
 bool isAmount(double value) {
     constexpr double Most = 1e13;
-    return std::abs(value) < Most && std::nearbyint(value * 100) / 100 == value;
+    return std::abs(value) < Most && static_cast<double>(hundredthsOf(value)) / 100 == value;
 }
 
 QString numberText(double value) {

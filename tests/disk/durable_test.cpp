@@ -41,5 +41,11 @@ TEST_F(AReservedFile, IsAsItWasWhenThereIsNoRoom) {
     EXPECT_EQ(content(), "abc");
 }
 
+TEST(Names, CountAsDurableWhereFoldersCannotBeSynced) {
+    const QTemporaryDir dir;
+    EXPECT_TRUE(makeNamesDurable(dir.path()));
+    EXPECT_TRUE(makeNamesDurable(u"/proc/self"_s)); // answers that it cannot
+}
+
 } // namespace
 } // namespace qinghe::testing
