@@ -48,7 +48,7 @@ QString aboutCopy(const SafetyCopy& copy) {
 }
 
 QString aboutDamage(const QString& book) {
-    QString text = u"账本文件有损坏，请指这里看怎么办。\n今天检查账本时发现：损坏的是账本文件本身，不是副本。\n"
+    QString text = u"账本文件有损坏，鼠标停在这里看怎么办。\n今天检查账本时发现：损坏的是账本文件本身，不是副本。\n"
                    u"还能看到的内容，请先用“设置”页的“系统数据备份”留一份，或者抄下来。\n"_s;
     const QStringList copies = copiesOf(book);
     if (copies.isEmpty())
@@ -102,8 +102,8 @@ void SafetyCopies::tellOnce(const QString& why) {
     if (std::exchange(m_toldNone, true))
         return;
     m_shared.note(
-        u"今天没有做成安全副本，请指这里看原因。\n%1\n安全副本的文件夹是：\n%2\n不影响记账；请自己做一次备份。"_s.arg(
-            why, QDir::toNativeSeparators(safetyFolderOf(m_shared.dataFile()))));
+        u"今天没有做成安全副本，鼠标停在这里看原因。\n%1\n安全副本的文件夹是：\n%2\n不影响记账；请自己做一次备份。"_s
+            .arg(why, QDir::toNativeSeparators(safetyFolderOf(m_shared.dataFile()))));
 }
 
 void SafetyCopies::breakOff() {
@@ -125,10 +125,10 @@ void SafetyCopies::keepBefore(Occasion occasion, Label& label, const QString& sp
     try {
         const SafetyCopy copy = keepCopy(book, {now, rowOf(occasion).name.toString()}, IfDamaged::Keep);
         removeOutdatedCopies(book, now.date(), spared);
-        label.setCaption(u"已留安全副本，指这里看怎么恢复。"_s);
+        label.setCaption(u"已留安全副本，鼠标停在这里看怎么恢复。"_s);
         label.setToolTip(aboutCopy(copy));
     } catch (const RuntimeError& error) {
-        label.setCaption(u"没有做成安全副本，指这里看原因。"_s);
+        label.setCaption(u"没有做成安全副本，鼠标停在这里看原因。"_s);
         label.setToolTip(error.text());
         tellOnce(error.text());
     }

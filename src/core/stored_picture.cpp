@@ -50,7 +50,7 @@ QImage firstThatCanBeShown(const StoredPicture& picture, Recordset& rows, const 
 
 void tellOf(const QString& why, Shared& shared) {
     if (!why.isEmpty())
-        shared.note(u"有图片不能显示，请指这里看原因。\n"_s + why);
+        shared.note(u"有图片不能显示，鼠标停在这里看原因。\n"_s + why);
 }
 
 } // namespace

@@ -99,6 +99,12 @@ QString setAside(const QString& path, const QString& book, const QDateTime& now)
                        u"请把它移到别处，再启动程序。"_s.arg(QDir::toNativeSeparators(path)));
 }
 
+/// The first line is what the main window has room for.
+QString movedAway(const QString& path, const QString& what, const QString& to) {
+    return u"账本旁边有不属于它的文件，已经移开，鼠标停在这里看。\n%1 %2，没有使用，已经移到：\n%3"_s.arg(
+        QFileInfo(path).fileName(), what, QDir::toNativeSeparators(to));
+}
+
 QString settleJournal(const QString& journal, const QString& book, const QDateTime& now) {
     switch (judgeJournal(journal, book)) {
     case JournalKind::Missing:
@@ -106,22 +112,20 @@ QString settleJournal(const QString& journal, const QString& book, const QDateTi
         return {};
     case JournalKind::Own: {
         const QString copy = keepBoth(book, journal, now);
-        const QString told = u"上次有一次保存没有做完，账本回到了那次保存以前的样子。"_s;
-        return copy.isEmpty() ? told : told + u"撤销以前的文件留在：%1"_s.arg(QDir::toNativeSeparators(copy));
+        const QString told = u"上次有一次保存没有做完，已经撤销，鼠标停在这里看。\n账本回到了那次保存以前的样子。"_s;
+        return copy.isEmpty() ? told : told + u"撤销以前的文件留在：\n%1"_s.arg(QDir::toNativeSeparators(copy));
     }
     case JournalKind::Foreign:
         break;
     }
-    return u"账本旁边有一个不属于它的 %1（例如换上备份以前留下的），没有使用，已经移到：%2"_s.arg(
-        QFileInfo(journal).fileName(), QDir::toNativeSeparators(setAside(journal, book, now)));
+    return movedAway(journal, u"不属于这个账本（例如换上备份以前留下的）"_s, setAside(journal, book, now));
 }
 
 /// The records in such a log are of a file that was switched to it, as its head would say.
 QString settleLog(const QString& log, const QString& book, const QDateTime& now) {
     if (kindOf(log) == FileKind::Missing || headOf(book).isSwitchedToLog)
         return {};
-    return u"账本旁边有一个别的程序留下的 %1，没有使用，已经移到：%2"_s.arg(
-        QFileInfo(log).fileName(), QDir::toNativeSeparators(setAside(log, book, now)));
+    return movedAway(log, u"是别的程序留下的"_s, setAside(log, book, now));
 }
 
 } // namespace

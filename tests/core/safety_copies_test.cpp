@@ -106,7 +106,7 @@ TEST_F(SafetyCopiesTest, WhereNoneCanBeMadeTheWorkGoesOnAndTheWindowSaysSoOnce) 
     QTest::mouseClick(&rig.at(settings::Initialise), Qt::LeftButton, {}, {8, 8});
     EXPECT_EQ(texts().back(), u"初始化完毕"_s);
     EXPECT_EQ(shared().notes.size(), 1);
-    EXPECT_NE(note(rig.at(settings::Page), u"没有做成安全副本，指这里看原因"_s), nullptr);
+    EXPECT_NE(note(rig.at(settings::Page), u"没有做成安全副本，鼠标停在这里看原因"_s), nullptr);
     rig.click(rig.at(title::Close));
     expectEndedWell();
 }

@@ -26,7 +26,7 @@ protected:
     static void expectTells(const Form& window, const QString& path) {
         const Label* label = teller(window);
         ASSERT_NE(label, nullptr);
-        EXPECT_EQ(label->Caption(), u"已留安全副本，指这里看怎么恢复。"_s);
+        EXPECT_EQ(label->Caption(), u"已留安全副本，鼠标停在这里看怎么恢复。"_s);
         EXPECT_TRUE(label->toolTip().startsWith(path)) << label->toolTip().toStdString();
         EXPECT_TRUE(label->toolTip().contains(u"系统数据还原"_s));
     }

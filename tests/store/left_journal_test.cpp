@@ -119,7 +119,8 @@ TEST_F(LeftJournal, ThatMayNotBeReadIsNotJudged) {
 TEST_F(LeftJournal, IsPlayedBackWhereNoCopyCanBeKept) {
     ASSERT_NO_FATAL_FAILURE(breakOff());
     put(safetyFolderOf(path()), "a file in the way");
-    EXPECT_EQ(settled(), QStringList{u"上次有一次保存没有做完，账本回到了那次保存以前的样子。"_s});
+    EXPECT_EQ(settled(),
+              QStringList{u"上次有一次保存没有做完，已经撤销，鼠标停在这里看。\n账本回到了那次保存以前的样子。"_s});
     EXPECT_EQ(markOfTable(control, Rows), u"旧"_s);
 }
 
