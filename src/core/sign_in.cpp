@@ -150,7 +150,9 @@ void SignIn::Form5_Label1_Click() {
         return refuseUnknownName();
     if (users.field(columns::UserPassword).text() != Text2->Text())
         return refuseWrongPassword();
-    rememberPair();
+    if (!m_shared.store.tryToWrite([this] { rememberPair(); })) // the book can be looked at all the same
+        m_shared.note(u"磁盘已满，现在只能查看，鼠标停在这里看怎么办。\n"
+                      "“记住用户名和密码”没有写进账本，新的内容也写不进去。请先腾出空间，再记账。"_s);
     m_shared.forms.get(names::Main);
     unload();
 }

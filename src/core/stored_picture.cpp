@@ -37,11 +37,29 @@ QImage orNone(const Show& show, QString& why) {
     }
 }
 
+QImage loaded(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place) {
+    return bytes.isEmpty() ? QImage() : pictureFrom(bytes, place.size(), shared.beside(picture.file.toString()));
+}
+
+/// On a full disk a picture is shown from the book alone.
+QImage writeOutWhereThereIsRoom(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared,
+                                const QWidget& place) {
+    try {
+        return writeOut(picture, bytes, shared, place);
+    } catch (const RuntimeError& error) {
+        if (error.number() != RuntimeError::DiskFull)
+            throw;
+        return loaded(picture, bytes, shared, place);
+    }
+}
+
 /// From the row on which the set stands.
 QImage firstThatCanBeShown(const StoredPicture& picture, Recordset& rows, const Shared& shared, const QWidget& place,
                            QString& why) {
     for (; !rows.eof(); rows.moveNext()) {
-        const auto show = [&] { return writeOut(picture, pictureOf(picture, rows).bytes, shared, place); };
+        const auto show = [&] {
+            return writeOutWhereThereIsRoom(picture, pictureOf(picture, rows).bytes, shared, place);
+        };
         if (const QImage image = orNone(show, why); !image.isNull())
             return image;
     }
@@ -60,18 +78,16 @@ PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QSt
 }
 
 QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place) {
-    if (bytes.isEmpty())
-        return {};
-    const QString path = shared.beside(picture.file.toString());
-    const QImage image = pictureFrom(bytes, place.size(), path); // what is no picture is not written
-    files::writeOver(path, bytes);
+    const QImage image = loaded(picture, bytes, shared, place); // what is no picture is not written
+    if (!image.isNull())
+        files::writeOver(shared.beside(picture.file.toString()), bytes);
     return image;
 }
 
 QImage writeOut(const StoredPicture& picture, Adodc& control, Shared& shared, const QWidget& place) {
     const QByteArray first = readPicture(picture, control).bytes;
     QString why;
-    QImage image = orNone([&] { return writeOut(picture, first, shared, place); }, why);
+    QImage image = orNone([&] { return writeOutWhereThereIsRoom(picture, first, shared, place); }, why);
     if (image.isNull()) {
         control.recordset().moveNext();
         image = firstThatCanBeShown(picture, control.recordset(), shared, place, why);
@@ -83,7 +99,7 @@ QImage writeOut(const StoredPicture& picture, Adodc& control, Shared& shared, co
 QImage writeOutSkin(Adodc& control, Shared& shared, const QWidget& place) {
     const QByteArray chosen = readPicture(ChosenSkin, control).bytes;
     QString why;
-    QImage image = orNone([&] { return writeOut(ChosenSkin, chosen, shared, place); }, why);
+    QImage image = orNone([&] { return writeOutWhereThereIsRoom(ChosenSkin, chosen, shared, place); }, why);
     if (image.isNull())
         image = firstThatCanBeShown(OfferedSkins, control.open(OfferedSkins.source.toString()), shared, place, why);
     tellOf(why, shared);

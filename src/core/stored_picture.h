@@ -34,8 +34,8 @@ PictureBytes readPicture(const StoredPicture& picture, Adodc& control, const QSt
 /// Throws RuntimeError: not writable, no picture.
 QImage writeOut(const StoredPicture& picture, const QByteArray& bytes, const Shared& shared, const QWidget& place);
 /// Both, for the first row that can be shown; the image is null where none can. One that cannot be shown is noted for
-/// the main window to tell. Throws RuntimeError: no row at all, the size in the first is none that a picture has, not
-/// writable.
+/// the main window to tell; on a full disk it is shown all the same. Throws RuntimeError: no row at all, the size in
+/// the first is none that a picture has, not writable.
 QImage writeOut(const StoredPicture& picture, Adodc& control, Shared& shared, const QWidget& place);
 /// The main window's picture: the chosen skin; where that cannot be shown the first of the skins on offer that can, so
 /// that nobody is locked out by a choice; else a null image. Throws likewise.

@@ -1,5 +1,6 @@
 #include "core_fixture.h"
 #include "disk/plain_file.h"
+#include "support/small_disk.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -206,6 +207,21 @@ TEST_F(BrokenStart, APictureOfTheMainWindowThatCannotBeWrittenIsTold) {
         unblock(name);
         expectNextStartGood();
     }
+}
+
+TEST_F(BrokenStart, AFullDiskKeepsNobodyOut) {
+    {
+        const SmallDisk disk(100);
+        rig.signIn();
+        EXPECT_TRUE(rig.messages->errors.empty());
+        EXPECT_TRUE(main().isVisible());
+        EXPECT_FALSE(main().picture().isNull());
+        ASSERT_FALSE(shared().notes.isEmpty());
+        EXPECT_TRUE(shared().notes.front().startsWith(u"磁盘已满"_s));
+        EXPECT_FALSE(shared().store.hasUndone());
+        rig.stop();
+    }
+    expectNextStartGood();
 }
 
 TEST_F(BrokenStart, AFileInPlaceOfTheDiaryFolderIsToldAndKept) {
