@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <cstring>
 #include <filesystem>
 
 namespace qinghe {
@@ -37,18 +36,37 @@ void makeWhole(const QString& path, const QString& wanted, const std::function<v
 
 } // namespace
 
-void writeWhole(QFile& file, const QByteArray& bytes, const QString& shown) {
-    const QString name = shown.isEmpty() ? file.fileName() : shown;
+bool writeBytes(QFile& file, const QByteArray& bytes) {
     qint64 written = 0;
     while (written < bytes.size()) { // a disk takes what still fits before it says that it is full
         const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
-        if (taken > 0)
-            written += taken;
-        else if (isOutOfRoom())
-            fail(RuntimeError::DiskFull, name, u"磁盘已满，请腾出空间后再试"_s);
-        else
-            fail(RuntimeError::PathFileAccess, name, file.errorString());
+        if (taken <= 0)
+            return false;
+        written += taken;
     }
+    return true;
+}
+
+void writeWhole(QFile& file, const QByteArray& bytes, const QString& shown) {
+    if (writeBytes(file, bytes))
+        return;
+    const bool isFull = isOutOfRoom(); // before anything else is asked of the system
+    fail(isFull ? RuntimeError::DiskFull : RuntimeError::PathFileAccess, shown.isEmpty() ? file.fileName() : shown,
+         isFull ? u"磁盘已满，请腾出空间后再试"_s : file.errorString());
+}
+
+void writeWholeFile(QFile& file, const QString& source) {
+    constexpr qint64 PieceSize = 1 << 18;
+    const auto failReading = [&source](int number, const QString& why) {
+        throw RuntimeError(number, u"不能读取文件“%1”：%2。"_s.arg(QDir::toNativeSeparators(source), why));
+    };
+    PlainFile opened(source, Links::Follow);
+    if (!opened.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        failReading(RuntimeError::PathFileAccess, opened.objection());
+    for (QByteArray piece = opened.read(PieceSize); !piece.isEmpty(); piece = opened.read(PieceSize))
+        writeWhole(file, piece);
+    if (opened.error() != QFile::NoError)
+        failReading(RuntimeError::DeviceFailure, opened.errorString());
 }
 
 void replaceFile(const QString& path, const std::function<void(QFile&)>& fill) {

@@ -20,8 +20,16 @@ void replaceFile(const QString& path, const QByteArray& bytes);
 /// The pattern of the names under which files lie that are not whole yet; see replaceFile.
 inline constexpr QStringView UnfinishedFiles = u".unfinished-*";
 
+/// Writes all bytes at the file's place. False when it has not taken them all; isOutOfRoom tells right after whether
+/// for want of room.
+bool writeBytes(QFile& file, const QByteArray& bytes);
+
 /// Writes all bytes at the file's place. Throws RuntimeError with the file's name in its text, or the one that it shall
 /// bear: DiskFull, PathFileAccess.
 void writeWhole(QFile& file, const QByteArray& bytes, const QString& shown = {});
+
+/// Writes the whole of a file at the place of another. The source is a plain file, or what a link leads to. Throws
+/// RuntimeError: PathFileAccess, DeviceFailure (reading failed), DiskFull.
+void writeWholeFile(QFile& file, const QString& source);
 
 } // namespace qinghe

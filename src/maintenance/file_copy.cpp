@@ -1,6 +1,7 @@
 #include "maintenance/file_copy.h"
 
 #include "disk/durable.h"
+#include "disk/replace_file.h"
 #include "platform/files.h"
 #include "runtime/runtime_error.h"
 
@@ -109,16 +110,10 @@ QByteArray FileCopy::nextPiece() {
 }
 
 void FileCopy::append(const QByteArray& piece) {
-    qint64 written = 0;
-    while (written < piece.size()) { // a disk takes what still fits before it says that it is full
-        const qint64 taken = m_target.write(piece.constData() + written, piece.size() - written);
-        if (taken > 0)
-            written += taken;
-        else if (isOutOfRoom())
-            breakOff(RuntimeError::DiskFull, u"磁盘已满"_s);
-        else
-            breakOff(RuntimeError::PathFileAccess, u"写入时出错"_s);
-    }
+    if (writeBytes(m_target, piece))
+        return;
+    isOutOfRoom() ? breakOff(RuntimeError::DiskFull, u"磁盘已满"_s)
+                  : breakOff(RuntimeError::PathFileAccess, u"写入时出错"_s);
 }
 
 void FileCopy::breakOff(int number, const QString& reason) const {

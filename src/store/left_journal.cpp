@@ -41,17 +41,6 @@ bool isBeingWritten(const QString& book) {
     return isWritten != 0;
 }
 
-void copyInto(QFile& target, const QString& source) {
-    constexpr qint64 PieceSize = 1 << 20;
-    PlainFile file(source, Links::Follow);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        throw RuntimeError(RuntimeError::PathFileAccess, file.objection());
-    for (QByteArray piece = file.read(PieceSize); !piece.isEmpty(); piece = file.read(PieceSize))
-        writeWhole(target, piece);
-    if (file.error() != QFile::NoError)
-        throw RuntimeError(RuntimeError::DeviceFailure, file.errorString());
-}
-
 /// Both as they lie there. The book's copy is a backup file like any other, with its last byte twice; it is what one
 /// wants back when the journal was not the book's after all, so that the journal's copy must not be found beside it.
 /// Gives the name of the book's copy; empty when none could be made.
@@ -61,9 +50,9 @@ QString keepBoth(const QString& book, const QString& journal, const QDateTime& n
         readySafetyFolder(book);
         const QString copy = nameInSafety(book, now, occasion, u".dat"_s);
         replaceFile(nameInSafety(book, now, occasion, JournalEnding.toString()),
-                    [&journal](QFile& target) { copyInto(target, journal); });
+                    [&journal](QFile& target) { writeWholeFile(target, journal); });
         replaceFile(copy, [&book](QFile& target) {
-            copyInto(target, book);
+            writeWholeFile(target, book);
             PlainFile source(book, Links::Follow);
             if (source.open(QIODevice::ReadOnly) && source.seek(source.size() - 1))
                 writeWhole(target, source.read(1));

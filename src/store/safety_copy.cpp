@@ -28,11 +28,6 @@ using Fill = std::function<void(QFile& copy)>;
     throw RuntimeError(RuntimeError::PathFileAccess, u"“%1”%2。"_s.arg(QDir::toNativeSeparators(path), why));
 }
 
-void openPlain(PlainFile& file, QIODevice::OpenMode mode) {
-    if (!file.open(mode))
-        refuse(file.fileName(), u"不能使用：%1"_s.arg(file.objection()));
-}
-
 /// Holds the file still while it lives, and knows whether somebody has written since the last time.
 class ReadLock {
 public:
@@ -73,13 +68,6 @@ void readInPieces(const QString& book, QFile& copy, const std::stop_token& stop)
     healHeader(copy.fileName()); // SQLite was shown its own
 }
 
-void readAsItIs(const QString& book, QFile& copy) {
-    PlainFile source(book, Links::Follow); // its owner may have laid it elsewhere
-    openPlain(source, QIODevice::ReadOnly | QIODevice::Unbuffered);
-    for (QByteArray piece = source.read(PieceSize); !piece.isEmpty(); piece = source.read(PieceSize))
-        writeWhole(copy, piece);
-}
-
 /// The file as it lies on the disk and, where some of the work has reached it, the journal that leads back.
 void readBeforeWork(const Store& store, QFile& copy) {
     store.heldFile().copyTo(copy);
@@ -88,7 +76,8 @@ void readBeforeWork(const Store& store, QFile& copy) {
     if (!journal.isOpen())
         return;
     PlainFile beside(journalOf(copy.fileName()));
-    openPlain(beside, QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
+    if (!beside.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        refuse(beside.fileName(), u"不能使用：%1"_s.arg(beside.objection()));
     journal.copyTo(beside);
 }
 
@@ -134,9 +123,9 @@ bool isDamage(const RuntimeError& error) {
 SafetyCopy keepCopy(const QString& book, const SafetyStamp& stamp, IfDamaged damaged, const std::stop_token& stop) {
     const bool mayPassSqlite = damaged == IfDamaged::Keep;
     const Fill inPieces = [&](QFile& copy) { readInPieces(book, copy, stop); };
-    const Fill asItIs = [&](QFile& copy) { readAsItIs(book, copy); };
+    const Fill asItIs = [&](QFile& copy) { writeWholeFile(copy, book); };
     const Fill healed = [&](QFile& copy) {
-        readAsItIs(book, copy);
+        asItIs(copy);
         healHeader(copy.fileName());
     };
     requireRoom(book);

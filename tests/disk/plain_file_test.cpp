@@ -1,9 +1,6 @@
 #include "disk/plain_file.h"
+#include "support/folder_test.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -12,24 +9,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class APlainFile : public ::testing::Test {
-protected:
-    QString at(const QString& name) const { return dir.filePath(name); }
-    void make(const QString& name, const QByteArray& bytes) const {
-        QFile file(at(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray bytes(const QString& name) const {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
-
-    QTemporaryDir dir;
-};
+class APlainFile : public FolderTest {};
 
 TEST_F(APlainFile, IsReadAndWrittenLikeAnyOther) {
-    make(u"a"_s, "old content");
+    write(u"a"_s, "old content");
     PlainFile file(at(u"a"_s));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     EXPECT_EQ(file.fileName(), at(u"a"_s));
@@ -56,7 +39,7 @@ TEST_F(APlainFile, IsMadeForItsOwnerAlone) {
 }
 
 TEST_F(APlainFile, IsNoLinkAndWhatItLeadsToStays) {
-    make(u"precious"_s, "kept");
+    write(u"precious"_s, "kept");
     QFile::link(at(u"precious"_s), at(u"link"_s));
     EXPECT_EQ(kindOf(at(u"link"_s)), FileKind::Link);
     for (const auto mode : {QIODevice::ReadOnly, QIODevice::WriteOnly, QIODevice::ReadWrite}) {
@@ -83,7 +66,7 @@ TEST_F(APlainFile, IsNoPipeNoDeviceAndNoFolder) {
 }
 
 TEST_F(APlainFile, WithASecondNameIsTold) {
-    make(u"one"_s, "x");
+    write(u"one"_s, "x");
     EXPECT_EQ(kindOf(at(u"one"_s)), FileKind::Plain);
     ASSERT_EQ(::link(QFile::encodeName(at(u"one"_s)).constData(), QFile::encodeName(at(u"two"_s)).constData()), 0);
     EXPECT_EQ(kindOf(at(u"one"_s)), FileKind::Shared);
@@ -105,7 +88,7 @@ TEST_F(APlainFile, IsClosedToOthersAndWhatIsNotOursStaysAsItIs) {
         chmod(QFile::encodeName(at(name)).constData(), rights);
     };
     for (const QString& name : {u"own"_s, u"precious"_s, u"one"_s, u"others"_s})
-        make(name, "x");
+        write(name, "x");
     QDir(dir.path()).mkdir(u"folder"_s);
     QFile::link(at(u"precious"_s), at(u"link"_s));
     ASSERT_EQ(::link(QFile::encodeName(at(u"one"_s)).constData(), QFile::encodeName(at(u"two"_s)).constData()), 0);

@@ -1,12 +1,8 @@
 #include "disk/replace_file.h"
 #include "runtime/runtime_error.h"
+#include "support/folder_test.h"
 #include "support/small_disk.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace qinghe::testing {
@@ -14,13 +10,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class AReplacedFile : public ::testing::Test {
+class AReplacedFile : public FolderTest {
 protected:
-    QString at(const QString& name) const { return dir.filePath(name); }
-    QByteArray bytes(const QString& name) const {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
     QStringList names() const {
         return QDir(dir.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
@@ -33,8 +24,6 @@ protected:
         }
         return 0;
     }
-
-    QTemporaryDir dir;
 };
 
 TEST_F(AReplacedFile, IsWholeForItsOwnerAloneAndLeavesNothingBesideIt) {
@@ -111,6 +100,21 @@ TEST_F(AReplacedFile, ClearsAwayWhatAKilledAttemptLeft) {
     replaceFile(at(u"a"_s), "whole");
     EXPECT_EQ(bytes(u"a"_s), "whole");
     EXPECT_EQ(names(), QStringList{u"a"_s});
+}
+
+TEST_F(AReplacedFile, TakesTheWholeOfAnotherThatIsAPlainOneOrLeadsToOne) {
+    const QByteArray content = QByteArray("0123456789").repeated(100'000); // many pieces
+    write(u"book"_s, content);
+    QFile::link(at(u"book"_s), at(u"link"_s));
+    for (const QString& source : {u"book"_s, u"link"_s}) {
+        replaceFile(at(u"a"_s), [&](QFile& file) { writeWholeFile(file, at(source)); });
+        EXPECT_EQ(bytes(u"a"_s), content);
+    }
+    ASSERT_EQ(mkfifo(QFile::encodeName(at(u"pipe"_s)).constData(), 0600), 0);
+    for (const QString& source : {u"none"_s, u"pipe"_s})
+        EXPECT_EQ(errorOf([&] { replaceFile(at(u"a"_s), [&](QFile& file) { writeWholeFile(file, at(source)); }); }),
+                  RuntimeError::PathFileAccess);
+    EXPECT_EQ(bytes(u"a"_s), content);
 }
 
 } // namespace

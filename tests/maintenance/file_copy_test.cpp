@@ -1,13 +1,10 @@
 #include "maintenance/file_copy.h"
 #include "qt_printing.h"
 #include "runtime/runtime_error.h"
+#include "support/folder_test.h"
 #include "support/ordinary_user.h"
 #include "support/small_disk.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -16,18 +13,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class FileCopyTest : public ::testing::Test {
+class FileCopyTest : public FolderTest {
 protected:
-    QString at(const QString& name) const { return dir.filePath(name); }
-    void write(const QString& name, const QByteArray& bytes) const {
-        QFile file(at(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray bytes(const QString& name) const {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
     /// The number and the text of the run-time error that the copying ends in.
     std::pair<int, QString> copy(const QString& source, const QString& target) {
         try {
@@ -48,7 +35,6 @@ protected:
         ASSERT_EQ(make(QFile::encodeName(at(target)).constData(), QFile::encodeName(at(name)).constData()), 0);
     }
 
-    QTemporaryDir dir;
     std::vector<qint64> heard;
 };
 
