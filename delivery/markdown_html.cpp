@@ -56,11 +56,11 @@ private:
         if (kind == Kind::Commands)
             m_html += block.text().toHtmlEscaped() + u'\n';
         else if (kind != Kind::None)
-            m_html += u"<li>"_s + words + u"</li>\n"_s;
+            m_html += u"<li>&nbsp;"_s + words + u"</li>\n"_s; // Qt sets the mark too close
         else if (block.blockFormat().headingLevel() > 0)
             m_html += u"<h2><a name=\"%1\"></a>%2</h2>\n"_s.arg(anchorOf(block.text()), block.text().toHtmlEscaped());
         else
-            m_html += u"<p>"_s + words + u"</p>\n"_s;
+            m_html += (words.startsWith(u"<img"_s) ? u"<p class=\"picture\">"_s : u"<p>"_s) + words + u"</p>\n"_s;
     }
 
     void add(const QTextTable& table) {
