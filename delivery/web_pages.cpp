@@ -73,10 +73,10 @@ QByteArray htmlPage(std::size_t number, const std::vector<ManualPage>& pages) {
         .widthOf = [](const QString& file) { return std::min(QImage(u":/manual/"_s + file).width(), WidestPicture); },
     };
     return QString::fromUtf8(contentOf(u":/web/manual_page.htm"_s))
-        .replace(u"{title}"_s, pages[number].title)
-        .replace(u"{place}"_s, number == 0 ? u"使用说明"_s : u"使用说明 %1 / %2"_s.arg(number).arg(pages.size() - 1))
-        .replace(u"{ways}"_s, waysFrom(number, pages))
-        .replace(u"{text}"_s, htmlOf(pages[number].markdown, page))
+        .replace(u"@TITLE@"_s, pages[number].title)
+        .replace(u"@PLACE@"_s, number == 0 ? u"使用说明"_s : u"使用说明 %1 / %2"_s.arg(number).arg(pages.size() - 1))
+        .replace(u"@WAYS@"_s, waysFrom(number, pages))
+        .replace(u"@TEXT@"_s, htmlOf(pages[number].markdown, page))
         .toUtf8();
 }
 
