@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTextBlock>
 
 #include <sys/stat.h>
 
@@ -64,6 +65,15 @@ TEST_F(WebBrowserTest, WhatLeadsOutOfTheFolderByALinkOrIsNoPlainFileIsNotShown) 
     EXPECT_EQ(left.size(), 4);
     browser.navigate(page(u"link.htm"_s));
     EXPECT_FALSE(browser.toPlainText().contains(u"secret"_s));
+}
+
+TEST_F(WebBrowserTest, FollowsALinkToAPlaceInsideAPage) {
+    write(u"long.htm"_s, QByteArray("<p>行</p>").repeated(200) + "<h2><a name='末段-2'></a>末段</h2>" +
+                             QByteArray("<p>行</p>").repeated(200));
+    browser.resize(400, 200);
+    browser.show();
+    emit browser.anchorClicked(QUrl(u"long.htm#末段-2"_s));
+    EXPECT_EQ(browser.cursorForPosition(QPoint(100, 20)).block().text(), u"末段"_s);
 }
 
 TEST_F(WebBrowserTest, APictureThatIsShownSmallerIsSmooth) {

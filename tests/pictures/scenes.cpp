@@ -64,6 +64,7 @@ void calculator(Program& program) {
 void unsaved(Program& program) {
     show(program, pages::Expense);
     fillCell(program, income::Grid, 2, 3, "买米");
+    fillCell(program, income::Grid, 6, 2, "6月35日"); // which no save takes
     program.clickCell(income::Grid, 4, 5);
     reckon(program, "96.5");
     program.clickCell(income::Grid, 3, 7);
