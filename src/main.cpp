@@ -4,7 +4,6 @@
 #include "platform/end_requests.h"
 #include "platform/fitted_application.h"
 #include "platform/private_files.h"
-#include "platform/start_ahead.h"
 #include "platform/steady_process.h"
 
 #include <QLibraryInfo>
@@ -14,13 +13,12 @@ int main(int argc, char** argv) {
     using namespace Qt::StringLiterals;
     qinghe::steadyProcess();
     qinghe::keepNewFilesPrivate();
-    std::thread fonts = qinghe::readFontsAhead();
     qinghe::FittedApplication application(argc, argv, qinghe::MainWindow::sizeInPixels());
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator chinese;
     if (chinese.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&chinese);
-    fonts.join();
+    application.awaitFonts();
     qinghe::dress(*application);
     qinghe::Program program(qinghe::desktopServices());
     const qinghe::EndRequests requests([&program] { program.endAsked(); });

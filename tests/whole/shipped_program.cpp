@@ -46,3 +46,16 @@ TEST(ShippedProgram, TakesNoPluginFromTheFolderThatItLiesIn) {
     EXPECT_TRUE(holds(ended.words, "checking directory path")) << ended.words;
     EXPECT_FALSE(holds(ended.words, folder.path().toStdString())) << ended.words;
 }
+
+// The fonts' library reads the environment on a thread of its own; on a screen that is too small the program puts its
+// scale there and makes its application once more.
+TEST(ShippedProgram, WritesNoEnvironmentWhileTheFontsAreRead) {
+    const LedgerFolder folder;
+    for (const QString& scale : {QStringLiteral("1"), QStringLiteral("2")})
+        EXPECT_EQ(started(folder, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")},
+                                   {QStringLiteral("QT_SCALE_FACTOR"), scale},
+                                   {QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_FONTS_WATCH)}})
+                      .code,
+                  0)
+            << "scale " << scale.toStdString();
+}
