@@ -40,6 +40,10 @@ QString madeAtFirstStart(const QString& home) {
     program.waitForFinished();
     if (!QFile::exists(made))
         throw std::runtime_error("the first start makes no ledger: " + program.readAllStandardError().toStdString());
+    // The sign-in may have begun to work in it.
+    const QString book = QStringLiteral("/data.dll");
+    QFile::remove(made + book);
+    QFile::copy(QStringLiteral(QINGHE_INSTALLED_BROUGHT) + book, made + book);
     return made;
 }
 
