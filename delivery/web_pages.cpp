@@ -1,14 +1,12 @@
 #include "delivery/web_pages.h"
 
+#include "delivery/icons.h"
 #include "delivery/manual.h"
 #include "delivery/markdown_html.h"
 #include "delivery/renew.h"
-#include "look/app_icon.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QImage>
-#include <QPainter>
 
 static void loadPages() {
     Q_INIT_RESOURCE(web);
@@ -21,25 +19,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int IconSize = 128;      ///< pixels
 constexpr int WidestPicture = 720; ///< pixels: what the window of the pages shows without a bar
 
 QStringList plainPageNames() {
     return {u"index.htm"_s, u"adetail.htm"_s};
-}
-
-QByteArray iconPng() {
-    constexpr int size = 128;
-    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintAppIcon(painter, image.rect());
-    painter.end();
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return png;
 }
 
 std::vector<ManualPage> manual() {
@@ -95,8 +79,8 @@ void deliverWebPages(const QString& folder) {
     const QDir web(QDir(folder).filePath(u"web"_s));
     web.mkpath(u"."_s);
     for (const QString& name : plainPageNames() + QStringList(u"pages.css"_s))
-        renew(web.filePath(name), contentOf(u":/web/"_s + name));
-    renew(web.filePath(u"qinghe.png"_s), iconPng());
+        renew(web.filePath(name), contentOf(u":/web/"_s + name).replace("@VERSION@", QINGHE_VERSION));
+    renew(web.filePath(u"qinghe.png"_s), iconPng(IconSize));
     const std::vector<ManualPage> pages = manual();
     for (std::size_t number = 0; number < pages.size(); ++number)
         renew(web.filePath(pages[number].file), htmlPage(number, pages));
