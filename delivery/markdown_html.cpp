@@ -23,7 +23,8 @@ public:
                 add(*table);
             else
                 add(part.currentBlock());
-        return turnTo(Kind::None);
+        turnTo(Kind::None);
+        return m_html;
     }
 
 private:
@@ -37,14 +38,13 @@ private:
     }
 
     /// Ends what was open and begins this.
-    QString turnTo(Kind kind, const QTextList* list = nullptr) {
+    void turnTo(Kind kind, const QTextList* list = nullptr) {
         constexpr QStringView Begin[] = {u"", u"<ul>\n", u"<ol>\n", u"<pre>"};
         constexpr QStringView End[] = {u"", u"</ul>\n", u"</ol>\n", u"</pre>\n"};
         if (kind != m_kind || list != m_list)
             m_html += End[static_cast<int>(m_kind)].toString() + Begin[static_cast<int>(kind)].toString();
         m_kind = kind;
         m_list = list;
-        return m_html;
     }
 
     void add(const QTextBlock& block) {

@@ -6,7 +6,7 @@
 #include "delivery/renew.h"
 
 #include <QDir>
-#include <QImage>
+#include <QImageReader>
 
 static void loadPages() {
     Q_INIT_RESOURCE(web);
@@ -54,7 +54,10 @@ QString waysFrom(std::size_t number, const std::vector<ManualPage>& pages) {
 QByteArray htmlPage(std::size_t number, const std::vector<ManualPage>& pages) {
     const PageSurroundings page{
         .linkOf = [&pages](const QString& target) { return amongPages(target, pages); },
-        .widthOf = [](const QString& file) { return std::min(QImage(u":/manual/"_s + file).width(), WidestPicture); },
+        .widthOf =
+            [](const QString& file) {
+                return std::min(QImageReader(u":/manual/"_s + file).size().width(), WidestPicture);
+            },
     };
     return QString::fromUtf8(contentOf(u":/web/manual_page.htm"_s))
         .replace(u"@TITLE@"_s, pages[number].title)
