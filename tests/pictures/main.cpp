@@ -45,7 +45,9 @@ QRect placeOf(whole::Program& program, const Scene& scene) {
     return all;
 }
 
-void force(const QSize& size) {
+/// What a window manager does that asks nobody for the size of a window.
+void force(whole::Display& display, const QSize& size) {
+    display.leaveWindowsAlone();
     QProcess::execute(QStringLiteral("xdotool"),
                       {"search", "--onlyvisible", "--name", "青禾家庭记账本", "windowmove", "0", "0", "windowsize",
                        QString::number(size.width()), QString::number(size.height())});
@@ -57,13 +59,15 @@ void makeSmall(const QString& file) {
                       {"--force", "--skip-if-larger", "--strip", "--output", file, "--", file});
 }
 
-void take(const Look& look, const Scene& scene, const QString& file) {
+void take(whole::Display& display, const Look& look, const Scene& scene, const QString& file) {
     const whole::LedgerFolder folder;
     const Dressed dressed(look, folder);
+    if (scene.ready)
+        scene.ready(folder);
     whole::Program program(folder, "2024-11-18 20:36:08", whole::Program::Clock::Stands);
     scene.play(program);
     if (!look.forced.isEmpty())
-        force(look.forced);
+        force(display, look.forced);
     program.look();
     const QString screen = folder.beside("screen.png");
     program.picture(screen.toStdString());
@@ -86,15 +90,15 @@ int carryOut(const Order& order) {
     for (const Look& look : looks()) {
         if (order.all ? !wants(order.looks, look.name) : &look != &looks().front())
             continue;
-        if (screen != look.screen) {
-            display.reset();
-            display = std::make_unique<whole::Display>(screen = look.screen);
-        }
         for (const Scene& scene : scenes()) {
             if (!wants(order.scenes, scene.name) || (!order.all && scene.page.empty()))
                 continue;
             try {
-                take(look, scene, fileFor(order, look, scene));
+                if (!display || screen != look.screen || !look.forced.isEmpty()) {
+                    display.reset();
+                    display = std::make_unique<whole::Display>(screen = look.screen);
+                }
+                take(*display, look, scene, fileFor(order, look, scene));
             } catch (const std::exception& error) {
                 ++failed;
                 std::fprintf(stderr, "%s, %s: %s\n", look.name.c_str(), scene.name.c_str(), error.what());
