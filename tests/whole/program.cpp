@@ -75,7 +75,7 @@ Program::Program(const LedgerFolder& folder, const std::string& now, Clock clock
     const QString socket = folder.beside("line" + std::to_string(++count));
     m_process.setProcessEnvironment(environment(folder, (clock == Clock::MovesOn ? "@" : "") + q(now), socket));
     m_process.setWorkingDirectory(folder.beside(""));
-    m_process.start(folder.file("qinghe"), {});
+    m_process.start(folder.programFile("qinghe"), {});
     m_process.waitForStarted();
     m_id = m_process.processId();
     connect(socket);
