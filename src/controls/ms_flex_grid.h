@@ -111,8 +111,7 @@ public:
     Event<> MouseMove;
 
     CellHints hints{*this};
-    /// Whether the cell has not the room for its text.
-    bool isCut(int row, int col) const;
+    CellFit fit(int row, int col) const;
 
     /// For the style: whether marks of the current cell are drawn.
     bool marksCurrent() const { return isEnabled() || m_marked; }

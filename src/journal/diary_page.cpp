@@ -29,6 +29,12 @@ constexpr QStringView HowToWrite = u"先填左边的日期和标题，再写正�
 constexpr QStringView HowToRead = u"点标题看正文"; // on empty paper
 constexpr double PickerGap = 300;                  ///< twips from the top of the box to the picker
 
+/// Qt paints an empty paper anew only when its hint comes or goes, not when another one takes its place.
+void setHint(LongTextBox& paper, QStringView hint) {
+    paper.setPlaceholderText(hint.toString());
+    paper.viewport()->update();
+}
+
 } // namespace
 
 DiaryPage::DiaryPage(MainWindow& window)
@@ -97,7 +103,7 @@ void DiaryPage::Form2_Option6_Click() {
     diarySearchMode = false;
     m_editing.close();
     m_buttons.setUsable(true);
-    tx8->setPlaceholderText(HowToWrite.toString());
+    setHint(*tx8, HowToWrite);
     blankRows(*ms8);
     ms8->watchChanges(0);
     m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
@@ -106,7 +112,7 @@ void DiaryPage::Form2_Option6_Click() {
 void DiaryPage::Form2_Option5_Click() {
     m_shared.unloadDatePicker();
     diarySearchMode = true;
-    tx8->setPlaceholderText(HowToRead.toString());
+    setHint(*tx8, HowToRead);
     ms8->restChanges();
     m_editing.close();
     m_buttons.setUsable(false);
