@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/scratch_ledger.h"
 #include "runtime/months.h"
 
@@ -100,8 +101,10 @@ void ChartsPage::makeQueryRow() {
     Command25->place(5040, 240, 615, 255);
     Text1->setBoxText(FirstDate.toString());
     Text2->setBoxText(SecondDate.toString());
-    for (TextBox* box : {Text1, Text2})
+    for (TextBox* box : {Text1, Text2}) {
         box->setSelectsWhenClicked();
+        new PickerKeys(m_shared, *box);
+    }
     Text1->Click = [this] { Form2_Text1_Click(); };
     Text2->Click = [this] { Form2_Text2_Click(); };
     Command25->Click = [this] { Form2_Command25_Click(); };

@@ -77,6 +77,7 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
         label->place(Labels[i].left, Labels[i].top, FigureWidth, 300);
         label->setRole(Role::Figure);
         label->setToolTip(u"登陆时算好的数字；之后记的账，下次启动时才计入。"_s);
+        label->setReachable();
         m_sums[i].label = label;
     }
     Label36 = new Label(&page, u"Label36"_s);

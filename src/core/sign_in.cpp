@@ -58,7 +58,8 @@ SignIn::SignIn(Shared& shared)
     for (Image* image : {Image1, Image2})
         image->setRole(Role::Glyph);
     setShape(roundedRectangle(size(), 6));
-    setTabOrder(Combo1, Text2);
+    for (Label* button : {Label1, static_cast<Label*>(Image1), static_cast<Label*>(Image2)})
+        button->setReachable();
     bindEvents();
 }
 
