@@ -1,5 +1,6 @@
 #include "controls/label.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -15,6 +16,12 @@ Label::Label(QWidget* parent, const QString& name, const QString& caption) : Wit
 void Label::setCaption(const QString& caption) {
     if (text() != caption)
         setText(caption);
+}
+
+bool Label::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip)
+        ToolTipAsked.fromQt();
+    return WithClicks::event(event);
 }
 
 void Label::paintEvent(QPaintEvent*) {

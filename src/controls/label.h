@@ -19,8 +19,11 @@ public:
     void setCaption(const QString& caption);
 
     Event<> DblClick;
+    /// The tool tip is about to be shown and may be set anew.
+    Event<> ToolTipAsked;
 
 protected:
+    bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
 

@@ -4,6 +4,7 @@
 #include "controls/event.h"
 #include "controls/grid_changes.h"
 #include "controls/grid_columns.h"
+#include "controls/ground_words.h"
 #include "controls/placed.h"
 #include "controls/press_tracker.h"
 
@@ -111,6 +112,7 @@ public:
     Event<> MouseMove;
 
     CellHints hints{*this};
+    GroundWords ground{*this};
     /// Whether the cell has not the room for its text.
     bool isCut(int row, int col) const;
 

@@ -27,7 +27,8 @@ constexpr RowButtonTraits Buttons{
 };
 constexpr QStringView HowToWrite = u"先填左边的日期和标题，再写正文；清空了的按 Ctrl+Z 找回";
 constexpr QStringView HowToRead = u"点标题看正文"; // on empty paper
-constexpr double PickerGap = 300;                  ///< twips from the top of the box to the picker
+constexpr QStringView NothingToFind = u"还没有日记：\n点“写日记”写下第一篇";
+constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
 
 } // namespace
 
@@ -98,6 +99,7 @@ void DiaryPage::Form2_Option6_Click() {
     m_editing.close();
     m_buttons.setUsable(true);
     tx8->setPlaceholderText(HowToWrite.toString());
+    ms8->ground.clear();
     blankRows(*ms8);
     ms8->watchChanges(0);
     m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
@@ -112,6 +114,7 @@ void DiaryPage::Form2_Option5_Click() {
     m_buttons.setUsable(false);
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
     m_entries = Adodc1.loaded();
+    ms8->ground.set(entries.recordCount() == 0 ? NothingToFind.toString() : QString(), GroundWords::Shown::Always);
     ms8->setRows(2);
     // An empty text goes to the row number that all lists share, the loan grid's.
     KeptValues unsaved; // what is found is only read

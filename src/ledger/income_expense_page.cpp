@@ -175,6 +175,8 @@ void IncomeExpensePage::setEditing(bool allowed) {
     m_buttons.setUsable(allowed);
     m_grid->setRole(allowed ? Role::Plain : Role::Report);
     m_grid->setUsable(allowed);
+    if (allowed)
+        m_grid->ground.set(HowToBegin.toString()); // a report has its own
 }
 
 bool IncomeExpensePage::pickerIsVisible() const {
