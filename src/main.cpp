@@ -1,5 +1,7 @@
+#include "app/book_folder.h"
 #include "app/program.h"
 #include "core/main_window.h"
+#include "look/lent_fonts.h"
 #include "look/look.h"
 #include "platform/end_requests.h"
 #include "platform/fitted_application.h"
@@ -19,9 +21,11 @@ int main(int argc, char** argv) {
     if (chinese.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&chinese);
     application.awaitFonts();
+    qinghe::lendChineseFonts(QApplication::applicationDirPath() + u"/lib/fonts"_s);
     qinghe::dress(*application);
-    qinghe::Program program(qinghe::desktopServices());
+    const qinghe::BookFolder book = qinghe::readyBookFolder(QApplication::applicationDirPath());
+    qinghe::Program program(qinghe::desktopServices(book.path));
     const qinghe::EndRequests requests([&program] { program.endAsked(); });
-    program.start();
+    program.start(book.trouble);
     return QApplication::exec();
 }

@@ -30,6 +30,12 @@ constexpr QStringView HowToRead = u"点标题看正文"; // on empty paper
 constexpr QStringView NothingToFind = u"还没有日记：\n点“写日记”写下第一篇";
 constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
 
+/// Qt paints an empty paper anew only when its hint comes or goes, not when another one takes its place.
+void setHint(LongTextBox& paper, QStringView hint) {
+    paper.setPlaceholderText(hint.toString());
+    paper.viewport()->update();
+}
+
 } // namespace
 
 DiaryPage::DiaryPage(MainWindow& window)
@@ -98,8 +104,12 @@ void DiaryPage::Form2_Option6_Click() {
     diarySearchMode = false;
     m_editing.close();
     m_buttons.setUsable(true);
+<<<<<<< HEAD
     tx8->setPlaceholderText(HowToWrite.toString());
     ms8->ground.clear();
+=======
+    setHint(*tx8, HowToWrite);
+>>>>>>> 9bc24e0cd751d72149fdc9ca5aed07e3f2a6d588
     blankRows(*ms8);
     ms8->watchChanges(0);
     m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
@@ -108,7 +118,7 @@ void DiaryPage::Form2_Option6_Click() {
 void DiaryPage::Form2_Option5_Click() {
     m_shared.unloadDatePicker();
     diarySearchMode = true;
-    tx8->setPlaceholderText(HowToRead.toString());
+    setHint(*tx8, HowToRead);
     ms8->restChanges();
     m_editing.close();
     m_buttons.setUsable(false);

@@ -159,8 +159,8 @@ void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFl
               option.text, typeOf(option, grid).font, isReadable(grid) ? colour::Ink : colour::Ink2);
 }
 
-bool isCellCut(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
-    return typeOf(option, grid).cut;
+CellFit cellFit(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
+    return typeOf(option, grid).fit;
 }
 
 void paintGridEdge(QPainter& painter, const QRect& grid) {
