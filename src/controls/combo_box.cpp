@@ -50,6 +50,7 @@ void ComboBox::clearEntries() {
 
 void ComboBox::showPopup() {
     m_choosing = true;
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
     view()->window()->installEventFilter(this);
 }

@@ -1,5 +1,6 @@
 #include "controls/label.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -13,8 +14,14 @@ Label::Label(QWidget* parent, const QString& name, const QString& caption) : Wit
 }
 
 void Label::setCaption(const QString& caption) {
-    if (text() != caption)
-        setText(caption);
+    if (text() == caption)
+        return;
+    setText(caption);
+    if (!m_announced || caption.isEmpty() || !isVisible() || !QAccessible::isActive())
+        return;
+    // To who listens, words that come anew are a label that comes up.
+    QAccessibleEvent told(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&told);
 }
 
 void Label::paintEvent(QPaintEvent*) {

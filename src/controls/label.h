@@ -18,6 +18,10 @@ public:
     QString Caption() const { return text(); }
     void setCaption(const QString& caption);
 
+    /// What it comes to say is told to a screen reader at once: for words that come by themselves.
+    void setAnnounced() { m_announced = true; }
+    bool isAnnounced() const { return m_announced; }
+
     Event<> DblClick;
 
 protected:
@@ -26,6 +30,9 @@ protected:
 
     /// Has the style paint one of its own elements.
     void paintElement(StyleElement element);
+
+private:
+    bool m_announced = false;
 };
 
 /// A picture that fills its control, or a glyph of the set.

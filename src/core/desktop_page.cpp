@@ -20,15 +20,16 @@ struct SumColumn {
     QStringView column;
     QStringView table;
     QStringView dateColumn;
+    QStringView words; ///< that stand beside it in the picture
 };
 
 /// Rows of the desktop from top to bottom.
 constexpr std::array<SumColumn, 5> Rows{{
-    {columns::Amount, tables::Income, columns::Time},
-    {columns::Amount, tables::Expense, columns::Time},
-    {columns::BudgetAmount, tables::Budget, columns::BudgetTime},
-    {columns::BorrowedAmount, tables::Borrowed, columns::Day},
-    {columns::LentAmount, tables::Lent, columns::Day},
+    {columns::Amount, tables::Income, columns::Time, u"收入"},
+    {columns::Amount, tables::Expense, columns::Time, u"支出"},
+    {columns::BudgetAmount, tables::Budget, columns::BudgetTime, u"预算"},
+    {columns::BorrowedAmount, tables::Borrowed, columns::Day, u"借入"},
+    {columns::LentAmount, tables::Lent, columns::Day, u"借出"},
 }};
 
 struct SumLabel {
@@ -72,16 +73,19 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
     Image2 = new Image(&page, u"Image2"_s);
     Image2->place(60, 240, 11415, 5835);
     Image2->setRole(Role::Picture);
+    Image2->setAccessibleName(u"桌面图片"_s);
     for (std::size_t i = 0; i < Labels.size(); ++i) {
         auto* label = new Label(&page, Labels[i].name.toString());
         label->place(Labels[i].left, Labels[i].top, FigureWidth, 300);
         label->setRole(Role::Figure);
+        label->setAccessibleName((i < Rows.size() ? u"上月"_s : u"本月"_s) + Rows[i % Rows.size()].words.toString());
         label->setToolTip(u"登陆时算好的数字；之后记的账，下次启动时才计入。"_s);
         m_sums[i].label = label;
     }
     Label36 = new Label(&page, u"Label36"_s);
     Label36->place(8160, 1680, 2775, 3855);
     Label36->setRole(Role::PlanList);
+    Label36->setAccessibleName(u"今日日程"_s);
 }
 
 void DesktopPage::computeSums() {
