@@ -74,6 +74,7 @@ ChartsPage::ChartsPage(MainWindow& form)
 void ChartsPage::makeOptions() {
     Frame11->place(240, 240, 11055, 615);
     Frame11->setRole(Role::BareFrame);
+    Frame11->setAccessibleName(u"图表种类"_s);
     Option10->place(120, 240, 1815, 255);
     Option11->place(2280, 240, 1815, 255);
     Option12->place(4560, 240, 2055, 255);
@@ -100,6 +101,8 @@ void ChartsPage::makeQueryRow() {
     Command25->place(5040, 240, 615, 255);
     Text1->setBoxText(FirstDate.toString());
     Text2->setBoxText(SecondDate.toString());
+    Text1->setAccessibleName(u"开始日期"_s);
+    Text2->setAccessibleName(u"结束日期"_s);
     for (TextBox* box : {Text1, Text2})
         box->setSelectsWhenClicked();
     Text1->Click = [this] { Form2_Text1_Click(); };

@@ -1,5 +1,6 @@
 #include "controls/label.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
@@ -14,8 +15,14 @@ Label::Label(QWidget* parent, const QString& name, const QString& caption) : Wit
 }
 
 void Label::setCaption(const QString& caption) {
-    if (text() != caption)
-        setText(caption);
+    if (text() == caption)
+        return;
+    setText(caption);
+    if (!m_announced || caption.isEmpty() || !isVisible() || !QAccessible::isActive())
+        return;
+    // To who listens, words that come anew are a label that comes up.
+    QAccessibleEvent told(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&told);
 }
 
 bool Label::event(QEvent* event) {

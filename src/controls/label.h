@@ -18,6 +18,10 @@ public:
     QString Caption() const { return text(); }
     void setCaption(const QString& caption);
 
+    /// What it comes to say is told to a screen reader at once: for words that come by themselves.
+    void setAnnounced() { m_announced = true; }
+    bool isAnnounced() const { return m_announced; }
+
     Event<> DblClick;
     /// The tool tip is about to be shown and may be set anew.
     Event<> ToolTipAsked;
@@ -29,6 +33,9 @@ protected:
 
     /// Has the style paint one of its own elements.
     void paintElement(StyleElement element);
+
+private:
+    bool m_announced = false;
 };
 
 /// A picture that fills its control, or a glyph of the set.

@@ -17,7 +17,7 @@ constexpr PageTab Tabs[] = {{u"Label24", u"  桌面", 0, PageCode::Desktop}};
 constexpr PageTraits DesktopTraits{u"Frame13", u"桌面", 200, 1680, 11535, 6135, Tabs};
 
 struct SumColumn {
-    QStringView name;
+    QStringView name; ///< as it stands beside it in the picture
     QStringView column;
     QStringView table;
     QStringView dateColumn;
@@ -75,10 +75,12 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
     Image2 = new Image(&page, u"Image2"_s);
     Image2->place(60, 240, 11415, 5835);
     Image2->setRole(Role::Picture);
+    Image2->setAccessibleName(u"桌面图片"_s);
     for (std::size_t i = 0; i < Labels.size(); ++i) {
         auto* label = new Label(&page, Labels[i].name.toString());
         label->place(Labels[i].left, Labels[i].top, FigureWidth, 300);
         label->setRole(Role::Figure);
+        label->setAccessibleName((i < Rows.size() ? u"上月"_s : u"本月"_s) + Rows[i % Rows.size()].name.toString());
         label->setToolTip(OfTheSignIn.toString());
         label->ToolTipAsked = [this, i] { tellTrueSum(i); };
         m_sums[i].label = label;
@@ -86,6 +88,7 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
     Label36 = new Label(&page, u"Label36"_s);
     Label36->place(8160, 1680, 2775, 3855);
     Label36->setRole(Role::PlanList);
+    Label36->setAccessibleName(u"今日日程"_s);
 }
 
 void DesktopPage::computeSums() {

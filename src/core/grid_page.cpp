@@ -100,6 +100,7 @@ Recordset& GridPage::load(QStringView source) {
 }
 
 void GridPage::layColumns() {
+    m_editing.box->setSubject(list().subject);
     m_grid->setCols(lastColumn() + 1);
     m_grid->setColWidth(0, MarkerWidth);
     std::vector<int> figures;

@@ -30,6 +30,7 @@ public:
     struct List {
         QStringView table; ///< that delete and save work on
         std::span<const Column> columns;
+        QStringView subject;     ///< what its boxes are called after, see CellEditor::setSubject
         QStringView source = {}; ///< what the grid is filled from, where it is not the table
     };
 

@@ -2,6 +2,8 @@
 
 #include "core/ink.h"
 
+#include <QAccessible>
+
 #include <algorithm>
 
 namespace qinghe {
@@ -9,6 +11,14 @@ namespace qinghe {
 namespace {
 
 constexpr double TabTop = 1080, TabWidth = 960, TabHeight = 480; // twips
+
+/// To a screen reader, where there is one.
+void tellChosen(Label& tab) {
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent chosen(&tab, QAccessible::Selection);
+    QAccessible::updateAccessibility(&chosen);
+}
 
 } // namespace
 
@@ -92,8 +102,11 @@ void Navigation::chooseTab(const Page& shown) {
     // A page that came to the front without a click on one of its labels has one label alone.
     const auto chosen = std::ranges::find(own, static_cast<PageCode>(static_cast<int>(currentPage)), &PageTab::code);
     const PageTab* tab = chosen == own.end() ? own.data() : &*chosen;
-    for (const Tab& each : m_tabs)
+    for (const Tab& each : m_tabs) {
         each.label->setRole(each.traits == tab ? Role::ChosenLabel : Role::PageLabel);
+        if (each.traits == tab)
+            tellChosen(*each.label);
+    }
 }
 
 void Navigation::markCurrent() {

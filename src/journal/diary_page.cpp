@@ -52,6 +52,9 @@ DiaryPage::DiaryPage(MainWindow& window)
     Option6->place(240, 390, 1200, 300);
     Option5->place(1560, 390, 1320, 300);
     ms8->place(120, 840, 4215, 4815);
+    m_editing.box->setSubject(u"日记");
+    tx8->setAccessibleName(u"日记正文"_s);
+    ms8->setAccessibleName(u"日记列表"_s);
     tx8->place(4455, 840, 7080, 4815);
     m_shared.emptyDiaryPage = [this] {
         if (!Frame10.Visible())

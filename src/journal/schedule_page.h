@@ -30,6 +30,7 @@ public:
 
 private:
     void placeControls();
+    void nameBoxes();
     void bindEvents();
     void fillLists();
     void openFreshPlan();

@@ -6,8 +6,6 @@ namespace qinghe {
 
 using namespace Qt::StringLiterals;
 
-namespace {} // namespace
-
 DatePicker::DatePicker(Shared& shared)
     : FieldTool(names::DatePicker, Kind::QuietTool, Ground::Pine, shared.forms.loaded(names::Main)),
       m_shared(shared),
@@ -24,6 +22,8 @@ DatePicker::DatePicker(Shared& shared)
     Command1->place(2805, 75, 480, 390);
     Command2->setGlyph(Glyph::Back);
     Command1->setGlyph(Glyph::Forward);
+    Command2->setAccessibleName(u"上个月"_s);
+    Command1->setAccessibleName(u"下个月"_s);
     for (CommandButton* arrow : {Command1, Command2}) {
         arrow->setRole(Role::PickerArrow);
         arrow->setFocusPolicy(Qt::NoFocus);
@@ -58,6 +58,7 @@ void DatePicker::showMonth() {
         const MonthGrid::Cell& cell = m_month.cell(i);
         Label& day = *Label3[static_cast<std::size_t>(i)];
         day.setCaption(cell.caption);
+        day.setAccessibleName(m_month.spokenDay(i));
         day.setForeColor(cell.neighbour ? ink::Yellow : ForeColor());
         day.setBackColor(cell.marked ? ink::Blue : BackColor());
     }
