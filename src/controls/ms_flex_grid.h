@@ -112,13 +112,8 @@ public:
     Event<> MouseMove;
 
     CellHints hints{*this};
-<<<<<<< HEAD
     GroundWords ground{*this};
-    /// Whether the cell has not the room for its text.
-    bool isCut(int row, int col) const;
-=======
     CellFit fit(int row, int col) const;
->>>>>>> 9bc24e0cd751d72149fdc9ca5aed07e3f2a6d588
 
     /// For the style: whether marks of the current cell are drawn.
     bool marksCurrent() const { return isEnabled() || m_marked; }

@@ -107,12 +107,8 @@ void DiaryPage::Form2_Option6_Click() {
     diarySearchMode = false;
     m_editing.close();
     m_buttons.setUsable(true);
-<<<<<<< HEAD
-    tx8->setPlaceholderText(HowToWrite.toString());
-    ms8->ground.clear();
-=======
     setHint(*tx8, HowToWrite);
->>>>>>> 9bc24e0cd751d72149fdc9ca5aed07e3f2a6d588
+    ms8->ground.clear();
     blankRows(*ms8);
     ms8->watchChanges(0);
     m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
