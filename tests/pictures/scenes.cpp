@@ -85,8 +85,8 @@ void calculator(Program& program) {
 void unsaved(Program& program) {
     show(program, pages::Expense);
     fillCell(program, income::Grid, row(program, 2), 3, "买米");
-    program.clickCell(income::Grid, row(program, 4), 5);
     fillCell(program, income::Grid, row(program, 6), 2, "6月35日"); // which no save takes
+    program.clickCell(income::Grid, row(program, 4), 5);
     reckon(program, "96.5");
     program.clickCell(income::Grid, row(program, 3), 7);
     program.type("两袋");
@@ -206,7 +206,7 @@ void openCategories(Program& program) {
     show(program, pages::Settings);
     program.click(settings::Categories);
     program.click(categories::Expense);
-    program.clickCell(categories::Majors, 2, 1);
+    program.clickCell(categories::Majors, 6, 1);
 }
 
 void purge(Program& program) {
