@@ -59,7 +59,7 @@ void save(const QImage& picture, const QString& file) {
     if (!picture.save(file, "PNG"))
         throw std::runtime_error("cannot write " + file.toStdString());
     QProcess::execute(QStringLiteral("pngquant"),
-                      {"--force", "--skip-if-larger", "--strip", "--output", file, "--", file});
+                      {"128", "--nofs", "--force", "--skip-if-larger", "--strip", "--output", file, "--", file});
 }
 
 bool showTheSame(const QImage& one, const QImage& other) {
