@@ -149,7 +149,7 @@ TEST(Documents, ShowThePicturesThatTheScenesMakeAndNoOthers) {
         const QString file = u"docs/pictures/"_s + name;
         EXPECT_TRUE(files.contains(file)) << file.toStdString() << " is missing: docs/pictures/make";
         EXPECT_TRUE(read.contains(u"pictures/"_s + name)) << file.toStdString() << " is shown nowhere";
-        EXPECT_LE(QFileInfo(project(file)).size(), 80'000) << file.toStdString();
+        EXPECT_LE(QFileInfo(project(file)).size(), 60'000) << file.toStdString();
         EXPECT_LE(QImage(project(file)).width(), 800) << file.toStdString();
     }
 }
