@@ -49,7 +49,7 @@ public:
     bool selectColumn(int) override { return false; }
     bool unselectRow(int) override { return false; }
     bool unselectColumn(int) override { return false; }
-    void modelChange(QAccessibleTableModelChangeEvent* event) override;
+    void modelChange(QAccessibleTableModelChangeEvent*) override {}
 
     bool isCurrent(int row, int col) const { return row == m_grid.Row() && col == m_grid.Col(); }
 
@@ -59,6 +59,7 @@ private:
     QAccessibleInterface* part(int row, int col) const;
     bool hasCurrent() const;
     bool isBlank() const;
+    void forgetGone();
 
     MSFlexGrid& m_grid;
     mutable std::map<std::pair<int, int>, QAccessible::Id> m_parts; ///< those made so far

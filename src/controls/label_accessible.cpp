@@ -60,6 +60,7 @@ QAccessible::State LabelAccessible::state() const {
         state.selectable = true;
         state.selected = calendar && m_label.BackColor() != calendar->BackColor();
     }
+    state.readOnly = role() == QAccessible::StaticText;
     if (!isImage(m_label) && name().isEmpty())
         state.invisible = true;
     return state;
