@@ -82,7 +82,7 @@ bool GridAccessible::isBlank() const {
 }
 
 bool GridAccessible::hasCurrent() const {
-    return m_grid.Row() > 0 && m_grid.Col() > 0;
+    return m_grid.marksCurrent() && m_grid.Row() > 0 && m_grid.Col() > 0;
 }
 
 // ---- the parts
@@ -121,7 +121,7 @@ QAccessibleInterface* GridAccessible::childAt(int x, int y) const {
 }
 
 QAccessibleInterface* GridAccessible::focusChild() const {
-    return m_grid.hasFocus() ? part(m_grid.Row(), m_grid.Col()) : nullptr;
+    return m_grid.hasFocus() && hasCurrent() ? part(m_grid.Row(), m_grid.Col()) : nullptr;
 }
 
 // ---- the table

@@ -51,7 +51,10 @@ public:
     bool unselectColumn(int) override { return false; }
     void modelChange(QAccessibleTableModelChangeEvent*) override {}
 
-    bool isCurrent(int row, int col) const { return row == m_grid.Row() && col == m_grid.Col(); }
+    /// Nor is a cell of a list that is only read.
+    bool isCurrent(int row, int col) const {
+        return m_grid.marksCurrent() && row == m_grid.Row() && col == m_grid.Col();
+    }
 
 private:
     class Follower;

@@ -79,7 +79,7 @@ QString LabelAccessible::text(QAccessible::Text what) const {
     if (what == QAccessible::Name)
         return name();
     const QString words = QAccessibleWidget::text(what);
-    return words == name() ? QString() : words; // not twice
+    return name().startsWith(words) ? QString() : words; // not twice
 }
 
 QAccessibleInterface* LabelAccessible::parent() const {

@@ -50,6 +50,7 @@ Calculator::Calculator(Shared& shared)
     MouseMove = [this](double, double) { unmarkHovered(m_keys); };
     CloseAsked = [this] { finish(); };
     setFocusPolicy(Qt::StrongFocus);
+    setFocus(); // from when it is the window in front
 }
 
 CommandButton* Calculator::key(const QString& name, const QString& caption, double left, double top, double width,

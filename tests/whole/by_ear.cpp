@@ -16,12 +16,11 @@ void layBook(const LedgerFolder& folder) {
     folder.execute("insert into srb values('001', '2024-11-05', '工资', '王青', 8650.5, '建行', '', 1);"
                    "insert into zcb values('01', '2024-11-06', '买菜', '王青', 35.5, '现金', '西市', 1),"
                    "  ('02', '2024-10-09', '电费', '李禾', 126.3, '建行', '', 2);"
-                   "insert into jcb values('现金', '2024-11-01', 800, 5, 795, '王青', '赵田', '');"
-                   "insert into zhb values('现金', 100, 0, 35.5, 0, 800, 0, 0, -735.5, '');"
+                   "insert into jcb values('现金', '2024-11-01', 800, 5, 795, '王青', '赵田', '', 1);"
+                   "insert into zhb values('现金', 100, 0, 35.5, 0, 800, 0, 0, -735.5, '', 1);"
                    "insert into ysb values('2024-11-20', '电费', 99.5, '', 1);"
                    "insert into rjb values('2024-11-17', '晴天');"
                    "insert into rcb values('2024-11-17', 1, '2024-11-18', '23 30', '给外婆打电话', '音乐1', 1)");
-    folder.write("mydiary/晴天.dll", "ok\r\n");
 }
 
 class ByEar : public ::testing::Test {
@@ -75,6 +74,7 @@ TEST_F(ByEar, TheTreesOfAllPagesAndWindowsAreAsTheyAreKept) {
     expectTree("图表分析", "图表分类");
     expectPage(pages::Users, "用户设置", "用户");
     expectPage(pages::Diary, "日记", "日记");
+    folder.write("mydiary/晴天.dll", "It was sunny.\r\n");
     program->click(diary_page::Find);
     program->clickCell(diary_page::Grid, 1, 2);
     expectTree("日记", "查找日记");
@@ -88,8 +88,14 @@ TEST_F(ByEar, TheTreesOfAllPagesAndWindowsAreAsTheyAreKept) {
     program->click(pages::Settings);
     program->click(settings::Backup);
     expectTree("数据备份", "备份");
+    program->close(forms::Backup);
+    program->waitForKeyboard(forms::Main);
     program->click(pages::Expense);
     program->click(income::Records);
+    program->key("Ctrl+F");
+    program->type("电费");
+    expectTree("查找", "查找");
+    program->key("Escape");
     program->clickCell(income::Grid, 2, 2);
     program->waitFor(forms::DatePicker);
     expectTree("选择日期", "选择日期");
@@ -135,4 +141,6 @@ TEST_F(ByEar, TheCellTheCalculatorsDisplayAndTheBoxAreToldAsTheyChange) {
     waitToHear(QStringLiteral("text text \"计算器显示\" = \"7+8\""));
     program->key("Escape");
     endByCross(*program);
+    listening.kill();
+    listening.waitForFinished();
 }

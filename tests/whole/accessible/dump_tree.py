@@ -4,6 +4,7 @@ set in. Only what is on view is printed; what differs from run to run (time, fol
 usage: dump_tree.py NAME   (of a window or a frame on view)"""
 import re
 import sys
+import time
 
 import gi
 
@@ -54,10 +55,10 @@ def print_tree(node, depth=0):
 
 
 def find(node, name):
+    if node.get_role() in (Atspi.Role.TABLE, Atspi.Role.PAGE_TAB_LIST):
+        return None
     if node.get_name() == name:
         return node
-    if node.get_role() == Atspi.Role.TABLE:
-        return None
     return next(filter(None, (find(part, name) for part in parts(node))), None)
 
 
@@ -67,7 +68,12 @@ def programs():
     return [program for program in found if program and program.get_name() == "qinghe"]
 
 
-named = next(filter(None, (find(program, sys.argv[1]) for program in programs())), None)
+# A program that has just been started may have yet to reach the bus.
+patience = time.monotonic() + 10
+named = None
+while named is None and time.monotonic() < patience:
+    named = next(filter(None, (find(program, sys.argv[1]) for program in programs())), None)
+    time.sleep(0 if named else 0.02)
 if named is None:
     sys.exit(f"nothing on view is called {sys.argv[1]}")
 print_tree(named)
