@@ -15,12 +15,13 @@ def told(node):
 def hear(event):
     if event.type.startswith("object:text-changed"):
         print(f'text {told(event.source)} = "{Atspi.Text.get_text(event.source, 0, -1)}"', flush=True)
-    elif event.detail1:
+    elif event.type.startswith("object:state-changed") and event.detail1:
         print(f"focus {told(event.source)}", flush=True)
 
 
 listener = Atspi.EventListener.new(hear)
 listener.register("object:state-changed:focused")
 listener.register("object:text-changed:insert")
+listener.register("object:property-change:accessible-name")  # else names that change are told as they were
 print("listening", flush=True)
 Atspi.event_main()
