@@ -1,10 +1,11 @@
+#include "app/book_folder.h"
 #include "app/program.h"
 #include "core/main_window.h"
+#include "look/lent_fonts.h"
 #include "look/look.h"
 #include "platform/end_requests.h"
 #include "platform/fitted_application.h"
 #include "platform/private_files.h"
-#include "platform/start_ahead.h"
 #include "platform/steady_process.h"
 
 #include <QLibraryInfo>
@@ -14,16 +15,17 @@ int main(int argc, char** argv) {
     using namespace Qt::StringLiterals;
     qinghe::steadyProcess();
     qinghe::keepNewFilesPrivate();
-    std::thread fonts = qinghe::readFontsAhead();
     qinghe::FittedApplication application(argc, argv, qinghe::MainWindow::sizeInPixels());
     QApplication::setQuitOnLastWindowClosed(false);
     QTranslator chinese;
     if (chinese.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&chinese);
-    fonts.join();
+    application.awaitFonts();
+    qinghe::lendChineseFonts(QApplication::applicationDirPath() + u"/lib/fonts"_s);
     qinghe::dress(*application);
-    qinghe::Program program(qinghe::desktopServices());
+    const qinghe::BookFolder book = qinghe::readyBookFolder(QApplication::applicationDirPath());
+    qinghe::Program program(qinghe::desktopServices(book.path));
     const qinghe::EndRequests requests([&program] { program.endAsked(); });
-    program.start();
+    program.start(book.trouble);
     return QApplication::exec();
 }

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype TipLine = 40, LongestTip = 800; ///< characters
+constexpr qsizetype TipLine = 40; ///< characters
 
 ChartFonts fontsFor(const ChartMatrix& matrix) {
     QFont label = matrix.columnCount() == 1 ? sans(type::Body) : figureFont();
@@ -59,7 +59,7 @@ void paintSampleMark(QPaintDevice& device, const QRect& chart) {
 
 /// Text for a tool tip, in lines that no screen is too narrow for.
 QString tipText(const QString& label, const QString& value) {
-    const QString head = shownValue(label, LongestTip);
+    const QString head = shownValue(label, MostInTip);
     QStringList lines;
     for (qsizetype at = 0; at < head.size(); at += TipLine)
         lines << head.mid(at, TipLine);

@@ -92,8 +92,10 @@ void Program::defineForms() {
         shared.forms.define(target.form, [&shared, &target] { return new PictureWindow(shared, target); });
 }
 
-void Program::start() {
-    handlers::enter([this] {
+void Program::start(const std::optional<RuntimeError>& trouble) {
+    handlers::enter([this, &trouble] {
+        if (trouble)
+            throw *trouble;
         closeOwnFiles(m_shared);
         m_shared.forms.get(names::SignIn).showForm();
     });

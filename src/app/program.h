@@ -2,7 +2,9 @@
 
 #include "controls/key_gate.h"
 #include "core/shared.h"
+#include "runtime/runtime_error.h"
 
+#include <optional>
 #include <vector>
 
 namespace qinghe {
@@ -16,8 +18,8 @@ public:
     explicit Program(Services services);
     ~Program();
 
-    /// Shows the sign-in.
-    void start();
+    /// Shows the sign-in, or tells why the book has no folder.
+    void start(const std::optional<RuntimeError>& trouble = {});
     /// The system wants the program to end, by a log-out or the like; to be called from the event loop, that of a
     /// message box included. Ends it as the desktop's closing of the main window does, with code 0 and without a word;
     /// what was typed and is not in the book goes into a file first, since nobody chose to lose it. An error window

@@ -2,6 +2,7 @@
 
 #include "controls/accessible.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -21,6 +22,12 @@ void Label::setCaption(const QString& caption) {
     // To who listens, words that come anew are a label that comes up.
     if (m_announced && !caption.isEmpty() && isVisible())
         accessible::tell(*this, QAccessible::ObjectShow);
+}
+
+bool Label::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip)
+        ToolTipAsked.fromQt();
+    return WithClicks::event(event);
 }
 
 void Label::paintEvent(QPaintEvent*) {

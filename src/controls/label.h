@@ -23,8 +23,11 @@ public:
     bool isAnnounced() const { return m_announced; }
 
     Event<> DblClick;
+    /// The tool tip is about to be shown and may be set anew.
+    Event<> ToolTipAsked;
 
 protected:
+    bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
     void mouseDoubleClickEvent(QMouseEvent*) override;
 

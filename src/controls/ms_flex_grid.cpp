@@ -351,13 +351,13 @@ void MSFlexGrid::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
 }
 
-bool MSFlexGrid::isCut(int row, int col) const {
+CellFit MSFlexGrid::fit(int row, int col) const {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     option.index = m_model->index(row - 1, col - 1);
     option.rect = visualRect(option.index);
     option.text = option.index.data().toString();
-    return style()->styleHint(static_cast<QStyle::StyleHint>(SH_CellIsCut), &option, this) != 0;
+    return static_cast<CellFit>(style()->styleHint(static_cast<QStyle::StyleHint>(SH_CellFit), &option, this));
 }
 
 bool MSFlexGrid::viewportEvent(QEvent* event) {

@@ -4,6 +4,7 @@
 #include "controls/event.h"
 #include "controls/grid_changes.h"
 #include "controls/grid_columns.h"
+#include "controls/ground_words.h"
 #include "controls/placed.h"
 #include "controls/press_tracker.h"
 
@@ -111,8 +112,8 @@ public:
     Event<> MouseMove;
 
     CellHints hints{*this};
-    /// Whether the cell has not the room for its text.
-    bool isCut(int row, int col) const;
+    GroundWords ground{*this};
+    CellFit fit(int row, int col) const;
 
     /// For the style: whether marks of the current cell are drawn.
     bool marksCurrent() const { return isEnabled() || m_marked; }

@@ -96,10 +96,13 @@ enum StyleElement : unsigned {
     PE_FormGround = static_cast<unsigned>(QStyle::PE_CustomBase) + 1, ///< widget: Form
     PE_LedgerPaper, ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
     PE_GridEdge,    ///< the edge round a grid
-    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1,     ///< widget: Label
-    CE_Image,                                                        ///< widget: Image
-    SH_CellIsCut = static_cast<unsigned>(QStyle::SH_CustomBase) + 1, ///< 1 where a cell shows only the head of its
-                                                                     ///< text; a view item's option; widget: MSFlexGrid
+    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1,   ///< widget: Label
+    CE_Image,                                                      ///< widget: Image
+    SH_CellFit = static_cast<unsigned>(QStyle::SH_CustomBase) + 1, ///< a CellFit; a view item's option; widget:
+                                                                   ///< MSFlexGrid
 };
+
+/// How a cell shows its text: whole, whole in type that is hard to read, or no more than its head.
+enum class CellFit { Whole, Tiny, Cut };
 
 } // namespace qinghe

@@ -22,6 +22,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
       m_buttons(&m_frame, differences.buttons, *m_grid),
       m_hasWorkedOut(std::ranges::count(differences.list.columns, Kind::WorkedOut, &Column::kind) > 0) {
     m_grid->place(120, 840, 11415, 4815);
+    m_grid->ground.set(HowToBegin.toString());
     m_grid->objection = [this](int row, int col) { return objectionTo(row, col); };
     m_shared.editors[differences.grid] = {m_editing.box, m_grid};
     bindEvents();

@@ -80,6 +80,9 @@ public:
 
     GridPage(MainWindow& window, const Traits& traits);
 
+    /// On the ground of a list that has nothing in it.
+    static constexpr QStringView HowToBegin = u"还没有记录：点第一行的格子就能写，写完点“保存”";
+
     /// Brings the page up.
     void tabClicked(PageCode code) override { open(code); }
     void formClicked() override;

@@ -1,6 +1,7 @@
 #include "core/main_window.h"
 
 #include "core/find_bar.h"
+#include "core/first_steps.h"
 #include "core/stored_choice.h"
 #include "core/stored_picture.h"
 #include "core/window_shape.h"
@@ -92,8 +93,10 @@ void MainWindow::load() {
 }
 
 void MainWindow::showNotes() {
-    m_titleBand.showNotes(m_shared.notes);
-    m_shared.noted = [this] { m_titleBand.showNotes(m_shared.notes); };
+    m_shared.noted = [this, steps = firstSteps(m_shared)] {
+        m_titleBand.showNotes(m_shared.notes.isEmpty() ? steps : m_shared.notes);
+    };
+    m_shared.noted();
 }
 
 void MainWindow::refuseSecondCopy() {

@@ -31,7 +31,7 @@ QStringList writtenNames() {
 
 /// What it brings along.
 QStringList deliveredNames() {
-    return {u"qinghe"_s, u"*.so"_s, u"音乐*.wav"_s, u"web"_s};
+    return {u"qinghe"_s, u"*.so"_s, u"音乐*.wav"_s, u"web"_s, u"lib"_s, u"licenses"_s, u"请先读我.txt"_s};
 }
 
 void closeFiles(const QDir& folder, const QStringList& names) {

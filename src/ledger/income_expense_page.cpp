@@ -176,6 +176,8 @@ void IncomeExpensePage::setEditing(bool allowed) {
     m_grid->setRole(allowed ? Role::Plain : Role::Report);
     m_grid->setAccessibleName(allowed ? QString() : list().subject.toString() + shownReport());
     m_grid->setUsable(allowed);
+    if (allowed)
+        m_grid->ground.set(HowToBegin.toString()); // a report has its own
 }
 
 QString IncomeExpensePage::shownReport() const {

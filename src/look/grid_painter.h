@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/style_roles.h"
+
 #include <QRect>
 
 class QColor;
@@ -31,8 +33,7 @@ void paintHeaderRest(const QStyleOption& option, QPainter& painter, const QWidge
 /// The grid to which a header, a corner, a viewport or a scroll bar belongs, or nullptr.
 const MSFlexGrid* gridOf(const QWidget* part);
 
-/// Whether the cell's text ends in "…".
-bool isCellCut(const QStyleOptionViewItem& option, const MSFlexGrid& grid);
+CellFit cellFit(const QStyleOptionViewItem& option, const MSFlexGrid& grid);
 
 /// The room that the text of a cell has.
 QRect cellTextRoom(const QRect& cell, const MSFlexGrid& grid, int col);

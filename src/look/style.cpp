@@ -255,9 +255,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const {
     switch (static_cast<unsigned>(hint)) {
-    case SH_CellIsCut:
-        return isCellCut(*qstyleoption_cast<const QStyleOptionViewItem*>(option),
-                         *static_cast<const MSFlexGrid*>(widget));
+    case SH_CellFit:
+        return static_cast<int>(
+            cellFit(*qstyleoption_cast<const QStyleOptionViewItem*>(option), *static_cast<const MSFlexGrid*>(widget)));
     case SH_ComboBox_Popup: // the list opens below its box
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:

@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include <optional>
+#include <thread>
 
 namespace qinghe {
 
@@ -14,13 +15,19 @@ double shareThatFits(QSize window, QSize room);
 
 /// The application, at the desktop's own scale, or, where that would push a window of the size given off a small
 /// screen, at the largest one at which it fits. Says what is missing and ends the process where there is no display
-/// (DisplayWatch).
+/// (DisplayWatch). The fonts are read on a thread meanwhile (start_ahead.h).
 class FittedApplication {
 public:
     /// `window` in pixels at 100 %.
     FittedApplication(int argc, char** argv, QSize window);
+    ~FittedApplication() { awaitFonts(); }
+    FittedApplication(const FittedApplication&) = delete;
+    FittedApplication& operator=(const FittedApplication&) = delete;
 
     QApplication& operator*() { return *m_application; }
+
+    /// To be called before the first text, and before the environment is written.
+    void awaitFonts();
 
 private:
     void make();
@@ -29,6 +36,7 @@ private:
     char** const m_argv;
     std::optional<ApplicationArguments> m_arguments;
     std::optional<QApplication> m_application;
+    std::thread m_fonts;
 };
 
 } // namespace qinghe

@@ -44,15 +44,15 @@ Answer Services::say(const QString& text, MessageStyle style, const QString& tit
     return messages->show(text, style, title);
 }
 
-Services desktopServices() {
+Services desktopServices(const QString& bookFolder) {
     Services services;
-    services.appPath = QCoreApplication::applicationDirPath();
+    services.appPath = bookFolder;
     services.clock = std::make_unique<DesktopClock>();
     services.messages = std::make_unique<DesktopMessageBoxes>();
     services.chooser = std::make_unique<DesktopFileChooser>();
     services.tray = std::make_unique<DesktopTray>();
     services.launcher = std::make_unique<DesktopLauncher>();
-    services.sound = backgroundSound(services.appPath);
+    services.sound = backgroundSound(QCoreApplication::applicationDirPath());
     services.instance = folderLock(services.appPath);
     services.background = backgroundWork();
     services.process = std::make_unique<DesktopProcess>();

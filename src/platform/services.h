@@ -133,7 +133,7 @@ struct Services {
     std::unique_ptr<InstanceLock> instance;
     std::unique_ptr<Background> background;
     std::unique_ptr<Process> process;
-    QString appPath; ///< the program's folder (App.Path), without a separator at its end unless it is a root
+    QString appPath; ///< the book's folder (App.Path), without a separator at its end unless it is a root
 
     /// What a message says has happened has happened: ends the unit of work, then shows the box. Throws RuntimeError.
     Answer say(const QString& text, MessageStyle style = MessageStyle::Ok, const QString& title = {}) const;
@@ -142,7 +142,7 @@ struct Services {
 /// The name of the program, the title of messages that have none.
 QString productName();
 
-/// The services of the real desktop.
-Services desktopServices();
+/// The services of the real desktop, for the book in this folder.
+Services desktopServices(const QString& bookFolder);
 
 } // namespace qinghe

@@ -6,8 +6,55 @@ namespace {
 
 class Start : public CoreTest {
 protected:
+    /// The line of the title band that stands beside the clock.
+    Label& note() {
+        QList<Label*> labels = rig.at(title::Band).findChildren<Label*>(QString());
+        labels.removeIf([](const Label* label) { return !label->objectName().isEmpty(); });
+        EXPECT_EQ(labels.size(), 1);
+        return *labels.front();
+    }
+
     const QString secondCopy = u"程序已经运行，程序可能已经最小化到左下角或系统托盘！"_s;
 };
+
+TEST_F(Start, ABookThatNobodyHasWrittenInSaysWhereItLiesAndHowToBegin) {
+    rig.signIn();
+    EXPECT_TRUE(note().Visible());
+    EXPECT_EQ(note().Caption(), u"新账本在程序的文件夹：先点“支出”再“增加”"_s);
+    EXPECT_LE(note().fontMetrics().horizontalAdvance(note().Caption()), note().width());
+    EXPECT_TRUE(note().toolTip().contains(rig.folder())) << note().toolTip().toStdString();
+}
+
+TEST(StartInTheHome, ANewBookSaysSo) {
+    ProgramRig rig(u"青禾家庭记账本"_s);
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(QFileInfo(rig.folder()).path()));
+    rig.signIn();
+    qputenv("HOME", home);
+    const QList<Label*> labels = rig.at(title::Band).findChildren<Label*>(QString());
+    const auto said = std::ranges::find(labels, u"新账本在“青禾家庭记账本”：先点“支出”再“增加”"_s, &Label::Caption);
+    ASSERT_NE(said, labels.end());
+    EXPECT_LE((*said)->fontMetrics().horizontalAdvance((*said)->Caption()), (*said)->width());
+}
+
+TEST_F(Start, WhatThereIsToNoteStandsInTheFirstStepsPlace) {
+    rig.signIn();
+    shared().note(u"今天没有做成安全副本。"_s);
+    EXPECT_EQ(note().Caption(), u"今天没有做成安全副本。"_s);
+}
+
+TEST_F(Start, ABookWithARecordOrAPlanOrADiarySaysNothingOfFirstSteps) {
+    for (const QString& row : {u"into srb values('1','2024-05-01','工资','王青',500,'工行','',1)"_s,
+                               u"into rjb values('2024-05-01','五月')"_s}) {
+        rig.sql(u"insert "_s + row);
+        rig.signIn();
+        EXPECT_FALSE(note().Visible()) << row.toStdString();
+        rig.stop();
+        rig.sql(u"delete from "_s + row.section(u' ', 1, 1));
+    }
+    rig.signIn();
+    EXPECT_TRUE(note().Visible());
+}
 
 TEST_F(Start, ASecondCopyAsksForNameAndPasswordFirstThenSaysSoAndEnds) {
     rig.lock->free = false;

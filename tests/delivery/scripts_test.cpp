@@ -6,7 +6,7 @@ namespace {
 /// The scripts at the root of a checkout, in a folder `checkout` of the test's own.
 class RootScripts : public ScriptTest {
 protected:
-    RootScripts() : ScriptTest({u"bash"_s, u"dirname"_s, u"cat"_s}) {
+    RootScripts() : ScriptTest({u"bash"_s, u"dirname"_s, u"cat"_s, u"cp"_s, u"mkdir"_s}) {
         for (const QString& name : {u"setup"_s, u"run"_s, u"bench"_s, u"test"_s})
             QFile::copy(script(name), in(u"checkout"_s, name));
         add(u"id"_s, "echo 1000");
@@ -37,6 +37,38 @@ TEST_F(RootScripts, RunTellsAnAdministratorWhatThatMeans) {
     EXPECT_EQ(run(u"checkout/run"_s), 3);
     EXPECT_TRUE(said.contains(u"您现在是管理员（root）"_s)) << said.toStdString();
     EXPECT_TRUE(said.contains(folder.filePath(u"home"_s))) << said.toStdString();
+}
+
+/// ./run in a checkout that is built. What makes the ledger's folder stands for src/store/ledger_folder.h.
+class Run : public RootScripts {
+protected:
+    Run() {
+        environment.insert(u"DISPLAY"_s, u":1"_s);
+        makeScript(in(u"checkout"_s, u"setup"_s), "exit 0");
+        makeScript(in(u"checkout/build/release/delivery"_s, u"qinghe_delivery"_s),
+                   "[ \"$1\" = ledger ] && [ ! -e \"$2\" ] && mkdir -p \"$2\" && echo book > \"$2/data.dll\"; exit 0");
+        makeScript(in(u"checkout/build/release/app"_s, u"qinghe"_s), "echo \"first $0\"");
+        makeScript(in(u"checkout/build/release/app"_s, u"qinghe_charts.so"_s), "");
+    }
+    QString ledger(const QString& name = {}) const { return folder.filePath(u"home/青禾家庭记账本/"_s + name); }
+};
+
+TEST_F(Run, StartsTheProgramInTheHomeAndTellsOnceWhereTheBookLies) {
+    ASSERT_EQ(run(u"checkout/run"_s), 0) << said.toStdString();
+    EXPECT_TRUE(said.contains(u"您的记账本在 "_s)) << said.toStdString();
+    EXPECT_TRUE(said.endsWith(u"first "_s + ledger(u"qinghe\n"_s))) << said.toStdString();
+    makeScript(in(u"checkout/build/release/app"_s, u"qinghe"_s), "echo \"second $0\"");
+    ASSERT_EQ(run(u"checkout/run"_s), 0) << said.toStdString();
+    EXPECT_EQ(said, u"second "_s + ledger(u"qinghe\n"_s));
+}
+
+TEST_F(Run, ToldThatTheBookIsGoneStartsNothing) {
+    ASSERT_EQ(run(u"checkout/run"_s), 0) << said.toStdString();
+    QFile::remove(ledger(u"data.dll"_s));
+    QFile::remove(ledger(u"qinghe"_s));
+    EXPECT_EQ(run(u"checkout/run"_s), 1);
+    EXPECT_TRUE(said.contains(u"里没有账本文件 data.dll"_s)) << said.toStdString();
+    EXPECT_FALSE(QFile::exists(ledger(u"data.dll"_s)) || QFile::exists(ledger(u"qinghe"_s)));
 }
 
 /// scripts/show_by_vnc with a display and its tools that write down what they are told.

@@ -1,11 +1,11 @@
 #include "ledger_folder.h"
 
+#include "walked.h"
+
 #include <QFile>
-#include <QProcess>
 #include <QStringList>
 #include <sqlite3.h>
 
-#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
@@ -52,23 +52,19 @@ std::vector<std::string> run(sqlite3* database, const std::string& statements) {
     return rows;
 }
 
-/// The built folder with first data in it, whoever may have used the one in the build meanwhile. Made once a run.
-QString asDelivered() {
-    static const QTemporaryDir folder;
-    const QString app = folder.filePath(QStringLiteral("app"));
-    if (!QFile::exists(app)) {
-        std::filesystem::copy(QINGHE_APP_FOLDER, app.toStdString(), std::filesystem::copy_options::recursive);
-        QFile::remove(app + QStringLiteral("/data.dll"));
-        if (QProcess::execute(QStringLiteral(QINGHE_DELIVERY), {app}) != 0)
-            throw std::runtime_error("the delivery fails");
-    }
-    return app;
-}
-
 } // namespace
 
 LedgerFolder::LedgerFolder() {
-    std::filesystem::copy(asDelivered().toStdString(), path().toStdString(), std::filesystem::copy_options::recursive);
+    copyLedger(newLedger(), path());
+}
+
+QString LedgerFolder::path() const {
+    return m_folder.filePath(walked().kind == Walked::Installed ? QStringLiteral("home/青禾家庭记账本")
+                                                                : QStringLiteral("app"));
+}
+
+QString LedgerFolder::programFile(const std::string& name) const {
+    return (walked().kind == Walked::Installed ? walked().folder : path()) + u'/' + QString::fromStdString(name);
 }
 
 QString LedgerFolder::file(const std::string& name) const {

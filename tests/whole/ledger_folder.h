@@ -8,14 +8,16 @@
 
 namespace whole {
 
-/// A portable folder of the test's own, as it ships. Looks at what the program leaves there, and makes ready what it is
+/// A ledger's folder of the test's own, as it ships. Looks at what the program leaves there, and makes ready what it is
 /// to find. The data are changed only while no program runs in the folder.
 class LedgerFolder {
 public:
     LedgerFolder();
 
-    QString path() const { return m_folder.filePath(QStringLiteral("app")); }
+    QString path() const;
     QString file(const std::string& name) const;
+    /// A file of the program, which lies there too unless it is installed.
+    QString programFile(const std::string& name) const;
     bool has(const std::string& name) const;
     QByteArray bytes(const std::string& name) const;
     void write(const std::string& name, const QByteArray& bytes) const;

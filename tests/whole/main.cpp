@@ -1,4 +1,5 @@
 #include "display.h"
+#include "walked.h"
 
 #include <QCoreApplication>
 
@@ -6,6 +7,7 @@
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    whole::chooseWalked(argc, argv);
     const QCoreApplication application(argc, argv);
     const whole::Display display;
     return RUN_ALL_TESTS();

@@ -42,7 +42,7 @@ void layBrowser(const LedgerFolder& folder) {
 
 /// What the program finds around it: the test's display, home, browser, clock and sound device, and the
 /// driver.
-QProcessEnvironment environment(const LedgerFolder& folder, const std::string& now, const QString& socket) {
+QProcessEnvironment environment(const LedgerFolder& folder, const QString& clock, const QString& socket) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("HOME"), folder.beside("home"));
@@ -51,7 +51,7 @@ QProcessEnvironment environment(const LedgerFolder& folder, const std::string& n
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_DRIVER ":" QINGHE_FAKETIME));
     environment.insert(QStringLiteral("QINGHE_DRIVER_SOCKET"), socket);
-    environment.insert(QStringLiteral("FAKETIME"), u'@' + q(now));
+    environment.insert(QStringLiteral("FAKETIME"), clock);
     environment.insert(QStringLiteral("FAKETIME_DONT_FAKE_MONOTONIC"), QStringLiteral("1"));
     environment.insert(QStringLiteral("NO_FAKE_STAT"), QStringLiteral("1"));
     environment.insert(QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("disk"));
@@ -74,13 +74,13 @@ std::ostream& operator<<(std::ostream& out, const Message& message) {
     return out;
 }
 
-Program::Program(const LedgerFolder& folder, const std::string& now) : m_folder(folder) {
+Program::Program(const LedgerFolder& folder, const std::string& now, Clock clock) : m_folder(folder) {
     layBrowser(folder);
     static int count = 0;
     const QString socket = folder.beside("line" + std::to_string(++count));
-    m_process.setProcessEnvironment(environment(folder, now, socket));
+    m_process.setProcessEnvironment(environment(folder, (clock == Clock::MovesOn ? "@" : "") + q(now), socket));
     m_process.setWorkingDirectory(folder.beside(""));
-    m_process.start(folder.file("qinghe"), {});
+    m_process.start(folder.programFile("qinghe"), {});
     m_process.waitForStarted();
     m_id = m_process.processId();
     connect(socket);

@@ -36,8 +36,11 @@ std::ostream& operator<<(std::ostream& out, const Message& message);
 /// next call.
 class Program {
 public:
-    /// Starts it at this moment of its own clock, which then moves on.
-    explicit Program(const LedgerFolder& folder, const std::string& now = "2024-11-18 20:36:08");
+    enum class Clock { MovesOn, Stands };
+
+    /// Starts it at this moment of its own clock.
+    explicit Program(const LedgerFolder& folder, const std::string& now = "2024-11-18 20:36:08",
+                     Clock clock = Clock::MovesOn);
     /// Kills it when it still runs.
     ~Program();
 

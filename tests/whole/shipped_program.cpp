@@ -26,13 +26,13 @@ bool holds(const std::string& text, const std::string& word) {
 TEST(ShippedProgram, IsHardenedAsTheSystemsOwnPackagesAre) {
     const LedgerFolder folder;
     for (const char* const name : {"qinghe", "qinghe_charts.so", "qinghe_sound.so"}) {
-        const std::string headers = headersOf(folder.file(name));
+        const std::string headers = headersOf(folder.programFile(name));
         EXPECT_TRUE(holds(headers, "DYN ")) << name << " lies at a place of chance";
         EXPECT_TRUE(holds(headers, "GNU_RELRO")) << name;
         EXPECT_TRUE(holds(headers, "NOW")) << name << " binds its names before it runs";
         EXPECT_TRUE(holds(headers, "__stack_chk_fail")) << name;
     }
-    EXPECT_TRUE(holds(headersOf(folder.file("qinghe")), "glibcxx_assert_fail"));
+    EXPECT_TRUE(holds(headersOf(folder.programFile("qinghe")), "glibcxx_assert_fail"));
 }
 
 TEST(ShippedProgram, TakesNoPluginFromTheFolderThatItLiesIn) {
@@ -44,5 +44,19 @@ TEST(ShippedProgram, TakesNoPluginFromTheFolderThatItLiesIn) {
                                          {QStringLiteral("QT_DEBUG_PLUGINS"), QStringLiteral("1")}});
     EXPECT_EQ(ended.code, 1);
     EXPECT_TRUE(holds(ended.words, "checking directory path")) << ended.words;
-    EXPECT_FALSE(holds(ended.words, folder.path().toStdString())) << ended.words;
+    for (const char* const place : {"platforms", "planted"})
+        EXPECT_FALSE(holds(ended.words, folder.file(place).toStdString())) << ended.words;
+}
+
+// The fonts' library reads the environment on a thread of its own; on a screen that is too small the program puts its
+// scale there and makes its application once more.
+TEST(ShippedProgram, WritesNoEnvironmentWhileTheFontsAreRead) {
+    const LedgerFolder folder;
+    for (const QString& scale : {QStringLiteral("1"), QStringLiteral("2")})
+        EXPECT_EQ(started(folder, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")},
+                                   {QStringLiteral("QT_SCALE_FACTOR"), scale},
+                                   {QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_FONTS_WATCH)}})
+                      .code,
+                  0)
+            << "scale " << scale.toStdString();
 }
