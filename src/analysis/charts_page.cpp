@@ -63,6 +63,7 @@ ChartsPage::ChartsPage(MainWindow& form)
     makeQueryRow();
     Frame12->place(360, 1440, 11055, 4695);
     Frame12->setRole(Role::InnerFrame);
+    Frame12->setAccessibleName(u"图表"_s);
     MSC1->place(120, 240, 10815, 4335);
     // In the place of the range of dates, which the charts of months have not got.
     m_span->place(9795, 930, 1620, 360);

@@ -11,6 +11,8 @@ namespace qinghe::accessible {
 
 namespace {
 
+Ear heardBy = nullptr;
+
 QAccessibleInterface* interfaceOf(const QString& className, QObject* object) {
     Q_UNUSED(className)
     if (auto* label = qobject_cast<Label*>(object))
@@ -30,28 +32,31 @@ void install() {
     QAccessible::installFactory(interfaceOf);
 }
 
-QString namedAfter(QStringView caption) {
-    caption = caption.trimmed();
-    if (caption.endsWith(u'：'))
-        caption.chop(1);
-    return caption.toString();
-}
-
 QString nameOf(const QWidget& widget) {
     if (!widget.accessibleName().isEmpty())
         return widget.accessibleName();
     if (widget.isWindow())
         return widget.windowTitle();
-    const auto* frame = qobject_cast<const Frame*>(&widget);
-    if (!frame)
-        frame = qobject_cast<const Frame*>(widget.parentWidget());
-    return frame ? frame->Caption() : QString();
+    if (const auto* frame = qobject_cast<const Frame*>(&widget))
+        return frame->Caption();
+    const auto* around = qobject_cast<const Frame*>(widget.parentWidget());
+    return !around ? QString() : around->Caption().isEmpty() ? around->accessibleName() : around->Caption();
 }
 
-void tellFocusAt(QWidget& widget, int child) {
-    QAccessibleEvent event(&widget, QAccessible::Focus);
-    event.setChild(child);
-    QAccessible::updateAccessibility(&event);
+void tell(QWidget& widget, QAccessible::Event what, int part) {
+    if (!heardBy && !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(&widget, what);
+    if (part >= 0)
+        event.setChild(part);
+    if (heardBy)
+        heardBy(event);
+    else
+        QAccessible::updateAccessibility(&event);
+}
+
+void setEar(Ear ear) {
+    heardBy = ear;
 }
 
 } // namespace qinghe::accessible

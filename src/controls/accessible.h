@@ -15,13 +15,14 @@ namespace qinghe::accessible {
 /// From here on the controls are told in their own ways; harmless when it was done before.
 void install();
 
-/// The name of a box that is called after its caption beside it: without blanks and the colon behind.
-QString namedAfter(QStringView caption);
-
 /// The words that a container, or what it holds, is known by: its own name, else the frame's caption.
 QString nameOf(const QWidget& widget);
 
-/// The keyboard is, for who listens, at a part of this widget that is no widget itself.
-void tellFocusAt(QWidget& widget, int child);
+/// Tells what happens to a widget, or to a part of it that is no widget itself; nobody is told while nobody listens.
+void tell(QWidget& widget, QAccessible::Event what, int part = -1);
+
+/// Hears in the screen reader's stead what is told from then on; for tests. nullptr: nobody does.
+using Ear = void (*)(QAccessibleEvent& event);
+void setEar(Ear ear);
 
 } // namespace qinghe::accessible

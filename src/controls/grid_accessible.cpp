@@ -25,9 +25,14 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         // Behind Qt's own word that the keyboard has come to the grid.
-        if (event->type() == QEvent::FocusIn)
+        if (event->type() == QEvent::FocusIn && !std::exchange(m_due, true))
             QMetaObject::invokeMethod(
-                this, [this] { tell(); }, Qt::QueuedConnection);
+                this,
+                [this] {
+                    m_due = false;
+                    tell();
+                },
+                Qt::QueuedConnection);
         return QObject::eventFilter(watched, event);
     }
 
@@ -38,18 +43,19 @@ private:
         const auto [row, col] = cell();
         if (row < 1 || col < 1)
             return;
-        const QAccessible::Event what = m_grid.hasFocus() ? QAccessible::Focus : QAccessible::Selection;
-        QAccessibleEvent event(&m_grid, what);
-        event.setChild(row * (m_grid.Cols() - 1) + col - 1);
-        QAccessible::updateAccessibility(&event);
+        accessible::tell(m_grid, m_grid.hasFocus() ? QAccessible::Focus : QAccessible::Selection,
+                         row * (m_grid.Cols() - 1) + col - 1);
     }
 
     MSFlexGrid& m_grid;
     std::pair<int, int> m_told;
+    bool m_due = false; ///< the keyboard has just come to the grid
 };
 
 GridAccessible::GridAccessible(MSFlexGrid& grid)
-    : QAccessibleWidget(&grid, QAccessible::Table), m_grid(grid), m_follower(new Follower(grid)) {}
+    : QAccessibleWidget(&grid, QAccessible::Table), m_grid(grid), m_follower(new Follower(grid)) {
+    QObject::connect(&grid, &MSFlexGrid::refreshed, m_follower, [this] { forgetGone(); });
+}
 
 GridAccessible::~GridAccessible() {
     for (const auto& [place, id] : m_parts)
@@ -76,7 +82,7 @@ bool GridAccessible::isBlank() const {
 }
 
 bool GridAccessible::hasCurrent() const {
-    return m_grid.Row() > 0 && m_grid.Col() > 0;
+    return m_grid.marksCurrent() && m_grid.Row() > 0 && m_grid.Col() > 0;
 }
 
 // ---- the parts
@@ -115,7 +121,7 @@ QAccessibleInterface* GridAccessible::childAt(int x, int y) const {
 }
 
 QAccessibleInterface* GridAccessible::focusChild() const {
-    return m_grid.hasFocus() ? part(m_grid.Row(), m_grid.Col()) : nullptr;
+    return m_grid.hasFocus() && hasCurrent() ? part(m_grid.Row(), m_grid.Col()) : nullptr;
 }
 
 // ---- the table
@@ -141,8 +147,8 @@ QList<QAccessibleInterface*> GridAccessible::selectedCells() const {
                         : QList<QAccessibleInterface*>();
 }
 
-/// What is no longer there is not told any more.
-void GridAccessible::modelChange(QAccessibleTableModelChangeEvent*) {
+/// The cells that were told and are no longer there.
+void GridAccessible::forgetGone() {
     std::erase_if(m_parts, [this](const auto& entry) {
         const auto& [place, id] = entry;
         if (place.first <= rowCount() && place.second <= columnCount())

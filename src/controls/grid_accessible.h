@@ -49,9 +49,12 @@ public:
     bool selectColumn(int) override { return false; }
     bool unselectRow(int) override { return false; }
     bool unselectColumn(int) override { return false; }
-    void modelChange(QAccessibleTableModelChangeEvent* event) override;
+    void modelChange(QAccessibleTableModelChangeEvent*) override {}
 
-    bool isCurrent(int row, int col) const { return row == m_grid.Row() && col == m_grid.Col(); }
+    /// Nor is a cell of a list that is only read.
+    bool isCurrent(int row, int col) const {
+        return m_grid.marksCurrent() && row == m_grid.Row() && col == m_grid.Col();
+    }
 
 private:
     class Follower;
@@ -59,6 +62,7 @@ private:
     QAccessibleInterface* part(int row, int col) const;
     bool hasCurrent() const;
     bool isBlank() const;
+    void forgetGone();
 
     MSFlexGrid& m_grid;
     mutable std::map<std::pair<int, int>, QAccessible::Id> m_parts; ///< those made so far

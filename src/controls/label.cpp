@@ -1,6 +1,7 @@
 #include "controls/label.h"
 
-#include <QAccessible>
+#include "controls/accessible.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
@@ -18,11 +19,9 @@ void Label::setCaption(const QString& caption) {
     if (text() == caption)
         return;
     setText(caption);
-    if (!m_announced || caption.isEmpty() || !isVisible() || !QAccessible::isActive())
-        return;
     // To who listens, words that come anew are a label that comes up.
-    QAccessibleEvent told(this, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&told);
+    if (m_announced && !caption.isEmpty() && isVisible())
+        accessible::tell(*this, QAccessible::ObjectShow);
 }
 
 bool Label::event(QEvent* event) {

@@ -60,6 +60,7 @@ QAccessible::State LabelAccessible::state() const {
         state.selectable = true;
         state.selected = calendar && m_label.BackColor() != calendar->BackColor();
     }
+    state.readOnly = role() == QAccessible::StaticText;
     if (!isImage(m_label) && name().isEmpty())
         state.invisible = true;
     return state;
@@ -78,7 +79,7 @@ QString LabelAccessible::text(QAccessible::Text what) const {
     if (what == QAccessible::Name)
         return name();
     const QString words = QAccessibleWidget::text(what);
-    return words == name() ? QString() : words; // not twice
+    return name().startsWith(words) ? QString() : words; // not twice
 }
 
 QAccessibleInterface* LabelAccessible::parent() const {

@@ -334,6 +334,12 @@ void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
         });
 }
 
+void MSFlexGrid::focusInEvent(QFocusEvent* event) {
+    // Qt's table would make a cell of its own choice the current one, and tell a screen reader so.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
 void MSFlexGrid::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(viewport());

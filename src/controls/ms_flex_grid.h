@@ -132,6 +132,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void focusInEvent(QFocusEvent*) override;
     void paintEvent(QPaintEvent*) override;
     bool viewportEvent(QEvent*) override;
     void scrollContentsBy(int dx, int dy) override;

@@ -1,8 +1,7 @@
 #include "core/navigation.h"
 
+#include "controls/accessible.h"
 #include "core/ink.h"
-
-#include <QAccessible>
 
 #include <algorithm>
 
@@ -11,14 +10,6 @@ namespace qinghe {
 namespace {
 
 constexpr double TabTop = 1080, TabWidth = 960, TabHeight = 480; // twips
-
-/// To a screen reader, where there is one.
-void tellChosen(Label& tab) {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent chosen(&tab, QAccessible::Selection);
-    QAccessible::updateAccessibility(&chosen);
-}
 
 } // namespace
 
@@ -105,7 +96,7 @@ void Navigation::chooseTab(const Page& shown) {
     for (const Tab& each : m_tabs) {
         each.label->setRole(each.traits == tab ? Role::ChosenLabel : Role::PageLabel);
         if (each.traits == tab)
-            tellChosen(*each.label);
+            accessible::tell(*each.label, QAccessible::Selection);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "tools/calculator.h"
 
+#include "controls/accessible.h"
 #include "core/hover.h"
 #include "look/field_painter.h"
 #include "runtime/runtime_error.h"
@@ -43,11 +44,13 @@ Calculator::Calculator(Shared& shared)
     Text1->setAccessibleName(u"计算器显示"_s);
     Text1->setReadOnly(true);
     Text1->setFocusPolicy(Qt::NoFocus);
+    Text1->setFocusProxy(this); // to who listens the keyboard is at the display, whose text is told as it changes
     showDisplay();
     makeKeys();
     MouseMove = [this](double, double) { unmarkHovered(m_keys); };
     CloseAsked = [this] { finish(); };
     setFocusPolicy(Qt::StrongFocus);
+    setFocus(); // from when it is the window in front
 }
 
 CommandButton* Calculator::key(const QString& name, const QString& caption, double left, double top, double width,
@@ -136,6 +139,13 @@ bool Calculator::typed(QChar character) {
     else
         return false;
     return true;
+}
+
+void Calculator::focusInEvent(QFocusEvent* event) {
+    FieldTool::focusInEvent(event);
+    // Behind Qt's own word that it is at the window.
+    QMetaObject::invokeMethod(
+        this, [this] { accessible::tell(*Text1, QAccessible::Focus); }, Qt::QueuedConnection);
 }
 
 void Calculator::keyPressEvent(QKeyEvent* event) {

@@ -15,6 +15,7 @@ DatePicker::DatePicker(Shared& shared)
       Label1(new Label(this, u"Label1"_s)),
       Label2(new Label(this, u"Label2"_s, u" 日  一  二 三  四 五  六"_s)) {
     setCaption(m_month.captionText());
+    setAccessibleName(u"选择日期"_s);
     setForeColor(ink::White);
     setBackColor(ink::Pine);
     place(0, 0, 3420, 3120);
