@@ -1,5 +1,6 @@
 #include "analysis/ms_chart.h"
 
+#include "analysis/chart_accessible.h"
 #include "analysis/chart_drawing.h"
 #include "analysis/scroll_strip.h"
 #include "look/colours.h"
@@ -90,6 +91,7 @@ QAbstractSlider::SliderAction actionOf(int key) {
 
 MSChart::MSChart(QWidget* parent, const QString& name, const QString& moduleFolder)
     : QWidget(parent), Placed(this), m_moduleFolder(moduleFolder), m_matrix(sampleMatrix()) {
+    ChartAccessible::install();
     setObjectName(name);
     setMouseTracking(true);
     setFont(QFont(u"宋体"_s));

@@ -59,6 +59,9 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
 
 private:
+    /// The mark's words and the tool tip.
+    QString whatToTell(const QString& between) const;
+
     bool m_handsKeyboardOn = false;
     QString m_mark;
 };

@@ -55,6 +55,7 @@ void ComboBox::clearEntries() {
 void ComboBox::showPopup() {
     // Not before the list has the keyboard: when the text loses it, Qt tells of an entry that reads the same.
     m_choosing = false;
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
     m_choosing = true;
     view()->window()->installEventFilter(this);

@@ -1,5 +1,6 @@
 #include "controls/form.h"
 
+#include "controls/accessible.h"
 #include "controls/forms.h"
 #include "controls/tab_order.h"
 
@@ -52,6 +53,7 @@ QPoint placeBeside(const QRect& field, const QRect& window, const QRect& room) {
 
 Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
     : QWidget(owner, flagsOf(kind, owner != nullptr)), Placed(this), m_kind(kind), m_ground(ground) {
+    accessible::install();
     setObjectName(name);
     setMouseTracking(true);
     setShown(false);

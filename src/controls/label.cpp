@@ -1,5 +1,6 @@
 #include "controls/label.h"
 
+#include "controls/accessible.h"
 #include "controls/key_presses.h"
 
 #include <QCoreApplication>
@@ -17,8 +18,18 @@ Label::Label(QWidget* parent, const QString& name, const QString& caption) : Wit
 }
 
 void Label::setCaption(const QString& caption) {
-    if (text() != caption)
-        setText(caption);
+    if (text() == caption)
+        return;
+    setText(caption);
+    // To who listens, words that come anew are a label that comes up.
+    if (m_announced && !caption.isEmpty() && isVisible())
+        accessible::tell(*this, QAccessible::ObjectShow);
+}
+
+bool Label::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip)
+        ToolTipAsked.fromQt();
+    return WithClicks::event(event);
 }
 
 void Label::setReachable() {

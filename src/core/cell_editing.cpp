@@ -22,6 +22,7 @@ CellEditing::CellEditing(QWidget* frame, QStringView name, MSFlexGrid& grid)
     m_unsaved->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_unsaved->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_unsaved->setShown(false);
+    m_unsaved->setAnnounced();
 }
 
 void CellEditing::tellUnsaved(const QString& words) {

@@ -23,6 +23,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
       m_buttons(&m_frame, differences.buttons, *m_grid),
       m_hasWorkedOut(std::ranges::count(differences.list.columns, Kind::WorkedOut, &Column::kind) > 0) {
     m_grid->place(120, 840, 11415, 4815);
+    m_grid->ground.set(HowToBegin.toString());
     m_grid->objection = [this](int row, int col) { return objectionTo(row, col); };
     m_shared.editors[differences.grid] = {m_editing.box, m_grid};
     bindEvents();
@@ -112,6 +113,7 @@ Recordset& GridPage::load(QStringView source) {
 }
 
 void GridPage::layColumns() {
+    m_editing.box->setSubject(list().subject);
     m_grid->setCols(lastColumn() + 1);
     m_grid->setColWidth(0, MarkerWidth);
     std::vector<int> figures;

@@ -30,6 +30,7 @@ public:
     struct List {
         QStringView table; ///< that delete and save work on
         std::span<const Column> columns;
+        QStringView subject;     ///< what its boxes are called after, see CellEditor::setSubject
         QStringView source = {}; ///< what the grid is filled from, where it is not the table
     };
 
@@ -78,6 +79,9 @@ public:
     };
 
     GridPage(MainWindow& window, const Traits& traits);
+
+    /// On the ground of a list that has nothing in it.
+    static constexpr QStringView HowToBegin = u"还没有记录：点第一行的格子就能写，写完点“保存”";
 
     /// Brings the page up.
     void tabClicked(PageCode code) override { open(code); }

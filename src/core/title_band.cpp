@@ -42,6 +42,10 @@ void TitleBand::makeWords() {
     m_notes->setRole(Role::ClockText);
     m_notes->setForeColor(ink::Amber);
     m_notes->setShown(false);
+    m_notes->setAnnounced();
+    Picture3->setAccessibleName(u"标题栏"_s);
+    Label17->setAccessibleName(u"现在时间"_s);
+    Label20->setAccessibleName(u"首页"_s);
     m_notes->setReachable();
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);

@@ -15,6 +15,7 @@ constexpr QStringView Tools = u"软件工具";
 WebWindow::WebWindow(Shared& shared)
     : Form(names::Web, Kind::Dialog, Ground::Dialog), m_shared(shared), Web1(new WebBrowser(this, u"Web1"_s)) {
     setCaption(Tools.toString());
+    Web1->setAccessibleName(u"网页"_s);
     Web1->Leave = [this](const QUrl& page) { openAddress(m_shared, page); };
 }
 

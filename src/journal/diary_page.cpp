@@ -28,7 +28,8 @@ constexpr RowButtonTraits Buttons{
 };
 constexpr QStringView HowToWrite = u"先填左边的日期和标题，再写正文；清空了的按 Ctrl+Z 找回";
 constexpr QStringView HowToRead = u"点标题看正文"; // on empty paper
-constexpr double PickerGap = 300;                  ///< twips from the top of the box to the picker
+constexpr QStringView NothingToFind = u"还没有日记：\n点“写日记”写下第一篇";
+constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
 
 /// Qt paints an empty paper anew only when its hint comes or goes, not when another one takes its place.
 void setHint(LongTextBox& paper, QStringView hint) {
@@ -52,6 +53,9 @@ DiaryPage::DiaryPage(MainWindow& window)
     Option6->place(240, 390, 1200, 300);
     Option5->place(1560, 390, 1320, 300);
     ms8->place(120, 840, 4215, 4815);
+    m_editing.box->setSubject(u"日记");
+    tx8->setAccessibleName(u"日记正文"_s);
+    ms8->setAccessibleName(u"日记列表"_s);
     tx8->place(4455, 840, 7080, 4815);
     m_shared.emptyDiaryPage = [this] {
         if (!Frame10.Visible())
@@ -108,6 +112,7 @@ void DiaryPage::Form2_Option6_Click() {
     m_editing.close();
     m_buttons.setUsable(true);
     setHint(*tx8, HowToWrite);
+    ms8->ground.clear();
     blankRows(*ms8);
     ms8->watchChanges(0);
     m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
@@ -122,6 +127,7 @@ void DiaryPage::Form2_Option5_Click() {
     m_buttons.setUsable(false);
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
     m_entries = Adodc1.loaded();
+    ms8->ground.set(entries.recordCount() == 0 ? NothingToFind.toString() : QString(), GroundWords::Shown::Always);
     ms8->setRows(2);
     // An empty text goes to the row number that all lists share, the loan grid's.
     KeptValues unsaved; // what is found is only read

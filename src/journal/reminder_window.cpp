@@ -40,6 +40,8 @@ ReminderWindow::ReminderWindow(Reminders& reminders)
     bell->setRole(Role::GlyphDisc);
     bell->setGlyph(Glyph::Bell);
     Label1->setRole(Role::ReminderText);
+    Label1->setAccessibleName(u"日程"_s);
+    m_pane->setAccessibleName(u"日程内容"_s);
     m_pane->hold(Label1);
     Command2->setGlyph(Glyph::Mute);
     Command1->setGlyph(Glyph::Accept);

@@ -90,11 +90,21 @@ void SchedulePage::placeControls() {
     well->setRole(Role::Well);
     Label22->place(360, 2190, 3975, 840);
     Label22->raise();
+    nameBoxes();
     Check1->place(6840, 4440, 3000, 330);
     Command26->place(240, 5280, 1680, 390);
     Command27->place(2040, 5280, 1800, 390);
     Command28->place(9195, 5280, 2220, 390);
     Command28->setRole(Role::Primary);
+}
+
+/// As their captions beside them say, in words that stand by themselves.
+void SchedulePage::nameBoxes() {
+    Text3->setAccessibleName(u"日程内容"_s);
+    Text4->setAccessibleName(u"日程日期"_s);
+    Combo3->setAccessibleName(u"提醒时间，几时"_s);
+    Combo4->setAccessibleName(u"提醒时间，几分"_s);
+    Combo1->setAccessibleName(u"提醒音乐"_s);
 }
 
 void SchedulePage::bindEvents() {

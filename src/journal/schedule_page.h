@@ -31,6 +31,7 @@ public:
 
 private:
     void placeControls();
+    void nameBoxes();
     void bindEvents();
     void fillLists();
     void openFreshPlan();

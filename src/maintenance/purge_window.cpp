@@ -78,6 +78,7 @@ void PurgeWindow::makeDate() {
     Label2->place(240, 1560, 1140, 330);
     Text1 = new TextBox(Frame1, u"Text1"_s);
     Text1->place(1440, 1560, 1800, 330);
+    Text1->setAccessibleName(u"删除到哪一天"_s);
     Text1->setFocusRefuge(this); // and not the next button
     Text1->Click = [this] { Form3_Text1_Click(); };
     Text1->setSelectsWhenClicked();

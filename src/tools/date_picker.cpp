@@ -1,5 +1,6 @@
 #include "tools/date_picker.h"
 
+#include "controls/accessible.h"
 #include "controls/key_presses.h"
 #include "core/ink.h"
 
@@ -26,6 +27,7 @@ DatePicker::DatePicker(Shared& shared)
       Label1(new Label(this, u"Label1"_s)),
       Label2(new Label(this, u"Label2"_s, u" 日  一  二 三  四 五  六"_s)) {
     setCaption(m_month.captionText());
+    setAccessibleName(u"选择日期"_s);
     setForeColor(ink::White);
     setBackColor(ink::Pine);
     place(0, 0, 3420, 3120);
@@ -33,6 +35,8 @@ DatePicker::DatePicker(Shared& shared)
     Command1->place(2805, 75, 480, 390);
     Command2->setGlyph(Glyph::Back);
     Command1->setGlyph(Glyph::Forward);
+    Command2->setAccessibleName(u"上个月"_s);
+    Command1->setAccessibleName(u"下个月"_s);
     for (CommandButton* arrow : {Command1, Command2}) {
         arrow->setRole(Role::PickerArrow);
         arrow->setFocusPolicy(Qt::NoFocus);
@@ -67,6 +71,7 @@ void DatePicker::showMonth() {
         const MonthGrid::Cell& cell = m_month.cell(i);
         Label& day = *Label3[static_cast<std::size_t>(i)];
         day.setCaption(cell.caption);
+        day.setAccessibleName(m_month.spokenDay(i));
         day.setForeColor(cell.neighbour ? ink::Yellow : ForeColor());
         day.setBackColor(cell.marked ? ink::Blue : BackColor());
         day.setRole(m_day != 0 && m_month.cellOfDay(m_day) == i ? Role::WalkedDay : Role::DayCell);
@@ -89,7 +94,9 @@ void DatePicker::walkTo(int day) {
     for (int last = 0; day > (last = daysOfMonth(m_month.shownYear(), m_month.shownMonth())); day -= last)
         Form1_Command1_Click();
     m_day = day;
-    Form1_Label3_Click(m_month.cellOfDay(day));
+    const int cell = m_month.cellOfDay(day);
+    Form1_Label3_Click(cell);
+    accessible::tell(*Label3[static_cast<std::size_t>(cell)], QAccessible::Focus);
 }
 
 void DatePicker::walkMonths(int months) {

@@ -44,6 +44,16 @@ TEST_F(DiaryFinding, EntriesAreListedInTheOrderInWhichTheyWereSaved) {
     EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"|"_s);
 }
 
+TEST_F(DiaryFinding, ADiaryWithoutEntriesSaysSoOnItsGround) {
+    find();
+    EXPECT_TRUE(ms8().ground.shown().contains(u"点“写日记”"_s));
+    write();
+    EXPECT_EQ(ms8().ground.shown(), QString());
+    saveEntry(u"2024-6-3"_s, u"插秧"_s);
+    find();
+    EXPECT_EQ(ms8().ground.shown(), QString());
+}
+
 TEST_F(DiaryFinding, ThreeLinesAreShownAsOneRunOfText) {
     saveEntry(u"2024-5-3"_s, u"插秧"_s, {u"一"_s, u"二"_s, u"三"_s});
     find();

@@ -206,7 +206,7 @@ void openCategories(Program& program) {
     show(program, pages::Settings);
     program.click(settings::Categories);
     program.click(categories::Expense);
-    program.clickCell(categories::Majors, 2, 1);
+    program.clickCell(categories::Majors, 6, 1);
 }
 
 void purge(Program& program) {
