@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/scratch_ledger.h"
 #include "runtime/months.h"
 
@@ -104,8 +105,10 @@ void ChartsPage::makeQueryRow() {
     Text2->setBoxText(SecondDate.toString());
     Text1->setAccessibleName(u"开始日期"_s);
     Text2->setAccessibleName(u"结束日期"_s);
-    for (TextBox* box : {Text1, Text2})
+    for (TextBox* box : {Text1, Text2}) {
         box->setSelectsWhenClicked();
+        new PickerKeys(m_shared, *box);
+    }
     Text1->Click = [this] { Form2_Text1_Click(); };
     Text2->Click = [this] { Form2_Text2_Click(); };
     Command25->Click = [this] { Form2_Command25_Click(); };

@@ -26,6 +26,14 @@ void CommandButton::handKeyboardTo(QWidget* heir) {
     setFocusRefuge(heir);
 }
 
+void CommandButton::pressFromAfar() {
+    if (!isVisible() || !isEnabled())
+        return;
+    if (m_handsKeyboardOn)
+        setFocus(Qt::ShortcutFocusReason); // that it is the button's to be handed on
+    click();
+}
+
 void CommandButton::setMark(const QString& words) {
     if (m_mark == words)
         return;

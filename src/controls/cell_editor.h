@@ -33,6 +33,7 @@ public:
     bool differsFromCell() const;
     /// Why the table will refuse the cell under the box as it is; nothing while the box differs from it.
     QString objection() const;
+    const MSFlexGrid& grid() const { return m_grid; }
     int row() const { return m_row; } ///< of the cell under the box
     int col() const { return m_col; }
 

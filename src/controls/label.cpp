@@ -1,8 +1,10 @@
 #include "controls/label.h"
 
 #include "controls/accessible.h"
+#include "controls/key_presses.h"
 
-#include <QEvent>
+#include <QCoreApplication>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -30,8 +32,41 @@ bool Label::event(QEvent* event) {
     return WithClicks::event(event);
 }
 
+void Label::setReachable() {
+    m_reachable = true;
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void Label::setKeyHint(const QString& character) {
+    if (m_keyHint == character)
+        return;
+    m_keyHint = character;
+    update();
+}
+
 void Label::paintEvent(QPaintEvent*) {
     paintElement(CE_Words);
+}
+
+void Label::keyPressEvent(QKeyEvent* event) {
+    const bool clicks = key_presses::isEnter(event->key()) || event->key() == Qt::Key_Space;
+    event->setAccepted(m_reachable && Click && clicks);
+    if (event->isAccepted() && !event->isAutoRepeat())
+        Click.fromQt();
+}
+
+void Label::focusInEvent(QFocusEvent* event) {
+    QFrame::focusInEvent(event); // Qt's label would make a text field of itself
+    if (event->reason() != Qt::TabFocusReason && event->reason() != Qt::BacktabFocusReason)
+        return;
+    // A tip goes with every change of the keyboard's place, and Qt has yet to tell the style of this one.
+    const auto tell = [this] {
+        const QPoint middle = rect().center();
+        QHelpEvent asked(QEvent::ToolTip, middle, mapToGlobal(middle));
+        if (hasFocus())
+            QCoreApplication::sendEvent(this, &asked);
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Label::paintElement(StyleElement element) {

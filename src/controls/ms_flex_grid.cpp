@@ -322,16 +322,19 @@ void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(walk(*event));
+}
+
+bool MSFlexGrid::walk(const QKeyEvent& key) {
     const int page = std::max(1, viewport()->height() / pixelEdge(DefaultRowHeight) - 1);
-    const auto cell = cellAfterKey(*event, {m_row, m_col}, {Rows() - 1, Cols() - 1}, page);
+    const auto cell = cellAfterKey(key, {m_row, m_col}, {Rows() - 1, Cols() - 1}, page);
     const QWidget* const cover = m_cover;
-    if (!cell)
-        event->ignore();
-    else if (!cover || !cover->isVisible())
+    if (cell && (!cover || !cover->isVisible()))
         handlers::enter([&] {
             setRow(cell->row);
             setCol(cell->col);
         });
+    return cell.has_value();
 }
 
 void MSFlexGrid::focusInEvent(QFocusEvent* event) {

@@ -102,6 +102,9 @@ public:
     /// Gives the grid the keyboard; nothing happens while its page is hidden.
     void takeFocus();
 
+    /// Moves the current cell as a key asks; false for a key that is none of a list's.
+    bool walk(const QKeyEvent& key);
+
     /// For those outside: a cell's place in the widget's own pixels, and the scroll that brings it into view.
     Q_INVOKABLE QRect cellRect(int row, int col);
     Q_INVOKABLE void ensureVisible(int row, int col);

@@ -83,6 +83,7 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
         label->setAccessibleName((i < Rows.size() ? u"上月"_s : u"本月"_s) + Rows[i % Rows.size()].name.toString());
         label->setToolTip(OfTheSignIn.toString());
         label->ToolTipAsked = [this, i] { tellTrueSum(i); };
+        label->setReachable();
         m_sums[i].label = label;
     }
     Label36 = new Label(&page, u"Label36"_s);

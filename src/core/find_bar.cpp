@@ -65,9 +65,8 @@ FindBar::FindBar(MainWindow& window)
 // ---- coming and going
 
 std::vector<EditorTarget> FindBar::offered() const {
-    const std::vector<Page*>& pages = m_window.navigation().pages();
-    const auto inView = std::ranges::find_if(pages, [](const Page* page) { return page->frame().isVisible(); });
-    return inView == pages.end() ? std::vector<EditorTarget>() : (*inView)->searchedLists();
+    const Page* const page = m_window.navigation().inView();
+    return page ? page->searchedLists() : std::vector<EditorTarget>();
 }
 
 void FindBar::open() {

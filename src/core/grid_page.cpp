@@ -1,6 +1,7 @@
 #include "core/grid_page.h"
 
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/rescued_texts.h"
 
 #include <algorithm>
@@ -39,7 +40,19 @@ void GridPage::bindEvents() {
     m_buttons.remove->Click = [this] { deleteRow(); };
     m_buttons.save->Click = [this] { saveRows(); };
     m_frame.Click = [this] { frameClicked(); };
+    bindKeys();
     markHovered(m_frame, {m_buttons.add, m_buttons.remove, m_buttons.save});
+}
+
+void GridPage::bindKeys() {
+    m_editing.keys.remove = m_buttons.remove;
+    // One key must not wipe a figure that is worked out.
+    m_editing.keys.takesTyping = [this] { return kindOf(m_grid->Col()) != Kind::WorkedOut; };
+    m_editing.keys.tool = [this]() -> QWidget* {
+        FieldTool* const calculator = m_shared.forms.loaded(names::Calculator);
+        return calculator && calculator->Visible() && calculator->serves(*m_editing.box) ? calculator : nullptr;
+    };
+    new PickerKeys(m_shared, *m_editing.box, [this] { return kindOf(m_grid->Col()) == Kind::Date; });
 }
 
 void GridPage::frameClicked() {

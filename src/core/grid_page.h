@@ -88,6 +88,7 @@ public:
     void formClicked() override;
     void rescue(RescuedTexts& texts) const override;
     std::vector<EditorTarget> searchedLists() const override { return {{m_editing.box, m_grid}}; }
+    KeyedButtons keyedButtons() const override { return {m_buttons.add, m_buttons.save}; }
 
 protected:
     /// The table on view.
@@ -128,6 +129,7 @@ protected:
 
 private:
     void bindEvents();
+    void bindKeys();
     void layColumns();
     int lastColumn() const { return static_cast<int>(list().columns.size()); }
     Kind kindOf(int column) const;

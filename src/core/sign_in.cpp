@@ -64,7 +64,8 @@ SignIn::SignIn(Shared& shared)
     Image1->setAccessibleName(u"最小化"_s);
     Image2->setAccessibleName(u"退出"_s);
     setShape(roundedRectangle(size(), 6));
-    setTabOrder(Combo1, Text2);
+    for (Label* button : {Label1, static_cast<Label*>(Image1), static_cast<Label*>(Image2)})
+        button->setReachable();
     bindEvents();
 }
 

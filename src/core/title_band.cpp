@@ -46,10 +46,12 @@ void TitleBand::makeWords() {
     Picture3->setAccessibleName(u"标题栏"_s);
     Label17->setAccessibleName(u"现在时间"_s);
     Label20->setAccessibleName(u"首页"_s);
+    m_notes->setReachable();
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);
     Label20->Click = [this] { Form2_Label20_Click(); };
     Label20->setToolTip(u"首页（本机网页）"_s);
+    Label20->setReachable();
     showHandOver(Label20);
 }
 
@@ -74,6 +76,7 @@ void TitleBand::makeImages() {
         image->setGlyph(entry.glyph);
         image->setToolTip(entry.tip.toString());
         image->Click = [this, click = entry.click] { (this->*click)(); };
+        image->setReachable();
         showHandOver(image);
     }
 }

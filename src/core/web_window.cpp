@@ -41,6 +41,7 @@ void WebWindow::showBesideMain() {
     if (const Form* window = m_shared.forms.loaded(names::Main))
         place(window->Left() + window->Width(), window->Top(), window->Width(), window->Height());
     showForm();
+    Web1->setFocus(); // its keys scroll the page, and Tab goes along its links
 }
 
 void WebWindow::applyPlace() {

@@ -2,6 +2,7 @@
 
 #include "core/hover.h"
 #include "core/list_records.h"
+#include "core/picker_keys.h"
 #include "core/rescued_texts.h"
 #include "journal/diary_files.h"
 #include "store/tables.h"
@@ -82,6 +83,9 @@ void DiaryPage::bindEvents() {
     ms8->objection = [this](int row, int col) { return objectionTo(row, col); };
     m_editing.box->Click = [this] { Form2_tx9_Click(); };
     m_editing.entered = [this] { entered(); };
+    m_editing.keys.remove = m_buttons.remove;
+    m_editing.keys.takesTyping = [this] { return !diarySearchMode; };
+    new PickerKeys(m_shared, *m_editing.box, [this] { return ms8->Col() == DateColumn; });
     tx8->Click = [this] { Form2_tx8_Click(); };
 }
 

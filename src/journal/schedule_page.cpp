@@ -2,6 +2,7 @@
 
 #include "controls/key_presses.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/plans.h"
 #include "core/rescued_texts.h"
 #include "core/stored_choice.h"
@@ -110,6 +111,7 @@ void SchedulePage::bindEvents() {
     Text3->KeyPress = [this](int key) { Form2_Text3_KeyPress(key); };
     Text4->Click = [this] { Form2_Text4_Click(); };
     Text4->setSelectsWhenClicked();
+    new PickerKeys(m_shared, *Text4);
     Combo1->Click = [this] { Form2_Combo1_Click(); };
     Command26->Click = [this] { Form2_Command26_Click(); };
     Command27->Click = [this] { Form2_Command27_Click(); };

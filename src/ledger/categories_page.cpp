@@ -127,6 +127,13 @@ std::vector<EditorTarget> CategoriesPage::searchedLists() const {
     return lists;
 }
 
+KeyedButtons CategoriesPage::keyedButtons() const {
+    for (const CategoryList* list : {&m_majors, &m_minors})
+        if (list->hasKeyboard())
+            return {list->buttons.add, list->buttons.save};
+    return {};
+}
+
 void CategoriesPage::enter() {
     navigation().hideOthers(*this);
     if (Option3->Value())

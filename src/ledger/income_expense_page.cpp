@@ -1,5 +1,6 @@
 #include "ledger/income_expense_page.h"
 
+#include "controls/report_reader.h"
 #include "core/hover.h"
 #include "core/scratch_ledger.h"
 #include "runtime/money.h"
@@ -63,6 +64,7 @@ IncomeExpensePage::IncomeExpensePage(MainWindow& window)
       Option9(new OptionButton(&m_frame, u"Option9"_s, u"本月人员收支统计"_s)),
       Label10(new Label(&m_frame, u"Label10"_s)),
       m_statistics(window, *m_grid, *Label10, ledgerSide) {
+    new ReportReader(*m_grid);
     placeControls();
     Option7->setValue(true);
     Option7->Click = [this] { Form2_Option7_Click(); };

@@ -122,6 +122,7 @@ void LoansPage::makeImage1() {
     Image1->setGlyph(Glyph::Borrow);
     Image1->setToolTip(u"借入记录"_s);
     Image1->Click = [this] { Form2_Image1_Click(); };
+    Image1->setReachable();
     showHandOver(Image1);
 }
 

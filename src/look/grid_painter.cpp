@@ -163,8 +163,9 @@ CellFit cellFit(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
     return typeOf(option, grid).fit;
 }
 
-void paintGridEdge(QPainter& painter, const QRect& grid) {
-    paintPanel(painter, grid, Corner, Qt::NoBrush, colour::GridEdge);
+void paintGridEdge(QPainter& painter, const QRect& grid, bool hasKeyboard) {
+    paintPanel(painter, grid, Corner, Qt::NoBrush, hasKeyboard ? colour::LeafDeep : colour::GridEdge,
+               hasKeyboard ? 1.8 : 1);
 }
 
 void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid) {

@@ -19,7 +19,7 @@ class MSFlexGrid;
 /// the last row; a cell adds its column's line, its mark and its text.
 void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFlexGrid& grid);
 void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFlexGrid& grid);
-void paintGridEdge(QPainter& painter, const QRect& grid);
+void paintGridEdge(QPainter& painter, const QRect& grid, bool hasKeyboard);
 
 /// Fills a part of the grid that `widget` paints; where the part lies in a corner of the grid, the corner is cut round.
 void fillGridPart(QPainter& painter, const QRect& part, const QWidget& widget, const MSFlexGrid& grid,

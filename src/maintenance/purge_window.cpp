@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "platform/front_window.h"
 #include "runtime/blanks.h"
 
@@ -81,6 +82,7 @@ void PurgeWindow::makeDate() {
     Text1->setFocusRefuge(this); // and not the next button
     Text1->Click = [this] { Form3_Text1_Click(); };
     Text1->setSelectsWhenClicked();
+    new PickerKeys(m_shared, *Text1);
     Label3 = new Label(Frame1, u"Label3"_s, u"以前的记录"_s);
     Label3->place(3360, 1560, 1500, 330);
 }

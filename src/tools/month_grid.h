@@ -53,6 +53,8 @@ public:
     int firstCellOffset() const { return m_firstCellOffset; }
     /// The day in cell 1 to 37, counted from 1; 0 in a cell outside the month on show.
     int dayOfCell(int cell) const { return m_dayOfCell.at(static_cast<std::size_t>(cell - 1)); }
+    /// The index (0 to 36) of the cell with a day of the month on show.
+    int cellOfDay(int day) const { return m_firstCellOffset + day - 1; }
 
 private:
     using Days = std::array<Int16, DayCellCount>;
