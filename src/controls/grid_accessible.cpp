@@ -72,6 +72,8 @@ void* GridAccessible::interface_cast(QAccessible::InterfaceType type) {
 QString GridAccessible::text(QAccessible::Text what) const {
     if (what == QAccessible::Name)
         return accessible::nameOf(m_grid);
+    if (what == QAccessible::Description && !m_grid.ground.shown().isEmpty())
+        return m_grid.ground.shown();
     if (what == QAccessible::Description)
         return isBlank() ? whatToDo() : u"共%1行"_s.arg(rowCount());
     return QAccessibleWidget::text(what);
