@@ -43,7 +43,7 @@ TEST_F(Start, WhatThereIsToNoteStandsInTheFirstStepsPlace) {
     EXPECT_EQ(note().Caption(), u"今天没有做成安全副本。"_s);
 }
 
-TEST_F(Start, ABookWithARecordOrAPlanOrADiarySaysNothingOfFirstSteps) {
+TEST_F(Start, ABookWithARecordOrADiaryOrThatHasGrownSaysNothingOfFirstSteps) {
     for (const QString& row : {u"into srb values('1','2024-05-01','工资','王青',500,'工行','',1)"_s,
                                u"into rjb values('2024-05-01','五月')"_s}) {
         rig.sql(u"insert "_s + row);
@@ -54,6 +54,10 @@ TEST_F(Start, ABookWithARecordOrAPlanOrADiarySaysNothingOfFirstSteps) {
     }
     rig.signIn();
     EXPECT_TRUE(note().Visible());
+    rig.stop();
+    rig.sql(u"insert into 软件皮肤 values('很大',1,zeroblob(2200000))"_s);
+    rig.signIn();
+    EXPECT_FALSE(note().Visible()) << "and nothing is read to find that out";
 }
 
 TEST_F(Start, ASecondCopyAsksForNameAndPasswordFirstThenSaysSoAndEnds) {
