@@ -72,20 +72,15 @@ void* GridAccessible::interface_cast(QAccessible::InterfaceType type) {
 QString GridAccessible::text(QAccessible::Text what) const {
     if (what == QAccessible::Name)
         return accessible::nameOf(m_grid);
+    if (what == QAccessible::Description && !m_grid.ground.shown().isEmpty())
+        return m_grid.ground.shown().replace(u'\n', u'，');
     if (what == QAccessible::Description)
-        return isBlank() ? whatToDo() : u"共%1行"_s.arg(rowCount());
+        return isBlank() ? u"表格里还没有内容"_s : u"共%1行"_s.arg(rowCount());
     return QAccessibleWidget::text(what);
 }
 
-/// The words on the ground of a list without anything in it.
-QString GridAccessible::whatToDo() const {
-    QString words = m_grid.ground.shown();
-    return words.isEmpty() ? u"表格里还没有内容"_s : words.replace(u'\n', u'，');
-}
-
 bool GridAccessible::isBlank() const {
-    return !m_grid.ground.shown().isEmpty() || rowCount() == 0 ||
-           (rowCount() == 1 && m_grid.rowTexts(1).join(QString()).isEmpty());
+    return rowCount() == 0 || (rowCount() == 1 && m_grid.rowTexts(1).join(QString()).isEmpty());
 }
 
 bool GridAccessible::hasCurrent() const {

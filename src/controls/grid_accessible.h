@@ -61,7 +61,6 @@ private:
     /// Row and column of the grid itself: row 0 holds the captions.
     QAccessibleInterface* part(int row, int col) const;
     bool hasCurrent() const;
-    QString whatToDo() const;
     bool isBlank() const;
     void forgetGone();
 

@@ -80,6 +80,8 @@ QString LabelAccessible::name() const {
 QString LabelAccessible::text(QAccessible::Text what) const {
     if (what == QAccessible::Name)
         return name();
+    if (what == QAccessible::Description)
+        m_label.ToolTipAsked.fromQt();
     const QString words = QAccessibleWidget::text(what);
     return name().startsWith(words) ? QString() : words; // not twice
 }

@@ -119,10 +119,10 @@ void Navigation::chooseTab(const Page& shown) {
     const PageTab* tab = chosen == own.end() ? own.data() : &*chosen;
     for (const Tab& each : m_tabs) {
         each.label->setRole(each.traits == tab ? Role::ChosenLabel : Role::PageLabel);
-        if (each.traits != tab)
-            continue;
-        accessible::tell(*each.label, QAccessible::Selection);
-        m_row.choose(*each.label);
+        if (each.traits == tab) {
+            m_row.choose(*each.label);
+            accessible::tell(*each.label, QAccessible::Selection);
+        }
     }
 }
 
