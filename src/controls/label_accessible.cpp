@@ -36,6 +36,7 @@ QAccessible::Role LabelAccessible::role() const {
         return QAccessible::PageTab;
     case Role::SignInButton:
     case Role::DayCell:
+    case Role::WalkedDay:
         return QAccessible::Button;
     case Role::Link:
         return QAccessible::Link;
@@ -54,11 +55,12 @@ QAccessible::State LabelAccessible::state() const {
     if (isPageTab(m_label)) {
         state.selectable = true;
         state.selected = m_label.role() == Role::ChosenLabel;
-    } else if (m_label.role() == Role::DayCell) {
+    } else if (m_label.role() == Role::DayCell || m_label.role() == Role::WalkedDay) {
         // The day that is marked stands on another ground than its calendar.
         const Placed* const calendar = Placed::of(m_label.window());
         state.selectable = true;
         state.selected = calendar && m_label.BackColor() != calendar->BackColor();
+        state.focused = m_label.role() == Role::WalkedDay; // keys walk over it, though another window has them
     }
     state.readOnly = role() == QAccessible::StaticText;
     if (!isImage(m_label) && name().isEmpty())

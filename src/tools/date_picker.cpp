@@ -1,5 +1,6 @@
 #include "tools/date_picker.h"
 
+#include "controls/accessible.h"
 #include "controls/key_presses.h"
 #include "core/ink.h"
 
@@ -93,7 +94,9 @@ void DatePicker::walkTo(int day) {
     for (int last = 0; day > (last = daysOfMonth(m_month.shownYear(), m_month.shownMonth())); day -= last)
         Form1_Command1_Click();
     m_day = day;
-    Form1_Label3_Click(m_month.cellOfDay(day));
+    const int cell = m_month.cellOfDay(day);
+    Form1_Label3_Click(cell);
+    accessible::tell(*Label3[static_cast<std::size_t>(cell)], QAccessible::Focus);
 }
 
 void DatePicker::walkMonths(int months) {
