@@ -5,11 +5,11 @@
 
 namespace qinghe {
 
-/// The pages that the program opens: the tools, the introduction, the home page. They link to each other alone and need
-/// nothing from the net.
+/// The pages that the program opens and those that they lead to: the home page, the introduction, and the manual, whose
+/// contents stand on the page of the tools. They link to each other alone and need nothing from the net.
 QStringList webPageNames();
 
-/// Puts the pages, their style and their picture into the folder `web` below `folder`; a file that is up to date is
+/// Puts the pages, their style and their pictures into the folder `web` below `folder`; a file that is up to date is
 /// left alone, so that its time stays. Throws RuntimeError (PathFileAccess).
 void deliverWebPages(const QString& folder);
 

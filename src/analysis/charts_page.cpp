@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/scratch_ledger.h"
 #include "runtime/months.h"
 
@@ -63,6 +64,7 @@ ChartsPage::ChartsPage(MainWindow& form)
     makeQueryRow();
     Frame12->place(360, 1440, 11055, 4695);
     Frame12->setRole(Role::InnerFrame);
+    Frame12->setAccessibleName(u"图表"_s);
     MSC1->place(120, 240, 10815, 4335);
     // In the place of the range of dates, which the charts of months have not got.
     m_span->place(9795, 930, 1620, 360);
@@ -74,6 +76,7 @@ ChartsPage::ChartsPage(MainWindow& form)
 void ChartsPage::makeOptions() {
     Frame11->place(240, 240, 11055, 615);
     Frame11->setRole(Role::BareFrame);
+    Frame11->setAccessibleName(u"图表种类"_s);
     Option10->place(120, 240, 1815, 255);
     Option11->place(2280, 240, 1815, 255);
     Option12->place(4560, 240, 2055, 255);
@@ -100,8 +103,12 @@ void ChartsPage::makeQueryRow() {
     Command25->place(5040, 240, 615, 255);
     Text1->setBoxText(FirstDate.toString());
     Text2->setBoxText(SecondDate.toString());
-    for (TextBox* box : {Text1, Text2})
+    Text1->setAccessibleName(u"开始日期"_s);
+    Text2->setAccessibleName(u"结束日期"_s);
+    for (TextBox* box : {Text1, Text2}) {
         box->setSelectsWhenClicked();
+        new PickerKeys(m_shared, *box);
+    }
     Text1->Click = [this] { Form2_Text1_Click(); };
     Text2->Click = [this] { Form2_Text2_Click(); };
     Command25->Click = [this] { Form2_Command25_Click(); };

@@ -1,5 +1,6 @@
 #include "analysis/ms_chart.h"
 
+#include "analysis/chart_accessible.h"
 #include "analysis/chart_drawing.h"
 #include "analysis/scroll_strip.h"
 #include "look/colours.h"
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype TipLine = 40, LongestTip = 800; ///< characters
+constexpr qsizetype TipLine = 40; ///< characters
 
 ChartFonts fontsFor(const ChartMatrix& matrix) {
     QFont label = matrix.columnCount() == 1 ? sans(type::Body) : figureFont();
@@ -58,7 +59,7 @@ void paintSampleMark(QPaintDevice& device, const QRect& chart) {
 
 /// Text for a tool tip, in lines that no screen is too narrow for.
 QString tipText(const QString& label, const QString& value) {
-    const QString head = shownValue(label, LongestTip);
+    const QString head = shownValue(label, MostInTip);
     QStringList lines;
     for (qsizetype at = 0; at < head.size(); at += TipLine)
         lines << head.mid(at, TipLine);
@@ -90,6 +91,7 @@ QAbstractSlider::SliderAction actionOf(int key) {
 
 MSChart::MSChart(QWidget* parent, const QString& name, const QString& moduleFolder)
     : QWidget(parent), Placed(this), m_moduleFolder(moduleFolder), m_matrix(sampleMatrix()) {
+    ChartAccessible::install();
     setObjectName(name);
     setMouseTracking(true);
     setFont(QFont(u"宋体"_s));

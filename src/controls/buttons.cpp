@@ -9,6 +9,8 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& caption)
     : Button(parent, name, caption) {
     setAutoDefault(false);
@@ -24,19 +26,32 @@ void CommandButton::handKeyboardTo(QWidget* heir) {
     setFocusRefuge(heir);
 }
 
+void CommandButton::pressFromAfar() {
+    if (!isVisible() || !isEnabled())
+        return;
+    if (m_handsKeyboardOn)
+        setFocus(Qt::ShortcutFocusReason); // that it is the button's to be handed on
+    click();
+}
+
 void CommandButton::setMark(const QString& words) {
     if (m_mark == words)
         return;
     m_mark = words;
+    setAccessibleDescription(words.isEmpty() ? words : whatToTell(u"。"_s));
     update();
 }
 
 bool CommandButton::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !isMarked() || !isEnabled())
         return Button::event(event);
-    const QString words = toolTip().isEmpty() ? m_mark : m_mark + u'\n' + toolTip();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(words), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(whatToTell(u"\n"_s)),
+                       this);
     return true;
+}
+
+QString CommandButton::whatToTell(const QString& between) const {
+    return toolTip().isEmpty() ? m_mark : m_mark + between + toolTip();
 }
 
 void CommandButton::keyPressEvent(QKeyEvent* event) {

@@ -46,6 +46,10 @@ public:
     /// After its click the keyboard goes there, so that a key pressed by chance does not click once more.
     void handKeyboardTo(QWidget* heir);
 
+    /// A click by a key that belongs to another place of the window: the keyboard goes where the click leaves it, and
+    /// stays where it is when that is the button itself. Nothing happens while the button is out of view or disabled.
+    void pressFromAfar();
+
     /// An amber dot, whose words stand in the tool tip before the button's own; without words there is none.
     void setMark(const QString& words);
     bool isMarked() const { return !m_mark.isEmpty(); }
@@ -55,6 +59,9 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
 
 private:
+    /// The mark's words and the tool tip.
+    QString whatToTell(const QString& between) const;
+
     bool m_handsKeyboardOn = false;
     QString m_mark;
 };

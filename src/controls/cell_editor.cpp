@@ -27,6 +27,12 @@ void CellEditor::place() {
     m_row = m_grid.Row();
     m_col = m_grid.Col();
     followCell();
+    setAccessibleName(columnName());
+}
+
+QString CellEditor::columnName() const {
+    const QString caption = isOverCell() ? m_grid.TextMatrix(0, m_col) : QString();
+    return caption.startsWith(m_subject) ? caption : m_subject + caption;
 }
 
 void CellEditor::followCell() {

@@ -17,6 +17,10 @@ class CellEditor : public TextBox {
 public:
     CellEditor(QWidget* frame, const QString& name, MSFlexGrid& grid);
 
+    /// What the list is about, for a screen reader: the box is called after it and the column's caption, where the
+    /// caption does not begin with it.
+    void setSubject(QStringView subject) { m_subject = subject.toString(); }
+
     /// Moves over the current cell and keeps the text.
     void place();
     /// Moves over the current cell and takes its text.
@@ -29,6 +33,7 @@ public:
     bool differsFromCell() const;
     /// Why the table will refuse the cell under the box as it is; nothing while the box differs from it.
     QString objection() const;
+    const MSFlexGrid& grid() const { return m_grid; }
     int row() const { return m_row; } ///< of the cell under the box
     int col() const { return m_col; }
 
@@ -42,7 +47,10 @@ private:
     void followCell();
     void keepInSight();
 
+    QString columnName() const;
+
     MSFlexGrid& m_grid;
+    QString m_subject;
     int m_row = 1, m_col = 1; ///< the cell under the box
 };
 

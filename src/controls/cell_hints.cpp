@@ -9,12 +9,6 @@
 
 namespace qinghe {
 
-namespace {
-
-constexpr qsizetype LongestTip = 800; ///< characters: what a screen has room for
-
-} // namespace
-
 QModelIndex CellHints::indexOf(int row, int col) const {
     return m_grid.model()->index(row - 1, col - 1);
 }
@@ -36,8 +30,8 @@ QString CellHints::tip(int row, int col) const {
     if (!indexOf(row, col).isValid())
         return {};
     QStringList lines{m_grid.objectionTo(row, col)};
-    if (m_grid.isCut(row, col))
-        lines << shownValue(m_grid.TextMatrix(row, col), LongestTip);
+    if (m_grid.fit(row, col) != CellFit::Whole)
+        lines << shownValue(m_grid.TextMatrix(row, col), MostInTip);
     if (tipOf)
         lines << tipOf(row, col);
     lines.removeAll({});

@@ -1,11 +1,15 @@
 #include "controls/combo_box.h"
 
 #include "controls/text_menu.h"
+#include "runtime/shown_value.h"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTextDocument>
 #include <QTimer>
+#include <QToolTip>
 
 namespace qinghe {
 
@@ -49,12 +53,29 @@ void ComboBox::clearEntries() {
 }
 
 void ComboBox::showPopup() {
-    m_choosing = true;
+    // Not before the list has the keyboard: when the text loses it, Qt tells of an entry that reads the same.
+    m_choosing = false;
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
+    m_choosing = true;
     view()->window()->installEventFilter(this);
+    view()->viewport()->installEventFilter(this);
+}
+
+void ComboBox::tellCutEntry(const QHelpEvent& asked) const {
+    const QModelIndex entry = view()->indexAt(asked.pos());
+    if (entry.isValid() && view()->sizeHintForIndex(entry).width() > view()->viewport()->width())
+        QToolTip::showText(asked.globalPos(), Qt::convertFromPlainText(shownValue(entry.data().toString(), MostInTip)),
+                           view()->viewport(), view()->visualRect(entry));
+    else
+        QToolTip::hideText();
 }
 
 bool ComboBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ToolTip && watched == view()->viewport()) {
+        tellCutEntry(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
     // However the list was closed; the choice is told just after that.
     if (event->type() == QEvent::Hide && watched == view()->window())
         QTimer::singleShot(0, this, [this] { m_choosing = false; });

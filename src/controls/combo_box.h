@@ -5,6 +5,8 @@
 
 #include <QComboBox>
 
+class QHelpEvent;
+
 namespace qinghe {
 
 /// A list with a text of its own. Typing never inserts or completes anything and is no click; filling leaves the text
@@ -34,6 +36,8 @@ protected:
     void wheelEvent(QWheelEvent*) override;
 
 private:
+    void tellCutEntry(const QHelpEvent& asked) const;
+
     bool m_choosing = false; ///< the list is open, or a key or the wheel is moving through it
 };
 

@@ -1,6 +1,8 @@
 #include "controls/form.h"
 
+#include "controls/accessible.h"
 #include "controls/forms.h"
+#include "controls/tab_order.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -50,7 +52,8 @@ QPoint placeBeside(const QRect& field, const QRect& window, const QRect& room) {
 } // namespace
 
 Form::Form(const QString& name, Kind kind, Ground ground, QWidget* owner)
-    : QWidget(owner, flagsOf(kind, owner != nullptr)), Placed(this), m_ground(ground) {
+    : QWidget(owner, flagsOf(kind, owner != nullptr)), Placed(this), m_kind(kind), m_ground(ground) {
+    accessible::install();
     setObjectName(name);
     setMouseTracking(true);
     setShown(false);
@@ -200,6 +203,21 @@ void Form::closeEvent(QCloseEvent* event) {
         CloseAsked.fromQt();
     else
         handlers::enter([this] { unload(); });
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    if (m_kind != Kind::Dialog || event->key() != Qt::Key_Escape)
+        return QWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat())
+        close();
+}
+
+std::vector<QWidget*> Form::tabStops() const {
+    return tabStopsIn(*this);
+}
+
+bool Form::focusNextPrevChild(bool next) {
+    return goToNextStop(*this, tabStops(), next);
 }
 
 void Form::unload() {

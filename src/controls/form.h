@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 namespace qinghe {
 
@@ -24,7 +25,7 @@ class Form : public QWidget, public Placed {
 public:
     enum class Kind {
         Frameless, ///< draws its own title bar
-        Dialog,    ///< the desktop's title bar, no resizing; stays above its owner where it has one
+        Dialog,    ///< the desktop's title bar, no resizing; stays above its owner where it has one; Esc closes it
         Tool,      ///< stays above its owner, takes the keyboard
         QuietTool, ///< stays above its owner and leaves the keyboard where it is
         Notice,    ///< comes up over all windows and leaves the keyboard where it is until it is clicked
@@ -78,6 +79,10 @@ protected:
     void resizeEvent(QResizeEvent*) override;
     void changeEvent(QEvent*) override;
     void closeEvent(QCloseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    bool focusNextPrevChild(bool next) override;
+    /// The controls in the order in which Tab comes to them, the first one when the form itself has the keyboard.
+    virtual std::vector<QWidget*> tabStops() const;
 
 private:
     friend class Forms;
@@ -87,6 +92,7 @@ private:
     QSize frameSize() const { return frameGeometry().size() - size(); }
 
     Forms* m_forms = nullptr;
+    Kind m_kind;
     Ground m_ground;
     QImage m_picture;
     PressTracker m_press;

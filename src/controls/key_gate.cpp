@@ -24,10 +24,17 @@ bool takesTyping(const QWidget& control) {
            (list && list->isEditable());
 }
 
-/// Whether Enter or Space does something there beyond entering text: presses a button, answers a box.
+bool isLetter(int key) {
+    return key >= Qt::Key_A && key <= Qt::Key_Z;
+}
+
+/// Whether a key does something there beyond entering text: presses a button, answers or closes a box.
 bool acts(const QWidget& control, int key) {
-    const bool answers = key_presses::isEnter(key) && qobject_cast<const QDialog*>(control.window());
-    return answers || !takesTyping(control);
+    const bool inBox = qobject_cast<const QDialog*>(control.window()), typing = takesTyping(control);
+    if (isLetter(key))
+        return inBox && !typing;
+    const bool answers = inBox && key != Qt::Key_Space;
+    return answers || !typing;
 }
 
 } // namespace
@@ -54,7 +61,7 @@ void KeyGate::noteRelease(const QKeyEvent& event) {
 
 bool KeyGate::isHeldAgainst(const QWidget& control, const QKeyEvent& event) const {
     const int key = event.key();
-    if (!key_presses::isEnter(key) && key != Qt::Key_Space)
+    if (!key_presses::isEnter(key) && key != Qt::Key_Space && key != Qt::Key_Escape && !isLetter(key))
         return false;
     // The desktop repeats a held key as pairs of a release and a press of one moment. Qt takes the two for a repetition
     // only where it sees both at once.

@@ -12,8 +12,8 @@ namespace qinghe {
 /// A key that reaches a control out of view: no control keeps the keyboard when it is hidden (see Placed), so none
 /// should; this is the second line, because a key pressed by chance must never act on a page that nobody sees.
 ///
-/// Enter and Space that are held: they enter text, and press no button and answer no box, whichever came under them
-/// since they went down.
+/// Enter, Space, Esc and letters that are held: they enter text, and press no button and answer no box, whichever came
+/// under them since they went down.
 class KeyGate : public QObject {
     Q_OBJECT
 

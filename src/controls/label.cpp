@@ -1,5 +1,10 @@
 #include "controls/label.h"
 
+#include "controls/accessible.h"
+#include "controls/key_presses.h"
+
+#include <QCoreApplication>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -13,12 +18,55 @@ Label::Label(QWidget* parent, const QString& name, const QString& caption) : Wit
 }
 
 void Label::setCaption(const QString& caption) {
-    if (text() != caption)
-        setText(caption);
+    if (text() == caption)
+        return;
+    setText(caption);
+    // To who listens, words that come anew are a label that comes up.
+    if (m_announced && !caption.isEmpty() && isVisible())
+        accessible::tell(*this, QAccessible::ObjectShow);
+}
+
+bool Label::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip)
+        ToolTipAsked.fromQt();
+    return WithClicks::event(event);
+}
+
+void Label::setReachable() {
+    m_reachable = true;
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void Label::setKeyHint(const QString& character) {
+    if (m_keyHint == character)
+        return;
+    m_keyHint = character;
+    update();
 }
 
 void Label::paintEvent(QPaintEvent*) {
     paintElement(CE_Words);
+}
+
+void Label::keyPressEvent(QKeyEvent* event) {
+    const bool clicks = key_presses::isEnter(event->key()) || event->key() == Qt::Key_Space;
+    event->setAccepted(m_reachable && Click && clicks);
+    if (event->isAccepted() && !event->isAutoRepeat())
+        Click.fromQt();
+}
+
+void Label::focusInEvent(QFocusEvent* event) {
+    QFrame::focusInEvent(event); // Qt's label would make a text field of itself
+    if (event->reason() != Qt::TabFocusReason && event->reason() != Qt::BacktabFocusReason)
+        return;
+    // A tip goes with every change of the keyboard's place, and Qt has yet to tell the style of this one.
+    const auto tell = [this] {
+        const QPoint middle = rect().center();
+        QHelpEvent asked(QEvent::ToolTip, middle, mapToGlobal(middle));
+        if (hasFocus())
+            QCoreApplication::sendEvent(this, &asked);
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Label::paintElement(StyleElement element) {

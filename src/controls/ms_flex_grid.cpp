@@ -107,10 +107,6 @@ QString MSFlexGrid::Text() const {
     return m_model->cell(m_row, m_col);
 }
 
-void MSFlexGrid::setText(const QString& text) {
-    setTextMatrix(m_row, m_col, text);
-}
-
 QString MSFlexGrid::TextMatrix(int row, int col) const {
     return m_model->cell(row, col);
 }
@@ -190,10 +186,6 @@ double MSFlexGrid::RowPos(int row) {
 void MSFlexGrid::setAmountColumns(std::vector<int> columns) {
     m_amounts = std::move(columns);
     viewport()->update();
-}
-
-bool MSFlexGrid::isAmountColumn(int col) const {
-    return std::find(m_amounts.begin(), m_amounts.end(), col) != m_amounts.end();
 }
 
 void MSFlexGrid::setMarked(bool marked) {
@@ -322,16 +314,25 @@ void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(walk(*event));
+}
+
+bool MSFlexGrid::walk(const QKeyEvent& key) {
     const int page = std::max(1, viewport()->height() / pixelEdge(DefaultRowHeight) - 1);
-    const auto cell = cellAfterKey(*event, {m_row, m_col}, {Rows() - 1, Cols() - 1}, page);
+    const auto cell = cellAfterKey(key, {m_row, m_col}, {Rows() - 1, Cols() - 1}, page);
     const QWidget* const cover = m_cover;
-    if (!cell)
-        event->ignore();
-    else if (!cover || !cover->isVisible())
+    if (cell && (!cover || !cover->isVisible()))
         handlers::enter([&] {
             setRow(cell->row);
             setCol(cell->col);
         });
+    return cell.has_value();
+}
+
+void MSFlexGrid::focusInEvent(QFocusEvent* event) {
+    // Qt's table would make a cell of its own choice the current one, and tell a screen reader so.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
 }
 
 void MSFlexGrid::paintEvent(QPaintEvent* event) {
@@ -345,13 +346,13 @@ void MSFlexGrid::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
 }
 
-bool MSFlexGrid::isCut(int row, int col) const {
+CellFit MSFlexGrid::fit(int row, int col) const {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     option.index = m_model->index(row - 1, col - 1);
     option.rect = visualRect(option.index);
     option.text = option.index.data().toString();
-    return style()->styleHint(static_cast<QStyle::StyleHint>(SH_CellIsCut), &option, this) != 0;
+    return static_cast<CellFit>(style()->styleHint(static_cast<QStyle::StyleHint>(SH_CellFit), &option, this));
 }
 
 bool MSFlexGrid::viewportEvent(QEvent* event) {

@@ -4,11 +4,13 @@
 #include "controls/event.h"
 #include "controls/grid_changes.h"
 #include "controls/grid_columns.h"
+#include "controls/ground_words.h"
 #include "controls/placed.h"
 #include "controls/press_tracker.h"
 
 #include <QTableView>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -54,7 +56,7 @@ public:
     int Col() const { return m_col; }
     void setCol(int col);
     QString Text() const;
-    void setText(const QString& text);
+    void setText(const QString& text) { setTextMatrix(m_row, m_col, text); }
 
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
     /// All texts of a row, the one of the marker column first; quicker than cell by cell.
@@ -79,7 +81,7 @@ public:
 
     /// Columns whose texts stand on the right.
     void setAmountColumns(std::vector<int> columns);
-    bool isAmountColumn(int col) const;
+    bool isAmountColumn(int col) const { return std::ranges::count(m_amounts, col) > 0; }
 
     /// The list shows so many records of its table as they are; until it rests it is looked whether the two differ.
     void watchChanges(int records) { m_changes.begin(records), changed(); }
@@ -101,6 +103,9 @@ public:
     /// Gives the grid the keyboard; nothing happens while its page is hidden.
     void takeFocus();
 
+    /// Moves the current cell as a key asks; false for a key that is none of a list's.
+    bool walk(const QKeyEvent& key);
+
     /// For those outside: a cell's place in the widget's own pixels, and the scroll that brings it into view.
     Q_INVOKABLE QRect cellRect(int row, int col);
     Q_INVOKABLE void ensureVisible(int row, int col);
@@ -111,8 +116,8 @@ public:
     Event<> MouseMove;
 
     CellHints hints{*this};
-    /// Whether the cell has not the room for its text.
-    bool isCut(int row, int col) const;
+    GroundWords ground{*this};
+    CellFit fit(int row, int col) const;
 
     /// For the style: whether marks of the current cell are drawn.
     bool marksCurrent() const { return isEnabled() || m_marked; }
@@ -131,6 +136,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void focusInEvent(QFocusEvent*) override;
     void paintEvent(QPaintEvent*) override;
     bool viewportEvent(QEvent*) override;
     void scrollContentsBy(int dx, int dy) override;

@@ -21,6 +21,7 @@ enum class Role {
     MonthTitle,   ///< a calendar's year and month
     WeekRow,      ///< a calendar's head line: seven characters over seven columns
     DayCell,      ///< one day of a calendar
+    WalkedDay,    ///< the one of them that keys are at: in a ring
     Help,         ///< small explaining text, running
     ReminderText, ///< a notice's words: running text, 12 pt
     Hairline,     ///< no words: a line through the middle of the label
@@ -94,12 +95,16 @@ enum class Glyph {
 /// widget is the control and is asked for the rest.
 enum StyleElement : unsigned {
     PE_FormGround = static_cast<unsigned>(QStyle::PE_CustomBase) + 1, ///< widget: Form
-    PE_LedgerPaper, ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
-    PE_GridEdge,    ///< the edge round a grid
-    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1,     ///< widget: Label
-    CE_Image,                                                        ///< widget: Image
-    SH_CellIsCut = static_cast<unsigned>(QStyle::SH_CustomBase) + 1, ///< 1 where a cell shows only the head of its
-                                                                     ///< text; a view item's option; widget: MSFlexGrid
+    PE_LedgerPaper,  ///< rules below a grid's last row; option.rect is the empty room; widget: MSFlexGrid
+    PE_GridEdge,     ///< the edge round a grid; it tells whether the grid has the keyboard
+    PE_KeyboardRing, ///< round what has the keyboard, to be seen on every ground
+    CE_Words = static_cast<unsigned>(QStyle::CE_CustomBase) + 1,   ///< widget: Label
+    CE_Image,                                                      ///< widget: Image
+    SH_CellFit = static_cast<unsigned>(QStyle::SH_CustomBase) + 1, ///< a CellFit; a view item's option; widget:
+                                                                   ///< MSFlexGrid
 };
+
+/// How a cell shows its text: whole, whole in type that is hard to read, or no more than its head.
+enum class CellFit { Whole, Tiny, Cut };
 
 } // namespace qinghe

@@ -52,6 +52,8 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     }
     if (code == key_presses::Enter && m_enterPressesOnce && event->isAutoRepeat())
         return event->accept();
+    if (code == key_presses::Escape && !KeyPress)
+        return event->ignore();
     KeyPress.fromQt(code);
     // Enter and Esc are the handlers' alone; other keys go to the box as it stands after the handler.
     if (code != key_presses::Enter && code != key_presses::Escape && isEnabled())

@@ -6,8 +6,8 @@
 
 namespace qinghe {
 
-/// A one-line text box. Esc is a key press too (27). Change comes with every change of the text and with every
-/// assignment from code, also of an equal text.
+/// A one-line text box. Esc is a key press too (27), and its container's where nobody listens here. Change comes with
+/// every change of the text and with every assignment from code, also of an equal text.
 class TextBox : public TypedBox<QLineEdit> {
     Q_OBJECT
     QINGHE_CONTROL

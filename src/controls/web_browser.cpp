@@ -1,5 +1,6 @@
 #include "controls/web_browser.h"
 
+#include "controls/smooth_pictures.h"
 #include "platform/files.h"
 
 #include <QFileInfo>
@@ -11,6 +12,7 @@ WebBrowser::WebBrowser(QWidget* parent, const QString& name) : QTextBrowser(pare
     setOpenLinks(false);
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(20);
+    SmoothPictures::serve(*document());
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { follow(link); });
 }
 

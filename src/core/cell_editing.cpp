@@ -13,12 +13,16 @@ constexpr double TagRoom = 1200, NoteTop = 60, NoteHeight = 270; // twips
 } // namespace
 
 CellEditing::CellEditing(QWidget* frame, QStringView name, MSFlexGrid& grid)
-    : box(new CellEditor(frame, name.toString(), grid)), m_grid(grid), m_unsaved(new Label(frame, {})) {
+    : box(new CellEditor(frame, name.toString(), grid)),
+      keys(grid, *box, [this](int key) { keyPressed(key); }),
+      m_grid(grid),
+      m_unsaved(new Label(frame, {})) {
     box->KeyPress = [this](int key) { keyPressed(key); };
     m_unsaved->setRole(Role::Help);
     m_unsaved->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_unsaved->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_unsaved->setShown(false);
+    m_unsaved->setAnnounced();
 }
 
 void CellEditing::tellUnsaved(const QString& words) {

@@ -2,6 +2,7 @@
 
 #include "controls/cell_editor.h"
 #include "controls/label.h"
+#include "core/cell_keys.h"
 
 #include <functional>
 
@@ -15,6 +16,7 @@ public:
     CellEditing(QWidget* frame, QStringView name, MSFlexGrid& grid);
 
     CellEditor* const box;
+    CellKeys keys; ///< of the list
 
     /// Enter was pressed in the box.
     std::function<void()> entered;

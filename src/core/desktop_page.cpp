@@ -17,6 +17,7 @@ constexpr PageTab Tabs[] = {{u"Label24", u"  桌面", 0, PageCode::Desktop}};
 constexpr PageTraits DesktopTraits{u"Frame13", u"桌面", 200, 1680, 11535, 6135, Tabs};
 
 struct SumColumn {
+    QStringView name; ///< as it stands beside it in the picture
     QStringView column;
     QStringView table;
     QStringView dateColumn;
@@ -24,11 +25,11 @@ struct SumColumn {
 
 /// Rows of the desktop from top to bottom.
 constexpr std::array<SumColumn, 5> Rows{{
-    {columns::Amount, tables::Income, columns::Time},
-    {columns::Amount, tables::Expense, columns::Time},
-    {columns::BudgetAmount, tables::Budget, columns::BudgetTime},
-    {columns::BorrowedAmount, tables::Borrowed, columns::Day},
-    {columns::LentAmount, tables::Lent, columns::Day},
+    {u"收入", columns::Amount, tables::Income, columns::Time},
+    {u"支出", columns::Amount, tables::Expense, columns::Time},
+    {u"预算", columns::BudgetAmount, tables::Budget, columns::BudgetTime},
+    {u"借入", columns::BorrowedAmount, tables::Borrowed, columns::Day},
+    {u"借出", columns::LentAmount, tables::Lent, columns::Day},
 }};
 
 struct SumLabel {
@@ -49,6 +50,8 @@ constexpr std::array<SumLabel, 10> Labels{{
     {u"Label34", 6000, 4080}, // thisMonthBorrowed
     {u"Label35", 6000, 4920}, // thisMonthLent
 }};
+
+constexpr QStringView OfTheSignIn = u"登陆时算好的数字；之后记的账，下次启动时才计入。";
 
 /// A figure ends where all do; one that is longer has the rest of its card as well. What that cannot hold either, the
 /// style sets in smaller type.
@@ -72,22 +75,27 @@ DesktopPage::DesktopPage(Shared& shared, Navigation& navigation, Adodc& store)
     Image2 = new Image(&page, u"Image2"_s);
     Image2->place(60, 240, 11415, 5835);
     Image2->setRole(Role::Picture);
+    Image2->setAccessibleName(u"桌面图片"_s);
     for (std::size_t i = 0; i < Labels.size(); ++i) {
         auto* label = new Label(&page, Labels[i].name.toString());
         label->place(Labels[i].left, Labels[i].top, FigureWidth, 300);
         label->setRole(Role::Figure);
-        label->setToolTip(u"登陆时算好的数字；之后记的账，下次启动时才计入。"_s);
+        label->setAccessibleName((i < Rows.size() ? u"上月"_s : u"本月"_s) + Rows[i % Rows.size()].name.toString());
+        label->setToolTip(OfTheSignIn.toString());
+        label->ToolTipAsked = [this, i] { tellTrueSum(i); };
+        label->setReachable();
         m_sums[i].label = label;
     }
     Label36 = new Label(&page, u"Label36"_s);
     Label36->place(8160, 1680, 2775, 3855);
     Label36->setRole(Role::PlanList);
+    Label36->setAccessibleName(u"今日日程"_s);
 }
 
 void DesktopPage::computeSums() {
-    const QDate today = m_shared.services.clock->today();
+    m_signedIn = m_shared.services.clock->today();
     for (std::size_t i = 0; i < m_sums.size(); ++i) {
-        const QString month = i < Rows.size() ? months::lastMonth(today) : months::thisMonth(today);
+        const QString month = i < Rows.size() ? months::lastMonth(m_signedIn) : months::thisMonth(m_signedIn);
         Recordset& sum = Adodc1.open(sumQuery(Rows[i % Rows.size()], month));
         m_sums[i].total = sum.recordCount() != 0 ? sum.field(u"总金额"_s).value() : Value(0);
     }
@@ -100,6 +108,30 @@ void DesktopPage::showSums() {
         const QString figure = total != 0 ? money::yuan(total) : money::none();
         sum.label->setCaption(figure);
         sum.label->setWidth(widthOf(figure));
+    }
+}
+
+void DesktopPage::tellTrueSum(std::size_t figure) {
+    const QString sum = trueSum(figure);
+    m_sums[figure].label->setToolTip(sum.isEmpty() ? OfTheSignIn.toString()
+                                                   : sum + u"\n框里是"_s + OfTheSignIn.toString());
+}
+
+QString DesktopPage::trueSum(std::size_t figure) const {
+    const SumColumn& row = Rows[figure % Rows.size()];
+    const QDate month = figure < Rows.size() ? m_signedIn.addMonths(-1) : m_signedIn;
+    // A control of its own: what others have loaded stays theirs. What only explains waits for nobody and ends nothing.
+    const std::unique_ptr<Adodc> control(m_shared.newControl(u"trueSum"_s, nullptr));
+    const auto read = [&] { control->open(sumQuery(row, months::ofCalendar(month))); };
+    try {
+        if (!m_shared.store.tryNow(read))
+            return {};
+        const Value total = control->recordset().field(0).value();
+        return u"%1年%2月的%3合计：%4"_s.arg(month.year())
+            .arg(month.month())
+            .arg(row.name.toString(), total.isNull() ? money::none() : money::fullYuan(total.number()));
+    } catch (const RuntimeError&) {
+        return {};
     }
 }
 

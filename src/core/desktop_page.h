@@ -2,6 +2,8 @@
 
 #include "core/navigation.h"
 
+#include <QDate>
+
 namespace qinghe {
 
 /// The desktop page, `Frame13`: ten sums of last month and this month, computed once at the load of the main window,
@@ -30,9 +32,15 @@ private:
         Value total; ///< of the sign-in, NULL where nothing was summed
     };
     void showSums();
+    /// What the figure's tool tip says: the sum of its calendar month as the book stands now, and of when the figure
+    /// is.
+    void tellTrueSum(std::size_t figure);
+    /// The text of that sum; nothing while the book cannot be read.
+    QString trueSum(std::size_t figure) const;
 
     Shared& m_shared;
     Adodc& Adodc1;
+    QDate m_signedIn; ///< the day to whose months the sums belong
     std::array<Sum, 10> m_sums;
 };
 

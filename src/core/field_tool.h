@@ -50,6 +50,16 @@ public:
     /// stays open, to be unloaded or to serve another field.
     virtual void handBack() {}
 
+    /// Whether it is open for this box.
+    bool serves(const TextBox& box) const { return m_field.box == &box; }
+    /// A tool that leaves the keyboard with its field can take the keys that are pressed there (PickerKeys).
+    virtual void setTakesKeys(bool takes) { Q_UNUSED(takes) }
+    /// Whether it has taken this one.
+    virtual bool takeKey(const QKeyEvent& key) {
+        Q_UNUSED(key)
+        return false;
+    }
+
 protected:
     FieldTarget m_field;
 };

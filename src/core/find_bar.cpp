@@ -45,6 +45,9 @@ FindBar::FindBar(MainWindow& window)
     setRole(Role::StripFrame);
     setShown(false);
     m_close->setRole(Role::PickerArrow);
+    setAccessibleName(u"查找"_s);
+    m_words->setAccessibleName(u"要查找的内容"_s);
+    m_note->setAnnounced();
     m_words->setPlaceholderText(u"查找"_s);
     m_words->installEventFilter(this);
     m_words->Change = [this] { find(Way::Here); };
@@ -62,9 +65,8 @@ FindBar::FindBar(MainWindow& window)
 // ---- coming and going
 
 std::vector<EditorTarget> FindBar::offered() const {
-    const std::vector<Page*>& pages = m_window.navigation().pages();
-    const auto inView = std::ranges::find_if(pages, [](const Page* page) { return page->frame().isVisible(); });
-    return inView == pages.end() ? std::vector<EditorTarget>() : (*inView)->searchedLists();
+    const Page* const page = m_window.navigation().inView();
+    return page ? page->searchedLists() : std::vector<EditorTarget>();
 }
 
 void FindBar::open() {
@@ -167,7 +169,9 @@ void FindBar::find(Way way) {
         found = cells.begin();
     moveTo(found->row, found->col);
     const auto place = found - cells.begin() + 1;
-    note(u"%1 / %2"_s.arg(place).arg(cells.size()), u"第 %1 处，共 %2 处"_s.arg(place).arg(cells.size()));
+    note(u"%1 / %2"_s.arg(place).arg(cells.size()), u"第 %1 处，共 %2 处"_s.arg(place).arg(cells.size()),
+         u"：第%1行，%2，%3"_s.arg(QString::number(found->row), m_list.grid->TextMatrix(0, found->col),
+                                   m_list.grid->TextMatrix(found->row, found->col)));
 }
 
 void FindBar::moveTo(int row, int col) {
@@ -185,7 +189,8 @@ void FindBar::moveTo(int row, int col) {
         m_list.box->setBoxText(grid.Text());
 }
 
-void FindBar::note(const QString& words, const QString& tip) {
+void FindBar::note(const QString& words, const QString& tip, const QString& cell) {
+    m_note->setAccessibleName(cell.isEmpty() ? tip : tip + cell); // before it is announced
     m_note->setCaption(words);
     m_note->setToolTip(tip);
 }

@@ -37,7 +37,8 @@ private:
     bool isTypingOpen() const;
     void find(Way way);
     void moveTo(int row, int col);
-    void note(const QString& words, const QString& tip = {});
+    /// What the cell found holds is told to a screen reader alone: the eye sees it.
+    void note(const QString& words, const QString& tip = {}, const QString& cell = {});
 
     MainWindow& m_window;
     Shared& m_shared;

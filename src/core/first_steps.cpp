@@ -52,10 +52,10 @@ QStringList firstSteps(Shared& shared) {
         return {};
     const QString& folder = shared.services.appPath;
     const QString place = folder == ownLedgerFolder() ? u"“青禾家庭记账本”"_s : u"程序的文件夹"_s;
-    return {u"新账本在%1：先点“支出”再“增加”\n"
+    return {u"新账本在%1：先点“支出”写第一行\n"
             "账本还没有人写过，它在文件夹：\n%2\n"
             "里面的 data.dll 是全部记录；退出程序后拷走整个文件夹，就带走了全部。\n"
-            "第一步：点“支出”，再点“增加”，写好一行，点“保存”。\n"
+            "第一步：点“支出”，点第一行的格子，写好一行，点“保存”。\n"
             "新账本的第一个用户是“管理员”，密码 123456；\n请到“用户”页换成自己的名字和密码。\n"
             "每一页能做什么：点右上角的“软件介绍”。"_s.arg(place, QDir::toNativeSeparators(folder))};
 }

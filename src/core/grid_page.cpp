@@ -1,6 +1,7 @@
 #include "core/grid_page.h"
 
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/rescued_texts.h"
 
 #include <algorithm>
@@ -22,6 +23,7 @@ GridPage::GridPage(MainWindow& window, const Traits& differences)
       m_buttons(&m_frame, differences.buttons, *m_grid),
       m_hasWorkedOut(std::ranges::count(differences.list.columns, Kind::WorkedOut, &Column::kind) > 0) {
     m_grid->place(120, 840, 11415, 4815);
+    m_grid->ground.set(HowToBegin.toString());
     m_grid->objection = [this](int row, int col) { return objectionTo(row, col); };
     m_shared.editors[differences.grid] = {m_editing.box, m_grid};
     bindEvents();
@@ -38,7 +40,19 @@ void GridPage::bindEvents() {
     m_buttons.remove->Click = [this] { deleteRow(); };
     m_buttons.save->Click = [this] { saveRows(); };
     m_frame.Click = [this] { frameClicked(); };
+    bindKeys();
     markHovered(m_frame, {m_buttons.add, m_buttons.remove, m_buttons.save});
+}
+
+void GridPage::bindKeys() {
+    m_editing.keys.remove = m_buttons.remove;
+    // One key must not wipe a figure that is worked out.
+    m_editing.keys.takesTyping = [this] { return kindOf(m_grid->Col()) != Kind::WorkedOut; };
+    m_editing.keys.tool = [this]() -> QWidget* {
+        FieldTool* const calculator = m_shared.forms.loaded(names::Calculator);
+        return calculator && calculator->Visible() && calculator->serves(*m_editing.box) ? calculator : nullptr;
+    };
+    new PickerKeys(m_shared, *m_editing.box, [this] { return kindOf(m_grid->Col()) == Kind::Date; });
 }
 
 void GridPage::frameClicked() {
@@ -99,6 +113,7 @@ Recordset& GridPage::load(QStringView source) {
 }
 
 void GridPage::layColumns() {
+    m_editing.box->setSubject(list().subject);
     m_grid->setCols(lastColumn() + 1);
     m_grid->setColWidth(0, MarkerWidth);
     std::vector<int> figures;

@@ -30,6 +30,7 @@ public:
     struct List {
         QStringView table; ///< that delete and save work on
         std::span<const Column> columns;
+        QStringView subject;     ///< what its boxes are called after, see CellEditor::setSubject
         QStringView source = {}; ///< what the grid is filled from, where it is not the table
     };
 
@@ -79,11 +80,15 @@ public:
 
     GridPage(MainWindow& window, const Traits& traits);
 
+    /// On the ground of a list that has nothing in it.
+    static constexpr QStringView HowToBegin = u"还没有记录：点第一行的格子就能写，写完点“保存”";
+
     /// Brings the page up.
     void tabClicked(PageCode code) override { open(code); }
     void formClicked() override;
     void rescue(RescuedTexts& texts) const override;
     std::vector<EditorTarget> searchedLists() const override { return {{m_editing.box, m_grid}}; }
+    KeyedButtons keyedButtons() const override { return {m_buttons.add, m_buttons.save}; }
 
 protected:
     /// The table on view.
@@ -124,6 +129,7 @@ protected:
 
 private:
     void bindEvents();
+    void bindKeys();
     void layColumns();
     int lastColumn() const { return static_cast<int>(list().columns.size()); }
     Kind kindOf(int column) const;

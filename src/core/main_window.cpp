@@ -4,6 +4,7 @@
 #include "core/first_steps.h"
 #include "core/stored_choice.h"
 #include "core/stored_picture.h"
+#include "core/window_keys.h"
 #include "core/window_shape.h"
 #include "platform/files.h"
 #include "store/data_file.h"
@@ -75,10 +76,12 @@ void MainWindow::load() {
     if (const QString diary = m_shared.safeDiaryFolder(); !files::isFolder(diary))
         files::makeFolder(diary);
     shapeMainWindow(*this);
+    setFocus(); // else the desktop's activating it would give the keyboard to the first control
     m_shared.store.close();
     healHeader(m_shared.dataFile());
     showForm();
     m_navigation.begin(*m_desktop);
+    m_keys = new WindowKeys(*this);
     startClock();
     for (Page* page : m_navigation.pages())
         page->windowLoads();

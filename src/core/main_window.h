@@ -11,6 +11,7 @@
 namespace qinghe {
 
 class FindBar;
+class WindowKeys;
 
 /// The main window, `Form2`: its load, tray and drag, and what all pages share. The pages themselves stand above this
 /// floor and enter themselves with the navigation.
@@ -38,6 +39,9 @@ public:
     Adodc* Adodc3; // the month statistics' sums
     Timer* Timer1; // the clock in the title band
 
+protected:
+    std::vector<QWidget*> tabStops() const override { return m_navigation.tabStops(); }
+
 private:
     void bindEvents();
     void openFindBar();
@@ -61,6 +65,7 @@ private:
     Navigation m_navigation;
     TitleBand m_titleBand;
     DesktopPage* m_desktop;
+    WindowKeys* m_keys = nullptr;
     QPointer<FindBar> m_findBar; ///< made at its first use; a child of the page that it was last at
 
     QElapsedTimer m_sinceReturn; ///< from the tray

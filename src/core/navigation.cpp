@@ -1,5 +1,7 @@
 #include "core/navigation.h"
 
+#include "controls/accessible.h"
+#include "controls/tab_order.h"
 #include "core/ink.h"
 
 #include <algorithm>
@@ -36,6 +38,9 @@ void Navigation::makeTab(Page& page, const PageTab& tab) {
     m_tabs.push_back({label, &tab});
     std::ranges::stable_sort(m_tabs, {}, [](const Tab& each) { return each.traits->left; });
     placeTabs();
+    std::vector<Label*> labels;
+    std::ranges::transform(m_tabs, std::back_inserter(labels), &Tab::label);
+    m_row.setLabels(labels);
 }
 
 void Navigation::placeTabs() {
@@ -85,6 +90,26 @@ void Navigation::show(const Page& shown) {
     chooseTab(shown);
 }
 
+Page* Navigation::inView() const {
+    const auto shown = std::ranges::find_if(m_pages, [](const Page* page) { return page->frame().isVisible(); });
+    return shown == m_pages.end() ? nullptr : *shown;
+}
+
+Label* Navigation::labelOf(PageCode code) const {
+    const auto tab = std::ranges::find(m_tabs, code, [](const Tab& each) { return each.traits->code; });
+    return tab == m_tabs.end() ? nullptr : tab->label;
+}
+
+std::vector<QWidget*> Navigation::tabStops() const {
+    const Page* const shown = inView();
+    std::vector<const QWidget*> frames;
+    for (const Page* page : m_pages)
+        frames.push_back(&page->frame());
+    std::vector<QWidget*> stops = shown ? tabStopsIn(shown->frame()) : std::vector<QWidget*>();
+    std::ranges::copy(tabStopsIn(m_window, frames), std::back_inserter(stops));
+    return stops;
+}
+
 void Navigation::chooseTab(const Page& shown) {
     const auto& own = shown.traits().tabs;
     if (own.empty())
@@ -92,8 +117,13 @@ void Navigation::chooseTab(const Page& shown) {
     // A page that came to the front without a click on one of its labels has one label alone.
     const auto chosen = std::ranges::find(own, static_cast<PageCode>(static_cast<int>(currentPage)), &PageTab::code);
     const PageTab* tab = chosen == own.end() ? own.data() : &*chosen;
-    for (const Tab& each : m_tabs)
+    for (const Tab& each : m_tabs) {
         each.label->setRole(each.traits == tab ? Role::ChosenLabel : Role::PageLabel);
+        if (each.traits == tab) {
+            m_row.choose(*each.label);
+            accessible::tell(*each.label, QAccessible::Selection);
+        }
+    }
 }
 
 void Navigation::markCurrent() {

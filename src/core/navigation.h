@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/label_row.h"
 #include "core/page.h"
 #include "core/shared.h"
 
@@ -39,6 +40,13 @@ public:
     /// The labels' colours while the pointer is on the bare form: red for the page in front, black for the others. The
     /// tab under a label does not go by its colour: it is that of the page in view, whatever the pointer was over.
     void markCurrent();
+    /// The page on view; nullptr before the first.
+    Page* inView() const;
+    /// The label of a code, or nullptr.
+    Label* labelOf(PageCode code) const;
+    /// Where Tab goes: through the page in view first, then round by the title band and the row of labels.
+    std::vector<QWidget*> tabStops() const;
+
     /// The page that the main window begins with, before any other was on view.
     void begin(const Page& page);
 
@@ -57,6 +65,7 @@ private:
     Shared& m_shared;
     std::vector<Page*> m_pages;
     std::vector<Tab> m_tabs; ///< from left to right
+    LabelRow m_row;          ///< the same labels
 };
 
 } // namespace qinghe

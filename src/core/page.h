@@ -30,6 +30,12 @@ struct PageTraits {
     QStringView leavesAlone = {};       ///< the frame that stays as it stands behind this page
 };
 
+/// The buttons that the keys for adding and for saving press; nullptr where there is none.
+struct KeyedButtons {
+    CommandButton* add = nullptr;
+    CommandButton* save = nullptr;
+};
+
 /// A page of the main window: a frame, what brings it to the front, and what it does when others do something that
 /// concerns it. It enters itself with the navigation, which makes frame and labels and alone shows and hides frames.
 class Page : public QObject {
@@ -54,6 +60,8 @@ public:
     virtual void rescue(RescuedTexts& texts) const { Q_UNUSED(texts) }
     /// The lists on this page in which words can be looked for at present (FindBar), the usual one first.
     virtual std::vector<EditorTarget> searchedLists() const;
+    /// What the keys for adding and for saving press at present (WindowKeys).
+    virtual KeyedButtons keyedButtons() const { return {}; }
 
 protected:
     Navigation& navigation() const { return m_navigation; }

@@ -26,6 +26,9 @@ RowButtons::RowButtons(QWidget* frame, const RowButtonTraits& traits, MSFlexGrid
     save->place(traits.right - traits.saveWidth, traits.top, traits.saveWidth, Height);
     remove->place(save->Left() - Gap - Width, traits.top, Width, Height);
     add->place(remove->Left() - Gap - Width, traits.top, Width, Height);
+    if (!traits.what.isEmpty())
+        for (CommandButton* button : all())
+            button->setAccessibleName(button->text() + traits.what.toString());
     // Pressed once more by chance they would add and delete once more.
     for (CommandButton* button : {add, remove})
         button->handKeyboardTo(&grid);

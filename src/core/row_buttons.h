@@ -14,6 +14,7 @@ struct RowButtonTraits {
     double right = 11535, top = 345;
     QStringView addCaption = u"增加", saveCaption = u"保存";
     double saveWidth = 1080;
+    QStringView what = {}; ///< they are about, for a screen reader, where the page has such buttons twice
 };
 
 /// After adding and deleting the grid has the keyboard. The one that saves bears a mark while the grid differs from its

@@ -57,8 +57,15 @@ SignIn::SignIn(Shared& shared)
     Image2->setGlyph(Glyph::Close);
     for (Image* image : {Image1, Image2})
         image->setRole(Role::Glyph);
+    // The captions of the boxes stand in the picture.
+    Combo1->setAccessibleName(u"用户名"_s);
+    Text2->setAccessibleName(u"密码"_s);
+    Check1->setAccessibleName(Label3->Caption());
+    Image1->setAccessibleName(u"最小化"_s);
+    Image2->setAccessibleName(u"退出"_s);
     setShape(roundedRectangle(size(), 6));
-    setTabOrder(Combo1, Text2);
+    for (Label* button : {Label1, static_cast<Label*>(Image1), static_cast<Label*>(Image2)})
+        button->setReachable();
     bindEvents();
 }
 

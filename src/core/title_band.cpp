@@ -42,10 +42,16 @@ void TitleBand::makeWords() {
     m_notes->setRole(Role::ClockText);
     m_notes->setForeColor(ink::Amber);
     m_notes->setShown(false);
+    m_notes->setAnnounced();
+    Picture3->setAccessibleName(u"标题栏"_s);
+    Label17->setAccessibleName(u"现在时间"_s);
+    Label20->setAccessibleName(u"首页"_s);
+    m_notes->setReachable();
     Label20->setRole(Role::Link);
     Label26->setRole(Role::ProductName);
     Label20->Click = [this] { Form2_Label20_Click(); };
     Label20->setToolTip(u"首页（本机网页）"_s);
+    Label20->setReachable();
     showHandOver(Label20);
 }
 
@@ -70,6 +76,7 @@ void TitleBand::makeImages() {
         image->setGlyph(entry.glyph);
         image->setToolTip(entry.tip.toString());
         image->Click = [this, click = entry.click] { (this->*click)(); };
+        image->setReachable();
         showHandOver(image);
     }
 }

@@ -15,6 +15,7 @@ constexpr QStringView Tools = u"软件工具";
 WebWindow::WebWindow(Shared& shared)
     : Form(names::Web, Kind::Dialog, Ground::Dialog), m_shared(shared), Web1(new WebBrowser(this, u"Web1"_s)) {
     setCaption(Tools.toString());
+    Web1->setAccessibleName(u"网页"_s);
     Web1->Leave = [this](const QUrl& page) { openAddress(m_shared, page); };
 }
 
@@ -40,6 +41,7 @@ void WebWindow::showBesideMain() {
     if (const Form* window = m_shared.forms.loaded(names::Main))
         place(window->Left() + window->Width(), window->Top(), window->Width(), window->Height());
     showForm();
+    Web1->setFocus(); // its keys scroll the page, and Tab goes along its links
 }
 
 void WebWindow::applyPlace() {

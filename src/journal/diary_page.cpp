@@ -2,6 +2,7 @@
 
 #include "core/hover.h"
 #include "core/list_records.h"
+#include "core/picker_keys.h"
 #include "core/rescued_texts.h"
 #include "journal/diary_files.h"
 #include "store/tables.h"
@@ -27,7 +28,14 @@ constexpr RowButtonTraits Buttons{
 };
 constexpr QStringView HowToWrite = u"先填左边的日期和标题，再写正文；清空了的按 Ctrl+Z 找回";
 constexpr QStringView HowToRead = u"点标题看正文"; // on empty paper
-constexpr double PickerGap = 300;                  ///< twips from the top of the box to the picker
+constexpr QStringView NothingToFind = u"还没有日记：\n点“写日记”写下第一篇";
+constexpr double PickerGap = 300; ///< twips from the top of the box to the picker
+
+/// Qt paints an empty paper anew only when its hint comes or goes, not when another one takes its place.
+void setHint(LongTextBox& paper, QStringView hint) {
+    paper.setPlaceholderText(hint.toString());
+    paper.viewport()->update();
+}
 
 } // namespace
 
@@ -45,6 +53,9 @@ DiaryPage::DiaryPage(MainWindow& window)
     Option6->place(240, 390, 1200, 300);
     Option5->place(1560, 390, 1320, 300);
     ms8->place(120, 840, 4215, 4815);
+    m_editing.box->setSubject(u"日记");
+    tx8->setAccessibleName(u"日记正文"_s);
+    ms8->setAccessibleName(u"日记列表"_s);
     tx8->place(4455, 840, 7080, 4815);
     m_shared.emptyDiaryPage = [this] {
         if (!Frame10.Visible())
@@ -72,6 +83,9 @@ void DiaryPage::bindEvents() {
     ms8->objection = [this](int row, int col) { return objectionTo(row, col); };
     m_editing.box->Click = [this] { Form2_tx9_Click(); };
     m_editing.entered = [this] { entered(); };
+    m_editing.keys.remove = m_buttons.remove;
+    m_editing.keys.takesTyping = [this] { return !diarySearchMode; };
+    new PickerKeys(m_shared, *m_editing.box, [this] { return ms8->Col() == DateColumn; });
     tx8->Click = [this] { Form2_tx8_Click(); };
 }
 
@@ -97,7 +111,8 @@ void DiaryPage::Form2_Option6_Click() {
     diarySearchMode = false;
     m_editing.close();
     m_buttons.setUsable(true);
-    tx8->setPlaceholderText(HowToWrite.toString());
+    setHint(*tx8, HowToWrite);
+    ms8->ground.clear();
     blankRows(*ms8);
     ms8->watchChanges(0);
     m_dayColumn = Adodc1.open(tables::Diary.toString()).field(columns::Day).column();
@@ -106,12 +121,13 @@ void DiaryPage::Form2_Option6_Click() {
 void DiaryPage::Form2_Option5_Click() {
     m_shared.unloadDatePicker();
     diarySearchMode = true;
-    tx8->setPlaceholderText(HowToRead.toString());
+    setHint(*tx8, HowToRead);
     ms8->restChanges();
     m_editing.close();
     m_buttons.setUsable(false);
     Recordset& entries = Adodc1.open(u"select 日期,日记标题 from rjb"_s);
     m_entries = Adodc1.loaded();
+    ms8->ground.set(entries.recordCount() == 0 ? NothingToFind.toString() : QString(), GroundWords::Shown::Always);
     ms8->setRows(2);
     // An empty text goes to the row number that all lists share, the loan grid's.
     KeptValues unsaved; // what is found is only read

@@ -20,6 +20,7 @@ public:
     void tabClicked(PageCode) override { Form2_Label8_Click(); }
     /// In find mode; one entry that is being written is no list.
     std::vector<EditorTarget> searchedLists() const override;
+    KeyedButtons keyedButtons() const override { return {m_buttons.add, m_buttons.save}; }
 
     void rescue(RescuedTexts& texts) const override;
 

@@ -7,6 +7,8 @@
 #include "look/running_text.h"
 #include "store/tables.h"
 
+#include <QShortcut>
+
 #include <algorithm>
 #include <cmath>
 
@@ -38,6 +40,8 @@ ReminderWindow::ReminderWindow(Reminders& reminders)
     bell->setRole(Role::GlyphDisc);
     bell->setGlyph(Glyph::Bell);
     Label1->setRole(Role::ReminderText);
+    Label1->setAccessibleName(u"日程"_s);
+    m_pane->setAccessibleName(u"日程内容"_s);
     m_pane->hold(Label1);
     Command2->setGlyph(Glyph::Mute);
     Command1->setGlyph(Glyph::Accept);
@@ -47,6 +51,17 @@ ReminderWindow::ReminderWindow(Reminders& reminders)
     Command1->Click = [this] { Form6_Command1_Click(); };
     Command2->Click = [this] { Form6_Command2_Click(); };
     Timer1->Tick = [this] { Form6_Timer1_Timer(); };
+    bindKey();
+}
+
+/// Whoever writes in another window of the program answers from there.
+void ReminderWindow::bindKey() {
+    auto* answer = new QShortcut(Qt::Key_F8, this);
+    answer->setContext(Qt::ApplicationShortcut);
+    answer->setAutoRepeat(false);
+    connect(answer, &QShortcut::activated, this, [this] { Command1->pressFromAfar(); });
+    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(Command1)})
+        part->setToolTip(u"在记账本的窗口里按 F8 也可以回答“知道了”"_s);
 }
 
 /// Everything below the plan moves down with its end.

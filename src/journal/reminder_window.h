@@ -13,7 +13,8 @@ class Reminders;
 /// `Form6`: shows the plan that is due and plays its music over and over, until the user reacts. It has no media
 /// control of its own and moves the main window's. Closed by its window button it comes back within its minute, since
 /// only "知道了" begins the pause. It comes up over all windows and leaves the keyboard where it is: nobody who types
-/// presses its buttons by chance. It is as high as its plan is long, up to a share of the screen; a longer one scrolls.
+/// presses its buttons by chance; F8 answers it from the other windows of the program. It is as high as its plan is
+/// long, up to a share of the screen; a longer one scrolls.
 class ReminderWindow : public Form {
     Q_OBJECT
 
@@ -29,6 +30,7 @@ public:
     void Form6_Command2_Click();
 
 private:
+    void bindKey();
     void layOut(double textHeight);
     void showPlan(const QString& plan);
     void endMusic();

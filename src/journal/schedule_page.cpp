@@ -2,6 +2,7 @@
 
 #include "controls/key_presses.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "core/plans.h"
 #include "core/rescued_texts.h"
 #include "core/stored_choice.h"
@@ -89,6 +90,7 @@ void SchedulePage::placeControls() {
     well->setRole(Role::Well);
     Label22->place(360, 2190, 3975, 840);
     Label22->raise();
+    nameBoxes();
     Check1->place(6840, 4440, 3000, 330);
     Command26->place(240, 5280, 1680, 390);
     Command27->place(2040, 5280, 1800, 390);
@@ -96,10 +98,20 @@ void SchedulePage::placeControls() {
     Command28->setRole(Role::Primary);
 }
 
+/// As their captions beside them say, in words that stand by themselves.
+void SchedulePage::nameBoxes() {
+    Text3->setAccessibleName(u"日程内容"_s);
+    Text4->setAccessibleName(u"日程日期"_s);
+    Combo3->setAccessibleName(u"提醒时间，几时"_s);
+    Combo4->setAccessibleName(u"提醒时间，几分"_s);
+    Combo1->setAccessibleName(u"提醒音乐"_s);
+}
+
 void SchedulePage::bindEvents() {
     Text3->KeyPress = [this](int key) { Form2_Text3_KeyPress(key); };
     Text4->Click = [this] { Form2_Text4_Click(); };
     Text4->setSelectsWhenClicked();
+    new PickerKeys(m_shared, *Text4);
     Combo1->Click = [this] { Form2_Combo1_Click(); };
     Command26->Click = [this] { Form2_Command26_Click(); };
     Command27->Click = [this] { Form2_Command27_Click(); };

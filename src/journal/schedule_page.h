@@ -17,6 +17,7 @@ public:
     void tabClicked(PageCode) override { Form2_Label23_Click(); }
     void windowLoads() override;
     void rescue(RescuedTexts& texts) const override;
+    KeyedButtons keyedButtons() const override { return {Command26, Command28}; }
 
     void Form2_Label23_Click();
     void Form2_Check1_Click();
@@ -30,6 +31,7 @@ public:
 
 private:
     void placeControls();
+    void nameBoxes();
     void bindEvents();
     void fillLists();
     void openFreshPlan();

@@ -32,7 +32,7 @@ const GridPage::Traits Accounts{
     .grid = u"ms7",
     .editor = u"tx7",
     .buttons = {u"Command19", u"Command20", u"Command21"},
-    .list = {tables::Accounts, Columns},
+    .list = {tables::Accounts, Columns, u"账户"},
     .amountField = AmountField::Accounts,
     .quirks = {.calculatorOnEnter = GridPage::CalculatorOnEnter::FirstAmount,
                .addCommitsBox = true,

@@ -24,7 +24,7 @@ const GridPage::Traits Budget{
     .grid = u"ms6",
     .editor = u"tx6",
     .buttons = {u"Command16", u"Command17", u"Command18"},
-    .list = {tables::Budget, Columns},
+    .list = {tables::Budget, Columns, u"预算"},
     .dateField = DateField::Budget,
     .amountField = AmountField::Budget,
     .quirks = {.enterOpensNoPicker = true, .addCommitsBox = true, .loadsBeforeShown = true},

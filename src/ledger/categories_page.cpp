@@ -21,7 +21,8 @@ constexpr CategoryList::Traits Majors{
     .gridWidth = 5100,
     .grid = u"ms3",
     .editor = u"tx3",
-    .buttons = {.add = u"Command7", .remove = u"Command8", .save = u"Command9", .right = 5220, .top = 4695},
+    .buttons =
+        {.add = u"Command7", .remove = u"Command8", .save = u"Command9", .right = 5220, .top = 4695, .what = u"大类"},
 };
 
 constexpr CategoryList::Traits Minors{
@@ -31,7 +32,12 @@ constexpr CategoryList::Traits Minors{
     .gridWidth = 5595,
     .grid = u"ms4",
     .editor = u"tx4",
-    .buttons = {.add = u"Command10", .remove = u"Command11", .save = u"Command12", .right = 5715, .top = 4695},
+    .buttons = {.add = u"Command10",
+                .remove = u"Command11",
+                .save = u"Command12",
+                .right = 5715,
+                .top = 4695,
+                .what = u"小类"},
 };
 
 } // namespace
@@ -119,6 +125,13 @@ std::vector<EditorTarget> CategoriesPage::searchedLists() const {
     if (m_minors.grid->isEnabled()) // those of a major
         lists.push_back({m_minors.editing.box, m_minors.grid});
     return lists;
+}
+
+KeyedButtons CategoriesPage::keyedButtons() const {
+    for (const CategoryList* list : {&m_majors, &m_minors})
+        if (list->hasKeyboard())
+            return {list->buttons.add, list->buttons.save};
+    return {};
 }
 
 void CategoriesPage::enter() {

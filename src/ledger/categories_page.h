@@ -21,6 +21,8 @@ public:
     void left() override;
     void rescue(RescuedTexts& texts) const override;
     std::vector<EditorTarget> searchedLists() const override;
+    /// Those of the list that has the keyboard: the other one's save would clear away what it holds.
+    KeyedButtons keyedButtons() const override;
 
     void Form2_Option3_Click();
     void Form2_Option4_Click();

@@ -30,6 +30,7 @@ CategoryList::CategoryList(Frame& page, Shared& shared, const Traits& traits)
       buttons(grid->parentWidget(), traits.buttons, *grid),
       m_shared(shared) {
     editing.entered = [this] { entered(); };
+    editing.keys.remove = buttons.remove;
     // Not marked grey under the pointer: nothing here would take the mark off again.
     for (CommandButton* button : buttons.all())
         showHandOver(button);
@@ -38,6 +39,10 @@ CategoryList::CategoryList(Frame& page, Shared& shared, const Traits& traits)
 void CategoryList::setUsable(bool usable) {
     grid->setUsable(usable);
     buttons.setUsable(usable);
+}
+
+bool CategoryList::hasKeyboard() const {
+    return grid->parentWidget()->isAncestorOf(grid->window()->focusWidget());
 }
 
 void CategoryList::layOut(std::span<const ListColumn> columns) {

@@ -36,6 +36,8 @@ public:
 
     /// Grid and buttons.
     void setUsable(bool usable);
+    /// Whether one of its controls has it.
+    bool hasKeyboard() const;
 
     /// Columns and their captions, two rows.
     void layOut(std::span<const ListColumn> columns);

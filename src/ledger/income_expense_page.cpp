@@ -1,5 +1,6 @@
 #include "ledger/income_expense_page.h"
 
+#include "controls/report_reader.h"
 #include "core/hover.h"
 #include "core/scratch_ledger.h"
 #include "runtime/money.h"
@@ -37,7 +38,7 @@ const GridPage::Traits IncomeExpense{
     .grid = names::LedgerGrid,
     .editor = u"tx2",
     .buttons = {u"Command4", u"Command5", u"Command6"},
-    .list = {tables::Income, IncomeColumns},
+    .list = {tables::Income, IncomeColumns, u"收入"},
     .dateField = DateField::Ledger,
     .amountField = AmountField::Ledger,
     .quirks = {.saveLoadsAnew = true, .formClickReachesHidden = true, .formClickTakesKeyboard = true},
@@ -63,6 +64,7 @@ IncomeExpensePage::IncomeExpensePage(MainWindow& window)
       Option9(new OptionButton(&m_frame, u"Option9"_s, u"本月人员收支统计"_s)),
       Label10(new Label(&m_frame, u"Label10"_s)),
       m_statistics(window, *m_grid, *Label10, ledgerSide) {
+    new ReportReader(*m_grid);
     placeControls();
     Option7->setValue(true);
     Option7->Click = [this] { Form2_Option7_Click(); };
@@ -83,7 +85,7 @@ void IncomeExpensePage::placeControls() {
 
 const IncomeExpensePage::Side& IncomeExpensePage::side() const {
     static constexpr Side Income{PageCode::Income,
-                                 {tables::Income, IncomeColumns},
+                                 {tables::Income, IncomeColumns, u"收入"},
                                  columns::Payee,
                                  u"select 时间,项目,收款人,金额 from srb",
                                  u"select sum(金额) as 金额 from srb ",
@@ -91,7 +93,7 @@ const IncomeExpensePage::Side& IncomeExpensePage::side() const {
                                  u"当前收入总额为：",
                                  &IncomeExpensePage::incomeTotal};
     static constexpr Side Expense{PageCode::Expense,
-                                  {tables::Expense, ExpenseColumns},
+                                  {tables::Expense, ExpenseColumns, u"支出"},
                                   columns::Payer,
                                   u"select 时间,项目,付款人,金额 from zcb",
                                   u"select sum(金额) as 金额 from zcb ",
@@ -174,7 +176,14 @@ void IncomeExpensePage::Form2_Option7_Click() {
 void IncomeExpensePage::setEditing(bool allowed) {
     m_buttons.setUsable(allowed);
     m_grid->setRole(allowed ? Role::Plain : Role::Report);
+    m_grid->setAccessibleName(allowed ? QString() : list().subject.toString() + shownReport());
     m_grid->setUsable(allowed);
+    if (allowed)
+        m_grid->ground.set(HowToBegin.toString()); // a report has its own
+}
+
+QString IncomeExpensePage::shownReport() const {
+    return (Option9->Value() ? Option9 : Option8)->text();
 }
 
 bool IncomeExpensePage::pickerIsVisible() const {

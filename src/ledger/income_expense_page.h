@@ -36,6 +36,7 @@ private:
     void requireStatistics() const;
     void showTotal();
     void setEditing(bool allowed);
+    QString shownReport() const; ///< its name
     void closeEditing();
     bool pickerIsVisible() const;
 

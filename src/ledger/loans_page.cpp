@@ -41,7 +41,7 @@ const GridPage::Traits LoanPage{
     .grid = names::LoanGrid,
     .editor = u"tx1",
     .buttons = {u"Command1", u"Command2", u"Command3"},
-    .list = {tables::Lent, LentColumns},
+    .list = {tables::Lent, LentColumns, u"借出记录"},
     .dateField = DateField::Loans,
     .amountField = AmountField::Loans,
     .quirks = {.calculatorOnEnter = GridPage::CalculatorOnEnter::Never,
@@ -64,7 +64,7 @@ struct LoansPage::Loans {
 
 const LoansPage::Loans& LoansPage::borrowed() {
     static constexpr Loans Chosen{
-        {tables::Borrowed, BorrowedColumns},
+        {tables::Borrowed, BorrowedColumns, u"借入记录"},
         u"借入记录",
         u"select sum(借入金额) as 借入金额 from jrb ",
         u"当前借入总额为：%1¤ ",
@@ -74,7 +74,7 @@ const LoansPage::Loans& LoansPage::borrowed() {
 
 const LoansPage::Loans& LoansPage::lent() {
     static constexpr Loans Chosen{
-        {tables::Lent, LentColumns},
+        {tables::Lent, LentColumns, u"借出记录"},
         u"借出表",
         u"select sum(借出金额) as 借出金额,sum(已还金额) as 已还金额,sum(余额) as 余额 from jcb ",
         u"当前借出总额为：%1¤ ，已还金额为：%2 ¤，目前余额为%3 ¤",
@@ -122,6 +122,7 @@ void LoansPage::makeImage1() {
     Image1->setGlyph(Glyph::Borrow);
     Image1->setToolTip(u"借入记录"_s);
     Image1->Click = [this] { Form2_Image1_Click(); };
+    Image1->setReachable();
     showHandOver(Image1);
 }
 

@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Of a report that has found nothing; %1 is the chart that has the sums of all months.
+constexpr QStringView LookAtTheChart = u"这里没有查到本月的记录\n每个月的合计，在“图表”页点“%1”就能看到";
 constexpr QStringView TotalSource = u"select sum(金额) as 总金额 from sztjlsb where 时间= '%1'";
 
 } // namespace
@@ -18,6 +20,7 @@ constexpr QStringView TotalSource = u"select sum(金额) as 总金额 from sztjl
 /// One report of one side of the ledger.
 struct MonthStatistics::Report {
     QStringView source; ///< %1 stands for the month
+    QStringView chart;
     QStringView totalCaption;
     std::array<QStringView, 3> captions; ///< of its columns, the sum last
     int columns;
@@ -38,6 +41,8 @@ Recordset& MonthStatistics::begin(const Reports& reports) {
     ms2.setAmountColumns({report.columns});
     for (int column = 1; column <= report.columns; ++column)
         ms2.setTextMatrix(0, column, report.captions[static_cast<std::size_t>(column - 1)].toString());
+    ms2.ground.set(rows.recordCount() == 0 ? LookAtTheChart.toString().arg(report.chart) : QString(),
+                   GroundWords::Shown::Always);
     startRows(ms2);
     return rows;
 }
@@ -45,10 +50,12 @@ Recordset& MonthStatistics::begin(const Reports& reports) {
 void MonthStatistics::showItems() {
     static constexpr Reports BySide{{
         {u"select 项目,sum(金额)as 总金额 from sztjlsb where 时间= '%1'group by 项目 ",
+         u"年度年支出统计",
          u"本月支出总额为：",
          {u"项目", u"本月消费总额"},
          2},
         {u"select 项目,sum(金额)as 总金额 from sztjlsb where 时间= '%1' group by 项目",
+         u"年度收入统计",
          u"本月收入总额为：",
          {u"项目", u"本月收入总额"},
          2},
@@ -67,10 +74,12 @@ void MonthStatistics::showItems() {
 void MonthStatistics::showPeople() {
     static constexpr Reports BySide{{
         {u"select 人员,项目,sum(金额)as 总金额  from sztjlsb where 时间= '%1'  group by 项目,人员",
+         u"年度年支出统计",
          u"本月人员支出总额为：",
          {u"付款人", u"项目", u"本月消费总额"},
          3},
         {u"select 人员,项目,sum(金额)as 总金额 from sztjlsb where 时间= '%1' group by 项目,人员",
+         u"年度收入统计",
          u"本月人员收入总额为：",
          {u"收款人", u"项目", u"本月收入总额"},
          3},

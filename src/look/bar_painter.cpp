@@ -34,7 +34,7 @@ void paintBesideGrid(QPainter& painter, const QRect& bar, int captions, const QW
     fillGridPart(painter, bar.adjusted(0, captions, 0, 0), widget, grid, Track);
     if (captions > 0)
         paintRule(painter, bar.left(), bar.right() + 1, head.bottom(), colour::CaptionBase);
-    paintGridEdge(painter, grid.rect().translated(-widget.mapTo(&grid, QPoint())));
+    paintGridEdge(painter, grid.rect().translated(-widget.mapTo(&grid, QPoint())), grid.hasFocus());
 }
 
 double progressOf(const QStyleOptionProgressBar& option) {

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double SmallestPoints = 5.5, PointStep = 0.25;
+constexpr double SmallestPoints = 5.5, SmallestEasyPoints = 8, PointStep = 0.25;
 constexpr int Narrowest = 80, NarrowingStep = 5; // percent of the usual width
 
 bool isFigure(QChar character) {
@@ -36,7 +36,7 @@ CellType cellType(const QString& text, double points, int room) {
     if (fits(text, usual, room))
         return {usual};
     if (!isFigures(text))
-        return {usual, true};
+        return {usual, CellFit::Cut};
     QFont font = usual;
     for (int width = 100 - NarrowingStep; width >= Narrowest; width -= NarrowingStep) {
         font.setStretch(width);
@@ -47,9 +47,9 @@ CellType cellType(const QString& text, double points, int room) {
         font = sans(size);
         font.setStretch(Narrowest);
         if (fits(text, font, room))
-            return {font};
+            return {font, size < SmallestEasyPoints ? CellFit::Tiny : CellFit::Whole};
     }
-    return {usual, true};
+    return {usual, CellFit::Cut};
 }
 
 } // namespace qinghe

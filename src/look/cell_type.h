@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/style_roles.h"
+
 #include <QFont>
 
 namespace qinghe {
@@ -7,7 +9,7 @@ namespace qinghe {
 /// The type in which a cell's text is set, in the cell and in the box over it.
 struct CellType {
     QFont font;
-    bool cut = false; ///< even so: the text ends in "…"
+    CellFit fit = CellFit::Whole; ///< even so; what is cut ends in "…"
 };
 
 /// Words have the usual size and are cut where they do not fit. An amount or a date is told by all of its digits: it is

@@ -1,5 +1,7 @@
 #include "look/drawing.h"
 
+#include "look/colours.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPen>
@@ -38,6 +40,13 @@ void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QBru
     else
         painter.drawRect(outline);
     painter.restore();
+}
+
+void paintKeyboardRing(QPainter& painter, const QRectF& rect) {
+    const QColor light = colour::faded(colour::White, 85);
+    paintPanel(painter, rect, 5, Qt::NoBrush, light);
+    paintPanel(painter, rect.adjusted(1, 1, -1, -1), 4, Qt::NoBrush, colour::LeafDeep, 1.8);
+    paintPanel(painter, rect.adjusted(2.8, 2.8, -2.8, -2.8), 2.5, Qt::NoBrush, light);
 }
 
 void paintRule(QPainter& painter, double left, double right, double y, const QColor& colour) {

@@ -19,6 +19,10 @@ double hair(const QPainter& painter);
 void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill, const QColor& edge,
                 double width = 1);
 
+/// The mark of what has the keyboard: a ring along the inside of a control that has no edge of its own to show it, dark
+/// between two light lines, so that it is seen on light and on dark ground.
+void paintKeyboardRing(QPainter& painter, const QRectF& rect);
+
 /// One-pixel lines; the line fills the pixel that begins at `y` or `x`.
 void paintRule(QPainter& painter, double left, double right, double y, const QColor& colour);
 void paintUpright(QPainter& painter, double x, double top, double bottom, const QColor& colour);

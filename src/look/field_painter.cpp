@@ -119,10 +119,10 @@ void paintEditor(const QStyleOption& option, QPainter& painter, const QWidget& w
         paintReturnSign(painter, returnSign(option.rect, isOnTheRight(widget)));
 }
 
-void paintBox(const QStyleOption& option, QPainter& painter) {
+void paintBox(const QStyleOption& option, QPainter& painter, bool showsFocus = true) {
     if (!(option.state & QStyle::State_Enabled))
         paintPanel(painter, option.rect, 3, colour::OffBg, colour::OffLine);
-    else if (option.state & QStyle::State_HasFocus)
+    else if (showsFocus && option.state & QStyle::State_HasFocus)
         paintPanel(painter, option.rect, 3, colour::White, colour::LeafDeep, 1.8);
     else
         paintPanel(painter, option.rect, 3, colour::White, colour::Ctl);
@@ -153,7 +153,9 @@ void fitEditor(QLineEdit& editor) {
 void paintField(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
     if (widget && qobject_cast<const QComboBox*>(widget->parentWidget()))
         return; // the list paints the box
-    isEditor(widget) ? paintEditor(option, painter, *widget) : paintBox(option, painter);
+    // A calculator's display cannot be gone to: its window has the keyboard.
+    isEditor(widget) ? paintEditor(option, painter, *widget)
+                     : paintBox(option, painter, !hasRole(widget, Role::CalcDisplay));
     if (const QLineEdit* display = cutDisplay(widget))
         paintCut(option, painter, *display);
 }

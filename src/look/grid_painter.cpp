@@ -57,6 +57,15 @@ void paintRules(QPainter& painter, const QRect& room) {
         paintRule(painter, room.left(), room.right() + 1, y - 1, colour::PaperRule);
 }
 
+/// Written on the paper's own lines, the first of them left free.
+void paintGroundWords(QPainter& painter, const QRect& room, const MSFlexGrid& grid) {
+    QRect line(room.left(), room.top() + rowPixels(), room.width(), rowPixels());
+    for (const QString& words : grid.ground.shown().split(u'\n', Qt::SkipEmptyParts)) {
+        paintLine(painter, line, Qt::AlignHCenter, words, sans(type::Body), colour::Ink3);
+        line.translate(0, rowPixels());
+    }
+}
+
 void paintCaption(const QStyleOptionHeader& option, QPainter& painter, const MSFlexGrid& grid) {
     const int col = option.section + 1;
     paintUpright(painter, option.rect.right(), option.rect.top() + 4, option.rect.bottom() - 3, CaptionMark);
@@ -133,7 +142,9 @@ void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFle
         paintRowLine(painter, band, viewport, grid);
         foot = band.bottom() + 1;
     }
-    paintRules(painter, {room.left(), foot, room.width(), room.bottom() - foot + 1});
+    const QRect rest(room.left(), foot, room.width(), room.bottom() - foot + 1);
+    paintRules(painter, rest);
+    paintGroundWords(painter, rest, grid);
 }
 
 void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFlexGrid& grid) {
@@ -148,12 +159,13 @@ void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFl
               option.text, typeOf(option, grid).font, isReadable(grid) ? colour::Ink : colour::Ink2);
 }
 
-bool isCellCut(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
-    return typeOf(option, grid).cut;
+CellFit cellFit(const QStyleOptionViewItem& option, const MSFlexGrid& grid) {
+    return typeOf(option, grid).fit;
 }
 
-void paintGridEdge(QPainter& painter, const QRect& grid) {
-    paintPanel(painter, grid, Corner, Qt::NoBrush, colour::GridEdge);
+void paintGridEdge(QPainter& painter, const QRect& grid, bool hasKeyboard) {
+    paintPanel(painter, grid, Corner, Qt::NoBrush, hasKeyboard ? colour::LeafDeep : colour::GridEdge,
+               hasKeyboard ? 1.8 : 1);
 }
 
 void paintHeader(const QStyleOptionHeader& option, QPainter& painter, const QWidget& widget, const MSFlexGrid& grid) {

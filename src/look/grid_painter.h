@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/style_roles.h"
+
 #include <QRect>
 
 class QColor;
@@ -17,7 +19,7 @@ class MSFlexGrid;
 /// the last row; a cell adds its column's line, its mark and its text.
 void paintLedgerPaper(const QStyleOption& option, QPainter& painter, const MSFlexGrid& grid);
 void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const MSFlexGrid& grid);
-void paintGridEdge(QPainter& painter, const QRect& grid);
+void paintGridEdge(QPainter& painter, const QRect& grid, bool hasKeyboard);
 
 /// Fills a part of the grid that `widget` paints; where the part lies in a corner of the grid, the corner is cut round.
 void fillGridPart(QPainter& painter, const QRect& part, const QWidget& widget, const MSFlexGrid& grid,
@@ -31,8 +33,7 @@ void paintHeaderRest(const QStyleOption& option, QPainter& painter, const QWidge
 /// The grid to which a header, a corner, a viewport or a scroll bar belongs, or nullptr.
 const MSFlexGrid* gridOf(const QWidget* part);
 
-/// Whether the cell's text ends in "…".
-bool isCellCut(const QStyleOptionViewItem& option, const MSFlexGrid& grid);
+CellFit cellFit(const QStyleOptionViewItem& option, const MSFlexGrid& grid);
 
 /// The room that the text of a cell has.
 QRect cellTextRoom(const QRect& cell, const MSFlexGrid& grid, int col);

@@ -63,15 +63,27 @@ void paintEdge(QPainter& painter, const QRectF& window, double radius, bool squa
         paintRule(painter, pen, window.width() - pen, window.height() - 1, edge);
 }
 
+/// The window as it was laid out. A window manager may have given it another size, which its controls do not follow.
+QRect ownRoom(const Form& form) {
+    return {QPoint(), pixelRect(form.Left(), form.Top(), form.Width(), form.Height()).size()};
+}
+
+/// A light field, down to the foot of a room.
+void paintField(QPainter& painter, const QRect& painted, const QRect& room) {
+    QLinearGradient field(room.topLeft(), room.bottomLeft());
+    field.setColorAt(0, colour::DialogFrom);
+    field.setColorAt(1, colour::DialogTo);
+    painter.fillRect(painted, field);
+}
+
+/// The picture keeps to the controls; what the window has beyond them is bare field.
 void paintPicture(QPainter& painter, const Form& form) {
-    if (form.picture().isNull()) {
-        QLinearGradient field(0, 0, 0, form.height());
-        field.setColorAt(0, colour::DialogFrom);
-        field.setColorAt(1, colour::DialogTo);
-        painter.fillRect(form.rect(), field);
-    } else {
-        painter.drawPixmap(0, 0, scaledPicture(form.picture(), form.size(), painter.device()->devicePixelRatioF()));
-    }
+    const QRect room = ownRoom(form);
+    const bool bare = form.picture().isNull();
+    if (bare || !room.contains(form.rect()))
+        paintField(painter, form.rect(), room);
+    if (!bare)
+        painter.drawPixmap(0, 0, scaledPicture(form.picture(), room.size(), painter.device()->devicePixelRatioF()));
 }
 
 /// The program's icon, and the line between the borrowed list and the window images.
@@ -81,7 +93,7 @@ void paintTitleMarks(QPainter& painter) {
 }
 
 void paintMain(QPainter& painter, const Form& form) {
-    const QRectF window = form.rect();
+    const QRectF window = ownRoom(form);
     paintPicture(painter, form);
     paintVeil(painter, window, onDarkPicture(form));
     paintShelf(painter, window);
@@ -99,10 +111,7 @@ double freeMargin(const Form& form) {
 }
 
 void paintDialog(QPainter& painter, const Form& form) {
-    QLinearGradient field(0, 0, 0, form.height());
-    field.setColorAt(0, colour::DialogFrom);
-    field.setColorAt(1, colour::DialogTo);
-    painter.fillRect(form.rect(), field);
+    paintField(painter, form.rect(), form.rect());
     const double high = std::min(15.0, freeMargin(form) - 2);
     if (high >= 6)
         paintSeedlings(painter, {.left = 8,
@@ -121,7 +130,7 @@ void paintGround(QPainter& painter, const Form& form) {
         return paintMain(painter, form);
     case Ground::SignIn:
         paintPicture(painter, form);
-        return paintEdge(painter, form.rect(), 6, false);
+        return paintEdge(painter, ownRoom(form), 6, false);
     case Ground::Dialog:
         return paintDialog(painter, form);
     case Ground::Pine:

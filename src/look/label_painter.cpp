@@ -34,6 +34,13 @@ void paintTab(QPainter& painter, double centre, double top) {
     painter.restore();
 }
 
+/// The key that clicks the label, at the shoulder of its word.
+void paintKeyHint(QPainter& painter, const QRect& room, double centre, const QString& key) {
+    const QRectF cap(std::min(centre + 17, room.right() - 13.0), room.top() + 1, 13, 13);
+    paintPanel(painter, cap, 3, colour::White, colour::LeafDeep);
+    paintLine(painter, cap.toRect(), Qt::AlignHCenter, key, sans(type::Small, true), colour::LeafDark);
+}
+
 void paintPageLabel(const QStyleOption& option, QPainter& painter, const Label& label) {
     const PageCaption caption = pageCaption(label.Caption());
     const int centre = qRound(caption.centre);
@@ -42,6 +49,8 @@ void paintPageLabel(const QStyleOption& option, QPainter& painter, const Label& 
         paintTab(painter, centre, option.rect.top());
     const QRect room(centre - 60, option.rect.top(), 120, chosen ? 26 : option.rect.height() - 2);
     paintLine(painter, room, Qt::AlignHCenter, caption.word, fontFor(label.role()), colourOf(label.ForeColor()));
+    if (!label.keyHint().isEmpty())
+        paintKeyHint(painter, option.rect, centre, label.keyHint());
 }
 
 void paintSignInButton(const QStyleOption& option, QPainter& painter, const Label& label) {
@@ -71,6 +80,8 @@ void paintDayCell(const QStyleOption& option, QPainter& painter, const Label& la
         paintPanel(painter, field, 4, colour::Today, colour::TodayEdge, 1.2);
         font.setBold(true);
     }
+    if (label.role() == Role::WalkedDay)
+        paintKeyboardRing(painter, option.rect);
     paintLine(painter, option.rect, Qt::AlignHCenter, label.Caption().trimmed(), font, colourOf(label.ForeColor()));
 }
 
@@ -143,6 +154,7 @@ void paintWords(const QStyleOption& option, QPainter& painter, const Label& labe
     case Role::WeekRow:
         return paintWeekRow(option, painter, label);
     case Role::DayCell:
+    case Role::WalkedDay:
         return paintDayCell(option, painter, label);
     case Role::Caution:
         return paintCaution(option, painter, label);

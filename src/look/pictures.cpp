@@ -16,8 +16,24 @@ struct Kept {
 /// A window's picture and the desktop's; more are never on view at once.
 constexpr std::size_t KeptPictures = 2;
 
+constexpr QSize Blocks(20, 14), Cells(200, 135);
+constexpr int DarkBlock = 140, DarkCell = 110;                      ///< greys
+constexpr int MostDarkCells = Cells.width() * Cells.height() / 100; ///< the delivered skins have none
+
+QImage scaledTo(const QImage& picture, const QSize& size) {
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+int darkerThan(int grey, const QImage& picture) {
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            count += qGray(picture.pixel(x, y)) < grey;
+    return count;
+}
+
 QPixmap scaled(const QImage& picture, const QSize& size, double ratio) {
-    QPixmap pixmap = QPixmap::fromImage(picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    QPixmap pixmap = QPixmap::fromImage(scaledTo(picture, size));
     pixmap.setDevicePixelRatio(ratio);
     return pixmap;
 }
@@ -27,12 +43,8 @@ QPixmap scaled(const QImage& picture, const QSize& size, double ratio) {
 bool isDark(const QImage& picture) {
     if (picture.isNull())
         return false;
-    const QImage blocks = picture.scaled(20, 14, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    for (int y = 0; y < blocks.height(); ++y)
-        for (int x = 0; x < blocks.width(); ++x)
-            if (qGray(blocks.pixel(x, y)) < 140)
-                return true;
-    return false;
+    const QImage cells = scaledTo(picture, Cells);
+    return darkerThan(DarkBlock, scaledTo(cells, Blocks)) > 0 || darkerThan(DarkCell, cells) > MostDarkCells;
 }
 
 QPixmap scaledPicture(const QImage& picture, const QSize& size, double ratio) {

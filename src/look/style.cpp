@@ -59,6 +59,11 @@ void paintViewFrame(const QStyleOption& option, QPainter& painter, const QWidget
     }
 }
 
+void paintRingOfFocus(const QStyleOption& option, QPainter& painter) {
+    if (option.state & QStyle::State_HasFocus)
+        paintKeyboardRing(painter, option.rect);
+}
+
 void preparePaper(QPlainTextEdit& text, QObject* watcher) {
     text.setFont(sans(type::Long));
     text.document()->setDocumentMargin(WritingMargin);
@@ -110,7 +115,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_LedgerPaper:
         return paintLedgerPaper(*option, *painter, *static_cast<const MSFlexGrid*>(widget));
     case PE_GridEdge:
-        return paintGridEdge(*painter, option->rect);
+        return paintGridEdge(*painter, option->rect, option->state & State_HasFocus);
+    case PE_KeyboardRing:
+        return paintKeyboardRing(*painter, option->rect);
     case PE_PanelLineEdit:
         return paintField(*option, *painter, widget);
     case PE_Frame:
@@ -138,9 +145,11 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     const MSFlexGrid* grid = nullptr;
     switch (static_cast<unsigned>(element)) {
     case CE_Words:
-        return paintWords(*option, *painter, *static_cast<const Label*>(widget));
+        paintWords(*option, *painter, *static_cast<const Label*>(widget));
+        return paintRingOfFocus(*option, *painter);
     case CE_Image:
-        return paintImage(*option, *painter, *static_cast<const Image*>(widget));
+        paintImage(*option, *painter, *static_cast<const Image*>(widget));
+        return paintRingOfFocus(*option, *painter);
     case CE_PushButton:
         return paintButton(*button, *painter, widget);
     case CE_RadioButton:
@@ -255,9 +264,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const {
     switch (static_cast<unsigned>(hint)) {
-    case SH_CellIsCut:
-        return isCellCut(*qstyleoption_cast<const QStyleOptionViewItem*>(option),
-                         *static_cast<const MSFlexGrid*>(widget));
+    case SH_CellFit:
+        return static_cast<int>(
+            cellFit(*qstyleoption_cast<const QStyleOptionViewItem*>(option), *static_cast<const MSFlexGrid*>(widget)));
     case SH_ComboBox_Popup: // the list opens below its box
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:

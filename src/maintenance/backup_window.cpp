@@ -75,6 +75,7 @@ BackupWindow::BackupWindow(Shared& shared)
     m_diary->setRole(Role::Help);
     Pro1->place(240, 2190, 4440, 285);
     Pro1->setShown(false);
+    Pro1->setAccessibleName(u"进度"_s);
     Command1->place(3720, 3060, 1440, 390);
     m_safety->place(240, 3000, 3360, 510);
     m_safety->setRole(Role::Help);

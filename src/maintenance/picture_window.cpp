@@ -81,6 +81,12 @@ PictureWindow::PictureWindow(Shared& shared, const PictureTarget& target)
     Text2->place(1440, 960, 3000, 330);
     Command2->place(4560, 1740, 1200, 390);
     Command2->setRole(Role::Primary);
+    // The windows' own words are not all Chinese.
+    setAccessibleName(target.entry.toString());
+    Text1->setAccessibleName(u"图片文件"_s);
+    Text2->setAccessibleName(u"图片名称"_s);
+    Command1->setAccessibleName(u"选择图片文件"_s);
+    Command2->setAccessibleName(u"保存图片"_s);
     Command1->setToolTip(target.browseTip.toString());
     Command2->setToolTip(target.storeTip.toString());
     Command1->Click = [this] { choosePicture(); };

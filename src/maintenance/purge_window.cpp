@@ -2,6 +2,7 @@
 
 #include "core/grid_rows.h"
 #include "core/hover.h"
+#include "core/picker_keys.h"
 #include "platform/front_window.h"
 #include "runtime/blanks.h"
 
@@ -77,9 +78,11 @@ void PurgeWindow::makeDate() {
     Label2->place(240, 1560, 1140, 330);
     Text1 = new TextBox(Frame1, u"Text1"_s);
     Text1->place(1440, 1560, 1800, 330);
+    Text1->setAccessibleName(u"删除到哪一天"_s);
     Text1->setFocusRefuge(this); // and not the next button
     Text1->Click = [this] { Form3_Text1_Click(); };
     Text1->setSelectsWhenClicked();
+    new PickerKeys(m_shared, *Text1);
     Label3 = new Label(Frame1, u"Label3"_s, u"以前的记录"_s);
     Label3->place(3360, 1560, 1500, 330);
 }

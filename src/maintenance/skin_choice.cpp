@@ -20,6 +20,7 @@ SkinChoice::SkinChoice(MainWindow& form, Frame& place)
     Combo2->place(690, 2310, 2640, 330);
     Command30->place(3480, 2280, 1080, 390);
     Command30->setRole(Role::Primary);
+    Combo2->setAccessibleName(u"记账本皮肤"_s);
     Command30->setGlyph(Glyph::Accept);
     showHandOver(Check10);
     Check10->Click = [this] { Form2_Check10_Click(); };

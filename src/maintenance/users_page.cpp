@@ -20,7 +20,7 @@ const GridPage::Traits Users{
     .grid = u"ms5",
     .editor = u"tx5",
     .buttons = {u"Command13", u"Command14", u"Command15"},
-    .list = {tables::Users, Columns, u"select 用户名,用户密码 from yhb"},
+    .list = {tables::Users, Columns, u"用户", u"select 用户名,用户密码 from yhb"},
     .quirks = {.addCommitsBox = true,
                .addTestsCurrentRow = true,
                .addKeepsBoxText = true,

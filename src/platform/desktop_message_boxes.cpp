@@ -40,15 +40,25 @@ QMessageBox::Icon iconOf(MessageStyle style) {
     }
 }
 
-/// The words of the buttons, without the marks for keys that Qt's own words carry.
+struct ButtonWords {
+    QMessageBox::StandardButton kind;
+    QStringView caption;
+    Qt::Key letter;
+};
+
+/// The words of the buttons, without the marks for keys that Qt's own words carry: the letter that presses a button, by
+/// itself as well as with Alt, is told in its tool tip.
 void captionButtons(QMessageBox& box) {
-    constexpr std::pair<QMessageBox::StandardButton, QStringView> Captions[] = {{QMessageBox::Ok, u"确定"},
-                                                                                {QMessageBox::Cancel, u"取消"},
-                                                                                {QMessageBox::Yes, u"是"},
-                                                                                {QMessageBox::No, u"否"}};
-    for (const auto& [kind, caption] : Captions)
-        if (QAbstractButton* button = box.button(kind))
-            button->setText(caption.toString());
+    constexpr ButtonWords Words[] = {{QMessageBox::Ok, u"确定", Qt::Key_O},
+                                     {QMessageBox::Cancel, u"取消", Qt::Key_C},
+                                     {QMessageBox::Yes, u"是", Qt::Key_Y},
+                                     {QMessageBox::No, u"否", Qt::Key_N}};
+    for (const ButtonWords& words : Words)
+        if (QAbstractButton* button = box.button(words.kind)) {
+            button->setText(words.caption.toString());
+            button->setShortcut(Qt::ALT | words.letter);
+            button->setToolTip(u"%1（%2）"_s.arg(words.caption, QChar(words.letter)));
+        }
 }
 
 Answer answerOf(int button) {

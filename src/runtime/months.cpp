@@ -4,6 +4,10 @@ namespace qinghe::months {
 
 using namespace Qt::StringLiterals;
 
+QString ofCalendar(const QDate& day) {
+    return ofDay(u"%1-%2-%3"_s.arg(day.year()).arg(day.month()).arg(day.day()));
+}
+
 int inCalendar(QStringView key) {
     constexpr int MonthsOfAYear = 12;
     const QList<QStringView> parts = key.split(u'-');

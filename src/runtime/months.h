@@ -15,6 +15,9 @@ inline QString ofDay(const QString& dateText) {
     return dateText.left(Length);
 }
 
+/// What the days of a calendar month have in common, all of them and no others: "2024-5-", "2024-10".
+QString ofCalendar(const QDate& day);
+
 /// A key's place in the calendar: a later month has a greater one, whatever the order of the texts ("2024-10" stands
 /// before "2024-9-" there). What names no month comes before all.
 int inCalendar(QStringView key);

@@ -1,5 +1,6 @@
 #include "tools/calculator.h"
 
+#include "controls/accessible.h"
 #include "core/hover.h"
 #include "look/field_painter.h"
 #include "runtime/runtime_error.h"
@@ -16,16 +17,17 @@ namespace {
 
 struct Operator {
     QStringView caption;
+    QStringView spoken;              ///< its name for a screen reader
     double left, top, width, height; ///< twips
 };
 
 constexpr std::array<Operator, 6> Operators{{
-    {u"+", 2400, 840, 480, 480},
-    {u"-", 2400, 1440, 480, 480},
-    {u"*", 2400, 2040, 480, 480},
-    {u"/", 2400, 2640, 480, 480},
-    {u"x^y", 3000, 840, 495, 600},
-    {u"sqrt", 3000, 1560, 495, 960},
+    {u"+", u"加", 2400, 840, 480, 480},
+    {u"-", u"减", 2400, 1440, 480, 480},
+    {u"*", u"乘", 2400, 2040, 480, 480},
+    {u"/", u"除以", 2400, 2640, 480, 480},
+    {u"x^y", u"乘方", 3000, 840, 495, 600},
+    {u"sqrt", u"平方根", 3000, 1560, 495, 960},
 }};
 
 } // namespace
@@ -39,13 +41,16 @@ Calculator::Calculator(Shared& shared)
     Text1->place(240, 240, 3255, 420);
     Text1->setRole(Role::CalcDisplay);
     Text1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    Text1->setAccessibleName(u"计算器显示"_s);
     Text1->setReadOnly(true);
     Text1->setFocusPolicy(Qt::NoFocus);
+    Text1->setFocusProxy(this); // to who listens the keyboard is at the display, whose text is told as it changes
     showDisplay();
     makeKeys();
     MouseMove = [this](double, double) { unmarkHovered(m_keys); };
     CloseAsked = [this] { finish(); };
     setFocusPolicy(Qt::StrongFocus);
+    setFocus(); // from when it is the window in front
 }
 
 CommandButton* Calculator::key(const QString& name, const QString& caption, double left, double top, double width,
@@ -68,6 +73,7 @@ void Calculator::makeKeys() {
         CommandButton* made =
             key(u"Command1(%1)"_s.arg(i), i == CalculatorMachine::PointKey ? u"."_s : QString::number(i),
                 240 + 720 * column, 840 + 600 * row, 600, 480);
+        made->setAccessibleName(i == CalculatorMachine::PointKey ? u"小数点"_s : u"数字"_s + made->text());
         made->Click = [this, i] { Form9_Command1_Click(i); };
         Command1[static_cast<std::size_t>(i)] = made;
     }
@@ -76,6 +82,7 @@ void Calculator::makeKeys() {
         CommandButton* made =
             key(u"Command2(%1)"_s.arg(i), entry.caption.toString(), entry.left, entry.top, entry.width, entry.height);
         made->setRole(Role::CalcOperator);
+        made->setAccessibleName(entry.spoken.toString());
         made->Click = [this, i] { Form9_Command2_Click(i); };
         Command2[static_cast<std::size_t>(i)] = made;
     }
@@ -85,6 +92,7 @@ void Calculator::makeKeys() {
     for (CommandButton* word : {Command3, Command4})
         word->setRole(Role::CalcOperator);
     m_fill->setRole(Role::Primary);
+    Command3->setAccessibleName(u"等于"_s);
     Command3->Click = [this] { Form9_Command3_Click(); };
     Command4->Click = [this] { Form9_Command4_Click(); };
     m_fill->Click = [this] { enter(); };
@@ -131,6 +139,13 @@ bool Calculator::typed(QChar character) {
     else
         return false;
     return true;
+}
+
+void Calculator::focusInEvent(QFocusEvent* event) {
+    FieldTool::focusInEvent(event);
+    // Behind Qt's own word that it is at the window.
+    QMetaObject::invokeMethod(
+        this, [this] { accessible::tell(*Text1, QAccessible::Focus); }, Qt::QueuedConnection);
 }
 
 void Calculator::keyPressEvent(QKeyEvent* event) {

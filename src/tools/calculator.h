@@ -27,6 +27,7 @@ public:
     void Form9_Command4_Click();          ///< 清零
 
 protected:
+    void focusInEvent(QFocusEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
 private:

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int Week = 7;
 constexpr int Months = 12;
+constexpr QStringView WeekDays = u"日一二三四五六";
 constexpr int LastCellOfPlainFebruary = 28; ///< of one that begins on Sunday, the shortest grid
 constexpr int LastCellOfFifthWeek = 35;
 
@@ -133,6 +134,16 @@ void MonthGrid::select(int index) {
 
 QString MonthGrid::dateTextOf(int index) const {
     return u"%1-%2-"_s.arg(shownYear()).arg(shownMonth()) + cell(index).caption;
+}
+
+QString MonthGrid::spokenDay(int index) const {
+    const Cell& shown = cell(index);
+    if (shown.caption.isEmpty())
+        return {};
+    if (shown.neighbour)
+        return (index < m_firstCellOffset ? u"上个月%1日"_s : u"下个月%1日"_s).arg(shown.caption);
+    return u"%1年%2月%3日，星期%4"_s.arg(QString::number(m_shownYear), QString::number(m_shownMonth), shown.caption,
+                                         WeekDays[index % Week]);
 }
 
 QString MonthGrid::labelText() const {

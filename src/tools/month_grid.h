@@ -39,6 +39,8 @@ public:
     /// The text that picking cell `index` gives: year and month on show and the caption, "2024-5-3". A neighbour's
     /// caption is joined to the month on show too, and an empty cell gives "2024-5-".
     QString dateTextOf(int index) const;
+    /// The day in cell `index` in words, to be heard: "2024年5月3日，星期五"; "" for an empty cell.
+    QString spokenDay(int index) const;
     /// "2024 年 5月"; with one blank behind after a step.
     QString labelText() const;
     /// The form's caption, the day that was today: "2024\5\3". Steps leave it alone.
@@ -51,6 +53,8 @@ public:
     int firstCellOffset() const { return m_firstCellOffset; }
     /// The day in cell 1 to 37, counted from 1; 0 in a cell outside the month on show.
     int dayOfCell(int cell) const { return m_dayOfCell.at(static_cast<std::size_t>(cell - 1)); }
+    /// The index (0 to 36) of the cell with a day of the month on show.
+    int cellOfDay(int day) const { return m_firstCellOffset + day - 1; }
 
 private:
     using Days = std::array<Int16, DayCellCount>;

@@ -1,5 +1,7 @@
 #include "chart_control_rig.h"
 
+#include <QAccessible>
+
 // The chart as a control: what it takes, what it draws.
 
 namespace qinghe::testing {
@@ -296,6 +298,23 @@ TEST_P(ChartScaleTest, HasSharpLinesAndColumns) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, ChartScaleTest, ::testing::Values(1.0, 1.5, 2.0));
+
+TEST_F(ChartControlTest, IsToldAsAListOfLabelAndValue) {
+    QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(&chart);
+    EXPECT_EQ(told.role(), QAccessible::Chart);
+    EXPECT_EQ(told.text(QAccessible::Description), u"还没有数据，画着的是示例"_s);
+    EXPECT_EQ(told.childCount(), 0);
+    chart.setChartData({QVariant(row(u"餐饮"_s, 123.45)), QVariant(row(u"旧账"_s, QVariant()))});
+    ASSERT_EQ(told.childCount(), 2);
+    EXPECT_EQ(told.child(0)->role(), QAccessible::ListItem);
+    EXPECT_EQ(told.child(0)->text(QAccessible::Name), u"餐饮，123.45元"_s);
+    EXPECT_EQ(told.child(1)->text(QAccessible::Name), u"旧账，没有数值"_s);
+    EXPECT_EQ(told.child(1)->parent(), &told);
+    EXPECT_EQ(told.indexOfChild(told.child(1)), 1);
+    chart.setChartData({QVariant(row(u"2024-5-"_s, 8))}, ChartLabels::Months);
+    EXPECT_EQ(told.childCount(), 1);
+    EXPECT_EQ(told.child(0)->text(QAccessible::Name), u"2024-5，8.00元"_s);
+}
 
 } // namespace
 } // namespace qinghe::testing

@@ -2,6 +2,9 @@
 #include "window_fixture.h"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace qinghe::testing {
@@ -118,6 +121,35 @@ TEST_F(ComboBoxes, WhereNothingCanBeTypedEveryKeyThatFindsAnEntryChooses) {
     EXPECT_EQ(chosen.Text(), QString());
     QTest::keyClick(&chosen, 'a');
     EXPECT_EQ(noted(), QStringList{});
+}
+
+TEST_F(ComboBoxes, OpeningTheListUnderATextThatStandsInItIsNoClick) {
+    typed.setText(u"李四"_s);
+    typed.lineEdit()->setFocus();
+    typed.showPopup();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(typed.view()->window()));
+    turnLoop();
+    EXPECT_EQ(noted(), QStringList{});
+    typed.hidePopup();
+}
+
+TEST_F(ComboBoxes, AnEntryThatTheListCutsIsToldByATip) {
+    const QString longest = QString(60, u'长');
+    chosen.addEntry(longest);
+    chosen.showPopup();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(chosen.view()->window()));
+    const auto tip = [this](int index) {
+        QWidget* lines = chosen.view()->viewport();
+        const QPoint at = chosen.view()->visualRect(chosen.model()->index(index, 0)).center();
+        QHelpEvent asked(QEvent::ToolTip, at, lines->mapToGlobal(at));
+        QCoreApplication::sendEvent(lines, &asked);
+        return QToolTip::isVisible() ? QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText() : QString();
+    };
+    EXPECT_EQ(tip(3), longest);
+    QToolTip::hideText();
+    turnLoop();
+    EXPECT_NE(tip(0), u"张三"_s);
+    chosen.hidePopup();
 }
 
 TEST_F(ComboBoxes, TypingAfterAClosedListIsStillNoClick) {

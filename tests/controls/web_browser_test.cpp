@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTextBlock>
 
 #include <sys/stat.h>
 
@@ -64,6 +65,32 @@ TEST_F(WebBrowserTest, WhatLeadsOutOfTheFolderByALinkOrIsNoPlainFileIsNotShown) 
     EXPECT_EQ(left.size(), 4);
     browser.navigate(page(u"link.htm"_s));
     EXPECT_FALSE(browser.toPlainText().contains(u"secret"_s));
+}
+
+TEST_F(WebBrowserTest, FollowsALinkToAPlaceInsideAPage) {
+    write(u"long.htm"_s, QByteArray("<p>行</p>").repeated(200) + "<h2><a name='末段-2'></a>末段</h2>" +
+                             QByteArray("<p>行</p>").repeated(200));
+    browser.resize(400, 200);
+    browser.show();
+    emit browser.anchorClicked(QUrl(u"long.htm#末段-2"_s));
+    EXPECT_EQ(browser.cursorForPosition(QPoint(100, 20)).block().text(), u"末段"_s);
+}
+
+TEST_F(WebBrowserTest, APictureThatIsShownSmallerIsSmooth) {
+    QImage stripes(200, 40, QImage::Format_RGB32);
+    for (int x = 0; x < stripes.width(); ++x)
+        for (int y = 0; y < stripes.height(); ++y)
+            stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    stripes.save(folder.filePath(u"stripes.png"_s));
+    write(u"picture.htm"_s, "<p><img src='stripes.png' width='150'></p>");
+    browser.navigate(page(u"picture.htm"_s));
+    browser.resize(400, 200);
+    const QImage shown = browser.grab().toImage();
+    int grey = 0;
+    for (int x = 20; x < 170; ++x)
+        if (const int level = qGray(shown.pixel(x, 40)); level > 40 && level < 215)
+            ++grey;
+    EXPECT_GT(grey, 60) << "of 150 points, each from one and a third of the picture";
 }
 
 } // namespace

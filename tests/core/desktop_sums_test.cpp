@@ -1,5 +1,7 @@
 #include "core_fixture.h"
 
+#include <QHelpEvent>
+
 namespace qinghe::testing {
 namespace {
 
@@ -31,6 +33,12 @@ protected:
         for (const QString& name : labels)
             figures << caption(name);
         return figures;
+    }
+    /// The first line of what is told to whoever rests the pointer on a figure.
+    QString tipOf(const QString& name) {
+        QHelpEvent asked(QEvent::ToolTip, {1, 1}, label(name).mapToGlobal(QPoint(1, 1)));
+        QCoreApplication::sendEvent(&label(name), &asked);
+        return label(name).toolTip().section(u'\n', 0, 0);
     }
     const QStringList nothing = QStringList(5, u"0.00元"_s);
 };
@@ -152,6 +160,38 @@ TEST_F(DesktopSums, ComingBackWritesTheSameFiguresAgain) {
     click(pages::Desktop);
     EXPECT_EQ(caption(desktop::Income), u"100.00元"_s);
     EXPECT_EQ(caption(desktop::LastIncome), u"0.00元"_s);
+}
+
+TEST_F(DesktopSums, AToolTipTellsTheTrueSumOfTheFiguresCalendarMonth) {
+    book(u"2024-05-01"_s, {8650, 30, 500, 70, 8});
+    book(u"2024-05-31"_s, {0.5, 1, 0, 0, 0});
+    book(u"2024-04-30"_s, {7, 7, 7, 7, 7});
+    book(u"2023-05-05"_s, {3, 3, 3, 3, 3});
+    startOn({2024, 5, 20});
+    EXPECT_EQ(figures(ThisMonth), nothing); // their months' keys are others
+    const QStringList names{u"收入"_s, u"支出"_s, u"预算"_s, u"借入"_s, u"借出"_s};
+    const QStringList sums{u"8650.50元"_s, u"31.00元"_s, u"500.00元"_s, u"70.00元"_s, u"8.00元"_s};
+    for (qsizetype row = 0; row < 5; ++row) {
+        EXPECT_EQ(tipOf(ThisMonth[row]), u"2024年5月的%1合计：%2"_s.arg(names[row], sums[row]));
+        EXPECT_EQ(tipOf(LastMonth[row]), u"2024年4月的%1合计：7.00元"_s.arg(names[row]));
+    }
+}
+
+TEST_F(DesktopSums, AToolTipIsWorkedOutWhenItIsAskedFor) {
+    startOn({2024, 1, 31});
+    EXPECT_EQ(tipOf(desktop::Income), u"2024年1月的收入合计：0.00元");
+    bookIncome(u"2024-01-31"_s, u"12"_s);
+    bookIncome(u"2023-12-31"_s, u"0.5"_s);
+    EXPECT_EQ(tipOf(desktop::Income), u"2024年1月的收入合计：12.00元");
+    EXPECT_EQ(tipOf(desktop::LastIncome), u"2023年12月的收入合计：0.50元");
+    EXPECT_EQ(caption(desktop::Income), u"0.00元");
+}
+
+TEST_F(DesktopSums, AToolTipThatCannotBeWorkedOutEndsNothing) {
+    startOn({2024, 5, 20});
+    rig.sql(u"alter table srb rename to gone"_s);
+    EXPECT_EQ(tipOf(desktop::Income), u"登陆时算好的数字；之后记的账，下次启动时才计入。");
+    EXPECT_FALSE(rig.ended());
 }
 
 } // namespace

@@ -20,7 +20,7 @@ protected:
 TEST_F(Start, ABookThatNobodyHasWrittenInSaysWhereItLiesAndHowToBegin) {
     rig.signIn();
     EXPECT_TRUE(note().Visible());
-    EXPECT_EQ(note().Caption(), u"新账本在程序的文件夹：先点“支出”再“增加”"_s);
+    EXPECT_EQ(note().Caption(), u"新账本在程序的文件夹：先点“支出”写第一行"_s);
     EXPECT_LE(note().fontMetrics().horizontalAdvance(note().Caption()), note().width());
     EXPECT_TRUE(note().toolTip().contains(rig.folder())) << note().toolTip().toStdString();
 }
@@ -32,7 +32,7 @@ TEST(StartInTheHome, ANewBookSaysSo) {
     rig.signIn();
     qputenv("HOME", home);
     const QList<Label*> labels = rig.at(title::Band).findChildren<Label*>(QString());
-    const auto said = std::ranges::find(labels, u"新账本在“青禾家庭记账本”：先点“支出”再“增加”"_s, &Label::Caption);
+    const auto said = std::ranges::find(labels, u"新账本在“青禾家庭记账本”：先点“支出”写第一行"_s, &Label::Caption);
     ASSERT_NE(said, labels.end());
     EXPECT_LE((*said)->fontMetrics().horizontalAdvance((*said)->Caption()), (*said)->width());
 }

@@ -12,16 +12,21 @@
 #include <QUrl>
 
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace qinghe {
 namespace {
 
 class WebPages : public testing::Test {
 protected:
-    void SetUp() override { deliverWebPages(folder.path()); }
+    static void SetUpTestSuite() {
+        folder.emplace();
+        deliverWebPages(folder->path());
+    }
+    static void TearDownTestSuite() { folder.reset(); }
 
-    QString path(const QString& name) const { return folder.filePath("web/" + name); }
-    QString page(const QString& name) const {
+    static QString path(const QString& name) { return folder->filePath("web/" + name); }
+    static QString page(const QString& name) {
         QFile file(path(name));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
         return QString::fromUtf8(file.readAll());
@@ -35,16 +40,19 @@ protected:
         return found;
     }
 
-    QTemporaryDir folder;
+    static std::optional<QTemporaryDir> folder; ///< they are made once, which takes longer than to look at them
 };
+std::optional<QTemporaryDir> WebPages::folder;
 
 TEST_F(WebPages, LeadNowhereButToFilesThatLieBesideThem) {
     for (const QString& name : webPageNames()) {
         const QStringList leads = references(page(name));
         EXPECT_GE(leads.size(), 3) << qPrintable(name);
         for (const QString& target : leads) {
-            EXPECT_EQ(QFileInfo(target).fileName(), target) << qPrintable(name);
-            EXPECT_TRUE(QFile::exists(path(target))) << qPrintable(name + " -> " + target);
+            const QString file = target.section('#', 0, 0), anchor = target.section('#', 1);
+            EXPECT_EQ(QFileInfo(file).fileName(), file) << qPrintable(name);
+            EXPECT_TRUE(QFile::exists(path(file))) << qPrintable(name + " -> " + target);
+            EXPECT_TRUE(anchor.isEmpty() || page(file).contains("<a name=\"" + anchor + '"')) << qPrintable(target);
         }
     }
 }
@@ -56,12 +64,37 @@ TEST_F(WebPages, NeedNothingFromTheNet) {
     }
 }
 
-TEST_F(WebPages, ReachEachOther) {
-    for (const QString& name : webPageNames()) {
-        for (const QString& other : webPageNames()) {
+TEST_F(WebPages, ReachEachOtherFromTheFirstThree) {
+    const QStringList first{"index.htm", "adetail.htm", "softs.htm"};
+    for (const QString& name : first) {
+        for (const QString& other : first) {
             EXPECT_TRUE(name == other || references(page(name)).contains(other)) << qPrintable(name + " -> " + other);
         }
     }
+}
+
+TEST_F(WebPages, OfTheManualLeadOneOnOneBackAndToTheContents) {
+    const QStringList manual = webPageNames().mid(2);
+    ASSERT_EQ(manual.front(), "softs.htm");
+    for (qsizetype i = 0; i < manual.size(); ++i) {
+        const QStringList leads = references(page(manual[i]));
+        for (const qsizetype to : {i - 1, i + 1, qsizetype(0)}) {
+            if (to >= 0 && to < manual.size() && to != i) {
+                EXPECT_GE(leads.count(manual[to]), 2) << qPrintable(manual[i] + " -> " + manual[to]);
+            }
+        }
+    }
+}
+
+TEST_F(WebPages, OfTheManualHoldWhatItsMarkdownSays) {
+    const QString tools = page("tools.htm");
+    for (const char* part : {"<title>日历和计算器 - 青禾家庭记账本</title>", "<h2><a name=\"日历\"></a>日历</h2>",
+                             "<img src=\"date.png\" width=\"720\" alt=\"日历\">", "<b>双击</b>", "<code>5月3日</code>",
+                             "<a href=\"saving.htm\">", "<td><b>写法</b></td>", "</ul>"}) {
+        EXPECT_TRUE(tools.contains(part)) << part << qPrintable(tools);
+    }
+    EXPECT_TRUE(page("questions.htm").contains("<pre>printf QL | dd "));
+    EXPECT_TRUE(page("month.htm").contains("<a href=\"desktop.htm#"));
 }
 
 TEST_F(WebPages, ShowTheirTitleAsRichText) {
@@ -76,9 +109,10 @@ TEST_F(WebPages, ShowTheirTitleAsRichText) {
 
 TEST_F(WebPages, TakeTheirStyleFromTheFileBesideThem) {
     QTextDocument document;
-    document.setBaseUrl(QUrl::fromLocalFile(path("softs.htm")));
-    document.setHtml(page("softs.htm"));
-    EXPECT_EQ(document.find("日历").charFormat().foreground().color(), QColor(0x2F, 0x5E, 0x24));
+    document.setBaseUrl(QUrl::fromLocalFile(path("tools.htm")));
+    document.setHtml(page("tools.htm"));
+    EXPECT_EQ(document.find("日历", document.find("日历和计算器")).charFormat().foreground().color(),
+              QColor(0x2F, 0x5E, 0x24));
 }
 
 TEST_F(WebPages, BringThePictureThatTheyShow) {
@@ -96,7 +130,7 @@ TEST_F(WebPages, AreRenewedWhenTheyDifferAndLeftAloneOtherwise) {
     ASSERT_TRUE(kept.setFileTime(longAgo, QFileDevice::FileModificationTime));
     kept.close();
 
-    deliverWebPages(folder.path());
+    deliverWebPages(folder->path());
     EXPECT_TRUE(page("softs.htm").contains("软件工具"));
     EXPECT_EQ(QFileInfo(path("index.htm")).lastModified(), longAgo);
 }

@@ -10,6 +10,24 @@ using namespace Qt::StringLiterals;
 
 class DiaryFinding : public DiaryTest {};
 
+/// Notes what of a widget is painted anew.
+class PaintedRoom : public QObject {
+public:
+    explicit PaintedRoom(QWidget& watched) { watched.installEventFilter(this); }
+
+    const QRegion& painted() const { return m_painted; }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            m_painted += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+
+private:
+    QRegion m_painted;
+};
+
 TEST_F(DiaryFinding, EntriesAreListedInTheOrderInWhichTheyWereSaved) {
     saveEntry(u"2024-6-3"_s, u"后来"_s);
     saveEntry(u"2024-5-3"_s, u"先前"_s);
@@ -24,6 +42,16 @@ TEST_F(DiaryFinding, EntriesAreListedInTheOrderInWhichTheyWereSaved) {
         EXPECT_TRUE(button->isEnabled());
     EXPECT_EQ(ms8().Rows(), 2);
     EXPECT_EQ(ProgramRig::rowText(ms8(), 1), u"|"_s);
+}
+
+TEST_F(DiaryFinding, ADiaryWithoutEntriesSaysSoOnItsGround) {
+    find();
+    EXPECT_TRUE(ms8().ground.shown().contains(u"点“写日记”"_s));
+    write();
+    EXPECT_EQ(ms8().ground.shown(), QString());
+    saveEntry(u"2024-6-3"_s, u"插秧"_s);
+    find();
+    EXPECT_EQ(ms8().ground.shown(), QString());
 }
 
 TEST_F(DiaryFinding, ThreeLinesAreShownAsOneRunOfText) {
@@ -159,8 +187,12 @@ TEST_F(DiaryFinding, TheBarFindsATitleInFindModeAloneAndGoesWithIt) {
 TEST_F(DiaryFinding, TheEmptyPaperSaysHowATextIsReadInFindModeAlone) {
     EXPECT_NE(tx8().placeholderText(), u"点标题看正文");
     saveEntry(u"2024-5-3"_s, u"a"_s, {u"text"_s});
+    rig.settle();
+    PaintedRoom paper(*tx8().viewport());
     find();
     EXPECT_EQ(tx8().placeholderText(), u"点标题看正文");
+    rig.settle();
+    EXPECT_TRUE(paper.painted().contains(tx8().viewport()->rect())) << "the words before do not stay";
     write();
     EXPECT_NE(tx8().placeholderText(), u"点标题看正文");
 }

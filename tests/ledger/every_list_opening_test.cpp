@@ -1,3 +1,4 @@
+#include "core/grid_page.h"
 #include "ledger/ledger_lists.h"
 #include "support/page_rig.h"
 
@@ -41,6 +42,20 @@ TEST_P(EveryListOpeningTest, PicksADateAndReckonsAnAmountInANewRow) {
     EXPECT_EQ(tools(), forms::Calculator);
     calculate(u"600"_s);
     EXPECT_EQ(grid().TextMatrix(1, list.amount), u"600");
+}
+
+TEST_P(EveryListOpeningTest, SaysOnItsGroundWhatToDoFirstUntilSomethingStandsThere) {
+    open();
+    EXPECT_EQ(grid().ground.shown(), GridPage::HowToBegin);
+    const QImage told = grid().viewport()->grab().toImage();
+    grid().setTextMatrix(1, 1, u" "_s); // paints nothing
+    EXPECT_EQ(grid().ground.shown(), QString());
+    EXPECT_NE(grid().viewport()->grab().toImage(), told);
+}
+
+TEST_P(EveryListOpeningTest, SaysNothingOnItsGroundBesideRecords) {
+    openWith(1);
+    EXPECT_EQ(grid().ground.shown(), QString());
 }
 
 } // namespace

@@ -124,5 +124,24 @@ TEST_F(MonthItemsTest, SayWhichSumIsBeyondAllNumbers) {
     EXPECT_EQ(rows(), QStringList{u"甲|工资|溢出"_s});
 }
 
+TEST_F(MonthItemsTest, SayWhereTheSumsOfMonthsAreWhenTheyFindNothing) {
+    setMonth(5);
+    record(u"2024-05-03"_s, u"'工资'"_s, u"'甲'"_s, u"1"_s);
+    for (const int side : {0, 1}) {
+        open(side);
+        for (const auto& report : {income::ByItem, income::ByPerson}) {
+            choose(report);
+            EXPECT_TRUE(ms2().ground.shown().contains(side == 0 ? u"年度收入统计"_s : u"年度年支出统计"_s));
+        }
+        showEntry();
+        EXPECT_FALSE(ms2().ground.shown().contains(u"年度"_s));
+    }
+    setMonth(10);
+    record(u"2024-10-03"_s, u"'工资'"_s, u"'甲'"_s, u"1"_s);
+    open(0);
+    showItems();
+    EXPECT_EQ(ms2().ground.shown(), QString());
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTest>
+#include <QToolTip>
 
 namespace qinghe::testing {
 namespace {
@@ -129,10 +130,24 @@ TEST_F(Grids, AmountsAndDatesOfAnyUsualLengthAreWholeInTheCellAndInTheBox) {
         for (const int col : {TextCol, WideAmountCol, NarrowAmountCol}) {
             layEditor(1, col); // a box that opens over another cell
             grid.setTextMatrix(3, col, figures);
-            EXPECT_FALSE(grid.isCut(3, col)) << figures.toStdString() << ' ' << col;
+            EXPECT_NE(grid.fit(3, col), CellFit::Cut) << figures.toStdString() << ' ' << col;
             layEditor(3, col);
             EXPECT_EQ(endsCut(), 0) << figures.toStdString() << ' ' << col;
         }
+}
+
+TEST_F(Grids, AnAmountInTypeThatIsHardToReadIsToldByATip) {
+    const auto told = [this](const QString& amount) {
+        QToolTip::hideText();
+        grid.setTextMatrix(3, NarrowAmountCol, amount);
+        ground.show();
+        grid.hints.tell(3, NarrowAmountCol, {});
+        return QToolTip::text();
+    };
+    EXPECT_EQ(told(u"1234567.89"_s), QString());
+    EXPECT_EQ(grid.fit(3, NarrowAmountCol), CellFit::Whole);
+    EXPECT_TRUE(told(u"-40451851483.73"_s).contains(u"-40451851483.73"_s));
+    EXPECT_EQ(grid.fit(3, NarrowAmountCol), CellFit::Tiny);
 }
 
 TEST_F(Grids, TheTypeOfTheBoxFollowsWhatIsTyped) {
@@ -150,7 +165,7 @@ TEST_F(Grids, TheTypeOfTheBoxFollowsWhatIsTyped) {
 
 TEST_F(Grids, WordsKeepTheirSizeAndAreCut) {
     grid.setTextMatrix(3, TextCol, u"给外婆的药和路费"_s);
-    EXPECT_TRUE(grid.isCut(3, TextCol));
+    EXPECT_EQ(grid.fit(3, TextCol), CellFit::Cut);
     layEditor(3, TextCol);
     const QFont before = editor.font();
     editor.setBoxText(u"药"_s);

@@ -34,6 +34,15 @@ TEST(DarkRule, AThinDarkLineIsNotABlock) {
     EXPECT_FALSE(isDark(picture));
 }
 
+TEST(DarkRule, DarkTwigsAllOverALightPictureAreDark) {
+    QImage picture = filled(QColor(236, 240, 246));
+    QPainter painter(&picture);
+    for (int x = 0; x < picture.width(); x += 60)
+        painter.fillRect(x, 0, 12, picture.height(), QColor(40, 30, 26));
+    painter.end();
+    EXPECT_TRUE(isDark(picture));
+}
+
 TEST(DarkRule, TheGreyThatDivides) {
     EXPECT_TRUE(isDark(filled(QColor(138, 138, 138))));
     EXPECT_FALSE(isDark(filled(QColor(142, 142, 142))));
@@ -69,6 +78,20 @@ TEST(MainGround, FillsTheWindowWithThePictureAndLaysTheShelfOverIt) {
     EXPECT_TRUE(isNear(pixelAt(image, 790, 300), QColor(160, 200, 120)));
     EXPECT_GT(pixelAt(image, 400, 90).red(), 235) << "the label shelf is nearly white";
     EXPECT_GT(pixelAt(image, 100, 30).red(), pixelAt(image, 450, 30).red()) << "the veil is denser on the left";
+}
+
+TEST(MainGround, KeepsToItsControlsWhenTheWindowIsGivenAnotherSize) {
+    Window window(Ground::Main);
+    QImage picture = filled(QColor(160, 200, 120));
+    QPainter(&picture).fillRect(1200, 0, 400, 1080, QColor(200, 220, 240));
+    window.setPicture(picture);
+    const QImage asked = rendered(window);
+    window.setFixedSize(1200, 900);
+    const QImage larger = rendered(window);
+    EXPECT_EQ(larger.copy(asked.rect()), asked);
+    EXPECT_TRUE(isNear(pixelAt(larger, 1000, 899), colour::DialogTo)) << "beyond it lies bare field";
+    window.setFixedSize(600, 400);
+    EXPECT_EQ(rendered(window), asked.copy(0, 0, 600, 400));
 }
 
 TEST(MainGround, ADarkPictureGetsADenserVeil) {

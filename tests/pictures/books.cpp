@@ -76,8 +76,8 @@ void writeFull(const LedgerFolder& folder) {
                " from (with recursive m(n) as (select 1 union all select n + 1 from m where n < 32766) select n from "
                "m);";
     };
-    folder.execute(full("srb", "n, '2024-11-15', '项目' || n % 300, '王青', 1234567.89, '工资卡', '', n") +
-                   full("zcb", "n, '2024-10-15', '项目' || n % 40, '王青', 34567.8, '现金', '', n") +
+    folder.execute(full("srb", "n, '2024-11-15', '项目' || (n % 300), '王青', 1234567.89, '工资卡', '', n") +
+                   full("zcb", "n, '2024-11-15', '项目' || (n % 40), '王青', 34567.8, '现金', '', n") +
                    full("jrb", "'现金', '2024-11-15', 1234567.89, n, 100, '大伯', '王青', '', n") +
                    full("jcb", "'现金', '2024-11-15', 77.5, n, 100, '李禾', '周晴', '', n") +
                    full("ysb", "'2024-11-01', '买菜', 1e308, '', n") +

@@ -51,8 +51,8 @@ QByteArray withoutFonts(const std::vector<QString>& patterns) {
 }
 
 void chooseSkin(const whole::LedgerFolder& folder, const std::string& name) {
-    if (name == "photo") {
-        const QByteArray jpeg = photograph();
+    if (name == "photo" || name == "twigs") {
+        const QByteArray jpeg = name == "photo" ? photograph() : twigs();
         folder.execute("update 皮肤选择 set 皮肤名 = '照片', 文件大小 = " + std::to_string(jpeg.size()) +
                        ", 皮肤文件 = x'" + jpeg.toHex().toStdString() + "00'");
     } else if (!name.empty()) {
@@ -79,6 +79,7 @@ std::span<const Look> looks() {
         Look{.name = "ink", .skin = "水墨远山"},
         Look{.name = "paper", .skin = "暖纸稻香"},
         Look{.name = "photo", .skin = "photo"},
+        Look{.name = "twigs", .skin = "twigs"},
         Look{.name = "photo-200", .skin = "photo", .scale = "2", .screen = large},
         Look{.name = "empty", .book = "empty"},
         Look{.name = "ten", .book = "ten"},

@@ -17,7 +17,8 @@ namespace pictures {
 struct Look {
     std::string name;
     std::string book = "household";
-    std::string skin = {}; ///< one of those on offer, "photo" for a picture of the user's own, "" for the delivered one
+    std::string skin =
+        {}; ///< one of those on offer, "photo" or "twigs" for a picture of the user's own, "" for the delivered one
     QByteArray scale = "1";
     QString screen = QStringLiteral("2560x1440");
     bool dark = false;                ///< the desktop's colours

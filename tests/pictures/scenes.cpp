@@ -1,5 +1,6 @@
 #include "scenes.h"
 
+#include <algorithm>
 #include <array>
 
 namespace pictures {
@@ -23,7 +24,8 @@ void page(Program& program) {
 template<const auto& Label, const auto& Option>
 void option(Program& program) {
     show(program, Label);
-    program.click(Option);
+    if (!program.showsMessage()) // there is nothing to count yet
+        program.click(Option);
 }
 
 // The desktop, and what the main window shows whatever the page.
@@ -32,6 +34,20 @@ void tip(Program& program) {
     signIn(program);
     program.moveTo(desktop::Income);
     program.wait(1500); // a tip takes its time
+}
+
+/// A plain file lies where the folder of the safety copies should be.
+void blockCopies(const LedgerFolder& folder) {
+    folder.write("安全副本", "");
+}
+
+void note(Program& program) {
+    signIn(program);
+    program.wait(2500); // the copy of the day is tried when the rest is done
+}
+
+void names(Program& program) {
+    program.click(sign_in::User, {205, 8});
 }
 
 void refused(Program& program) {
@@ -48,25 +64,31 @@ void find(Program& program) {
 
 // The pages with a grid.
 
+/// This row, or the last one of a list that has fewer.
+int row(Program& program, int wanted) {
+    return std::min(wanted, program.get(income::Grid, "Rows").toInt() - 1);
+}
+
 void date(Program& program) {
     show(program, pages::Expense);
-    program.clickCell(income::Grid, 3, 2);
+    program.clickCell(income::Grid, row(program, 3), 2);
     program.waitFor(forms::DatePicker);
 }
 
 void calculator(Program& program) {
     show(program, pages::Expense);
-    program.clickCell(income::Grid, 3, 5);
+    program.clickCell(income::Grid, row(program, 3), 5);
     program.waitForKeyboard(forms::Calculator);
     program.type("12.5+8");
 }
 
 void unsaved(Program& program) {
     show(program, pages::Expense);
-    fillCell(program, income::Grid, 2, 3, "买米");
-    program.clickCell(income::Grid, 4, 5);
+    fillCell(program, income::Grid, row(program, 2), 3, "买米");
+    fillCell(program, income::Grid, row(program, 6), 2, "6月35日"); // which no save takes
+    program.clickCell(income::Grid, row(program, 4), 5);
     reckon(program, "96.5");
-    program.clickCell(income::Grid, 3, 7);
+    program.clickCell(income::Grid, row(program, 3), 7);
     program.type("两袋");
 }
 
@@ -88,7 +110,25 @@ void question(Program& program) {
     program.message();
 }
 
+void chart(Program& program) {
+    option<pages::Charts, charts::ExpenseByItem>(program);
+    if (program.showsMessage())
+        return;
+    program.click(charts::From);
+    pickDay(program, 1);
+    program.click(charts::To);
+    pickDay(program, 18);
+    program.click(charts::Query);
+}
+
 // The journal.
+
+void diaryMenu(Program& program) {
+    show(program, pages::Diary);
+    program.click(diary_page::Text);
+    program.type("初雪");
+    program.key("Menu");
+}
 
 void writeDiary(Program& program) {
     show(program, pages::Diary);
@@ -166,17 +206,17 @@ void openCategories(Program& program) {
     show(program, pages::Settings);
     program.click(settings::Categories);
     program.click(categories::Expense);
-    program.clickCell(categories::Majors, 2, 1);
+    program.clickCell(categories::Majors, 6, 1);
 }
 
 void purge(Program& program) {
     show(program, pages::Settings);
     program.click(settings::Purge);
     program.waitForKeyboard(forms::Purge);
-    program.click(purge::Kind[0]);
-    program.click(purge::Kind[1]);
     program.click(purge::Date);
     pickDay(program, 1);
+    program.click(purge::Kind[0]);
+    program.click(purge::Kind[1]);
 }
 
 void openBackup(Program& program, const std::string& option) {
@@ -214,6 +254,12 @@ void tools(Program& program) {
     program.waitFor(forms::Web);
 }
 
+void endOfTools(Program& program) {
+    tools(program);
+    program.click(web::Browser);
+    program.key("Ctrl+End");
+}
+
 std::string manual(const std::string& name) {
     return "manual/" + name + ".png";
 }
@@ -225,9 +271,11 @@ std::span<const Scene> scenes() {
     static const std::string main = forms::Main;
     static const std::array all{
         Scene{"sign-in", signInOnly, forms::SignIn, manual("sign-in")},
+        Scene{"names", names, ""},
         Scene{"refused", refused, ""},
         Scene{"desktop", page<pages::Desktop>, main, "desktop.png"},
         Scene{"tip", tip, ""},
+        Scene{"note", note, main, "", blockCopies},
         Scene{"income", page<pages::Income>, main},
         Scene{"typing", typing, ""},
         Scene{"expense", page<pages::Expense>, main, manual("expense")},
@@ -244,11 +292,12 @@ std::span<const Scene> scenes() {
         Scene{"savings", page<pages::Accounts>, main, manual("savings")},
         Scene{"budget", page<pages::Budget>, main, manual("budget")},
         Scene{"accounts-chart", page<pages::Charts>, main},
-        Scene{"chart", option<pages::Charts, charts::ExpenseByItem>, main, "chart.png"},
+        Scene{"chart", chart, main, "chart.png"},
         Scene{"chart-months", option<pages::Charts, charts::YearsExpense>, main, manual("chart-months")},
         Scene{"users", page<pages::Users>, main, manual("users")},
         Scene{"saved", saved, ""},
         Scene{"diary-write", writeDiary, main, manual("diary-write")},
+        Scene{"diary-menu", diaryMenu, ""},
         Scene{"diary-find", findDiary, main, manual("diary-find")},
         Scene{"schedule", planAhead, main, manual("schedule")},
         Scene{"today", today, main},
@@ -264,6 +313,7 @@ std::span<const Scene> scenes() {
         Scene{"restore", restore, ""},
         Scene{"choose-file", chooseFile, ""},
         Scene{"tools", tools, ""},
+        Scene{"tools-end", endOfTools, ""},
     };
     return all;
 }

@@ -13,6 +13,7 @@ struct Scene {
     void (*play)(whole::Program&) = nullptr; ///< from the first window on
     std::string cut;                         ///< the window that fills the picture; "" for all that are on view
     std::string page = {};                   ///< the committed picture that it makes, below docs/pictures
+    void (*ready)(const whole::LedgerFolder&) = nullptr; ///< what happened in the folder before
 };
 
 std::span<const Scene> scenes();

@@ -125,6 +125,29 @@ TEST_F(MessageBoxTest, EveryButtonGivesItsAnswer) {
     EXPECT_EQ(press(MessageStyle::YesNoQuestion, QMessageBox::No), Answer::No);
 }
 
+TEST_F(MessageBoxTest, TheLetterOfAButtonPressesItAndIsToldInItsToolTip) {
+    struct Letter {
+        MessageStyle style;
+        QMessageBox::StandardButton button;
+        Qt::Key key;
+        QString tip;
+        Answer answer;
+    };
+    for (const Letter& letter :
+         {Letter{MessageStyle::OkCancel, QMessageBox::Ok, Qt::Key_O, u"确定（O）"_s, Answer::Ok},
+          {MessageStyle::OkCancel, QMessageBox::Cancel, Qt::Key_C, u"取消（C）"_s, Answer::Cancel},
+          {MessageStyle::YesNoQuestion, QMessageBox::Yes, Qt::Key_Y, u"是（Y）"_s, Answer::Yes},
+          {MessageStyle::YesNoQuestion, QMessageBox::No, Qt::Key_N, u"否（N）"_s, Answer::No}})
+        for (const Qt::KeyboardModifiers with : {Qt::NoModifier, Qt::AltModifier})
+            EXPECT_EQ(show(letter.style,
+                           [&](QMessageBox& box) {
+                               EXPECT_EQ(box.button(letter.button)->toolTip(), letter.tip);
+                               QTest::keyClick(box.focusWidget(), letter.key, with);
+                           }),
+                      letter.answer)
+                << letter.tip.toStdString();
+}
+
 TEST_F(MessageBoxTest, ButtonsAreInChinese) {
     const auto captions = [](const QMessageBox& box) {
         QStringList texts;

@@ -16,11 +16,15 @@ Display::Display(const QString& pixels) : m_before(qgetenv("DISPLAY")) {
         throw std::runtime_error("jwm does not start");
 }
 
+void Display::leaveWindowsAlone() {
+    m_desktop.terminate();
+    m_desktop.waitForFinished();
+}
+
 Display::~Display() {
-    for (QProcess* process : {&m_desktop, &m_server}) {
-        process->terminate();
-        process->waitForFinished();
-    }
+    leaveWindowsAlone();
+    m_server.terminate();
+    m_server.waitForFinished();
     qputenv("DISPLAY", m_before);
 }
 

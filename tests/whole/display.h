@@ -12,6 +12,9 @@ public:
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
 
+    /// The window manager ends. Its windows stay, and from now on take whatever size anybody gives them.
+    void leaveWindowsAlone();
+
 private:
     const QByteArray m_before; ///< the display of the environment
     QProcess m_server, m_desktop;
