@@ -60,7 +60,7 @@ QAccessible::State LabelAccessible::state() const {
         const Placed* const calendar = Placed::of(m_label.window());
         state.selectable = true;
         state.selected = calendar && m_label.BackColor() != calendar->BackColor();
-        state.focused = m_label.role() == Role::WalkedDay; // the keyboard itself stays with the field
+        state.focused = m_label.role() == Role::WalkedDay; // keys walk over it, though another window has them
     }
     state.readOnly = role() == QAccessible::StaticText;
     if (!isImage(m_label) && name().isEmpty())

@@ -2,27 +2,7 @@
 
 #include "controls/cell_editor.h"
 
-#include <algorithm>
-
 namespace qinghe {
-
-namespace {
-
-void sortAsRead(std::vector<Placed*>& controls) {
-    std::ranges::stable_sort(controls, {}, [](const Placed* control) {
-        return std::tuple(control->Top(), control->Left(), control->widget()->objectName()); // not as they lie stacked
-    });
-    for (auto row = controls.begin(); row != controls.end();) {
-        const double foot = (*row)->Top() + (*row)->Height();
-        const auto next = std::find_if(std::next(row), controls.end(), [foot](const Placed* control) {
-            return control->Top() + control->Height() / 2 >= foot;
-        });
-        std::ranges::stable_sort(row, next, {}, &Placed::Left);
-        row = next;
-    }
-}
-
-} // namespace
 
 std::vector<QWidget*> inReadingOrder(const QWidget& container) {
     std::vector<Placed*> controls;
@@ -36,7 +16,7 @@ std::vector<QWidget*> inReadingOrder(const QWidget& container) {
         else if (Placed* placed = Placed::of(widget))
             controls.push_back(placed);
     }
-    sortAsRead(controls);
+    sortAsRead(controls, [](const Placed* control) { return control; });
     std::vector<QWidget*> read;
     for (const Placed* control : controls) {
         read.push_back(control->widget());

@@ -3,6 +3,7 @@
 #include "controls/buttons.h"
 #include "controls/cell_editor.h"
 #include "controls/label.h"
+#include "controls/reading_order.h"
 
 #include <algorithm>
 #include <iterator>
@@ -22,19 +23,6 @@ struct Part {
     const Placed* control;
     std::vector<QWidget*> stops;
 };
-
-/// What begins above the middle of a row's first part stands in that row.
-void sortAsRead(std::vector<Part>& parts) {
-    std::ranges::stable_sort(parts, {}, [](const Part& part) { return part.control->Top(); });
-    for (auto row = parts.begin(); row != parts.end();) {
-        const double middle = row->control->Top() + row->control->Height() / 2;
-        const auto next = std::find_if(std::next(row), parts.end(),
-                                       [middle](const Part& part) { return part.control->Top() >= middle; });
-        std::stable_sort(
-            row, next, [](const Part& one, const Part& other) { return one.control->Left() < other.control->Left(); });
-        row = next;
-    }
-}
 
 /// The box over a grid of this container, or nullptr.
 CellEditor* boxOver(const QWidget& grid) {
@@ -85,7 +73,7 @@ std::vector<QWidget*> tabStopsIn(const QWidget& container, const std::vector<con
         if (!part.stops.empty())
             parts.push_back(std::move(part));
     }
-    sortAsRead(parts);
+    sortAsRead(parts, [](const Part& part) { return part.control; });
     std::vector<QWidget*> stops;
     for (const Part& part : parts)
         stops.insert(stops.end(), part.stops.begin(), part.stops.end());

@@ -62,6 +62,14 @@ void find(Program& program) {
     program.type("买");
 }
 
+/// The keyboard has come so many stops far.
+template<const auto& Label, int Stops>
+void tabbed(Program& program) {
+    show(program, Label);
+    for (int i = 0; i < Stops; ++i)
+        program.key("Tab");
+}
+
 // The pages with a grid.
 
 /// This row, or the last one of a list that has fewer.
@@ -292,6 +300,11 @@ std::span<const Scene> scenes() {
         Scene{"savings", page<pages::Accounts>, main, manual("savings")},
         Scene{"budget", page<pages::Budget>, main, manual("budget")},
         Scene{"accounts-chart", page<pages::Charts>, main},
+        Scene{"keys-labels", tabbed<pages::Expense, 1>, main},
+        Scene{"keys-options", tabbed<pages::Expense, 2>, main},
+        Scene{"keys-buttons", tabbed<pages::Expense, 4>, main},
+        Scene{"keys-chart", tabbed<pages::Charts, 3>, main},
+        Scene{"keys-title", tabbed<pages::Desktop, 3>, main},
         Scene{"chart", chart, main, "chart.png"},
         Scene{"chart-months", option<pages::Charts, charts::YearsExpense>, main, manual("chart-months")},
         Scene{"users", page<pages::Users>, main, manual("users")},
