@@ -18,8 +18,8 @@ FieldTool* PickerKeys::picker() const {
 }
 
 bool PickerKeys::eventFilter(QObject*, QEvent* event) {
-    const bool leaves = event->type() == QEvent::FocusOut &&
-                        static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
+    const bool leaves =
+        event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
     if (FieldTool* const open = leaves ? picker() : nullptr)
         open->setTakesKeys(false);
     if (event->type() != QEvent::KeyPress)

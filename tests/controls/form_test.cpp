@@ -230,5 +230,20 @@ TEST_F(FormTest, ToolsStayAboveTheirOwnerAndOnlyTheQuietOneLeavesTheKeyboardAlon
     EXPECT_TRUE(quiet.testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
+TEST_F(FormTest, EscClosesADialogAndNoOtherWindow) {
+    for (const Form::Kind kind : {Form::Kind::Dialog, Form::Kind::Frameless, Form::Kind::Notice}) {
+        Form window(u"Form3"_s, kind, Ground::Dialog);
+        auto* box = new TextBox(&window, u"Text1"_s); // which has no use for the key
+        bool closed = false;
+        window.CloseAsked = [&closed] { closed = true; };
+        window.showForm();
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, u"\x1b"_s, true);
+        QCoreApplication::sendEvent(box, &held);
+        EXPECT_FALSE(closed);
+        QTest::keyClick(box, Qt::Key_Escape);
+        EXPECT_EQ(closed, kind == Form::Kind::Dialog);
+    }
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -277,6 +277,19 @@ TEST_F(ReminderWindowTest, NothingInItButItsButtonsCanHaveTheKeyboard) {
     EXPECT_TRUE(popup().testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
+TEST_F(ReminderWindowTest, F8InTheMainWindowAnswersIt) {
+    ringWith(u"浇水"_s);
+    rig.mainWindow().activateWindow();
+    rig.settle();
+    EXPECT_TRUE(popup().toolTip().contains(u"F8"));
+    QTest::keyClick(&rig.mainWindow(), Qt::Key_F8);
+    rig.settle();
+    EXPECT_FALSE(rings());
+    EXPECT_TRUE(timer3().Enabled()) << "the pause, as by 知道了";
+    QTest::keyClick(&rig.mainWindow(), Qt::Key_F8); // nobody's
+    EXPECT_TRUE(timer3().Enabled());
+}
+
 TEST_F(ReminderWindowTest, ItStandsAndPlaysOnWhileTheMainWindowGoesToTheTray) {
     rig.sql(u"update systuopanb set 最小化到托盘=1"_s);
     pass();

@@ -1,3 +1,4 @@
+#include "controls/report_reader.h"
 #include "ledger/month_rig.h"
 #include "support/pointer.h"
 
@@ -50,6 +51,30 @@ TEST_F(MonthReadingTest, IsReadToItsEndByThePageKeysOfTheOptionThatWasClicked) {
         QTest::keyClick(rig.mainWindow().windowHandle(), Qt::Key_PageUp);
     EXPECT_TRUE(isSeen(1));
     EXPECT_TRUE(option(income::ByItem).Value());
+}
+
+TEST_F(MonthReadingTest, IsGoneAlongByKeysAndNothingOpens) {
+    showItems();
+    rig.settle();
+    auto* reader = frame().findChild<ReportReader*>();
+    ASSERT_TRUE(reader && reader->isVisible());
+    QTest::keyClick(rig.mainWindow().focusWidget(), Qt::Key_Tab); // the buttons are disabled
+    ASSERT_EQ(rig.mainWindow().focusWidget(), reader);
+    EXPECT_FALSE(ms2().marksCurrent());
+    QTest::keyClick(reader, Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClick(reader, Qt::Key_Down);
+    EXPECT_EQ(current(), u"2,1");
+    EXPECT_TRUE(ms2().marksCurrent());
+    QTest::keyClick(reader, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_TRUE(isSeen(Items));
+    const QStringList before = rows();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_F2, Qt::Key_A, Qt::Key_Delete, Qt::Key_Insert})
+        QTest::keyClick(reader, key);
+    EXPECT_EQ(rows(), before);
+    EXPECT_FALSE(tx2().Visible());
+    EXPECT_TRUE(rig.messages->shown.empty());
+    choose(income::Records);
+    EXPECT_FALSE(reader->Visible());
 }
 
 TEST_F(MonthReadingTest, IsReadByTheWheelAndTheBar) {

@@ -125,6 +125,30 @@ TEST_F(MessageBoxTest, EveryButtonGivesItsAnswer) {
     EXPECT_EQ(press(MessageStyle::YesNoQuestion, QMessageBox::No), Answer::No);
 }
 
+TEST_F(MessageBoxTest, TheLetterOfAButtonPressesItAndIsToldInItsToolTip) {
+    struct Letter {
+        MessageStyle style;
+        QMessageBox::StandardButton button;
+        Qt::Key key;
+        QString tip;
+        Answer answer;
+    };
+    for (const Letter& letter :
+         {Letter{MessageStyle::OkCancel, QMessageBox::Ok, Qt::Key_O, u"确定（O）"_s, Answer::Ok},
+          {MessageStyle::OkCancel, QMessageBox::Cancel, Qt::Key_C, u"取消（C）"_s, Answer::Cancel},
+          {MessageStyle::YesNoQuestion, QMessageBox::Yes, Qt::Key_Y, u"是（Y）"_s, Answer::Yes},
+          {MessageStyle::YesNoQuestion, QMessageBox::No, Qt::Key_N, u"否（N）"_s, Answer::No}})
+        EXPECT_EQ(show(letter.style,
+                       [&](QMessageBox& box) {
+                           EXPECT_EQ(box.button(letter.button)->toolTip(), letter.tip);
+                           const QList<QAbstractButton*> buttons = box.buttons();
+                           QTest::keyClick(buttons.front(), letter.key);             // whichever has the keyboard
+                           QTimer::singleShot(1000, &box, [&box] { box.done(-1); }); // of a box that nobody answered
+                       }),
+                  letter.answer)
+            << letter.tip.toStdString();
+}
+
 TEST_F(MessageBoxTest, ButtonsAreInChinese) {
     const auto captions = [](const QMessageBox& box) {
         QStringList texts;
