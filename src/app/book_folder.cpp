@@ -6,16 +6,20 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 Installation systemInstallation() {
     return {QStringLiteral(QINGHE_INSTALLED_PROGRAM), QStringLiteral(QINGHE_INSTALLED_BROUGHT)};
 }
 
 BookFolder readyBookFolder(const QString& programFolder, const Installation& installation) {
-    if (programFolder != QDir(installation.program).canonicalPath())
-        return {programFolder, {}};
-    BookFolder book{ownLedgerFolder(), {}};
+    const bool installed = programFolder == QDir(installation.program).canonicalPath();
+    BookFolder book{installed ? ownLedgerFolder() : programFolder, {}};
     try {
-        readyLedgerFolder(book.path, [&](const QString& folder) { bringAlong(installation.brought, folder); });
+        if (installed)
+            readyLedgerFolder(book.path, [&](const QString& folder) { bringAlong(installation.brought, folder); });
+        else
+            layFirstBook(programFolder + u"/lib/first"_s, programFolder);
     } catch (const RuntimeError& error) {
         book.trouble = error;
     }

@@ -73,7 +73,7 @@ QString GridAccessible::text(QAccessible::Text what) const {
     if (what == QAccessible::Name)
         return accessible::nameOf(m_grid);
     if (what == QAccessible::Description && !m_grid.ground.shown().isEmpty())
-        return m_grid.ground.shown();
+        return m_grid.ground.shown().replace(u'\n', u'，');
     if (what == QAccessible::Description)
         return isBlank() ? u"表格里还没有内容"_s : u"共%1行"_s.arg(rowCount());
     return QAccessibleWidget::text(what);

@@ -21,6 +21,7 @@ public:
     /// What it comes to say is told to a screen reader at once: for words that come by themselves.
     void setAnnounced() { m_announced = true; }
     bool isAnnounced() const { return m_announced; }
+
     /// Tab comes to it, and Enter and Space click it; a click of the mouse leaves the keyboard where it is. What it
     /// tells in a tool tip it tells whoever comes to it by a key, too.
     void setReachable();

@@ -107,10 +107,6 @@ QString MSFlexGrid::Text() const {
     return m_model->cell(m_row, m_col);
 }
 
-void MSFlexGrid::setText(const QString& text) {
-    setTextMatrix(m_row, m_col, text);
-}
-
 QString MSFlexGrid::TextMatrix(int row, int col) const {
     return m_model->cell(row, col);
 }
@@ -190,10 +186,6 @@ double MSFlexGrid::RowPos(int row) {
 void MSFlexGrid::setAmountColumns(std::vector<int> columns) {
     m_amounts = std::move(columns);
     viewport()->update();
-}
-
-bool MSFlexGrid::isAmountColumn(int col) const {
-    return std::find(m_amounts.begin(), m_amounts.end(), col) != m_amounts.end();
 }
 
 void MSFlexGrid::setMarked(bool marked) {

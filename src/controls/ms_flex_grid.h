@@ -10,6 +10,7 @@
 
 #include <QTableView>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -55,7 +56,7 @@ public:
     int Col() const { return m_col; }
     void setCol(int col);
     QString Text() const;
-    void setText(const QString& text);
+    void setText(const QString& text) { setTextMatrix(m_row, m_col, text); }
 
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
     /// All texts of a row, the one of the marker column first; quicker than cell by cell.
@@ -80,7 +81,7 @@ public:
 
     /// Columns whose texts stand on the right.
     void setAmountColumns(std::vector<int> columns);
-    bool isAmountColumn(int col) const;
+    bool isAmountColumn(int col) const { return std::ranges::count(m_amounts, col) > 0; }
 
     /// The list shows so many records of its table as they are; until it rests it is looked whether the two differ.
     void watchChanges(int records) { m_changes.begin(records), changed(); }

@@ -4,6 +4,7 @@
 #include "disk/replace_file.h"
 #include "runtime/runtime_error.h"
 #include "store/data_file.h"
+#include "store/safety_folder.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -68,6 +69,12 @@ void readyLedgerFolder(const QString& folder, const std::function<void(const QSt
     } catch (const RuntimeError&) {
         // A full disk, or one that cannot be written, keeps nobody from the book.
     }
+}
+
+void layFirstBook(const QString& from, const QString& to) {
+    const QString book = bookIn(to);
+    if (!isThere(book) && !isThere(journalOf(book)) && !isThere(safetyFolderOf(book)) && isThere(bookIn(from)))
+        bringAlong(from, to);
 }
 
 void bringAlong(const QString& from, const QString& to) {

@@ -8,7 +8,7 @@ namespace {
 class BookPlace : public ::testing::Test {
 protected:
     BookPlace() : m_home(qgetenv("HOME")) {
-        for (const QString& name : {u"lib"_s, u"share"_s, u"home"_s, u"stick"_s})
+        for (const QString& name : {u"lib"_s, u"share"_s, u"home"_s, u"stick/lib/first"_s})
             QDir(dir.path()).mkpath(name);
         writeDeliveredData(installation.brought + u"/data.dll"_s);
         qputenv("HOME", QFile::encodeName(dir.filePath(u"home"_s)));
@@ -29,6 +29,14 @@ TEST_F(BookPlace, IsTheFolderOfAProgramThatWasNotInstalled) {
     const BookFolder book = readyBookFolder(dir.filePath(u"stick"_s), installation);
     EXPECT_EQ(book.path, dir.filePath(u"stick"_s)) << "and a book that is not there is missed there";
     EXPECT_FALSE(book.trouble);
+    EXPECT_FALSE(ownIsThere());
+}
+
+TEST_F(BookPlace, APortableProgramLaysItsFirstBookBesideIt) {
+    writeDeliveredData(dir.filePath(u"stick/lib/first/data.dll"_s));
+    const BookFolder book = readyBookFolder(dir.filePath(u"stick"_s), installation);
+    EXPECT_EQ(book.path, dir.filePath(u"stick"_s));
+    EXPECT_TRUE(QFile::exists(book.path + u"/data.dll"_s));
     EXPECT_FALSE(ownIsThere());
 }
 

@@ -20,7 +20,7 @@ protected:
 TEST_F(Start, ABookThatNobodyHasWrittenInSaysWhereItLiesAndHowToBegin) {
     rig.signIn();
     EXPECT_TRUE(note().Visible());
-    EXPECT_EQ(note().Caption(), u"新账本在程序的文件夹：先点“支出”再“增加”"_s);
+    EXPECT_EQ(note().Caption(), u"新账本在程序的文件夹：先点“支出”写第一行"_s);
     EXPECT_LE(note().fontMetrics().horizontalAdvance(note().Caption()), note().width());
     EXPECT_TRUE(note().toolTip().contains(rig.folder())) << note().toolTip().toStdString();
 }
@@ -32,7 +32,7 @@ TEST(StartInTheHome, ANewBookSaysSo) {
     rig.signIn();
     qputenv("HOME", home);
     const QList<Label*> labels = rig.at(title::Band).findChildren<Label*>(QString());
-    const auto said = std::ranges::find(labels, u"新账本在“青禾家庭记账本”：先点“支出”再“增加”"_s, &Label::Caption);
+    const auto said = std::ranges::find(labels, u"新账本在“青禾家庭记账本”：先点“支出”写第一行"_s, &Label::Caption);
     ASSERT_NE(said, labels.end());
     EXPECT_LE((*said)->fontMetrics().horizontalAdvance((*said)->Caption()), (*said)->width());
 }
@@ -43,7 +43,7 @@ TEST_F(Start, WhatThereIsToNoteStandsInTheFirstStepsPlace) {
     EXPECT_EQ(note().Caption(), u"今天没有做成安全副本。"_s);
 }
 
-TEST_F(Start, ABookWithARecordOrAPlanOrADiarySaysNothingOfFirstSteps) {
+TEST_F(Start, ABookWithARecordOrADiaryOrThatHasGrownSaysNothingOfFirstSteps) {
     for (const QString& row : {u"into srb values('1','2024-05-01','工资','王青',500,'工行','',1)"_s,
                                u"into rjb values('2024-05-01','五月')"_s}) {
         rig.sql(u"insert "_s + row);
@@ -54,6 +54,10 @@ TEST_F(Start, ABookWithARecordOrAPlanOrADiarySaysNothingOfFirstSteps) {
     }
     rig.signIn();
     EXPECT_TRUE(note().Visible());
+    rig.stop();
+    rig.sql(u"insert into 软件皮肤 values('很大',1,zeroblob(2200000))"_s);
+    rig.signIn();
+    EXPECT_FALSE(note().Visible()) << "and nothing is read to find that out";
 }
 
 TEST_F(Start, ASecondCopyAsksForNameAndPasswordFirstThenSaysSoAndEnds) {

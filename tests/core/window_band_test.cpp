@@ -4,6 +4,9 @@
 #include "delivery/web_pages.h"
 #include "support/pointer.h"
 
+#include <QScrollBar>
+#include <QTextBlock>
+
 namespace qinghe::testing {
 namespace {
 
@@ -89,6 +92,28 @@ TEST_F(WindowBand, TheToolsWindowShowsTheDeliveredPage) {
     auto& browser = rig.at(web::Browser);
     EXPECT_EQ(browser.source(), QUrl::fromLocalFile(rig.file(u"web/softs.htm"_s)));
     EXPECT_FALSE(browser.toPlainText().isEmpty());
+}
+
+TEST_F(WindowBand, TheToolsWindowShowsEveryPageOfTheManualWithItsPictures) {
+    deliverWebPages(rig.folder());
+    click(title::Tools);
+    auto& browser = rig.at(web::Browser);
+    int pictures = 0;
+    for (const QString& page : webPageNames().mid(2)) {
+        emit browser.anchorClicked(QUrl(page));
+        EXPECT_EQ(browser.source().fileName(), page);
+        EXPECT_EQ(browser.horizontalScrollBar()->maximum(), 0) << page.toStdString();
+        for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next())
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+                const QString name = piece.fragment().charFormat().toImageFormat().name();
+                const QVariant image =
+                    static_cast<QTextBrowser&>(browser).loadResource(QTextDocument::ImageResource, QUrl(name));
+                EXPECT_TRUE(name.isEmpty() || !image.isNull()) << page.toStdString() << ' ' << name.toStdString();
+                pictures += !name.isEmpty();
+            }
+    }
+    EXPECT_GE(pictures, 40) << "the icon on each, and those of the program";
+    EXPECT_TRUE(rig.launcher->opened.empty());
 }
 
 TEST_F(WindowBand, ALinkOutOfTheToolsWindowOpensInTheSystemsBrowser) {

@@ -102,6 +102,55 @@ TEST(UserManual, AnswersTwentyQuestionsAndMore) {
     EXPECT_GE(captured(pagesOf(textOf(Manual)).back().markdown, u"^### (.*)$"_s).size(), 20);
 }
 
+QString chapter(const QString& title) {
+    for (const ManualPage& page : pagesOf(textOf(Manual)))
+        if (page.title == title)
+            return page.markdown;
+    ADD_FAILURE() << title.toStdString();
+    return {};
+}
+
+TEST(UserManual, TellsTheKeyOfEveryPage) {
+    QStringList told, theirs;
+    for (const QRegularExpressionMatch& row :
+         QRegularExpression(u"\\| `Alt\\+(.)` \\| (\\S+) \\|"_s).globalMatch(chapter(u"用键盘"_s)))
+        told << row.captured(1) + row.captured(2);
+    QHash<QString, QString> captions;
+    for (const QString& file : filesBelow(u"src"_s, {u"*_page.cpp"_s}))
+        for (const QRegularExpressionMatch& tab :
+             QRegularExpression(u"u\"Label[^\"]*\", u\" *([^\"]+)\", \\d+, PageCode::(\\w+)"_s)
+                 .globalMatch(textOf(file)))
+            captions[tab.captured(2)] = tab.captured(1);
+    for (const QRegularExpressionMatch& key :
+         QRegularExpression(u"\\{PageCode::(\\w+), '(.)'\\}"_s).globalMatch(textOf(u"src/core/page_keys.h"_s)))
+        theirs << key.captured(2) + captions.value(key.captured(1));
+    EXPECT_EQ(theirs.size(), captions.size());
+    EXPECT_EQ(told, theirs);
+}
+
+TEST(UserManual, ListsNoKeyThatTheProgramDoesNotKnow) {
+    const QStringList qtsOwn{u"Tab"_s, u"Shift+Tab"_s, u"Ctrl+F"_s, u"Ctrl+Z"_s};
+    const QHash<QString, QString> inCode{{u"PgUp"_s, u"PageUp"_s}, {u"PgDn"_s, u"PageDown"_s}, {u"Esc"_s, u"Escape"_s},
+                                         {u"←"_s, u"Left"_s},      {u"→"_s, u"Right"_s},       {u"↑"_s, u"Up"_s},
+                                         {u"↓"_s, u"Down"_s},      {u"回车"_s, u"Enter"_s},    {u"空格"_s, u"Space"_s}};
+    QString code;
+    for (const QString& file : filesBelow(u"src"_s, {u"*.cpp"_s, u"*.h"_s}))
+        code += textOf(file);
+    QSet<QString> told;
+    for (const QString& row : captured(chapter(u"用键盘"_s), u"^\\| ([^|]*`[^|]*) \\|"_s))
+        for (const QString& key : captured(row, u"`([^`]+)`"_s))
+            if ((key[0].isLetter() || inCode.contains(key)) &&
+                !key.startsWith(u"Alt+"_s)) // not a page's, nor what the calculator's keys bear
+                told << key;
+    EXPECT_GE(told.size(), 20);
+    for (const QString& keys : told) {
+        const QString key = keys.section(u'+', -1);
+        EXPECT_TRUE(qtsOwn.contains(keys) ||
+                    code.contains(QRegularExpression(u"Key_%1\\b"_s.arg(inCode.value(key, key)))))
+            << keys.toStdString();
+    }
+}
+
 /// “…” is kept for what stands on the screen.
 TEST(UserManual, QuotesNothingThatTheProgramDoesNotSay) {
     const QSet<QString> words = wordsOfTheProgram();
@@ -149,7 +198,7 @@ TEST(Documents, ShowThePicturesThatTheScenesMakeAndNoOthers) {
         const QString file = u"docs/pictures/"_s + name;
         EXPECT_TRUE(files.contains(file)) << file.toStdString() << " is missing: docs/pictures/make";
         EXPECT_TRUE(read.contains(u"pictures/"_s + name)) << file.toStdString() << " is shown nowhere";
-        EXPECT_LE(QFileInfo(project(file)).size(), 80'000) << file.toStdString();
+        EXPECT_LE(QFileInfo(project(file)).size(), 60'000) << file.toStdString();
         EXPECT_LE(QImage(project(file)).width(), 800) << file.toStdString();
     }
 }

@@ -116,5 +116,24 @@ TEST_F(LedgerFolder, WhatCannotBeRenewedKeepsNobodyFromTheBook) {
     EXPECT_EQ(there(u"data.dll"_s), "first data.dll");
 }
 
+TEST_F(LedgerFolder, TheFirstBookOfAPortableProgramComesWhereNoneHasEverBeen) {
+    layFirstBook(at(u"brought"_s), at(u"home"_s));
+    EXPECT_EQ(bytes(u"home/data.dll"_s), "first data.dll");
+    bringNow(u"data.dll"_s, "second", 200);
+    layFirstBook(at(u"brought"_s), at(u"home"_s));
+    EXPECT_EQ(bytes(u"home/data.dll"_s), "first data.dll");
+}
+
+TEST_F(LedgerFolder, TheFirstBookOfAPortableProgramReplacesNoneThatIsGone) {
+    for (const QString& trace : {u"home/安全副本"_s, u"home/data.dll-journal"_s}) {
+        QDir(dir.path()).mkpath(trace);
+        layFirstBook(at(u"brought"_s), at(u"home"_s));
+        EXPECT_FALSE(QFile::exists(at(u"home/data.dll"_s))) << trace.toStdString();
+        QDir().rmdir(at(trace));
+    }
+    layFirstBook(at(u"nowhere"_s), at(u"home"_s));
+    EXPECT_EQ(home(), QStringList());
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -19,6 +19,7 @@ std::string rescued(const LedgerFolder& folder) {
 TEST(BrokenData, AMissingFileIsTold) {
     const LedgerFolder folder;
     folder.remove("data.dll");
+    QDir().mkdir(folder.file("安全副本")); // somebody had a book here
     Program program(folder);
     expectErrorWindow(program, "data.dll");
     EXPECT_FALSE(folder.has("data.dll"));

@@ -2,6 +2,7 @@
 
 #include "walked.h"
 
+#include <QDir>
 #include <QFile>
 #include <QStringList>
 #include <sqlite3.h>
@@ -58,7 +59,20 @@ LedgerFolder::LedgerFolder() {
     copyLedger(newLedger(), path());
 }
 
+LedgerFolder::LedgerFolder(const QString& place) : m_place(place) {
+    QDir(place).removeRecursively(); // left by a run that broke off
+    QDir().mkpath(place);
+    copyLedger(newLedger(), path());
+}
+
+LedgerFolder::~LedgerFolder() {
+    if (!m_place.isEmpty())
+        QDir(m_place).removeRecursively();
+}
+
 QString LedgerFolder::path() const {
+    if (!m_place.isEmpty())
+        return m_place + QStringLiteral("/青禾家庭记账本");
     return m_folder.filePath(walked().kind == Walked::Installed ? QStringLiteral("home/青禾家庭记账本")
                                                                 : QStringLiteral("app"));
 }
@@ -93,7 +107,7 @@ void LedgerFolder::remove(const std::string& name) const {
 }
 
 QString LedgerFolder::beside(const std::string& name) const {
-    return m_folder.filePath(QString::fromStdString(name));
+    return (m_place.isEmpty() ? m_folder.path() : m_place) + u'/' + QString::fromStdString(name);
 }
 
 std::string LedgerFolder::header() const {

@@ -13,6 +13,11 @@ namespace whole {
 class LedgerFolder {
 public:
     LedgerFolder();
+    /// One of a name that can be shown: `place` is its parent, which is made anew and taken away at the end.
+    explicit LedgerFolder(const QString& place);
+    ~LedgerFolder();
+    LedgerFolder(const LedgerFolder&) = delete;
+    LedgerFolder& operator=(const LedgerFolder&) = delete;
 
     QString path() const;
     QString file(const std::string& name) const;
@@ -34,6 +39,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    const QString m_place; ///< instead of it
 };
 
 } // namespace whole

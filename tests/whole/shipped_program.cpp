@@ -52,8 +52,8 @@ TEST(ShippedProgram, TakesNoPluginFromTheFolderThatItLiesIn) {
 // scale there and makes its application once more.
 TEST(ShippedProgram, WritesNoEnvironmentWhileTheFontsAreRead) {
     const LedgerFolder folder;
-    for (const QString& scale : {QStringLiteral("1"), QStringLiteral("2")})
-        EXPECT_EQ(started(folder, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")},
+    for (const QString& scale : {QStringLiteral("1"), QStringLiteral("3")})
+        EXPECT_EQ(started(folder, {{QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb")},
                                    {QStringLiteral("QT_SCALE_FACTOR"), scale},
                                    {QStringLiteral("LD_PRELOAD"), QStringLiteral(QINGHE_FONTS_WATCH)}})
                       .code,

@@ -86,6 +86,7 @@ TEST(SuddenEnd, ALogOutEndsTheProgramInOrderAndKeepsWhatWasTyped) {
         program.click(pages::Budget);
         program.clickCell(budget::Grid, 1, 2);
         program.type("还在写");
+        program.windows(); // answered when the text has arrived; a signal waits for nobody
         timer.start();
         program.tell(SIGTERM);
         program.tell(SIGTERM); // impatient

@@ -25,25 +25,43 @@ void deliver(const QString& folder) {
         throw std::runtime_error("the delivery fails");
 }
 
+/// Starts the program in a home until a file of its ledger is there.
+void startUntil(const QString& file, const QString& program, const QString& home) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, {});
+    const QDeadlineTimer patience(10000);
+    while (!QFile::exists(file) && !patience.hasExpired())
+        QThread::msleep(20);
+    process.kill();
+    process.waitForFinished();
+    if (!QFile::exists(file))
+        throw std::runtime_error("the first start makes no ledger: " + process.readAllStandardError().toStdString());
+}
+
+/// Lays a fresh book where the first start has laid one: the sign-in may have begun to work in it.
+void renewBook(const QString& brought, const QString& folder) {
+    const QString book = QStringLiteral("/data.dll");
+    QFile::remove(folder + book);
+    QFile::copy(brought + book, folder + book);
+}
+
 /// The installed program makes it itself, at its first start in a home.
 QString madeAtFirstStart(const QString& home) {
     const QString made = home + QStringLiteral("/青禾家庭记账本");
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), home);
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(QStringLiteral("qinghe"), {});
-    const QDeadlineTimer patience(10000);
-    while (!QFile::exists(made) && !patience.hasExpired())
-        QThread::msleep(20);
-    program.kill();
-    program.waitForFinished();
-    if (!QFile::exists(made))
-        throw std::runtime_error("the first start makes no ledger: " + program.readAllStandardError().toStdString());
-    // The sign-in may have begun to work in it.
-    const QString book = QStringLiteral("/data.dll");
-    QFile::remove(made + book);
-    QFile::copy(QStringLiteral(QINGHE_INSTALLED_BROUGHT) + book, made + book);
+    startUntil(made, QStringLiteral("qinghe"), home);
+    renewBook(QStringLiteral(QINGHE_INSTALLED_BROUGHT), made);
+    return made;
+}
+
+/// The portable program lays its first book beside it, at its first start.
+QString unpackedAndStarted(const QString& room) {
+    const QString made = room + QStringLiteral("/app");
+    copyLedger(chosen.folder, made);
+    startUntil(made + QStringLiteral("/data.dll"), made + QStringLiteral("/qinghe"), room);
+    renewBook(chosen.folder + QStringLiteral("/lib/first"), made);
     return made;
 }
 
@@ -67,7 +85,7 @@ QString newLedger() {
     static const QTemporaryDir room;
     static const QString Folder = [] {
         if (chosen.kind == Walked::Unpacked)
-            return chosen.folder;
+            return unpackedAndStarted(room.path());
         if (chosen.kind == Walked::Installed)
             return madeAtFirstStart(room.path());
         const QString folder = room.filePath(QStringLiteral("app"));
