@@ -6,7 +6,10 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 ReportReader::ReportReader(MSFlexGrid& list) : Control(list.parentWidget(), {}), m_list(list) {
+    setAccessibleName(u"报表，用方向键逐行看"_s);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setShown(false);
