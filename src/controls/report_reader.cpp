@@ -21,6 +21,7 @@ bool ReportReader::eventFilter(QObject*, QEvent* event) {
 
 void ReportReader::follow() {
     place(m_list.Left(), m_list.Top(), m_list.Width(), m_list.Height());
+    setGeometry(m_list.geometry()); // a bar at its foot makes the list shorter than its twips
     if (Visible() != m_list.isEnabled())
         return;
     setShown(!m_list.isEnabled());

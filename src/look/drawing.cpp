@@ -49,6 +49,11 @@ void paintKeyboardRing(QPainter& painter, const QRectF& rect) {
     paintPanel(painter, rect.adjusted(2.8, 2.8, -2.8, -2.8), 2.5, Qt::NoBrush, light);
 }
 
+void paintKeyboardLine(QPainter& painter, const QRectF& rect) {
+    paintPanel(painter, {rect.left(), rect.bottom() - 4, rect.width(), 4}, 2, colour::LeafDeep,
+               colour::faded(colour::White, 85));
+}
+
 void paintRule(QPainter& painter, double left, double right, double y, const QColor& colour) {
     const QRectF pixel = onPixels(painter, QRectF(left, y, right - left, 1));
     painter.fillRect(QRectF(pixel.left(), pixel.bottom() - hair(painter), pixel.width(), hair(painter)), colour);

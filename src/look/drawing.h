@@ -22,6 +22,8 @@ void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QBru
 /// The mark of what has the keyboard: a ring along the inside of a control that has no edge of its own to show it, dark
 /// between two light lines, so that it is seen on light and on dark ground.
 void paintKeyboardRing(QPainter& painter, const QRectF& rect);
+/// The same as a line along the foot of words that reach to the edge of their control.
+void paintKeyboardLine(QPainter& painter, const QRectF& rect);
 
 /// One-pixel lines; the line fills the pixel that begins at `y` or `x`.
 void paintRule(QPainter& painter, double left, double right, double y, const QColor& colour);

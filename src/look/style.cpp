@@ -59,9 +59,12 @@ void paintViewFrame(const QStyleOption& option, QPainter& painter, const QWidget
     }
 }
 
-void paintRingOfFocus(const QStyleOption& option, QPainter& painter) {
-    if (option.state & QStyle::State_HasFocus)
-        paintKeyboardRing(painter, option.rect);
+void markKeyboard(const QStyleOption& option, QPainter& painter, const Label& label) {
+    constexpr Role Roomy[] = {Role::PageLabel, Role::ChosenLabel, Role::SignInButton, Role::Glyph};
+    if (!(option.state & QStyle::State_HasFocus))
+        return;
+    const bool hasRoom = std::ranges::find(Roomy, label.role()) != std::end(Roomy);
+    hasRoom ? paintKeyboardRing(painter, option.rect) : paintKeyboardLine(painter, option.rect);
 }
 
 void preparePaper(QPlainTextEdit& text, QObject* watcher) {
@@ -146,10 +149,10 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     switch (static_cast<unsigned>(element)) {
     case CE_Words:
         paintWords(*option, *painter, *static_cast<const Label*>(widget));
-        return paintRingOfFocus(*option, *painter);
+        return markKeyboard(*option, *painter, *static_cast<const Label*>(widget));
     case CE_Image:
         paintImage(*option, *painter, *static_cast<const Image*>(widget));
-        return paintRingOfFocus(*option, *painter);
+        return markKeyboard(*option, *painter, *static_cast<const Label*>(widget));
     case CE_PushButton:
         return paintButton(*button, *painter, widget);
     case CE_RadioButton:

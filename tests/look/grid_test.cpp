@@ -226,12 +226,16 @@ TEST_F(Grids, CornersAreRoundAlsoBesideAScrollBar) {
     ground.show();
     QApplication::processEvents();
     ASSERT_TRUE(grid.verticalScrollBar()->isVisible());
+    grid.clearFocus();
     const QImage image = rendered(ground);
     const QRect box = grid.geometry();
     for (const QPoint& corner : {box.topLeft(), box.topRight(), box.bottomLeft(), box.bottomRight()})
         EXPECT_GT(image.pixelColor(corner).red(), image.pixelColor(corner).green() + 120)
             << corner.x() << ' ' << corner.y();
     EXPECT_TRUE(isNear(image.pixelColor(box.right(), box.center().y()), colour::GridEdge));
+    grid.setFocus();
+    ASSERT_TRUE(grid.hasFocus());
+    EXPECT_TRUE(isNear(rendered(ground).pixelColor(box.right(), box.center().y()), colour::LeafDeep));
 }
 
 TEST_F(Grids, ABoxThatDiffersFromItsCellHasAnAmberEdgeAndTheSignOfEnter) {

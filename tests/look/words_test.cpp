@@ -51,6 +51,14 @@ TEST(PageLabel, ItsWordStandsAtTheSamePlaceInRegularAndBold) {
     }
 }
 
+TEST(PageLabel, ShowsItsKeyAtTheShoulderOfItsWord) {
+    OnWhite at(Role::PageLabel, u"  收入"_s, 960, 480);
+    const QRect shoulder(48, 0, 16, 14);
+    EXPECT_TRUE(extent(at.picture().copy(shoulder), isDarkInk).isNull());
+    at.label.setKeyHint(u"2"_s);
+    EXPECT_FALSE(extent(at.picture().copy(shoulder), isDarkInk).isNull());
+}
+
 TEST(PageLabel, HasItsTabAndBarWhileItsPageIsInViewWhateverItsColour) {
     OnWhite at(Role::PageLabel, u"  收入"_s, 960, 480);
     setGround(at.ground, QColor(200, 230, 160));

@@ -138,14 +138,15 @@ TEST_F(MessageBoxTest, TheLetterOfAButtonPressesItAndIsToldInItsToolTip) {
           {MessageStyle::OkCancel, QMessageBox::Cancel, Qt::Key_C, u"取消（C）"_s, Answer::Cancel},
           {MessageStyle::YesNoQuestion, QMessageBox::Yes, Qt::Key_Y, u"是（Y）"_s, Answer::Yes},
           {MessageStyle::YesNoQuestion, QMessageBox::No, Qt::Key_N, u"否（N）"_s, Answer::No}})
-        for (const Qt::KeyboardModifiers with : {Qt::NoModifier, Qt::AltModifier})
-            EXPECT_EQ(show(letter.style,
-                           [&](QMessageBox& box) {
-                               EXPECT_EQ(box.button(letter.button)->toolTip(), letter.tip);
-                               QTest::keyClick(box.focusWidget(), letter.key, with);
-                           }),
-                      letter.answer)
-                << letter.tip.toStdString();
+        EXPECT_EQ(show(letter.style,
+                       [&](QMessageBox& box) {
+                           EXPECT_EQ(box.button(letter.button)->toolTip(), letter.tip);
+                           const QList<QAbstractButton*> buttons = box.buttons();
+                           QTest::keyClick(buttons.front(), letter.key);             // whichever has the keyboard
+                           QTimer::singleShot(1000, &box, [&box] { box.done(-1); }); // of a box that nobody answered
+                       }),
+                  letter.answer)
+            << letter.tip.toStdString();
 }
 
 TEST_F(MessageBoxTest, ButtonsAreInChinese) {
