@@ -6,7 +6,10 @@
 
 namespace qinghe {
 
+using namespace Qt::StringLiterals;
+
 ReportReader::ReportReader(MSFlexGrid& list) : Control(list.parentWidget(), {}), m_list(list) {
+    setAccessibleName(u"报表，用方向键逐行看"_s);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setShown(false);
@@ -21,6 +24,7 @@ bool ReportReader::eventFilter(QObject*, QEvent* event) {
 
 void ReportReader::follow() {
     place(m_list.Left(), m_list.Top(), m_list.Width(), m_list.Height());
+    setGeometry(m_list.geometry()); // a bar at its foot makes the list shorter than its twips
     if (Visible() != m_list.isEnabled())
         return;
     setShown(!m_list.isEnabled());

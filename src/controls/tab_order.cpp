@@ -6,6 +6,7 @@
 #include "controls/reading_order.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace qinghe {
 
@@ -63,11 +64,12 @@ std::vector<QWidget*> tabStopsIn(const QWidget& container, const std::vector<con
         const Placed* const control = widget && !widget->isWindow() ? Placed::of(widget) : nullptr;
         if (!control || qobject_cast<CellEditor*>(widget) || std::ranges::find(without, widget) != without.end())
             continue;
-        Part part{control, tabStopsIn(*widget, without)};
-        if (CellEditor* const box = boxOver(*widget))
-            part.stops.insert(part.stops.begin(), box);
+        Part part{control, {}};
         if (isStop(*widget))
-            part.stops.insert(part.stops.begin(), widget);
+            part.stops.push_back(widget);
+        if (CellEditor* const box = boxOver(*widget))
+            part.stops.push_back(box);
+        std::ranges::copy(tabStopsIn(*widget, without), std::back_inserter(part.stops));
         if (!part.stops.empty())
             parts.push_back(std::move(part));
     }

@@ -309,5 +309,22 @@ TEST_F(CategoriesSaveTest, GoIntoTheirOwnTableWhateverTheControlsHoldMeanwhile) 
     EXPECT_EQ(rig.sql(u"select count(*) from yhb"_s), QStringList{u"1"_s});
 }
 
+TEST_F(CategoriesSaveTest, ByKeyTheListIsSavedThatHasTheKeyboardAndNoneWithoutIt) {
+    openWith({u"甲|1|a"_s});
+    const auto saves = [this] {
+        QTest::keyClick(rig.mainWindow().focusWidget(), Qt::Key_S, Qt::ControlModifier);
+        rig.settle();
+        return std::exchange(rig.messages->shown, {}).size();
+    };
+    rig.mainWindow().setFocus();
+    EXPECT_EQ(saves(), 0U);
+    clickMajor(1);
+    clickMinor(1);
+    fillMinor(1, u"2"_s, u"b"_s);
+    ms4().setFocus();
+    EXPECT_EQ(saves(), 1U);
+    EXPECT_EQ(stored(), QStringList{u"2|b|NULL"_s});
+}
+
 } // namespace
 } // namespace qinghe::testing

@@ -239,5 +239,33 @@ TEST_F(PurgeWindowTest, TheQuestionStandsAboveThemWhereTheScreenEnds) {
     EXPECT_LT(placeOfQuestion().bottom(), asked().top());
 }
 
+TEST_F(PurgeWindowTest, IsGoneThroughAndItsDatePickedByKeys) {
+    const auto key = [this](Qt::Key pressed, const QString& text = {}) {
+        QWidget* const holder = window()->focusWidget();
+        QTest::sendKeyEvent(QTest::Click, holder ? holder : window(), pressed, text, Qt::NoModifier);
+        rig.settle();
+    };
+    window()->setFocus();
+    key(Qt::Key_Tab);
+    key(Qt::Key_Space, u" "_s);
+    EXPECT_TRUE(inside<CheckBox>(PurgeKinds[0].box).Value());
+    for (std::size_t i = 1; i < PurgeKinds.size(); ++i) {
+        key(Qt::Key_Tab);
+        EXPECT_EQ(window()->focusWidget()->objectName(), QString(PurgeKinds[i].box));
+    }
+    key(Qt::Key_Tab);
+    ASSERT_EQ(window()->focusWidget(), &date());
+    key(Qt::Key_Down);
+    key(Qt::Key_Left);
+    key(Qt::Key_Return, u"\r"_s);
+    EXPECT_EQ(date().Text(), u"2024-6-17");
+    EXPECT_EQ(window()->focusWidget(), window()); // the date is closed again
+    QTest::sendKeyEvent(QTest::Click, window(), Qt::Key_Backtab, {}, Qt::ShiftModifier);
+    EXPECT_EQ(window()->focusWidget(), &rig.at(purge::Start));
+    key(Qt::Key_Escape, u"\x1b"_s);
+    EXPECT_FALSE(window());
+    EXPECT_FALSE(tick().Value());
+}
+
 } // namespace
 } // namespace qinghe::testing

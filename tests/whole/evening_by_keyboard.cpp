@@ -15,10 +15,15 @@ void tabTo(Program& program, const std::string& control) {
     }
 }
 
-void answerByKey(Program& program, const std::string& text, const std::string& key) {
+/// Answers the message box, which the desktop gives the keyboard; afterwards `then` has it.
+void answerByKey(Program& program, const std::string& text, const std::string& key,
+                 const std::string& then = forms::Main) {
     EXPECT_EQ(program.message().text, text);
+    program.waitForKeyboard("QMessageBox");
     program.key(key);
-    program.waitUntil([&] { return !program.showsMessage(); }, "the answer");
+    program.waitUntil([&] { return !program.showsMessage(); }, "the answer to " + text);
+    if (!then.empty())
+        program.waitForKeyboard(then);
 }
 
 void line(Program& program, const std::string& text) {
@@ -101,10 +106,9 @@ TEST(EveningByKeyboard, ExpensesAChartTheDiaryABackupAndTheWayOutTakeNoPointer) 
     program.waitForKeyboard(forms::Backup);
     tabTo(program, backup::Start);
     program.key("Return");
-    answerByKey(program, "请指定数据库备份的位置。", "Return");
+    answerByKey(program, "请指定数据库备份的位置。", "Return", {});
     program.choose(folder.file("evening.dat").toStdString());
-    answerByKey(program, "备份完成。", "Return");
-    program.waitForKeyboard(forms::Backup);
+    answerByKey(program, "备份完成。", "Return", forms::Backup);
     program.key("Escape");
     program.waitForKeyboard(forms::Main);
 
