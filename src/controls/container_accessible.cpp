@@ -5,7 +5,6 @@
 #include "controls/frame.h"
 #include "controls/label_accessible.h"
 #include "controls/reading_order.h"
-#include "controls/report_reader.h"
 
 #include <algorithm>
 
@@ -23,8 +22,6 @@ std::vector<QWidget*> toldIn(const QWidget& container);
 bool isDecoration(const QWidget& widget) {
     if (const auto* label = qobject_cast<const Label*>(&widget))
         return LabelAccessible::isDecoration(*label);
-    if (qobject_cast<const ReportReader*>(&widget))
-        return true; // the list that it reads is told
     const auto* frame = qobject_cast<const Frame*>(&widget);
     return frame && accessible::nameOf(*frame).isEmpty() && toldIn(*frame).empty();
 }

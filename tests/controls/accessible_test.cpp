@@ -190,7 +190,6 @@ TEST_F(ToldGrid, AListThatIsReadByKeysTellsTheCellTheyAreAt) {
     QTest::keyClick(&reader, Qt::Key_Down);
     EXPECT_TRUE(listener.heard(QAccessible::Focus, u"第2行，项目"_s)) << listener.all().join(u'\n').toStdString();
     EXPECT_TRUE(cell(2, 1).state().focused);
-    EXPECT_EQ(told(frame).childCount(), 1); // the list alone
 }
 
 TEST_F(ToldGrid, ACellIsPressedAsByAClick) {
