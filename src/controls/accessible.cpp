@@ -6,6 +6,7 @@
 #include "controls/frame.h"
 #include "controls/grid_accessible.h"
 #include "controls/label_accessible.h"
+#include "controls/report_reader.h"
 
 namespace qinghe::accessible {
 
@@ -19,6 +20,8 @@ QAccessibleInterface* interfaceOf(const QString& className, QObject* object) {
         return new LabelAccessible(*label);
     if (auto* grid = qobject_cast<MSFlexGrid*>(object))
         return new GridAccessible(*grid);
+    if (auto* reader = qobject_cast<ReportReader*>(object))
+        QAccessible::queryAccessibleInterface(&reader->list()); // which tells what the keys come to
     if (auto* list = qobject_cast<ComboBox*>(object))
         return new ComboAccessible(*list);
     if (qobject_cast<Frame*>(object) || qobject_cast<Form*>(object))

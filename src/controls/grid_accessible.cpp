@@ -2,14 +2,24 @@
 
 #include "controls/accessible.h"
 #include "controls/grid_cell_accessible.h"
+#include "controls/report_reader.h"
 
-#include <QEvent>
+#include <QApplication>
 
 #include <utility>
 
 namespace qinghe {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isKeyboardAt(const MSFlexGrid& grid) {
+    const auto* reader = qobject_cast<const ReportReader*>(QApplication::focusWidget());
+    return grid.hasFocus() || (reader && &reader->list() == &grid);
+}
+
+} // namespace
 
 /// Tells where the current cell goes.
 class GridAccessible::Follower : public QObject {
@@ -19,31 +29,29 @@ public:
             if (std::exchange(m_told, cell()) != m_told)
                 tell();
         });
-        grid.installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        // Behind Qt's own word that the keyboard has come to the grid.
-        if (event->type() == QEvent::FocusIn && !std::exchange(m_due, true))
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    m_due = false;
-                    tell();
-                },
-                Qt::QueuedConnection);
-        return QObject::eventFilter(watched, event);
+        connect(qApp, &QApplication::focusChanged, this, [this] { keyboardMoved(); });
+        keyboardMoved(); // it may be there already
     }
 
 private:
     std::pair<int, int> cell() const { return {m_grid.Row(), m_grid.Col()}; }
 
+    /// Tells behind Qt's own word that the keyboard has come to the grid.
+    void keyboardMoved() {
+        if (!isKeyboardAt(m_grid) || std::exchange(m_due, true))
+            return;
+        const auto tellNow = [this] {
+            m_due = false;
+            tell();
+        };
+        QMetaObject::invokeMethod(this, tellNow, Qt::QueuedConnection);
+    }
+
     void tell() const {
         const auto [row, col] = cell();
         if (row < 1 || col < 1)
             return;
-        accessible::tell(m_grid, m_grid.hasFocus() ? QAccessible::Focus : QAccessible::Selection,
+        accessible::tell(m_grid, isKeyboardAt(m_grid) ? QAccessible::Focus : QAccessible::Selection,
                          row * (m_grid.Cols() - 1) + col - 1);
     }
 
@@ -83,8 +91,12 @@ bool GridAccessible::isBlank() const {
     return rowCount() == 0 || (rowCount() == 1 && m_grid.rowTexts(1).join(QString()).isEmpty());
 }
 
+bool GridAccessible::hasKeyboard() const {
+    return isKeyboardAt(m_grid);
+}
+
 bool GridAccessible::hasCurrent() const {
-    return m_grid.marksCurrent() && m_grid.Row() > 0 && m_grid.Col() > 0;
+    return (m_grid.marksCurrent() || hasKeyboard()) && m_grid.Row() > 0 && m_grid.Col() > 0;
 }
 
 // ---- the parts
@@ -123,7 +135,7 @@ QAccessibleInterface* GridAccessible::childAt(int x, int y) const {
 }
 
 QAccessibleInterface* GridAccessible::focusChild() const {
-    return m_grid.hasFocus() && hasCurrent() ? part(m_grid.Row(), m_grid.Col()) : nullptr;
+    return hasKeyboard() && hasCurrent() ? part(m_grid.Row(), m_grid.Col()) : nullptr;
 }
 
 // ---- the table

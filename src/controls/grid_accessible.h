@@ -51,10 +51,10 @@ public:
     bool unselectColumn(int) override { return false; }
     void modelChange(QAccessibleTableModelChangeEvent*) override {}
 
-    /// Nor is a cell of a list that is only read.
-    bool isCurrent(int row, int col) const {
-        return m_grid.marksCurrent() && row == m_grid.Row() && col == m_grid.Col();
-    }
+    /// Nor is a cell of a list that is only read, unless keys are at it.
+    bool isCurrent(int row, int col) const { return hasCurrent() && row == m_grid.Row() && col == m_grid.Col(); }
+    /// Whether the grid has the keyboard, or what reads it by keys has (ReportReader).
+    bool hasKeyboard() const;
 
 private:
     class Follower;

@@ -26,7 +26,7 @@ QAccessible::State GridCellAccessible::state() const {
         return state;
     state.focusable = state.selectable = grid().isEnabled();
     state.selected = isSelected();
-    state.focused = isSelected() && grid().hasFocus();
+    state.focused = isSelected() && m_table.hasKeyboard();
     return state;
 }
 

@@ -2,6 +2,7 @@
 #include "controls/combo_box.h"
 #include "controls/grid_accessible.h"
 #include "controls/ms_flex_grid.h"
+#include "controls/report_reader.h"
 #include "support/listener.h"
 #include "window_fixture.h"
 
@@ -176,6 +177,19 @@ TEST_F(ToldGrid, WhereTheKeyboardIsElsewhereTheCurrentCellIsToldAsChosen) {
     moveTo(2, 1);
     EXPECT_EQ(listener.all(QAccessible::Focus), QStringList());
     EXPECT_TRUE(listener.heard(QAccessible::Selection, u"第2行，项目"_s));
+}
+
+TEST_F(ToldGrid, AListThatIsReadByKeysTellsTheCellTheyAreAt) {
+    ReportReader reader(grid);
+    handlers::enter([this] { grid.setUsable(false); });
+    told(reader);
+    EXPECT_FALSE(cell(1, 1).state().selected);
+    reader.setFocus(Qt::TabFocusReason);
+    turnLoop();
+    EXPECT_TRUE(listener.heard(QAccessible::Focus, u"第1行，项目"_s)) << listener.all().join(u'\n').toStdString();
+    QTest::keyClick(&reader, Qt::Key_Down);
+    EXPECT_TRUE(listener.heard(QAccessible::Focus, u"第2行，项目"_s)) << listener.all().join(u'\n').toStdString();
+    EXPECT_TRUE(cell(2, 1).state().focused);
 }
 
 TEST_F(ToldGrid, ACellIsPressedAsByAClick) {

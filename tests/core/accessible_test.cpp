@@ -154,7 +154,7 @@ TEST_F(ToldProgram, AReportIsATableCalledAfterWhatItReports) {
     press(rig.at(income::ByPerson));
     QAccessibleInterface& report = *QAccessible::queryAccessibleInterface(&rig.at(income::Grid));
     EXPECT_EQ(report.text(QAccessible::Name), u"支出本月人员收支统计"_s);
-    EXPECT_EQ(report.text(QAccessible::Description), rig.at(income::Grid).ground.shown());
+    EXPECT_EQ(report.text(QAccessible::Description), rig.at(income::Grid).ground.shown().replace(u'\n', u'，'));
     EXPECT_TRUE(holdsChinese(report.text(QAccessible::Description)));
     EXPECT_EQ(report.tableInterface()->columnDescription(2), u"本月消费总额"_s);
     EXPECT_TRUE(report.state().disabled);

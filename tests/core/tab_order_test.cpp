@@ -97,7 +97,8 @@ protected:
             EXPECT_NE(std::ranges::find(onPage, part), onPage.end()) << part->objectName().toStdString();
         QStringList names;
         for (const QWidget* part : others)
-            names << part->objectName();
+            if (!part->objectName().isEmpty()) // the line of a new book has none
+                names << part->objectName();
         EXPECT_EQ(names.mid(0, 6),
                   (QStringList{u"Image1"_s, u"Image7"_s, u"Image5"_s, u"Image4"_s, u"Image3"_s, u"Label20"_s}));
         EXPECT_EQ(names.size(), 7); // and one label
