@@ -59,13 +59,6 @@ private:
     std::_Exit(0);
 }
 
-/// The services of the desktop for a program in `folder`.
-Services servicesIn(const QString& folder) {
-    Services services = desktopServices();
-    services.appPath = folder;
-    return services;
-}
-
 void emptyWindow(QApplication&) {
     QWidget window;
     window.resize(355, 280);
@@ -83,7 +76,7 @@ void startProgram(QApplication& application, const QString& folder) {
     if (chinese.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&chinese);
     dress(application);
-    Program program(servicesIn(folder));
+    Program program(desktopServices(folder));
     Painted painted(forms::SignIn, [] { endNow(); });
     program.start();
     QApplication::exec();
@@ -93,7 +86,7 @@ void startProgram(QApplication& application, const QString& folder) {
 /// prints the resident memory instead.
 void signIn(QApplication& application, const QString& folder, bool open) {
     dress(application);
-    Program program(servicesIn(folder));
+    Program program(desktopServices(folder));
     program.start();
     QApplication::processEvents();
     QElapsedTimer timer;
@@ -117,7 +110,7 @@ void signIn(QApplication& application, const QString& folder, bool open) {
 /// Signs in and prints how much processor time, in percent of one core, it takes to stand there.
 void rest(QApplication& application, const QString& folder) {
     dress(application);
-    Program program(servicesIn(folder));
+    Program program(desktopServices(folder));
     program.start();
     QTest::mouseClick(program.shared().forms.loaded(forms::SignIn)->findChild<Label*>(sign_in::Enter), Qt::LeftButton);
     QTest::qWait(5000); // what the start sets off
