@@ -22,7 +22,7 @@ def states(node):
 
 def plain(text):
     text = re.sub(r"\d\d:\d\d:\d\d", "hh:mm:ss", text)
-    text = re.sub(r"/\S*/app\b", "程序文件夹", text)
+    text = re.sub(r"/\S*/(app\b|home/青禾家庭记账本)", "程序文件夹", text)
     return text.replace("\r\n", "⏎").replace("\n", "⏎").replace("\u2029", "⏎")
 
 
