@@ -26,8 +26,13 @@ def plain(text):
     return text.replace("\r\n", "⏎").replace("\n", "⏎").replace("\u2029", "⏎")
 
 
+# Later releases call the same role by a shorter name.
+ROLES = {"button": "push button"}
+
+
 def line(node):
-    told = f'{node.get_role_name()} "{plain(node.get_name())}"'
+    role = node.get_role_name()
+    told = f'{ROLES.get(role, role)} "{plain(node.get_name())}"'
     if node.get_description():
         told += f" [{plain(node.get_description())}]"
     if states(node):
